@@ -1,0 +1,31 @@
+# What every target of the project shares: language level, warnings, sanitizers, hidden visibility.
+
+function(korva_target_settings target)
+    target_compile_features(${target} PUBLIC cxx_std_20)
+    set_target_properties(${target} PROPERTIES
+        AUTOMOC ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON)
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                                             -Woverloaded-virtual -Wold-style-cast)
+    if(KORVA_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(KORVA_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                 -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+    endif()
+endfunction()
+
+# A level of the house: a static library that is linked whole into libkorva and alone into its own tests.
+# Its headers are seen by the levels above it.
+function(korva_add_level name)
+    add_library(korva_${name} STATIC ${ARGN})
+    add_library(Korva::${name} ALIAS korva_${name})
+    korva_target_settings(korva_${name})
+    target_include_directories(korva_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+endfunction()

@@ -1,0 +1,17 @@
+# Sourced by ./run and ./test: need_packages NAME... installs what is missing of Debian's packages.
+need_packages() {
+    local missing=()
+    local package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    echo "Installing what is missing: ${missing[*]}" >&2
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+}
+
+build_packages=(cmake ninja-build g++ qt6-base-dev libgl-dev qt6-image-formats-plugins fonts-dejavu-core)

@@ -1,0 +1,47 @@
+#include "UTIL_Platform.h"
+
+#include <QStandardPaths>
+
+namespace {
+
+constexpr qint64 megapixel = 1'000'000;
+
+std::unique_ptr<UTIL_Platform>& installed()
+{
+    static std::unique_ptr<UTIL_Platform> platform = std::make_unique<UTIL_Platform>();
+    return platform;
+}
+
+} // namespace
+
+UTIL_Platform::UTIL_Platform() = default;
+UTIL_Platform::~UTIL_Platform() = default;
+
+UTIL_Platform* UTIL_Platform::instance()
+{
+    return installed().get();
+}
+
+void UTIL_Platform::install(std::unique_ptr<UTIL_Platform> platform)
+{
+    installed() = platform ? std::move(platform) : std::make_unique<UTIL_Platform>();
+}
+
+QString UTIL_Platform::photoFolder() const
+{
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+}
+
+QString UTIL_Platform::iconFolder() const
+{
+    return {};
+}
+
+qint64 UTIL_Platform::pixelLimit() const
+{
+    return 64 * megapixel;
+}
+
+void UTIL_Platform::setMouseMode(QWidget*, int) {}
+
+void UTIL_Platform::setAutoHideKeyboard(bool) {}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "KORVA_Export.h"
+
+#include <QString>
+
+#include <memory>
+
+class QWidget;
+
+/// The services of the device that the engine stands on. A host that has its own derives from this class,
+/// overrides what it replaces and hands the object to install(); everything else stays the desktop's.
+///
+/// Called from the GUI thread only.
+class KORVA_EXPORT UTIL_Platform
+{
+public:
+    UTIL_Platform();
+    virtual ~UTIL_Platform();
+    UTIL_Platform(const UTIL_Platform&) = delete;
+    UTIL_Platform& operator=(const UTIL_Platform&) = delete;
+
+    /// The services in force; never null.
+    static UTIL_Platform* instance();
+    /// Puts other services in force; null brings the desktop's back.
+    static void install(std::unique_ptr<UTIL_Platform> platform);
+
+    /// Where the user's pictures live; folder dialogs start there.
+    [[nodiscard]] virtual QString photoFolder() const;
+    /// A folder whose files replace the built-in icons of the same names; empty for none.
+    [[nodiscard]] virtual QString iconFolder() const;
+    /// The most pixels (width × height) a picture file may have to be decoded.
+    [[nodiscard]] virtual qint64 pixelLimit() const;
+
+    /// How a touch screen reports to this widget; 1 asks for mouse events. Nothing on a desktop.
+    virtual void setMouseMode(QWidget* widget, int mode);
+    /// Whether the on-screen keyboard hides by itself. Nothing on a desktop.
+    virtual void setAutoHideKeyboard(bool enabled);
+};

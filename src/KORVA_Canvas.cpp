@@ -1,0 +1,554 @@
+#include "KORVA_Canvas.h"
+
+#include "KORVA_Assert.h"
+#include "KORVA_ClassicPainter.h"
+#include "KORVA_EditCanvas.h"
+#include "KORVA_PasteLabel.h"
+#include "KORVA_ScrollView.h"
+#include "KORVA_Tool.h"
+#include "UTIL_ImageReader.h"
+#include "UTIL_Platform.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+int KORVA_Canvas::inst = 0;
+
+KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, int width, int height, QWidget* parent,
+                           const char* name)
+    : KORVA_Canvas(editor, classic::filled(QSize(width, height), Qt::white), false, parent, name)
+{
+}
+
+KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QString& fileName, QWidget* parent,
+                           const char* name)
+    : KORVA_Canvas(editor, classic::opaque(UTIL_ImageReader::pixmap(fileName)), true, parent, name)
+{
+}
+
+KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize,
+                           QWidget* parent, const char* name)
+    : QWidget(parent), m_picture(std::make_unique<QPixmap>(picture))
+{
+    setObjectName(name);
+    UTIL_Platform::instance()->setMouseMode(this, 1);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, Qt::white);
+    setPalette(colors);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    if (takeItsSize)
+        resize(m_picture->size());
+
+    m_pasteLabel = new KORVA_PasteLabel(this);
+    connect(m_pasteLabel, &KORVA_PasteLabel::signalCut, this, &KORVA_Canvas::slotCut);
+    connect(m_pasteLabel, &KORVA_PasteLabel::signalCopy, this, &KORVA_Canvas::slotCopy);
+    connect(m_pasteLabel, &KORVA_PasteLabel::signalPaste, this, &KORVA_Canvas::slotPaste);
+    m_pasteLabel->setGeometry(10, 10, 100, 100);
+    m_pasteLabel->hide();
+
+    setZoom(100);
+    createMenu();
+    setFocusPolicy(Qt::StrongFocus);
+    emit sizeChanged();
+    ++inst;
+    saveOldPix();
+    clearCanvas(
+        Qt::white); // before anything is connected: a new canvas is modified, but has nothing to undo
+    connectSignals(editor);
+}
+
+KORVA_Canvas::~KORVA_Canvas() = default;
+
+void KORVA_Canvas::createMenu()
+{
+    m_menu = new QMenu(this);
+    m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_Canvas::slotCut);
+    m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_Canvas::slotCopy);
+    m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_Canvas::slotPaste);
+    slotSelection(false);
+    slotClipBoard(false);
+}
+
+void KORVA_Canvas::connectSignals(KORVA_EditCanvas* editor)
+{
+    if (editor) {
+        connect(this, &KORVA_Canvas::sizeChanged, editor, &KORVA_EditCanvas::sizeChanged);
+        connect(this, &KORVA_Canvas::pixmapChanged, editor, &KORVA_EditCanvas::pixmapChanged);
+        connect(this, &KORVA_Canvas::modified, editor, &KORVA_EditCanvas::modified);
+        connect(this, qOverload<bool>(&KORVA_Canvas::selection), editor, &KORVA_EditCanvas::selection);
+        connect(this, &KORVA_Canvas::canUndo, editor, &KORVA_EditCanvas::canUndo);
+        connect(this, &KORVA_Canvas::canRedo, editor, &KORVA_EditCanvas::canRedo);
+    }
+    connect(this, &KORVA_Canvas::modified, this, &KORVA_Canvas::record);
+    connect(this, qOverload<bool>(&KORVA_Canvas::selection), this, &KORVA_Canvas::slotSelection);
+    connect(this, &KORVA_Canvas::clipboard, this, &KORVA_Canvas::slotClipBoard);
+}
+
+// --- Tools and events
+// ------------------------------------------------------------------------------------------
+
+void KORVA_Canvas::activate(KORVA_Tool* tool)
+{
+    KORVA_ASSERT(!isActive());
+    m_toolActive = true;
+    m_tool = tool;
+}
+
+void KORVA_Canvas::deactivate()
+{
+    KORVA_ASSERT(isActive());
+    m_tool = nullptr;
+    m_toolActive = false;
+}
+
+int KORVA_Canvas::getCurrentToolID() const
+{
+    return m_tool ? m_tool->id() : -1;
+}
+
+namespace {
+
+QMouseEvent inCoordinatesOf(const QWidget* child, const QMouseEvent* event)
+{
+    return {event->type(),           event->position() - child->pos(),
+            event->globalPosition(), event->button(),
+            event->buttons(),        event->modifiers()};
+}
+
+} // namespace
+
+void KORVA_Canvas::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::RightButton) {
+        m_menu->popup(mapToGlobal(event->position().toPoint()), m_menu->actions().constFirst());
+    } else if (event->button() == Qt::LeftButton) {
+        if (ptInPasteLabel(event->position().toPoint())) {
+            QMouseEvent local = inCoordinatesOf(m_pasteLabel, event);
+            m_pasteLabel->mousePressEvent(&local);
+            return;
+        }
+        mergePastePixmap();
+        if (m_tool)
+            m_tool->mousePressEvent(event);
+    }
+}
+
+void KORVA_Canvas::mouseMoveEvent(QMouseEvent* event)
+{
+    if (ptInPasteLabel(event->position().toPoint())) {
+        QMouseEvent local = inCoordinatesOf(m_pasteLabel, event);
+        m_pasteLabel->mouseMoveEvent(&local);
+    } else if (m_tool) {
+        m_tool->mouseMoveEvent(event);
+    }
+}
+
+void KORVA_Canvas::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (ptInPasteLabel(event->position().toPoint())) {
+        QMouseEvent local = inCoordinatesOf(m_pasteLabel, event);
+        m_pasteLabel->mouseReleaseEvent(&local);
+    } else if (m_tool) {
+        m_tool->mouseReleaseEvent(event);
+    }
+}
+
+void KORVA_Canvas::keyPressEvent(QKeyEvent* event)
+{
+    if (m_tool)
+        m_tool->keyPressEvent(event);
+    else
+        event->ignore();
+}
+
+void KORVA_Canvas::keyReleaseEvent(QKeyEvent* event)
+{
+    if (m_tool)
+        m_tool->keyReleaseEvent(event);
+    else
+        event->ignore();
+}
+
+void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The right button has opened its menu on the press; what is left is the menu key.
+    if (event->reason() != QContextMenuEvent::Keyboard)
+        return;
+    if (isFloating())
+        m_pasteLabel->menu()->popup(m_pasteLabel->mapToGlobal(m_pasteLabel->rect().center()));
+    else
+        m_menu->popup(mapToGlobal(visibleRegion().boundingRect().center()));
+}
+
+void KORVA_Canvas::paintEvent(QPaintEvent*)
+{
+    classic::bitBlt(this, 0, 0, *m_zoomed);
+}
+
+void KORVA_Canvas::refresh()
+{
+    repaint();
+}
+
+void KORVA_Canvas::markModified()
+{
+    m_modified = true;
+    emit modified();
+}
+
+// --- The picture
+// -----------------------------------------------------------------------------------------------
+
+QPixmap* KORVA_Canvas::pixmap()
+{
+    mergePastePixmap();
+    return m_picture.get();
+}
+
+void KORVA_Canvas::setPixmap(QPixmap* picture)
+{
+    if (!picture)
+        return;
+    m_pasteLabel->hide();
+    *m_picture = classic::opaque(*picture);
+    emit pixmapChanged(m_picture.get());
+    rebuildZoomed();
+    fitToZoomed();
+    refresh();
+}
+
+int KORVA_Canvas::getDepth() const
+{
+    return m_picture->depth();
+}
+
+void KORVA_Canvas::setDepth(int d)
+{
+    KORVA_ASSERT((d == 1) || (d == 4) || (d == 8) || (d == 15) || (d == 16) || (d == 24) || (d == 32));
+    if (d == getDepth())
+        return;
+    saveOldPix();
+    QPixmap unchanged = *m_picture; // the toolkit keeps every picture at its own depth
+    setPixmap(&unchanged);
+    markModified();
+}
+
+void KORVA_Canvas::clearCanvas(const QColor& color)
+{
+    saveOldPix();
+    m_picture->fill(color);
+    m_zoomed->fill(color);
+    markModified();
+    refresh();
+    m_pasteLabel->hide();
+}
+
+void KORVA_Canvas::resizeImage(int w, int h)
+{
+    if (QSize(w, h) != m_picture->size()) {
+        saveOldPix();
+        auto resized = std::make_unique<QPixmap>(classic::filled(QSize(w, h), Qt::white));
+        if (!m_picture->isNull()) {
+            const float horizontal = static_cast<float>(w) / static_cast<float>(m_picture->width());
+            const float vertical = static_cast<float>(h) / static_cast<float>(m_picture->height());
+            KORVA_ClassicPainter painter(resized.get());
+            painter.setWorldMatrix(
+                QTransform::fromScale(static_cast<double>(horizontal), static_cast<double>(vertical)));
+            painter.drawPixmap(0, 0, *m_picture);
+        }
+        m_picture = std::move(resized);
+        setZoom(zoom());
+        emit pixmapChanged(m_picture.get());
+        markModified();
+    }
+    refresh();
+}
+
+bool KORVA_Canvas::load(const QString& fileName, const char* format)
+{
+    const bool idle = !isActive();
+    if (idle) {
+        QPixmap picture =
+            UTIL_ImageReader::pixmap(fileName, format); // an unreadable file is not an error here
+        setPixmap(&picture);
+    }
+    refresh();
+    return idle;
+}
+
+bool KORVA_Canvas::save(const QString& fileName, const char* format)
+{
+    constexpr int jpegQuality = 96;
+    mergePastePixmap();
+    const QString type = (format ? QString::fromLatin1(format) : QFileInfo(fileName).suffix()).toLower();
+    const bool isJpeg = type == "jpeg" || type == "jpg";
+    // For PNG the same number would mean "uncompressed".
+    return m_picture->save(fileName, format, isJpeg ? jpegQuality : -1);
+}
+
+// --- Undo
+// ------------------------------------------------------------------------------------------------------
+
+void KORVA_Canvas::record()
+{
+    m_undoFlag = 1;
+    emit canUndo(true);
+    emit canRedo(false);
+}
+
+void KORVA_Canvas::undo()
+{
+    exchangeWithSnapshot();
+    m_undoFlag = 2;
+    emit canUndo(false);
+    emit canRedo(true);
+}
+
+void KORVA_Canvas::redo()
+{
+    exchangeWithSnapshot();
+    m_undoFlag = 1;
+    emit canUndo(true);
+    emit canRedo(false);
+}
+
+void KORVA_Canvas::exchangeWithSnapshot()
+{
+    mergePastePixmap();
+    m_pasteLabel->hide();
+    if (m_tool && m_tool->getTextKey())
+        return;
+    QPixmap after = *m_picture;
+    m_picture = std::make_unique<QPixmap>(m_previous);
+    m_previous = after;
+    updateZoomed();
+}
+
+void KORVA_Canvas::setUndoFlag(int flag)
+{
+    // Offered the other way round than record(), undo() and redo() do for the same flags: the editor relies
+    // on it.
+    static constexpr struct
+    {
+        bool redo;
+        bool undo;
+    } offered[] = {{false, false}, {true, false}, {false, true}};
+
+    m_undoFlag = flag;
+    if (flag < 0 || flag >= int(std::size(offered)))
+        return;
+    emit canRedo(offered[flag].redo);
+    emit canUndo(offered[flag].undo);
+}
+
+// --- Zoom
+// ------------------------------------------------------------------------------------------------------
+
+void KORVA_Canvas::setZoom(int percent)
+{
+    if (percent < 1)
+        return;
+    mergePastePixmap();
+    m_pasteLabel->setZoom(percent, percent);
+    m_zoom = KORVA_Zoom(percent);
+    rebuildZoomed();
+    fitToZoomed();
+    refresh();
+}
+
+void KORVA_Canvas::updateZoomed()
+{
+    paintZoomed();
+    refresh();
+}
+
+void KORVA_Canvas::rebuildZoomed()
+{
+    m_zoomed = std::make_unique<QPixmap>(m_zoom.zoomed(m_picture->size()));
+    paintZoomed();
+}
+
+void KORVA_Canvas::paintZoomed()
+{
+    m_zoomed->fill(Qt::white);
+    KORVA_ClassicPainter painter(m_zoomed.get());
+    painter.setWorldMatrix(m_zoom.toWidgetMatrix());
+    painter.drawPixmap(0, 0, *m_picture);
+}
+
+void KORVA_Canvas::fitToZoomed()
+{
+    if (m_zoomed->size() == size())
+        return;
+    resize(m_zoomed->size());
+    emit sizeChanged();
+}
+
+void KORVA_Canvas::updateZoomedClipboard()
+{
+    if (m_clipboard.width() == 0)
+        return;
+    const QPixmap unscaled = m_clipboard;
+    m_clipboard = classic::filled(m_zoom.zoomed(unscaled.size()), Qt::white);
+    KORVA_ClassicPainter painter(&m_clipboard);
+    painter.setWorldMatrix(m_zoom.toWidgetMatrix());
+    painter.drawPixmap(0, 0, unscaled);
+}
+
+// --- Selection and clipboard
+// -----------------------------------------------------------------------------------
+
+void KORVA_Canvas::setSelection(const QRect& rect)
+{
+    constexpr int margin = 2; // at 150 and 200 % the piece takes a little more along than was marked
+    m_selection = classic::normalized(rect);
+    m_hasSelection = true;
+
+    QRect lifted = m_zoom.toPicture(m_selection);
+    if (zoom() == 150 || zoom() == 200)
+        lifted.setSize(lifted.size() + QSize(margin, margin));
+    QPixmap piece = classic::filled(lifted.size(), Qt::white);
+    classic::bitBlt(&piece, -lifted.left(), -lifted.top(), *m_picture);
+
+    fillSelection();
+    floatPiece(m_selection.topLeft(), piece);
+    updateZoomed();
+    emit selection(true);
+}
+
+void KORVA_Canvas::fillSelection()
+{
+    KORVA_ClassicPainter painter(pixmap());
+    painter.setWorldMatrix(m_zoom.toPictureMatrix());
+    painter.fillRect(m_selection, Qt::white);
+}
+
+void KORVA_Canvas::clearSelection()
+{
+    m_hasSelection = false;
+    m_selection = QRect();
+    emit selection(false);
+}
+
+void KORVA_Canvas::copy()
+{
+    QGuiApplication::clipboard()->setPixmap(m_pasteLabel->getImage());
+    emit clipboard(true);
+}
+
+void KORVA_Canvas::cut()
+{
+    saveOldPix();
+    copy();
+    QGuiApplication::clipboard()->setPixmap(
+        m_pasteLabel->getImage()); // kept: a cut has always announced itself twice
+    m_pasteLabel->hide();
+    fillSelection();
+    clearSelection();
+    markModified();
+    updateZoomed();
+    emit clipboard(true);
+}
+
+void KORVA_Canvas::paste()
+{
+    saveOldPix();
+    if (isFloating()) {
+        mergePastePixmap();
+        markModified();
+        updateZoomed();
+    }
+    const QPixmap piece = QGuiApplication::clipboard()->pixmap();
+    if (piece.width() != 0)
+        floatAtOrigin(piece);
+}
+
+void KORVA_Canvas::paste(int x, int y)
+{
+    const QPixmap piece = QGuiApplication::clipboard()->pixmap();
+    if (piece.width() == 0)
+        return;
+    saveOldPix();
+    classic::bitBlt(m_picture.get(), x, y, piece);
+    markModified();
+    updateZoomed();
+}
+
+void KORVA_Canvas::insertStamp(QPixmap& stamp)
+{
+    mergePastePixmap();
+    floatAtOrigin(stamp);
+}
+
+void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
+{
+    floatPiece(QPoint(0, 0), piece);
+    QWidget* viewport = parentWidget();
+    if (auto* scrollView = qobject_cast<KORVA_ScrollView*>(viewport ? viewport->parentWidget() : nullptr))
+        scrollView->setContentsPos(0, 0);
+    markModified();
+    updateZoomed();
+}
+
+void KORVA_Canvas::floatPiece(const QPoint& at, const QPixmap& piece)
+{
+    m_pasteLabel->show();
+    m_pasteLabel->move(at);
+    m_pasteLabel->setImage(piece);
+}
+
+bool KORVA_Canvas::isFloating() const
+{
+    return !m_pasteLabel->isHidden();
+}
+
+void KORVA_Canvas::mergePastePixmap()
+{
+    if (!isFloating())
+        return;
+    m_pasteLabel->hide();
+    const QPoint place = m_zoom.toPicture(m_pasteLabel->pos());
+    classic::bitBlt(m_picture.get(), place.x(), place.y(), m_pasteLabel->getImage());
+    saveOldPix();
+    markModified();
+    updateZoomed();
+    emit selection(false);
+}
+
+bool KORVA_Canvas::ptInPasteLabel(const QPoint& p) const
+{
+    return isFloating() && m_pasteLabel->geometry().contains(p);
+}
+
+void KORVA_Canvas::slotCut()
+{
+    cut();
+}
+
+void KORVA_Canvas::slotCopy()
+{
+    copy();
+}
+
+void KORVA_Canvas::slotPaste()
+{
+    paste();
+}
+
+void KORVA_Canvas::slotSelection(bool exists)
+{
+    const QList<QAction*> actions = m_menu->actions();
+    actions[0]->setEnabled(exists);
+    actions[1]->setEnabled(exists);
+}
+
+void KORVA_Canvas::slotClipBoard(bool filled)
+{
+    m_menu->actions().constLast()->setEnabled(filled);
+    m_pasteLabel->setPasteItem(filled);
+}

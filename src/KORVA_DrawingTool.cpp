@@ -1,0 +1,31 @@
+#include "KORVA_DrawingTool.h"
+
+#include "KORVA_Canvas.h"
+
+QPen KORVA_DrawingTool::picturePen() const
+{
+    return m_button == Qt::LeftButton ? leftPen() : rightPen();
+}
+
+QPen KORVA_DrawingTool::screenPen() const
+{
+    QPen pen = picturePen();
+    pen.setWidth(zoom().penWidth(pen.width()));
+    return pen;
+}
+
+QBrush KORVA_DrawingTool::brush() const
+{
+    return m_button == Qt::LeftButton ? leftBrush() : rightBrush();
+}
+
+KORVA_Zoom KORVA_DrawingTool::zoom() const
+{
+    return KORVA_Zoom(canvas()->zoom());
+}
+
+void KORVA_DrawingTool::beginChange()
+{
+    canvas()->saveOldPix();
+    canvas()->markModified();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "KORVA_Tool.h"
+#include "KORVA_Zoom.h"
+
+/// The rules that every tool which paints has in common: which pen and brush a button takes, how wide the
+/// pen is on screen and in the picture, how a change is announced. A stroke is painted twice, into the
+/// zoomed picture in widget coordinates and into the picture in its own.
+class KORVA_EXPORT KORVA_DrawingTool : public KORVA_Tool
+{
+    Q_OBJECT
+
+protected:
+    using KORVA_Tool::KORVA_Tool;
+
+    /// The button of the press that began the gesture; it decides the pens until the next press.
+    void setButton(Qt::MouseButton button) { m_button = button; }
+    [[nodiscard]] Qt::MouseButton button() const { return m_button; }
+
+    [[nodiscard]] QPen picturePen() const;
+    /// The same pen with its width times the zoom, truncated; a width of 0 is the thin line.
+    [[nodiscard]] QPen screenPen() const;
+    [[nodiscard]] QBrush brush() const;
+    [[nodiscard]] KORVA_Zoom zoom() const;
+
+    /// Takes the undo snapshot and marks the picture modified.
+    void beginChange();
+
+private:
+    Qt::MouseButton m_button = Qt::NoButton;
+};

@@ -1,0 +1,55 @@
+#include "KORVA_MainView.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_EditCanvas.h"
+#include "KORVA_ScrollView.h"
+
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize normalCanvas(200, 170);
+
+int centred(int view, int canvas)
+{
+    return view > canvas ? (view - canvas) / 2 : 0;
+}
+
+// The scroll view's frame takes two of the pixels that centring reckons with.
+int insideFrame(int offset)
+{
+    return offset >= 2 ? offset - 2 : 0;
+}
+
+} // namespace
+
+KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
+    : QWidget(parent),
+      m_scrollView(new KORVA_ScrollView(this)),
+      m_canvas(new KORVA_Canvas(qobject_cast<KORVA_EditCanvas*>(parent), normalCanvas.width(),
+                                normalCanvas.height(), m_scrollView->viewport(), nullptr))
+{
+    setObjectName(name);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_scrollView);
+    m_scrollView->resize(normalCanvas);
+    setFocusProxy(m_canvas);
+
+    connect(m_canvas, &KORVA_Canvas::sizeChanged, this, &KORVA_MainView::updateLayout);
+    m_scrollView->addChild(m_canvas, centred(width(), normalCanvas.width()),
+                           centred(height(), normalCanvas.height()));
+}
+
+void KORVA_MainView::updateLayout()
+{
+    m_scrollView->moveChild(m_canvas, insideFrame(centred(width(), m_canvas->width())),
+                            insideFrame(centred(height(), m_canvas->height())));
+    m_scrollView->resizeContents(m_canvas->width(), m_canvas->height());
+}
+
+void KORVA_MainView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    updateLayout();
+}

@@ -1,0 +1,228 @@
+#include "KORVA_PasteLabel.h"
+
+#include "KORVA_ClassicPainter.h"
+#include "UTIL_Platform.h"
+
+#include <QImage>
+#include <QMenu>
+#include <QMouseEvent>
+
+namespace {
+
+constexpr int handleSize = 6; ///< side of a handle and width of the edge zones, in pixels
+
+} // namespace
+
+/// How a zone's drag changes the item: the sign of dx in its width and of dy in its height, and whether the
+/// item's top left follows.
+struct KORVA_PasteLabel::Stretch
+{
+    Zone zone;
+    int widthSign;
+    int heightSign;
+    bool movesX;
+    bool movesY;
+    static const Stretch table[];
+};
+
+const KORVA_PasteLabel::Stretch KORVA_PasteLabel::Stretch::table[] = {
+    {LeftEdge, -1, 0, true, false},    {RightEdge, 1, 0, false, false}, {TopEdge, 0, -1, false, true},
+    {BottomEdge, 0, 1, false, false},  {TopLeft, -1, -1, true, true},   {BottomLeft, -1, 1, true, false},
+    {BottomRight, 1, 1, false, false},
+};
+
+KORVA_PasteLabel::KORVA_PasteLabel(QWidget* parent, const char* name, Qt::WindowFlags flags)
+    : QLabel(parent, flags), m_menu(new QMenu(this))
+{
+    setObjectName(name);
+    UTIL_Platform::instance()->setMouseMode(this, 1);
+    m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotCopy);
+    m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotCut);
+    m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotPaste);
+    setPasteItem(false);
+    setMouseTracking(true);
+}
+
+void KORVA_PasteLabel::setImage(const char* fileName)
+{
+    setImage(QPixmap::fromImage(QImage(QString::fromUtf8(fileName))));
+}
+
+void KORVA_PasteLabel::setImage(const QPixmap& pixmap)
+{
+    m_pixmap = pixmap;
+    setZoom(m_zoom, m_zoom);
+}
+
+void KORVA_PasteLabel::setZoom(int horizontal, int vertical)
+{
+    m_zoom = horizontal;
+    display(m_pixmap.transformed(QTransform::fromScale(horizontal / 100.0, vertical / 100.0)));
+}
+
+void KORVA_PasteLabel::setResizeZoom(int horizontal, int vertical)
+{
+    display(m_zoomPixmap.transformed(QTransform::fromScale(horizontal / 100.0, vertical / 100.0)));
+}
+
+void KORVA_PasteLabel::rotate(int degrees)
+{
+    display(m_zoomPixmap.transformed(QTransform().rotate(degrees)));
+}
+
+void KORVA_PasteLabel::setPasteItem(bool enabled)
+{
+    m_menu->actions().constLast()->setEnabled(enabled);
+}
+
+void KORVA_PasteLabel::slotCut()
+{
+    emit signalCut();
+}
+
+void KORVA_PasteLabel::slotCopy()
+{
+    emit signalCopy();
+}
+
+void KORVA_PasteLabel::slotPaste()
+{
+    emit signalPaste();
+}
+
+void KORVA_PasteLabel::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = true;
+        m_pressPos = m_lastPos = event->position().toPoint();
+    } else if (event->button() == Qt::RightButton) {
+        m_menu->popup(event->globalPosition().toPoint());
+    }
+}
+
+void KORVA_PasteLabel::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint p = event->position().toPoint();
+    m_lastPos = p;
+    if (!m_pressed)
+        hover(p);
+    else if (m_zone == Inside)
+        dragTo(p);
+}
+
+void KORVA_PasteLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_pressed)
+        return;
+    m_pressed = false;
+    setCursor(Qt::CrossCursor);
+
+    if (m_zone == TopRight)
+        rotate(event->position().toPoint().y() > m_pressPos.y() ? 90 : -90);
+    for (const Stretch& rule : Stretch::table) {
+        if (rule.zone == m_zone)
+            stretch(rule);
+    }
+    foldBack();
+}
+
+KORVA_PasteLabel::Zone KORVA_PasteLabel::zoneAt(QPoint p) const
+{
+    if (p.x() < 0 || p.x() > width() || p.y() < 0 || p.y() > height())
+        return Outside;
+
+    // Strict on both sides: a point exactly one handle away from an edge moves the item.
+    const bool left = p.x() < handleSize;
+    const bool right = p.x() > width() - handleSize;
+    const bool top = p.y() < handleSize;
+    const bool bottom = p.y() > height() - handleSize;
+    const bool betweenX = handleSize < p.x() && p.x() < width() - handleSize;
+    const bool betweenY = handleSize < p.y() && p.y() < height() - handleSize;
+    const struct
+    {
+        bool holds;
+        Zone zone;
+    } rules[] = {
+        {right && top, TopRight},       {left && top, TopLeft},           {left && bottom, BottomLeft},
+        {right && bottom, BottomRight}, {left && betweenY, LeftEdge},     {right && betweenY, RightEdge},
+        {betweenX && top, TopEdge},     {betweenX && bottom, BottomEdge},
+    };
+    for (const auto& rule : rules) {
+        if (rule.holds)
+            return rule.zone;
+    }
+    return Inside;
+}
+
+void KORVA_PasteLabel::hover(QPoint p)
+{
+    static constexpr Qt::CursorShape cursors[] = {
+        Qt::CrossCursor,     Qt::PointingHandCursor, Qt::SizeHorCursor,   Qt::SizeHorCursor,
+        Qt::SizeVerCursor,   Qt::SizeVerCursor,      Qt::SizeFDiagCursor, Qt::ArrowCursor,
+        Qt::SizeBDiagCursor, Qt::SizeFDiagCursor,    Qt::UpArrowCursor,
+    };
+    m_zone = zoneAt(p);
+    setCursor(cursors[m_zone]);
+}
+
+void KORVA_PasteLabel::dragTo(QPoint p)
+{
+    // Limited to the right and below only: a piece may be pushed out to the left and the top.
+    const QPoint to = pos() + p - m_pressPos;
+    const QSize limit = parentWidget() ? parentWidget()->size() : QSize(to.x(), to.y());
+    move(qMin(to.x(), limit.width()), qMin(to.y(), limit.height()));
+}
+
+void KORVA_PasteLabel::stretch(const Stretch& rule)
+{
+    const QPoint d = m_lastPos - m_pressPos;
+    const auto percentage = [](int size, int change) {
+        return size > 0 ? qMax(0, size + change) * 100 / size : 0;
+    };
+    const int horizontal = rule.widthSign ? percentage(width(), rule.widthSign * d.x()) : 100;
+    const int vertical = rule.heightSign ? percentage(height(), rule.heightSign * d.y()) : 100;
+    setResizeZoom(horizontal, vertical);
+    move(pos() + QPoint(rule.movesX ? d.x() : 0, rule.movesY ? d.y() : 0));
+}
+
+void KORVA_PasteLabel::display(const QPixmap& zoomed)
+{
+    m_zoomPixmap = zoomed;
+    resize(m_zoomPixmap.size());
+    update();
+}
+
+void KORVA_PasteLabel::foldBack()
+{
+    m_pixmap = m_zoomPixmap.transformed(QTransform::fromScale(100.0 / m_zoom, 100.0 / m_zoom));
+}
+
+void KORVA_PasteLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+
+    KORVA_ClassicPainter painter(this);
+    painter.drawPixmap(0, 0, m_zoomPixmap);
+
+    painter.setRasterOp(KORVA_ClassicPainter::NotROP);
+    painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+    painter.drawRect(0, 0, width(), height());
+
+    painter.setRasterOp(KORVA_ClassicPainter::CopyROP);
+    const int right = width() - handleSize;
+    const int bottom = height() - handleSize;
+    for (const QPoint& corner :
+         {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom), QPoint(right / 2, 0),
+          QPoint(right / 2, bottom), QPoint(0, bottom / 2), QPoint(right, bottom / 2)})
+        painter.fillRect(QRect(corner, QSize(handleSize, handleSize)), Qt::black);
+}
+
+void KORVA_PasteLabel::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    if (const QSize grown = size().expandedTo(m_zoomPixmap.size()); grown != m_zoomPixmap.size()) {
+        QPixmap larger = classic::filled(grown, palette().color(QPalette::Base));
+        classic::bitBlt(&larger, 0, 0, m_zoomPixmap);
+        m_zoomPixmap = larger;
+    }
+}

@@ -1,0 +1,54 @@
+#include "KORVA_Pen.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_ClassicPainter.h"
+
+#include <QMouseEvent>
+
+KORVA_Pen::KORVA_Pen(const QString& name) : KORVA_DrawingTool(name) {}
+
+void KORVA_Pen::activating()
+{
+    m_drawing = false;
+    canvas()->setCursor(Qt::CrossCursor);
+}
+
+void KORVA_Pen::mousePressEvent(QMouseEvent* event)
+{
+    if (!isActive())
+        return;
+    beginChange();
+    setButton(event->button());
+    m_last = event->position().toPoint();
+    drawTo(m_last);
+    m_drawing = true;
+}
+
+void KORVA_Pen::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint to = event->position().toPoint();
+    if (isActive() && m_drawing && to != m_last)
+        drawTo(to);
+}
+
+void KORVA_Pen::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (isActive() && event->button() == button())
+        m_drawing = false;
+}
+
+void KORVA_Pen::drawTo(QPoint to)
+{
+    {
+        KORVA_ClassicPainter picture(canvas()->pixmap());
+        picture.setPen(picturePen());
+        picture.setWorldMatrix(zoom().toPictureMatrix());
+        picture.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
+    }
+    KORVA_ClassicPainter screen(canvas()->zoomedPixmap());
+    screen.setPen(screenPen());
+    screen.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
+
+    m_last = to;
+    canvas()->refresh();
+}

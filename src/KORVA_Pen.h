@@ -1,0 +1,25 @@
+#pragma once
+
+#include "KORVA_DrawingTool.h"
+
+#include <QPoint>
+
+/// The pencil: a dot where the stylus goes down and a line along every move. One press is one undo step.
+class KORVA_EXPORT KORVA_Pen : public KORVA_DrawingTool
+{
+    Q_OBJECT
+
+public:
+    explicit KORVA_Pen(const QString& name);
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void activating() override;
+
+private:
+    void drawTo(QPoint to);
+
+    QPoint m_last; ///< the last point drawn, in widget coordinates
+    bool m_drawing = false;
+};

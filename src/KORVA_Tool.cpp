@@ -1,0 +1,49 @@
+#include "KORVA_Tool.h"
+
+#include "KORVA_Assert.h"
+#include "KORVA_Canvas.h"
+
+#include <QKeyEvent>
+
+KORVA_Tool::KORVA_Tool() = default;
+
+KORVA_Tool::KORVA_Tool(const QString& name) : m_name(name) {}
+
+KORVA_Tool::~KORVA_Tool() = default;
+
+void KORVA_Tool::activate(KORVA_Canvas* c)
+{
+    KORVA_ASSERT(!c->isActive());
+    m_active = true;
+    m_canvas = c;
+    activating();
+}
+
+void KORVA_Tool::deactivate()
+{
+    const bool active = m_active;
+    KORVA_ASSERT(active);
+    deactivating();
+    m_canvas = nullptr;
+    m_active = false;
+}
+
+void KORVA_Tool::mousePressEvent(QMouseEvent*) {}
+void KORVA_Tool::mouseReleaseEvent(QMouseEvent*) {}
+void KORVA_Tool::mouseDoubleClickEvent(QMouseEvent*) {}
+void KORVA_Tool::mouseMoveEvent(QMouseEvent*) {}
+
+void KORVA_Tool::keyPressEvent(QKeyEvent* event)
+{
+    event->ignore();
+}
+
+void KORVA_Tool::keyReleaseEvent(QKeyEvent* event)
+{
+    event->ignore();
+}
+
+void KORVA_Tool::enterEvent(QEvent*) {}
+void KORVA_Tool::leaveEvent(QEvent*) {}
+void KORVA_Tool::activating() {}
+void KORVA_Tool::deactivating() {}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QRect>
+#include <QTransform>
+
+/// The zoom in percent and the one rule by which coordinates pass between picture and widget.
+///
+/// "Widget" coordinates are pixels of the zoomed picture. Sizes and matrices are reckoned in single
+/// precision, sizes are truncated; coordinates are divided as integers, truncating toward zero.
+class KORVA_Zoom
+{
+public:
+    constexpr KORVA_Zoom() = default;
+    explicit constexpr KORVA_Zoom(int percent) : m_percent(percent) {}
+
+    [[nodiscard]] constexpr int percent() const { return m_percent; }
+
+    [[nodiscard]] constexpr int toPicture(int c) const { return c * 100 / m_percent; }
+    [[nodiscard]] constexpr QPoint toPicture(QPoint p) const
+    {
+        return {toPicture(p.x()), toPicture(p.y())};
+    }
+    /// Position and size each on its own, so that the rectangle may end one pixel before its corner's
+    /// place.
+    [[nodiscard]] constexpr QRect toPicture(const QRect& r) const
+    {
+        return {toPicture(r.left()), toPicture(r.top()), toPicture(r.width()), toPicture(r.height())};
+    }
+
+    /// The size on screen of a picture of this size.
+    [[nodiscard]] QSize zoomed(QSize picture) const
+    {
+        return {static_cast<int>(static_cast<float>(picture.width()) * factor()),
+                static_cast<int>(static_cast<float>(picture.height()) * factor())};
+    }
+
+    /// The width on screen of a pen; 0 is the thin pen of one pixel.
+    [[nodiscard]] int penWidth(int width) const
+    {
+        return static_cast<int>(static_cast<unsigned>(width) * static_cast<unsigned>(m_percent) / 100U);
+    }
+
+    [[nodiscard]] QTransform toWidgetMatrix() const { return scale(factor()); }
+    [[nodiscard]] QTransform toPictureMatrix() const
+    {
+        return scale(static_cast<float>(100.0 / m_percent));
+    }
+
+private:
+    [[nodiscard]] float factor() const { return static_cast<float>(m_percent / 100.0); }
+    [[nodiscard]] static QTransform scale(float s)
+    {
+        return QTransform::fromScale(static_cast<double>(s), static_cast<double>(s));
+    }
+
+    int m_percent = 100;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace support {
+
+/// The base of every test class: a warning that Qt logs fails the test function during which it is logged.
+class TestCase : public QObject
+{
+    Q_OBJECT
+
+protected slots:
+    void init();
+};
+
+/// The main() of a test program.
+template <typename Test>
+int run(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace support

@@ -1,0 +1,191 @@
+#include "KORVA_ClassicPainter.h"
+
+#include <QtMath>
+
+#include <algorithm>
+
+namespace {
+
+QPaintDevice* paintable(QPaintDevice* target, QPixmap& substitute)
+{
+    if (target->width() > 0 && target->height() > 0)
+        return target;
+    substitute = QPixmap(1, 1);
+    substitute.fill(Qt::white);
+    return &substitute;
+}
+
+// An odd pen is centred on the middle of a pixel, an even one and a thin one on its edge.
+double penCentre(int width)
+{
+    return width > 1 && width % 2 == 1 ? 0.5 : 0.0;
+}
+
+void mirrorAboutAnchor(int& origin, int& length)
+{
+    if (length < 0) {
+        origin += length + 1;
+        length = -length;
+    }
+}
+
+} // namespace
+
+KORVA_ClassicPainter::KORVA_ClassicPainter(QPaintDevice* target, RasterOp op)
+    : m_painter(paintable(target, m_nothing))
+{
+    setRasterOp(op);
+}
+
+void KORVA_ClassicPainter::setPen(const QPen& pen)
+{
+    QPen fixedWidth = pen;
+    fixedWidth.setCosmetic(true);
+    if (fixedWidth.joinStyle() == Qt::BevelJoin)
+        fixedWidth.setJoinStyle(Qt::MiterJoin); // today's default pen would cut the corners of a rectangle
+    m_painter.setPen(fixedWidth);
+}
+
+void KORVA_ClassicPainter::setBrush(const QBrush& brush)
+{
+    m_painter.setBrush(brush);
+}
+
+void KORVA_ClassicPainter::setFont(const QFont& font)
+{
+    m_painter.setFont(font);
+}
+
+void KORVA_ClassicPainter::setRasterOp(RasterOp op)
+{
+    m_painter.setCompositionMode(op == NotROP ? QPainter::RasterOp_NotDestination
+                                              : QPainter::CompositionMode_SourceOver);
+}
+
+void KORVA_ClassicPainter::setWorldMatrix(const QTransform& matrix)
+{
+    m_painter.setWorldTransform(matrix);
+}
+
+int KORVA_ClassicPainter::outlineWidth() const
+{
+    return m_painter.pen().style() == Qt::NoPen ? 0 : qMax(1, m_painter.pen().width());
+}
+
+void KORVA_ClassicPainter::drawPoint(int x, int y)
+{
+    const int side = outlineWidth();
+    const QTransform matrix = m_painter.worldTransform();
+    const QPointF place = matrix.map(QPointF(x, y));
+    m_painter.setWorldTransform({});
+    m_painter.fillRect(qFloor(place.x()) - side / 2, qFloor(place.y()) - side / 2, side, side,
+                       m_painter.pen().brush());
+    m_painter.setWorldTransform(matrix);
+}
+
+void KORVA_ClassicPainter::drawLine(int x1, int y1, int x2, int y2)
+{
+    if (x1 == x2 && y1 == y2)
+        drawPoint(x1, y1);
+    else
+        m_painter.drawLine(x1, y1, x2, y2);
+}
+
+void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
+{
+    if (w == 0 || h == 0)
+        return;
+    mirrorAboutAnchor(x, w);
+    mirrorAboutAnchor(y, h);
+    const int width = outlineWidth();
+    if (width > 1 || m_painter.pen().style() > Qt::SolidLine) {
+        const double centre = penCentre(width);
+        m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1));
+        return;
+    }
+    m_painter.fillRect(x, y, w, h, m_painter.brush());
+    if (width == 1)
+        drawThinFrame(x, y, w, h);
+}
+
+// Four bars that share no pixel: today's own thin frame would invert the pixels of a narrow one twice.
+void KORVA_ClassicPainter::drawThinFrame(int x, int y, int w, int h)
+{
+    const QBrush ink = m_painter.pen().brush();
+    m_painter.fillRect(x, y, w, 1, ink);
+    if (h > 1)
+        m_painter.fillRect(x, y + h - 1, w, 1, ink);
+    if (h > 2)
+        m_painter.fillRect(x, y + 1, 1, h - 2, ink);
+    if (h > 2 && w > 1)
+        m_painter.fillRect(x + w - 1, y + 1, 1, h - 2, ink);
+}
+
+void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
+{
+    const int width = outlineWidth();
+    const int before = width / 2;
+    const int after = qMax(0, width - 1) / 2;
+    const double centre = penCentre(width);
+    m_painter.save();
+    m_painter.setClipRect(QRect(x, y, w, h).adjusted(-before, -before, after, after));
+    m_painter.drawEllipse(QRectF(x + centre, y + centre, w - 1, h - 1));
+    m_painter.restore();
+}
+
+void KORVA_ClassicPainter::fillRect(const QRect& rect, const QColor& color)
+{
+    m_painter.fillRect(rect, color);
+}
+
+void KORVA_ClassicPainter::drawPixmap(int x, int y, const QPixmap& pixmap)
+{
+    m_painter.drawPixmap(x, y, pixmap);
+}
+
+QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString& text)
+{
+    QRect used;
+    m_painter.drawText(box, flags, text, &used);
+    return used;
+}
+
+void KORVA_ClassicPainter::drawText(int x, int y, const QString& text)
+{
+    m_painter.drawText(x, y, text);
+}
+
+namespace classic {
+
+QRect normalized(const QRect& rect)
+{
+    const auto [left, right] = std::minmax({rect.left(), rect.right()});
+    const auto [top, bottom] = std::minmax({rect.top(), rect.bottom()});
+    return {QPoint(left, top), QPoint(right, bottom)};
+}
+
+QPixmap opaque(const QPixmap& pixmap)
+{
+    if (pixmap.isNull() ||
+        (!pixmap.hasAlphaChannel() && pixmap.depth() > 1 && pixmap.devicePixelRatio() == 1.0))
+        return pixmap;
+    QPixmap source = pixmap;
+    source.setDevicePixelRatio(1.0);
+    QPixmap paper = filled(source.size(), Qt::white);
+    bitBlt(&paper, 0, 0, source);
+    return paper;
+}
+
+QPixmap filled(const QSize& size, const QColor& color)
+{
+    QPixmap pixmap(size.expandedTo(QSize(0, 0)));
+    pixmap.fill(color);
+    return pixmap;
+}
+
+void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source)
+{
+    KORVA_ClassicPainter(target).drawPixmap(x, y, source);
+}
+
+} // namespace classic

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QPainter>
+#include <QPixmap>
+
+/// Paints with the classic meaning of a shape's size: what is w × h covers w × h pixels, outline included.
+///
+/// It is opened on a picture or a widget for as long as it lives; on a null picture it paints nothing. Only
+/// one may be open on a picture at a time. Nothing is antialiased. Coordinates are pixels of the target,
+/// unless a matrix maps them; a pen's width is always pixels of the target, whatever the matrix.
+class KORVA_ClassicPainter
+{
+public:
+    enum RasterOp {
+        CopyROP, ///< paints the pen's and the brush's colours
+        NotROP,  ///< inverts each touched pixel once, so that painting the same again restores it
+    };
+
+    explicit KORVA_ClassicPainter(QPaintDevice* target, RasterOp op = CopyROP);
+
+    void setPen(const QPen& pen);
+    void setBrush(const QBrush& brush);
+    void setFont(const QFont& font);
+    void setRasterOp(RasterOp op);
+    void setWorldMatrix(const QTransform& matrix);
+
+    /// A square of the pen's width around the pixel.
+    void drawPoint(int x, int y);
+    /// Both end pixels included; a line of no length is a point.
+    void drawLine(int x1, int y1, int x2, int y2);
+    /// A negative size mirrors the rectangle about its anchor pixel, which always belongs to it; a size of
+    /// 0 paints nothing. Corners are mitred.
+    void drawRect(int x, int y, int w, int h);
+    /// The ellipse inscribed in w × h pixels (both positive); it never leaves its box, which a pen wider
+    /// than one pixel grows on all sides.
+    void drawEllipse(int x, int y, int w, int h);
+    void fillRect(const QRect& rect, const QColor& color);
+    /// The whole picture with its top left at (x, y); transparent pixels leave the target alone.
+    void drawPixmap(int x, int y, const QPixmap& pixmap);
+    /// `flags` are Qt's text flags; the box actually used is returned, in target coordinates.
+    QRect drawText(const QRect& box, int flags, const QString& text);
+    /// Text with its baseline's left end at (x, y).
+    void drawText(int x, int y, const QString& text);
+
+private:
+    [[nodiscard]] int outlineWidth() const;
+    void drawThinFrame(int x, int y, int w, int h);
+
+    QPixmap m_nothing; ///< stands in for a null target, on which Qt refuses to open a painter
+    QPainter m_painter;
+};
+
+namespace classic {
+
+/// The rectangle of the same two corner pixels, with the corners swapped where they are the wrong way
+/// round.
+[[nodiscard]] QRect normalized(const QRect& rect);
+
+/// A picture without transparency: what shows through comes out white.
+[[nodiscard]] QPixmap opaque(const QPixmap& pixmap);
+
+/// A picture of this size filled with one colour; null when a side is not positive.
+[[nodiscard]] QPixmap filled(const QSize& size, const QColor& color);
+
+/// Copies a whole picture into another or onto a widget at (x, y); what falls outside is left away, masks are respected.
+void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source);
+
+} // namespace classic

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "KORVA_Export.h"
+
+#include <QAbstractScrollArea>
+
+/// A window onto contents of a size that the owner sets and that nothing else changes.
+///
+/// One child is placed in the contents by addChild() and moveChild(); it is a child of the viewport and
+/// moves with the scrolling. All positions are pixels of the contents, (0, 0) at their top left.
+class KORVA_EXPORT KORVA_ScrollView : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit KORVA_ScrollView(QWidget* parent = nullptr);
+
+    /// The contents' position at the top left of the visible area.
+    [[nodiscard]] int contentsX() const;
+    [[nodiscard]] int contentsY() const;
+    /// Scrolls at once; positions beyond the range are limited to it.
+    void setContentsPos(int x, int y);
+
+    [[nodiscard]] int contentsWidth() const { return m_contents.width(); }
+    [[nodiscard]] int contentsHeight() const { return m_contents.height(); }
+    /// Sets the size of the contents; the position is limited to the new range.
+    void resizeContents(int w, int h);
+
+    /// Takes the widget into the viewport at (x, y) of the contents.
+    void addChild(QWidget* child, int x, int y);
+    void moveChild(QWidget* child, int x, int y);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    void placeChild();
+    void updateRanges();
+
+    QSize m_contents;
+    QWidget* m_child = nullptr; // owned by the viewport
+    QPoint m_childPos;
+};
