@@ -5,7 +5,7 @@
 #include "KORVA_EditCanvas.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_ScrollView.h"
-#include "KORVA_Tool.h"
+#include "KORVA_Text.h"
 #include "UTIL_ImageReader.h"
 #include "UTIL_Platform.h"
 
@@ -54,6 +54,7 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
     setZoom(100);
     createMenu();
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled);
     emit sizeChanged();
     ++inst;
     saveOldPix();
@@ -174,6 +175,38 @@ void KORVA_Canvas::keyReleaseEvent(QKeyEvent* event)
         event->ignore();
 }
 
+bool KORVA_Canvas::event(QEvent* event)
+{
+    // Shortcuts of the host wait while a text is typed; what is no text is still theirs.
+    if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText() &&
+        KORVA_Text::isTyping(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+bool KORVA_Canvas::focusNextPrevChild(bool next)
+{
+    return !(m_tool && m_tool->takesText()) && QWidget::focusNextPrevChild(next);
+}
+
+void KORVA_Canvas::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (m_tool)
+        m_tool->inputMethodEvent(event);
+    else
+        event->ignore();
+}
+
+QVariant KORVA_Canvas::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    if (query == Qt::ImEnabled)
+        return m_tool && m_tool->takesText();
+    const QVariant answer = m_tool ? m_tool->inputMethodQuery(query) : QVariant();
+    return answer.isValid() ? answer : QWidget::inputMethodQuery(query);
+}
+
 void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
 {
     // The right button has opened its menu on the press; what is left is the menu key.
@@ -188,6 +221,12 @@ void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
 void KORVA_Canvas::paintEvent(QPaintEvent*)
 {
     classic::bitBlt(this, 0, 0, *m_zoomed);
+}
+
+KORVA_ScrollView* KORVA_Canvas::scrollView() const
+{
+    QWidget* viewport = parentWidget();
+    return qobject_cast<KORVA_ScrollView*>(viewport ? viewport->parentWidget() : nullptr);
 }
 
 void KORVA_Canvas::refresh()
@@ -243,8 +282,11 @@ void KORVA_Canvas::clearCanvas(const QColor& color)
     saveOldPix();
     m_picture->fill(color);
     m_zoomed->fill(color);
+    tellZoomedRebuilt();
     markModified();
     refresh();
+    if (auto* text = qobject_cast<KORVA_Text*>(m_tool))
+        text->resetBuffer();
     m_pasteLabel->hide();
 }
 
@@ -376,9 +418,18 @@ void KORVA_Canvas::rebuildZoomed()
 void KORVA_Canvas::paintZoomed()
 {
     m_zoomed->fill(Qt::white);
-    KORVA_ClassicPainter painter(m_zoomed.get());
-    painter.setWorldMatrix(m_zoom.toWidgetMatrix());
-    painter.drawPixmap(0, 0, *m_picture);
+    {
+        KORVA_ClassicPainter painter(m_zoomed.get());
+        painter.setWorldMatrix(m_zoom.toWidgetMatrix());
+        painter.drawPixmap(0, 0, *m_picture);
+    }
+    tellZoomedRebuilt();
+}
+
+void KORVA_Canvas::tellZoomedRebuilt()
+{
+    if (m_tool)
+        m_tool->zoomedRebuilt();
 }
 
 void KORVA_Canvas::fitToZoomed()
@@ -488,9 +539,8 @@ void KORVA_Canvas::insertStamp(QPixmap& stamp)
 void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
 {
     floatPiece(QPoint(0, 0), piece);
-    QWidget* viewport = parentWidget();
-    if (auto* scrollView = qobject_cast<KORVA_ScrollView*>(viewport ? viewport->parentWidget() : nullptr))
-        scrollView->setContentsPos(0, 0);
+    if (KORVA_ScrollView* view = scrollView())
+        view->setContentsPos(0, 0);
     markModified();
     updateZoomed();
 }

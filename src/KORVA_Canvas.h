@@ -10,6 +10,7 @@
 
 class KORVA_EditCanvas;
 class KORVA_PasteLabel;
+class KORVA_ScrollView;
 class KORVA_Tool;
 class QMenu;
 
@@ -117,8 +118,13 @@ public:
     /// Cut (0), Copy (1), Paste (2).
     [[nodiscard]] QMenu* contextMenu() const { return m_menu; }
 
+    /// The scroll view that holds the canvas; null when there is none.
+    [[nodiscard]] KORVA_ScrollView* scrollView() const;
+
     /// Shows the zoomed picture as it now is: how every change of it ends.
     void refresh();
+
+    [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 public slots:
     void markModified();
@@ -141,6 +147,9 @@ signals:
     void canRedo(bool possible);
 
 protected:
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -157,6 +166,7 @@ private:
 
     void paintZoomed();
     void rebuildZoomed();
+    void tellZoomedRebuilt();
     void fitToZoomed();
     void exchangeWithSnapshot();
     void fillSelection();

@@ -19,11 +19,6 @@ QBrush KORVA_DrawingTool::brush() const
     return m_button == Qt::LeftButton ? leftBrush() : rightBrush();
 }
 
-KORVA_Zoom KORVA_DrawingTool::zoom() const
-{
-    return KORVA_Zoom(canvas()->zoom());
-}
-
 void KORVA_DrawingTool::beginChange()
 {
     canvas()->saveOldPix();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "KORVA_Tool.h"
-#include "KORVA_Zoom.h"
 
 /// The rules that every tool which paints has in common: which pen and brush a button takes, how wide the
 /// pen is on screen and in the picture, how a change is announced. A stroke is painted twice, into the
@@ -21,7 +20,6 @@ protected:
     /// The same pen with its width times the zoom, truncated; a width of 0 is the thin line.
     [[nodiscard]] QPen screenPen() const;
     [[nodiscard]] QBrush brush() const;
-    [[nodiscard]] KORVA_Zoom zoom() const;
 
     /// Takes the undo snapshot and marks the picture modified.
     void beginChange();

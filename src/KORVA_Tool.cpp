@@ -11,6 +11,16 @@ KORVA_Tool::KORVA_Tool(const QString& name) : m_name(name) {}
 
 KORVA_Tool::~KORVA_Tool() = default;
 
+KORVA_Canvas* KORVA_Tool::canvas() const
+{
+    return m_canvas;
+}
+
+KORVA_Zoom KORVA_Tool::zoom() const
+{
+    return KORVA_Zoom(m_canvas->zoom());
+}
+
 void KORVA_Tool::activate(KORVA_Canvas* c)
 {
     KORVA_ASSERT(!c->isActive());
@@ -47,3 +57,14 @@ void KORVA_Tool::enterEvent(QEvent*) {}
 void KORVA_Tool::leaveEvent(QEvent*) {}
 void KORVA_Tool::activating() {}
 void KORVA_Tool::deactivating() {}
+void KORVA_Tool::zoomedRebuilt() {}
+
+void KORVA_Tool::inputMethodEvent(QInputMethodEvent* event)
+{
+    event->ignore();
+}
+
+QVariant KORVA_Tool::inputMethodQuery(Qt::InputMethodQuery) const
+{
+    return {};
+}

@@ -1,12 +1,16 @@
 #pragma once
 
 #include "KORVA_Export.h"
+#include "KORVA_Zoom.h"
 
 #include <QBrush>
 #include <QObject>
 #include <QPen>
+#include <QPointer>
+#include <QVariant>
 
 class KORVA_Canvas;
+class QInputMethodEvent;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -33,7 +37,7 @@ public:
 
     [[nodiscard]] bool isActive() const { return m_active; }
     /// The canvas worked on; null while inactive.
-    [[nodiscard]] KORVA_Canvas* canvas() const { return m_canvas; }
+    [[nodiscard]] KORVA_Canvas* canvas() const;
     /// Aborts when the canvas already has an active tool.
     void activate(KORVA_Canvas* c);
     /// Aborts when the tool is not active.
@@ -65,19 +69,29 @@ public:
     virtual void activating();
     virtual void deactivating();
 
+    /// Whether printable keys, Tab and the input method belong to the tool at the moment.
+    [[nodiscard]] virtual bool takesText() const { return false; }
+    virtual void inputMethodEvent(QInputMethodEvent* event);
+    /// What the input method asks of the text being typed; positions in widget coordinates.
+    [[nodiscard]] virtual QVariant inputMethodQuery(Qt::InputMethodQuery query) const;
+    /// The zoomed picture was drawn anew: feedback that the tool had painted into it is gone.
+    virtual void zoomedRebuilt();
+
 signals:
     void modified();
     void TextToolClicked();
 
 protected:
     void setTextKey(bool on) { m_textKey = on; }
+    /// The canvas's zoom; only while there is a canvas.
+    [[nodiscard]] KORVA_Zoom zoom() const;
 
 private:
     int m_id = -1;
     bool m_active = false;
     bool m_textKey = false;
     QString m_name;
-    KORVA_Canvas* m_canvas = nullptr; // not owned
+    QPointer<KORVA_Canvas> m_canvas;
     QPen m_leftPen;
     QBrush m_leftBrush;
     QPen m_rightPen;

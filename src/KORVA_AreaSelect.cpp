@@ -1,0 +1,127 @@
+#include "KORVA_AreaSelect.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_ClassicPainter.h"
+
+#include <QAbstractEventDispatcher>
+#include <QMouseEvent>
+
+#include <utility>
+
+KORVA_AreaSelect::KORVA_AreaSelect(const QString& name) : KORVA_Tool(name) {}
+
+void KORVA_AreaSelect::activating()
+{
+    canvas()->setCursor(Qt::CrossCursor);
+}
+
+void KORVA_AreaSelect::deactivating()
+{
+    if (m_selecting) {
+        toggleFrame(m_end); // a drag that the change of tools cuts short leaves no frame behind
+        m_end = m_start;
+    }
+    disableSelection();
+    canvas()->clearSelection();
+}
+
+void KORVA_AreaSelect::timerEvent(QTimerEvent*)
+{
+    drawFrame();
+}
+
+void KORVA_AreaSelect::selection(bool exists)
+{
+    if (!exists)
+        disableSelection();
+}
+
+void KORVA_AreaSelect::disableSelection()
+{
+    if (auto* dispatcher = QAbstractEventDispatcher::instance())
+        dispatcher->unregisterTimers(this);
+    if (m_frameShown)
+        drawFrame();
+}
+
+void KORVA_AreaSelect::mousePressEvent(QMouseEvent* event)
+{
+    // After a tap the tool is still selecting: the next drag grows from the tap.
+    if (isActive() && event->button() == Qt::LeftButton && !m_selecting) {
+        disableSelection();
+        m_selecting = true;
+        m_start = m_end = event->position().toPoint();
+    }
+    m_pressed = true;
+}
+
+void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint to = event->position().toPoint();
+    if (!m_pressed || !isActive() || !m_selecting || to == m_end)
+        return;
+    toggleFrame(m_end);
+    toggleFrame(to);
+    m_end = to;
+    canvas()->refresh();
+}
+
+void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool pressed = std::exchange(m_pressed, false);
+    if (!pressed || !isActive() || event->button() != Qt::LeftButton)
+        return;
+    const QPoint corner = limited(event->position().toPoint());
+    if (corner == m_start)
+        return;
+    toggleFrame(m_end);
+    select(corner);
+}
+
+void KORVA_AreaSelect::selectAll()
+{
+    if (!isActive() || m_selecting)
+        return;
+    disableSelection();
+    m_start = m_end = QPoint(0, 0);
+    if (canvas()->size() != QSize(0, 0))
+        select(QPoint(canvas()->width(), canvas()->height()));
+}
+
+// The corner is the first pixel that no longer belongs to the selection.
+void KORVA_AreaSelect::select(QPoint corner)
+{
+    m_selecting = false;
+    m_frameShown = false;
+    canvas()->mergePastePixmap();
+    canvas()->setSelection(QRect(m_start, corner - QPoint(1, 1)));
+}
+
+// From 1 to the size itself: the selection ends one pixel before.
+QPoint KORVA_AreaSelect::limited(QPoint p) const
+{
+    return {qBound(1, p.x(), qMax(1, canvas()->width())), qBound(1, p.y(), qMax(1, canvas()->height()))};
+}
+
+void KORVA_AreaSelect::zoomedRebuilt()
+{
+    m_frameShown = false;
+    if (m_selecting)
+        toggleFrame(m_end);
+}
+
+void KORVA_AreaSelect::drawFrame()
+{
+    if (!canvas())
+        return;
+    toggleFrame(m_end);
+    canvas()->refresh();
+    m_frameShown = !m_frameShown;
+}
+
+void KORVA_AreaSelect::toggleFrame(QPoint to)
+{
+    KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
+    painter.setPen(QPen(Qt::green, 0, Qt::DashLine));
+    painter.drawRect(m_start.x(), m_start.y(), to.x() - m_start.x(), to.y() - m_start.y());
+}

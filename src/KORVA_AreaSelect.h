@@ -1,0 +1,44 @@
+#pragma once
+
+#include "KORVA_Tool.h"
+
+#include <QPoint>
+
+/// Marks a rectangle with a dashed frame and hands it to the canvas, which lifts it into a floating piece.
+/// The left button only. Leaving the tool drops the selection.
+class KORVA_EXPORT KORVA_AreaSelect : public KORVA_Tool
+{
+    Q_OBJECT
+
+public:
+    explicit KORVA_AreaSelect(const QString& name);
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void activating() override;
+    void deactivating() override;
+    void zoomedRebuilt() override;
+
+public slots:
+    /// What the canvas says of its selection: gone, and the frame goes too.
+    void selection(bool exists);
+    void disableSelection();
+    /// Selects the whole canvas; nothing while a drag is going on.
+    void selectAll();
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    void drawFrame();
+    void toggleFrame(QPoint to);
+    void select(QPoint corner);
+    [[nodiscard]] QPoint limited(QPoint p) const;
+
+    QPoint m_start; ///< the anchor; widget coordinates
+    QPoint m_end;   ///< the corner of the frame on screen
+    bool m_selecting = false;
+    bool m_frameShown = false; ///< by drawFrame(), not by a drag
+    bool m_pressed = false;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "KORVA_Tool.h"
+
+#include <QPoint>
+
+/// The hand: pans the scroll view around the canvas by a tenth of the way from the press, again with every
+/// move. It never touches the picture.
+class KORVA_EXPORT KORVA_Drag : public KORVA_Tool
+{
+    Q_OBJECT
+
+public:
+    explicit KORVA_Drag(const QString& name);
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void activating() override;
+
+private:
+    QPoint m_press;
+    QPoint m_last;
+};

@@ -1,0 +1,132 @@
+#include "KORVA_Manager.h"
+
+#include "KORVA_AreaSelect.h"
+#include "KORVA_Assert.h"
+#include "KORVA_Canvas.h"
+#include "KORVA_Drag.h"
+#include "KORVA_Ellipse.h"
+#include "KORVA_Line.h"
+#include "KORVA_Pen.h"
+#include "KORVA_Rectangle.h"
+#include "KORVA_Rubber.h"
+#include "KORVA_Text.h"
+
+namespace {
+
+template <typename Tool>
+std::unique_ptr<KORVA_Tool> make(const QString& name)
+{
+    return std::make_unique<Tool>(name);
+}
+
+constexpr struct
+{
+    std::unique_ptr<KORVA_Tool> (*make)(const QString& name);
+    const char* name;
+} toolTable[] = {
+    // The row's number is the tool's identifier.
+    {make<KORVA_Pen>, "Pencil"},          {make<KORVA_AreaSelect>, "Area Select"},
+    {make<KORVA_Line>, "Line"},           {make<KORVA_Text>, "Text"},
+    {make<KORVA_Rectangle>, "Rectangle"}, {make<KORVA_Ellipse>, "Ellipse"},
+    {make<KORVA_Rubber>, "Rubber"},       {make<KORVA_Drag>, "Drag"},
+};
+
+} // namespace
+
+KORVA_Manager::KORVA_Manager(KORVA_Canvas* c)
+{
+    KORVA_ASSERT(c != 0); // NOLINT(modernize-use-nullptr): the message quotes it
+    KORVA_ASSERT(!(c->isActive()));
+    m_canvas = c;
+    createTools();
+    currentTool()->activate(c);
+    m_leftColor = m_rightColor = QColor(255, 0, 0);
+    updateProperties();
+    c->activate(currentTool());
+    connect(this, &KORVA_Manager::modified, c, &KORVA_Canvas::markModified);
+}
+
+KORVA_Manager::~KORVA_Manager()
+{
+    if (m_canvas && m_canvas->getCurrentTool() == currentTool())
+        m_canvas->deactivate();
+}
+
+void KORVA_Manager::createTools()
+{
+    for (const auto& row : toolTable) {
+        m_tools.push_back(row.make(QString::fromLatin1(row.name)));
+        m_tools.back()->setId(static_cast<int>(m_tools.size()) - 1);
+        if (auto* areaSelect = qobject_cast<KORVA_AreaSelect*>(m_tools.back().get()))
+            connect(m_canvas, qOverload<bool>(&KORVA_Canvas::selection), areaSelect,
+                    &KORVA_AreaSelect::selection);
+    }
+}
+
+KORVA_Tool* KORVA_Manager::tool(int id) const
+{
+    return id >= 0 && id < static_cast<int>(m_tools.size()) ? m_tools[static_cast<size_t>(id)].get()
+                                                            : nullptr;
+}
+
+void KORVA_Manager::setCurrentTool(int id)
+{
+    const int next = tool(id) ? id : 0;
+    if (next == m_current)
+        return;
+    m_canvas->mergePastePixmap();
+    m_canvas->deactivate();
+    currentTool()->deactivate();
+    m_current = next;
+    currentTool()->activate(m_canvas);
+    handOver();
+    m_canvas->activate(currentTool());
+}
+
+void KORVA_Manager::updateProperties()
+{
+    m_pen.setWidth(m_penWidth);
+    handOver();
+}
+
+void KORVA_Manager::handOver()
+{
+    m_pen.setColor(m_leftColor);
+    m_brush.setColor(m_leftColor);
+    currentTool()->setLeftPen(m_pen);
+    currentTool()->setLeftBrush(m_brush);
+    m_pen.setColor(m_rightColor);
+    m_brush.setColor(m_rightColor);
+    currentTool()->setRightPen(m_pen);
+    currentTool()->setRightBrush(m_brush);
+}
+
+void KORVA_Manager::setPen(QPen pen)
+{
+    m_pen = std::move(pen);
+    updateProperties();
+}
+
+void KORVA_Manager::setPenWidth(int width)
+{
+    m_penWidth = width;
+    updateProperties();
+}
+
+void KORVA_Manager::setBrush(QBrush brush)
+{
+    m_brush = std::move(brush);
+    updateProperties();
+}
+
+void KORVA_Manager::setLMBColor(const QColor& color)
+{
+    m_leftColor = color;
+    updateProperties();
+}
+
+void KORVA_Manager::setRMBColor(const QColor& color)
+{
+    m_rightColor = color;
+    updateProperties();
+}

@@ -1,0 +1,49 @@
+#include "KORVA_Rubber.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_ClassicPainter.h"
+
+#include <QMouseEvent>
+
+KORVA_Rubber::KORVA_Rubber(const QString& name) : KORVA_DrawingTool(name) {}
+
+void KORVA_Rubber::activating()
+{
+    canvas()->setCursor(Qt::CrossCursor);
+}
+
+void KORVA_Rubber::mousePressEvent(QMouseEvent* event)
+{
+    if (!isActive() || m_drawing)
+        return;
+    m_drawing = true;
+    setButton(event->button());
+    canvas()->saveOldPix();
+}
+
+void KORVA_Rubber::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!canvas())
+        return;
+    const QPoint p = event->position().toPoint();
+    erase(zoom().toPicture(p), p);
+}
+
+void KORVA_Rubber::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!isActive() || event->button() != button())
+        return;
+    canvas()->markModified();
+    const QPoint p = zoom().toPicture(event->position().toPoint());
+    erase(p, p); // kept: the last square lies at the picture's place on the screen, too
+}
+
+void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)
+{
+    const int side = screenPen().width();
+    const QSize square(side, side);
+    KORVA_ClassicPainter(canvas()->pixmap()).fillRect(QRect(inPicture, square), Qt::white);
+    KORVA_ClassicPainter(canvas()->zoomedPixmap()).fillRect(QRect(onScreen, square), Qt::white);
+    m_drawing = false;
+    canvas()->refresh();
+}

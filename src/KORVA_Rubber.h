@@ -1,0 +1,24 @@
+#pragma once
+
+#include "KORVA_DrawingTool.h"
+
+/// The eraser: stamps white squares with their top left under the stylus. The side is the pen's width times
+/// the zoom, in both pictures alike. Each accepted press is an undo step; the release marks the picture
+/// modified.
+class KORVA_EXPORT KORVA_Rubber : public KORVA_DrawingTool
+{
+    Q_OBJECT
+
+public:
+    explicit KORVA_Rubber(const QString& name);
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void activating() override;
+
+private:
+    void erase(QPoint inPicture, QPoint onScreen);
+
+    bool m_drawing = false; ///< between a press and the first move: after that another press is taken
+};

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "KORVA_Tool.h"
+
+#include <QBasicTimer>
+#include <QFont>
+#include <QPoint>
+#include <QStack>
+
+#include <memory>
+#include <vector>
+
+class KORVA_ClassicPainter;
+
+/// Text at a tapped point. What is typed is shown inverted in the zoomed picture beside a blinking I-beam
+/// and painted into the picture when it is committed: by the next press, by leaving the tool, by a change
+/// of size.
+///
+/// The left pen gives the colour and, by its width, the size: 1, 3 and 5 mean 12, 16 and 20 points.
+/// Positions are widget coordinates, y is the baseline.
+class KORVA_EXPORT KORVA_Text : public KORVA_Tool
+{
+    Q_OBJECT
+
+public:
+    explicit KORVA_Text(const QString& name);
+    ~KORVA_Text() override;
+
+    /// Whether the key types or deletes text; other keys are left to the host.
+    [[nodiscard]] static bool isTyping(const QKeyEvent& event);
+
+    /// True when a text is open and nothing is typed; before the first tap there is none, which is not
+    /// empty.
+    [[nodiscard]] bool isBufferEmpty() const;
+    /// True when the text was committed by paintProportionBuffer() and nothing was typed since.
+    [[nodiscard]] bool getPaintPropotionStatus() const { return m_proportionPainted; }
+    /// Forgets the typed text without painting it; undo works again.
+    void resetBuffer();
+    /// Commits the typed text: snapshot, paint, modified. All three also for an empty text.
+    void paintBuffer();
+    /// Commits and empties the text; what is typed next goes on at the cursor.
+    void paintProportionBuffer();
+    void clearOldCursor();
+    /// Shows the typed text again in the font of the pen that is now set.
+    void penChanged();
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    /// A recorded key once more: not recorded again, and what was committed stays committed.
+    void keyPressEventSimu(QKeyEvent* event);
+    void activating() override;
+    void deactivating() override;
+
+    [[nodiscard]] bool takesText() const override { return m_started; }
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void zoomedRebuilt() override;
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    [[nodiscard]] QFont textFont() const;
+    [[nodiscard]] int advance(const QString& character) const;
+    void typeKey(QKeyEvent* event);
+    void breakLine();
+    void deleteBackward();
+    void insert(const QString& text);
+    void drawText(KORVA_ClassicPainter& painter, QPoint baseline, const QString& text) const;
+    void showText(const QString& text);
+    void hideCursor();
+    void moveCursorX(int x);
+    void toggleCursor();
+    void setText(const QString& text);
+    [[nodiscard]] QRect cursorRect() const;
+
+    QPoint m_lineStart;
+    QPoint m_cursor; ///< between press and release: the press
+    bool m_started = false;
+    bool m_cursorShown = false;
+    bool m_proportionPainted = false;
+    QString m_text;      ///< null before the first tap
+    QString m_shown;     ///< what is inverted on screen: the text and what the input method is composing
+    QStack<int> m_stops; ///< the cursor's x before each line break and tab of the text
+    std::vector<std::unique_ptr<QKeyEvent>> m_keys;
+    QBasicTimer m_blink;
+};

@@ -1,0 +1,79 @@
+#include "KORVA_TwoPointTool.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_ClassicPainter.h"
+
+#include <QMouseEvent>
+
+void KORVA_TwoPointTool::activating()
+{
+    canvas()->setCursor(Qt::CrossCursor);
+}
+
+void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
+{
+    if (!isActive() || m_state == Dragging)
+        return;
+    m_state = Dragging;
+    m_start = m_end = event->position().toPoint();
+    setButton(event->button());
+}
+
+void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint to = event->position().toPoint();
+    if (!isActive() || m_state == Idle || to == m_end)
+        return;
+    {
+        KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
+        painter.setPen(screenPen());
+        drawLeftShape(painter, m_start, m_end);
+        drawShape(painter, m_start, to);
+    }
+    m_end = to;
+    canvas()->refresh();
+}
+
+void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!isActive() || m_state == Idle || event->button() != button())
+        return;
+    beginChange();
+    QPixmap* picture =
+        canvas()->pixmap(); // before the screen is touched: it may merge a piece and redraw that
+    togglePreview();
+    m_state = Idle;
+
+    const QPoint to = commitPoint(m_end, event->position().toPoint());
+    paintShape(canvas()->zoomedPixmap(), screenPen(), m_start, to);
+    paintShape(picture, picturePen(), zoom().toPicture(m_start), zoom().toPicture(to));
+    canvas()->refresh();
+}
+
+void KORVA_TwoPointTool::zoomedRebuilt()
+{
+    if (m_state == Dragging)
+        togglePreview();
+}
+
+void KORVA_TwoPointTool::drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const
+{
+    drawShape(painter, from, to);
+}
+
+// The first move removes a shape of no size that no press has drawn: it is on screen with every preview.
+void KORVA_TwoPointTool::togglePreview()
+{
+    KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
+    painter.setPen(screenPen());
+    drawShape(painter, m_start, m_end);
+    drawShape(painter, m_start, m_start);
+}
+
+void KORVA_TwoPointTool::paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to)
+{
+    KORVA_ClassicPainter painter(target);
+    painter.setPen(pen);
+    painter.setBrush(brush());
+    drawShape(painter, from, to);
+}
