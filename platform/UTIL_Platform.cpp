@@ -1,10 +1,13 @@
 #include "UTIL_Platform.h"
 
+#include "UTIL_MessageBox.h"
+
 #include <QStandardPaths>
 
 namespace {
 
 constexpr qint64 megapixel = 1'000'000;
+constexpr int millisecondsPerSecond = 1000;
 
 std::unique_ptr<UTIL_Platform>& installed()
 {
@@ -25,6 +28,28 @@ UTIL_Platform* UTIL_Platform::instance()
 void UTIL_Platform::install(std::unique_ptr<UTIL_Platform> platform)
 {
     installed() = platform ? std::move(platform) : std::make_unique<UTIL_Platform>();
+}
+
+int UTIL_Platform::question(QWidget* parent, const QString& icon, const QString& text,
+                            const QStringList& buttons)
+{
+    return UTIL_MessageBox::ask(parent, icon, text, buttons);
+}
+
+void UTIL_Platform::timedInformation(QWidget* parent, const QString& icon, const QString& text,
+                                     const QString& button, int timeout)
+{
+    UTIL_MessageBox(parent, icon, text, {button}, timeout).exec();
+}
+
+void UTIL_Platform::timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout)
+{
+    UTIL_MessageBox(parent, icon, text, {}, timeout).exec();
+}
+
+int UTIL_Platform::timeoutSecond() const
+{
+    return millisecondsPerSecond;
 }
 
 QString UTIL_Platform::photoFolder() const

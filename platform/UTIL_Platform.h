@@ -3,6 +3,7 @@
 #include "KORVA_Export.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -24,6 +25,20 @@ public:
     static UTIL_Platform* instance();
     /// Puts other services in force; null brings the desktop's back.
     static void install(std::unique_ptr<UTIL_Platform> platform);
+
+    // `icon` is a file name for RES_ICON_Reader. Every box is modal and belongs to the parent's window.
+
+    /// Asks and returns the index of the button pressed, 0 the first. Only the buttons answer; Escape and
+    /// closing mean the button named "Cancel" where there is one.
+    virtual int question(QWidget* parent, const QString& icon, const QString& text,
+                         const QStringList& buttons);
+    /// Tells something until its button or a tap takes it away, at most `timeout` seconds.
+    virtual void timedInformation(QWidget* parent, const QString& icon, const QString& text,
+                                  const QString& button, int timeout);
+    /// The same without a button.
+    virtual void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout);
+    /// How many milliseconds a second of a time-out lasts; 0 closes timed boxes at once.
+    [[nodiscard]] virtual int timeoutSecond() const;
 
     /// Where the user's pictures live; folder dialogs start there.
     [[nodiscard]] virtual QString photoFolder() const;

@@ -1,0 +1,48 @@
+#include "RES_ICON_Reader.h"
+
+#include "UTIL_Platform.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include <cmath>
+
+// A resource of a static library is linked only where it is asked for; the macro wants no namespace.
+static void registerIcons()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
+namespace {
+
+constexpr int sharpest = 3;
+
+QPixmap sharpestOf(const QDir& folder, const QString& name)
+{
+    const QFileInfo plain(name);
+    for (int scale = std::clamp(int(std::ceil(qGuiApp->devicePixelRatio())), 1, sharpest); scale > 0;
+         --scale) {
+        const QString mark = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
+        const QString file =
+            folder.filePath(plain.completeBaseName() + mark + QLatin1Char('.') + plain.suffix());
+        QPixmap icon;
+        if (QFileInfo(file).isFile() && icon.load(file)) {
+            icon.setDevicePixelRatio(scale);
+            return icon;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+QPixmap RES_ICON_Reader::getIcon(const QString& name)
+{
+    if (name.isEmpty() || name.contains(QLatin1Char('/')))
+        return {};
+    registerIcons();
+    const QString replaced = UTIL_Platform::instance()->iconFolder();
+    const QPixmap icon = replaced.isEmpty() ? QPixmap() : sharpestOf(QDir(replaced), name);
+    return icon.isNull() ? sharpestOf(QDir(QStringLiteral(":/korva/icons")), name) : icon;
+}

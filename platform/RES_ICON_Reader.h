@@ -1,0 +1,16 @@
+#pragma once
+
+#include "KORVA_Export.h"
+
+#include <QPixmap>
+#include <QString>
+
+/// The user interface's pictures, by file name.
+class KORVA_EXPORT RES_ICON_Reader
+{
+public:
+    /// The picture of a plain file name such as "Dialog_Error.gif", as sharp as the screen can show it: of
+    /// "Dialog_Error@2x.gif" and "Dialog_Error@3x.gif" the one that fits the device pixel ratio. A file in
+    /// UTIL_Platform::iconFolder() comes before the built-in one. Null for an unknown name.
+    [[nodiscard]] static QPixmap getIcon(const QString& name);
+};

@@ -1,0 +1,95 @@
+#include "UTIL_Dialog.h"
+
+#include "UTIL_Geometry.h"
+#include "UTIL_Skin.h"
+#include "UTIL_Veil.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+
+UTIL_Dialog::UTIL_Dialog(int type, bool modal, QWidget* parent, const char* name, Qt::WindowFlags flags)
+    : QDialog(parent, (flags & ~Qt::WindowType_Mask) | Qt::Dialog | Qt::FramelessWindowHint),
+      m_title(new QLabel(this))
+{
+    setObjectName(name);
+    setModal(modal);
+    setPalette(UTIL_Skin::palette());
+    setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
+    if (type == StandardDialog)
+        setFixedSize(UTIL_Geometry::dialogSize());
+
+    m_title->setGeometry(fromGlobal(UTIL_Geometry(*this).title()));
+    m_title->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
+    m_title->hide();
+}
+
+UTIL_Dialog::~UTIL_Dialog()
+{
+    delete m_veil;
+}
+
+void UTIL_Dialog::setDlgTitle(const QString& title)
+{
+    m_title->setText(title);
+    m_title->setVisible(!title.isEmpty());
+    setWindowTitle(title);
+}
+
+QString UTIL_Dialog::dlgTitle() const
+{
+    return m_title->text();
+}
+
+QRect UTIL_Dialog::fromGlobal(const QRect& global) const
+{
+    return {mapFromGlobal(global.topLeft()), global.size()};
+}
+
+void UTIL_Dialog::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        place();
+        if (QWidget* veiled = isVeiling() ? owner() : nullptr)
+            m_veil = new UTIL_Veil(veiled);
+    }
+    QDialog::setVisible(visible);
+    if (!visible)
+        delete m_veil;
+}
+
+void UTIL_Dialog::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), UTIL_Skin::color(UTIL_Skin::Color::Edge));
+    constexpr int edge = UTIL_Skin::Size::hairline;
+    painter.fillRect(rect().adjusted(edge, edge, -edge, -edge), UTIL_Skin::color(UTIL_Skin::Color::Ground));
+}
+
+bool UTIL_Dialog::isVeiling() const
+{
+    return isModal();
+}
+
+QWidget* UTIL_Dialog::owner() const
+{
+    return parentWidget() ? parentWidget()->window() : nullptr;
+}
+
+void UTIL_Dialog::place()
+{
+    const QWidget* anchor = owner();
+    if (!anchor || !anchor->isVisible())
+        anchor = QApplication::activeWindow();
+    const QScreen* onScreen = anchor ? anchor->screen() : screen();
+    const QRect bounds = onScreen->availableGeometry();
+
+    QRect card(QPoint(), size());
+    card.moveCenter((anchor ? anchor->geometry() : bounds).center());
+    card.moveRight(std::min(card.right(), bounds.right()));
+    card.moveBottom(std::min(card.bottom(), bounds.bottom()));
+    card.moveLeft(std::max(card.left(), bounds.left()));
+    card.moveTop(std::max(card.top(), bounds.top()));
+    move(card.topLeft());
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QRect>
+
+class QWidget;
+
+/// Where the parts of a dialog lie. The rectangles are in global coordinates, for the dialog at its present
+/// place; UTIL_Dialog::fromGlobal() brings them into the dialog.
+///
+/// The soft keys lie side by side along the lower edge, the first on the left.
+class UTIL_Geometry
+{
+public:
+    explicit UTIL_Geometry(const QWidget& dialog) : m_dialog(dialog) {}
+
+    /// The size of a dialog with title, content and soft keys; it fits the 240 × 320 of the screen.
+    [[nodiscard]] static QSize dialogSize();
+
+    [[nodiscard]] QRect title() const;
+    /// Between title and soft keys, with the dialog's margin at both sides.
+    [[nodiscard]] QRect content() const;
+    /// Between title and soft keys, from edge to edge: for lists.
+    [[nodiscard]] QRect largeContent() const;
+    [[nodiscard]] QRect firstSoftKey() const;
+    [[nodiscard]] QRect secondSoftKey() const;
+
+private:
+    [[nodiscard]] QRect global(const QRect& local) const;
+
+    const QWidget& m_dialog;
+};

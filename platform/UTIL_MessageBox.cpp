@@ -1,0 +1,126 @@
+#include "UTIL_MessageBox.h"
+
+#include "RES_ICON_Reader.h"
+#include "UTIL_Platform.h"
+#include "UTIL_PushButton.h"
+#include "UTIL_Skin.h"
+#include "UTIL_WrapLabel.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTimer>
+
+namespace {
+
+using Size = UTIL_Skin::Size;
+
+constexpr int innerWidth = Size::dialogWidth - 2 * Size::margin;
+
+} // namespace
+
+UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QString& text,
+                                 const QStringList& buttons, std::optional<int> timeout)
+    : UTIL_Dialog(FreeDialog, true, parent),
+      m_iconName(icon),
+      m_timeout(timeout),
+      m_answer(int(buttons.size()) - 1)
+{
+    setAccessibleName(text);
+    setWindowTitle(text);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Size::margin, Size::messageMargin, Size::margin,
+                               buttons.isEmpty() ? Size::messageMargin : Size::spacing);
+    column->setSpacing(Size::spacing);
+    if (const QPixmap picture = RES_ICON_Reader::getIcon(icon); !picture.isNull()) {
+        auto* label = new QLabel(this);
+        label->setPixmap(picture);
+        label->setAlignment(Qt::AlignCenter);
+        column->addWidget(label);
+    }
+    auto* label = new UTIL_WrapLabel(text, this);
+    label->setFixedSize(innerWidth, label->heightForWidth(innerWidth));
+    column->addWidget(label);
+    if (!buttons.isEmpty()) {
+        column->addSpacing(Size::spacing);
+        column->addLayout(createButtons(buttons));
+    }
+    setFixedSize(Size::dialogWidth, column->sizeHint().height());
+}
+
+QLayout* UTIL_MessageBox::createButtons(const QStringList& texts)
+{
+    std::vector<UTIL_PushButton*> keys;
+    int widest = 0;
+    for (const QString& text : texts) {
+        const int index = int(keys.size());
+        auto* key = new UTIL_PushButton(QString(), text, this);
+        connect(key, &QPushButton::clicked, this, [this, index] { finish(index); });
+        if (text == QLatin1String("Cancel") || text == tr("Cancel", "message box"))
+            m_cancel = index;
+        widest = std::max(widest, key->sizeHint().width());
+        keys.push_back(key);
+    }
+    keys.front()->setDefault(true);
+    keys.front()->setFocus();
+
+    const int count = int(keys.size());
+    const bool fitsRow = count * widest + (count - 1) * Size::spacing <= innerWidth;
+    auto* box = new QBoxLayout(fitsRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    box->setSpacing(Size::spacing);
+    for (UTIL_PushButton* key : keys)
+        box->addWidget(key, 1);
+    return box;
+}
+
+int UTIL_MessageBox::ask(QWidget* parent, const QString& icon, const QString& text,
+                         const QStringList& buttons)
+{
+    UTIL_MessageBox box(parent, icon, text, buttons);
+    box.exec();
+    return box.answer();
+}
+
+void UTIL_MessageBox::finish(int answer)
+{
+    m_answer = answer;
+    accept();
+}
+
+void UTIL_MessageBox::reject()
+{
+    if (m_cancel >= 0)
+        finish(m_cancel);
+}
+
+void UTIL_MessageBox::showEvent(QShowEvent* event)
+{
+    UTIL_Dialog::showEvent(event);
+    if (m_timeout) {
+        const int second = UTIL_Platform::instance()->timeoutSecond();
+        QTimer::singleShot(std::max(0, *m_timeout * second), this, &QDialog::accept);
+    }
+}
+
+void UTIL_MessageBox::keyPressEvent(QKeyEvent* event)
+{
+    const bool taps = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                      event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
+    if (m_timeout && taps)
+        accept();
+    else
+        UTIL_Dialog::keyPressEvent(event);
+}
+
+void UTIL_MessageBox::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void UTIL_MessageBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (m_timeout)
+        accept();
+}

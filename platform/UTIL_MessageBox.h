@@ -1,0 +1,53 @@
+#pragma once
+
+#include "UTIL_Dialog.h"
+
+#include <QStringList>
+
+#include <optional>
+
+/// A message with a picture above its text, and buttons below: a question that waits for one of its
+/// buttons, or a timed message that closes by itself.
+///
+/// Escape and closing press the button named "Cancel", in English or in the user's language, and do nothing
+/// in a box without one. A timed box is also tapped away, by a tap anywhere on it, Return or Space.
+class UTIL_MessageBox : public UTIL_Dialog
+{
+    Q_OBJECT
+    Q_PROPERTY(QString iconName READ iconName CONSTANT)
+    Q_PROPERTY(int timeout READ timeout CONSTANT)
+
+public:
+    /// `icon` is a file name for RES_ICON_Reader. `timeout` is in seconds of UTIL_Platform; without it the
+    /// box is a question and stays.
+    UTIL_MessageBox(QWidget* parent, const QString& icon, const QString& text, const QStringList& buttons,
+                    std::optional<int> timeout = {});
+
+    /// Runs a question and returns the index of the button pressed. Where the program ends before an
+    /// answer, it is the last button's.
+    [[nodiscard]] static int ask(QWidget* parent, const QString& icon, const QString& text,
+                                 const QStringList& buttons);
+
+    [[nodiscard]] QString iconName() const { return m_iconName; }
+    /// 0 for a question.
+    [[nodiscard]] int timeout() const { return m_timeout.value_or(0); }
+    [[nodiscard]] int answer() const { return m_answer; }
+
+    void reject() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    [[nodiscard]] bool isVeiling() const override { return !m_timeout; }
+
+private:
+    [[nodiscard]] QLayout* createButtons(const QStringList& texts);
+    void finish(int answer);
+
+    QString m_iconName;
+    std::optional<int> m_timeout;
+    int m_answer;
+    int m_cancel = -1; // the index of the button named "Cancel"
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "KORVA_Export.h"
+
+#include <QPushButton>
+
+/// A flat key with an icon, a text or both. The filled key is the one that Return presses.
+class KORVA_EXPORT UTIL_PushButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /// The role of a soft key. The values 1, 2, 9 and 10 are in use: second or first key, with or without
+    /// an outline.
+    enum Flag : int {
+        SecondSoftKey = 1, ///< the right key; quiet
+        FirstSoftKey = 2,  ///< the left key; the dialog's default, which Return presses
+        Outlined = 8,      ///< has an outline when at rest
+    };
+
+    /// `iconName` is a file name for RES_ICON_Reader; empty for no icon.
+    UTIL_PushButton(const QString& iconName, const QString& text, QWidget* parent = nullptr,
+                    const char* name = nullptr);
+
+    /// Any combination of Flag; other bits are kept and mean nothing.
+    void setFlags(int flags);
+    [[nodiscard]] int flags() const { return m_flags; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int m_flags = Outlined;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLabel>
+
+/// A centred text that is broken between words, and within a word that is wider than the label (a file
+/// name). Of a text with more lines than the skin allows the rest is left out and marked by an ellipsis;
+/// the whole is the tool tip then.
+class UTIL_WrapLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit UTIL_WrapLabel(const QString& text, QWidget* parent = nullptr);
+
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return {}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    [[nodiscard]] QStringList lines(int width) const;
+};
