@@ -1,6 +1,7 @@
 #include "UTIL_Dialog.h"
 
 #include "UTIL_Geometry.h"
+#include "UTIL_PushButton.h"
 #include "UTIL_Skin.h"
 #include "UTIL_Veil.h"
 
@@ -45,6 +46,16 @@ QString UTIL_Dialog::dlgTitle() const
 QRect UTIL_Dialog::fromGlobal(const QRect& global) const
 {
     return {mapFromGlobal(global.topLeft()), global.size()};
+}
+
+UTIL_PushButton* UTIL_Dialog::createSoftKey(const QString& text, int flags)
+{
+    const UTIL_Geometry geometry(*this);
+    const bool first = flags & UTIL_PushButton::FirstSoftKey;
+    auto* key = new UTIL_PushButton(QString(), text, this);
+    key->setGeometry(fromGlobal(first ? geometry.firstSoftKey() : geometry.secondSoftKey()));
+    key->setFlags(flags);
+    return key;
 }
 
 void UTIL_Dialog::setVisible(bool visible)

@@ -6,6 +6,7 @@
 #include <QPointer>
 
 class QLabel;
+class UTIL_PushButton;
 class UTIL_Veil;
 
 /// The base of every dialog: a flat card with a title, its content and the soft keys, which opens in the
@@ -38,6 +39,9 @@ public:
     void setVisible(bool visible) override;
 
 protected:
+    /// A soft key in the rectangle that its UTIL_PushButton flags name. The dialog owns it.
+    UTIL_PushButton* createSoftKey(const QString& text, int flags);
+
     void paintEvent(QPaintEvent* event) override;
     /// Whether the parent's window is veiled while the dialog is open.
     [[nodiscard]] virtual bool isVeiling() const;

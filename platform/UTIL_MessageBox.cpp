@@ -40,12 +40,16 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
         column->addWidget(label);
     }
     auto* label = new UTIL_WrapLabel(text, this);
-    label->setFixedSize(innerWidth, label->heightForWidth(innerWidth));
     column->addWidget(label);
     if (!buttons.isEmpty()) {
         column->addSpacing(Size::spacing);
         column->addLayout(createButtons(buttons));
     }
+
+    label->setFixedSize(innerWidth, 0);
+    const int room = Size::screenHeight - column->sizeHint().height();
+    label->setMaximumLines(room / label->fontMetrics().lineSpacing());
+    label->setFixedHeight(label->heightForWidth(innerWidth));
     setFixedSize(Size::dialogWidth, column->sizeHint().height());
 }
 

@@ -2,6 +2,8 @@
 
 #include "UTIL_MessageBox.h"
 
+#include "UTIL_PictureDialog.h"
+
 #include <QStandardPaths>
 
 namespace {
@@ -50,6 +52,16 @@ void UTIL_Platform::timedMessage(QWidget* parent, const QString& icon, const QSt
 int UTIL_Platform::timeoutSecond() const
 {
     return millisecondsPerSecond;
+}
+
+UTIL_PictureDialog* UTIL_Platform::createPickDialog(QWidget* parent, const QString&, const QStringList&)
+{
+    return new UTIL_PictureDialog(parent);
+}
+
+UTIL_PictureDialog* UTIL_Platform::createSaveDialog(QWidget* parent, const QString&, const QStringList&)
+{
+    return new UTIL_PictureDialog(parent);
 }
 
 QString UTIL_Platform::photoFolder() const

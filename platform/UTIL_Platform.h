@@ -8,6 +8,7 @@
 #include <memory>
 
 class QWidget;
+class UTIL_PictureDialog;
 
 /// The services of the device that the engine stands on. A host that has its own derives from this class,
 /// overrides what it replaces and hands the object to install(); everything else stays the desktop's.
@@ -39,6 +40,13 @@ public:
     virtual void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout);
     /// How many milliseconds a second of a time-out lasts; 0 closes timed boxes at once.
     [[nodiscard]] virtual int timeoutSecond() const;
+
+    /// Dialogs in which the user picks or names one picture file, filtered by the patterns ("*.png").
+    /// Children of the parent; the caller deletes them.
+    virtual UTIL_PictureDialog* createPickDialog(QWidget* parent, const QString& folder,
+                                                 const QStringList& patterns);
+    virtual UTIL_PictureDialog* createSaveDialog(QWidget* parent, const QString& folder,
+                                                 const QStringList& patterns);
 
     /// Where the user's pictures live; folder dialogs start there.
     [[nodiscard]] virtual QString photoFolder() const;

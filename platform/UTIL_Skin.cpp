@@ -130,6 +130,18 @@ void UTIL_Skin::paintFocus(QPainter& painter, const QRectF& box)
     painter.restore();
 }
 
+void UTIL_Skin::paintChevron(QPainter& painter, const QPoint& centre, const Look& look)
+{
+    const QPointF down(0, Size::chevron / 2.0);
+    const QPointF side(Size::chevron, 0);
+    const QPointF tip = centre + down;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(look.ink, Size::focusWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{centre - side - down, tip, centre + side - down});
+    painter.restore();
+}
+
 void UTIL_Skin::paintRadio(QPainter& painter, const QRectF& box, bool marked, bool enabled)
 {
     const QColor mark = color(!enabled ? Color::QuietInk : marked ? Color::Accent : Color::Edge);

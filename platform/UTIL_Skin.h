@@ -64,10 +64,15 @@ public:
         static constexpr int focusGap = 2;
         static constexpr int radioDiameter = 16;
         static constexpr int radioDot = 8;
-        static constexpr int sliderReach = 9; ///< how far beside a slider a finger still moves it
+        static constexpr int chevron = 4;    ///< half the width of the mark of a box that opens
+        static constexpr int iconWidth = 24; ///< of a tool or an option
+        static constexpr int iconHeight = 18;
+        static constexpr int sliderTouch = 28; ///< how high a slider is for a finger
         static constexpr int messageMargin = 18;
-        static constexpr int messageLines = 8;
     };
+
+    /// What a picture of a disabled control is painted with.
+    static constexpr double disabledOpacity = 0.4;
 
     [[nodiscard]] static QColor color(Color color);
     [[nodiscard]] static QFont font(Font font);
@@ -81,6 +86,9 @@ public:
     static void paintFocus(QPainter& painter, const QRectF& box);
     /// The round mark of a radio row, centred in `box`.
     static void paintRadio(QPainter& painter, const QRectF& box, bool marked, bool enabled);
+
+    /// The mark of a control that opens a list.
+    static void paintChevron(QPainter& painter, const QPoint& centre, const Look& look);
 
     /// The file that holds a skin picture ("Dialog_Error" is in "Dialog_Error.gif").
     [[nodiscard]] static QString pictureFile(const QString& name);

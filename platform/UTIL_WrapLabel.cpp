@@ -1,13 +1,18 @@
 #include "UTIL_WrapLabel.h"
 
-#include "UTIL_Skin.h"
-
 #include <QPainter>
 #include <QTextLayout>
 
 UTIL_WrapLabel::UTIL_WrapLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
 {
     setTextFormat(Qt::PlainText);
+}
+
+void UTIL_WrapLabel::setMaximumLines(int lines)
+{
+    m_maximumLines = std::max(1, lines);
+    updateGeometry();
+    update();
 }
 
 QStringList UTIL_WrapLabel::lines(int width) const
@@ -23,7 +28,7 @@ QStringList UTIL_WrapLabel::lines(int width) const
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
-        if (result.size() == UTIL_Skin::Size::messageLines) {
+        if (result.size() == m_maximumLines) {
             result.last() = fontMetrics().elidedText(result.last() + QChar(0x2026), Qt::ElideRight, width);
             break;
         }

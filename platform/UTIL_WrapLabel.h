@@ -2,8 +2,10 @@
 
 #include <QLabel>
 
+#include <limits>
+
 /// A centred text that is broken between words, and within a word that is wider than the label (a file
-/// name). Of a text with more lines than the skin allows the rest is left out and marked by an ellipsis;
+/// name). Of a text with more lines than allowed the rest is left out and marked by an ellipsis;
 /// the whole is the tool tip then.
 class UTIL_WrapLabel : public QLabel
 {
@@ -11,6 +13,9 @@ class UTIL_WrapLabel : public QLabel
 
 public:
     explicit UTIL_WrapLabel(const QString& text, QWidget* parent = nullptr);
+
+    /// At least 1 line is always shown.
+    void setMaximumLines(int lines);
 
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int width) const override;
@@ -23,4 +28,6 @@ protected:
 
 private:
     [[nodiscard]] QStringList lines(int width) const;
+
+    int m_maximumLines = std::numeric_limits<int>::max();
 };

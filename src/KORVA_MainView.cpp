@@ -3,6 +3,7 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_ScrollView.h"
+#include "UTIL_Skin.h"
 
 #include <QVBoxLayout>
 
@@ -35,6 +36,10 @@ KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
     layout->addWidget(m_scrollView);
     m_scrollView->resize(normalCanvas);
     setFocusProxy(m_canvas);
+    QPalette frame = UTIL_Skin::palette();
+    frame.setColor(QPalette::WindowText, UTIL_Skin::color(UTIL_Skin::Color::Border));
+    m_scrollView->setPalette(frame);
+    m_scrollView->viewport()->setBackgroundRole(QPalette::WindowText); // a desk that the paper stands out from
 
     connect(m_canvas, &KORVA_Canvas::sizeChanged, this, &KORVA_MainView::updateLayout);
     m_scrollView->addChild(m_canvas, centred(width(), normalCanvas.width()),

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "KORVA_Export.h"
+
+#include <QListWidget>
+
+class UTIL_ListBoxDelegate;
+class UTIL_ListBoxItem;
+
+/// A list of rows of which one carries the radio mark: its check state is Qt::Checked, all others' are
+/// Qt::Unchecked. A tap on a row marks it; so do the arrow keys, and Space the current row.
+class KORVA_EXPORT UTIL_ListBox : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    /// `layout` divides the rows into fields, as "%T5%R20%T5%T189": %T<width> a text, %R<width> the mark.
+    explicit UTIL_ListBox(const QString& layout, QWidget* parent = nullptr, const char* name = nullptr);
+
+    /// Takes the item over; a negative position, or one past the end, appends it.
+    void insertItem(UTIL_ListBoxItem* item, int position = -1);
+    /// Gives the mark to a row, or takes it away from it; nothing for a row that does not exist.
+    void checkItem(int row, bool checked);
+    /// The row of the keyboard, -1 for none.
+    [[nodiscard]] int currentItemIndex() const { return currentRow(); }
+
+signals:
+    /// A row was chosen: with a mouse button, or from the keyboard (0). Its row is the current one and
+    /// carries the mark. `position` is global.
+    void mouseButtonClicked(int button, QListWidgetItem* item, const QPoint& position);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void choose(QListWidgetItem* item, int button, const QPoint& position);
+
+    void setPressed(const QModelIndex& index);
+
+    UTIL_ListBoxDelegate* m_delegate;
+    QPersistentModelIndex m_pressed; // the row that a press has not left
+};

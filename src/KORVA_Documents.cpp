@@ -1,0 +1,273 @@
+#include "KORVA_Documents.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_EditCanvas.h"
+#include "KORVA_MainView.h"
+#include "KORVA_PictureFile.h"
+#include "KORVA_ScrollView.h"
+#include "KORVA_Text.h"
+#include "UTIL_ImageReader.h"
+#include "UTIL_PictureDialog.h"
+#include "UTIL_Platform.h"
+
+#include <QFile>
+
+namespace {
+
+constexpr auto handedOver =
+    "/tmp/korva.tmp"; // a host's picture on its way in: never the drawing's own file
+constexpr auto handedOverFile = "/tmp/korva.file";
+
+constexpr auto completeIcon = "Dialog_Complete.gif";
+constexpr auto errorIcon = "Dialog_Error.gif";
+constexpr auto warningIcon = "Dialog_Exclamatory_Mark.gif";
+constexpr auto binIcon = "Dialog_Empty_Trash.gif";
+
+constexpr int shortTime = 1;
+constexpr int longTime = 2;
+
+// What is asked before unsaved changes would be lost; empty for actions that lose none.
+QString saveQuestion(int action)
+{
+    switch (action) {
+    case KORVA_Documents::Open:
+        return KORVA_EditCanvas::tr("Save changes to drawing before opening?",
+                                    "2.11.2.3;DIALOG_ICON_50_WARP");
+    case KORVA_Documents::ChooseCanvas:
+        return KORVA_EditCanvas::tr("Save changes to drawing before choosing canvas?",
+                                    "2.11.2.3;DIALOG_ICON_50_WARP");
+    case KORVA_Documents::Create:
+        return KORVA_EditCanvas::tr("Save changes to drawing before creating?",
+                                    "2.11.2.3;DIALOG_ICON_50_WARP");
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+void KORVA_Documents::setFileName(const QString& name)
+{
+    m_fileName = name == QLatin1String(handedOver) ? QString() : name;
+    if (m_fileName.isEmpty())
+        emit m_editor.canDelete(false);
+}
+
+// --- Opening
+// ---------------------------------------------------------------------------------------------------
+
+void KORVA_Documents::startOpen()
+{
+    if (!m_pickDialog)
+        m_editor.saveChangePic(Open);
+}
+
+void KORVA_Documents::saveChanges(int action)
+{
+    m_pendingAction = action;
+    m_editor.canvas()->mergePastePixmap();
+    if (!m_editor.isModified()) {
+        if (action == Open || action == InsertStamp)
+            m_editor.openNewFilePrivate(action, QString());
+        else if (action == Save && m_fileName.isEmpty() && QFile::exists(handedOver))
+            m_editor.savePic(Save);
+        return;
+    }
+
+    if (const QString question = saveQuestion(action); !question.isEmpty()) {
+        const int answer =
+            UTIL_Platform::instance()->question(&m_editor, warningIcon, question,
+                                                {KORVA_EditCanvas::tr("Yes", "2.11.2.3;SOFTKEY_2BUTTON"),
+                                                 KORVA_EditCanvas::tr("No", "2.11.2.3;SOFTKEY_2BUTTON")});
+        if (answer != 0) {
+            if (action == Open) {
+                m_editor.openNewFilePrivate(Open, QString());
+                resetTypedText();
+            }
+            return;
+        }
+    }
+    if (KORVA_Text* text = m_editor.currentText(); text && !text->isBufferEmpty())
+        text->paintProportionBuffer();
+    m_editor.savePic(action);
+    resetTypedText();
+}
+
+void KORVA_Documents::resetTypedText()
+{
+    if (KORVA_Text* text = m_editor.currentText())
+        text->resetBuffer();
+}
+
+bool KORVA_Documents::pickAndOpen(int action)
+{
+    delete m_pickDialog;
+    UTIL_Platform* platform = UTIL_Platform::instance();
+    m_pickDialog =
+        platform->createPickDialog(&m_editor, platform->photoFolder(), KORVA_PictureFile::openPatterns());
+    const QPointer<UTIL_PictureDialog> dialog = m_pickDialog;
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!dialog)
+        return false; // the editor went away with it
+    const QString name = accepted ? dialog->fileName() : QString();
+    const bool opened = !name.isEmpty() && open(action, name);
+    delete m_pickDialog;
+    return opened;
+}
+
+bool KORVA_Documents::open(int action, const QString& name)
+{
+    if (action != InsertStamp)
+        m_fileName = name;
+    if (!isPicSizeNotOver(name, KORVA_PictureFile::readFormat(name)))
+        return false;
+
+    QPixmap picture;
+    const bool opened = readPicture(name, &picture);
+    if (opened && action == Open) {
+        m_editor.setPixmap(&picture);
+        m_editor.clearModified();
+        m_editor.mainView()->scrollView()->setContentsPos(0, 0);
+    } else if (opened && action == InsertStamp) {
+        m_editor.insertStamp(picture);
+    }
+    if (action == Open) {
+        if (!opened)
+            m_fileName.clear();
+        emit m_editor.canDelete(true); // after a failure, too: hosts have always had it so
+    }
+    return opened;
+}
+
+void KORVA_Documents::openAtConstruction(const QString& name)
+{
+    const bool isHandedOver = name == QLatin1String(handedOver) || name == QLatin1String(handedOverFile);
+    QPixmap picture;
+    if (isPicSizeNotOver(name, isHandedOver ? nullptr : KORVA_PictureFile::readFormat(name)) &&
+        readPicture(name, &picture)) {
+        m_fileName = name;
+        m_editor.setPixmap(&picture);
+    }
+}
+
+bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
+{
+    switch (KORVA_PictureFile::check(name, format)) {
+    case UTIL_ImageReader::Ok:
+        return true;
+    case UTIL_ImageReader::TooLarge:
+        tell(completeIcon, KORVA_EditCanvas::tr("The image is oversize", "2.11.2.9;DIALOG_ICON_50"));
+        return false;
+    default:
+        tell(completeIcon, KORVA_EditCanvas::tr("Failed to open file", "2.11.2.9;DIALOG_ICON_50"));
+        return false;
+    }
+}
+
+bool KORVA_Documents::readPicture(const QString& name, QPixmap* picture)
+{
+    QImage image;
+    if (!m_editor.getImage(&image, name)) {
+        UTIL_Platform::instance()->timedInformation(
+            &m_editor, warningIcon,
+            KORVA_EditCanvas::tr("This file can not be opened.", "4.4.4.2;DIALOG_ICON_50_WARP"),
+            KORVA_EditCanvas::tr("OK", "4.4.4.2;SOFTKEY_1BUTTON"), longTime);
+        return false;
+    }
+    return m_editor.convertScaleImage(&image, picture);
+}
+
+void KORVA_Documents::setBuffer(const QByteArray& data)
+{
+    QImage image = KORVA_PictureFile::decode(data);
+    QPixmap picture;
+    if (m_editor.convertScaleImage(&image, &picture))
+        m_editor.setPixmap(&picture);
+    else
+        tell(errorIcon, KORVA_EditCanvas::tr("open buffer fail!", "2.11.2.9;DIALOG_ICON_50"));
+}
+
+// --- Saving
+// ----------------------------------------------------------------------------------------------------
+
+void KORVA_Documents::nameAndSave(int action)
+{
+    if (action == InsertStamp) {
+        m_editor.openNewFilePrivate(InsertStamp, QString());
+    } else if (!m_fileName.isEmpty()) {
+        m_editor.saveFilePrivate();
+        if (action == Open)
+            m_editor.openNewFilePrivate(Open, QString());
+    } else {
+        askForName();
+    }
+}
+
+void KORVA_Documents::askForName()
+{
+    UTIL_Platform* platform = UTIL_Platform::instance();
+    m_saveDialog =
+        platform->createSaveDialog(&m_editor, platform->photoFolder(), KORVA_PictureFile::savePatterns());
+    const QPointer<UTIL_PictureDialog> dialog = m_saveDialog;
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!dialog)
+        return; // the editor went away with it
+    if (accepted) {
+        m_editor.slotSaveDlgCloseBeforeOpen(dialog->fileName());
+    } else {
+        m_pendingAction = NoAction;
+        delete m_saveDialog;
+    }
+}
+
+void KORVA_Documents::saveUnder(const QString& name)
+{
+    m_fileName = name;
+    m_editor.saveFilePrivate();
+    delete m_saveDialog;
+    if (m_pendingAction == Open || m_pendingAction == InsertStamp)
+        m_editor.openNewFilePrivate(m_pendingAction, QString());
+}
+
+void KORVA_Documents::saveAndTell()
+{
+    if (m_fileName.isEmpty()) {
+        emit m_editor.canDelete(false);
+        return;
+    }
+    const char* format = KORVA_PictureFile::writeFormat(m_fileName); // null for GIF, which is never written
+    if (format && m_editor.save(m_fileName, format)) {
+        m_editor.clearModified();
+        tell(completeIcon, KORVA_EditCanvas::tr("Saved Successfully", "2.11.2.9;DIALOG_ICON_50"));
+    } else {
+        if (format)
+            m_fileName.clear();
+        tell(errorIcon, KORVA_EditCanvas::tr("Saved Failed", "2.11.2.10;DIALOG_ICON_50"));
+    }
+    emit m_editor.canDelete(true); // after a failure, too: hosts have always had it so
+}
+
+// --- Deleting
+// --------------------------------------------------------------------------------------------------
+
+void KORVA_Documents::askAndDelete()
+{
+    const int answer = UTIL_Platform::instance()->question(
+        &m_editor, binIcon, KORVA_EditCanvas::tr("Delete drawing?", "2.11.2.1;DIALOG_ICON_50"),
+        {KORVA_EditCanvas::tr("OK", "2.11.2.1;SOFTKEY_2BUTTON"),
+         KORVA_EditCanvas::tr("Cancel", "2.11.2.1;SOFTKEY_2BUTTON")});
+    if (answer != 0)
+        return;
+    m_editor.clearCanvas();
+    m_editor.clearModified();
+    resetTypedText();
+    if (m_fileName.isEmpty())
+        return;
+    QFile::remove(m_fileName); // one that cannot be removed is not reported
+    m_fileName.clear();
+}
+
+void KORVA_Documents::tell(const char* icon, const QString& text)
+{
+    UTIL_Platform::instance()->timedMessage(&m_editor, QString::fromLatin1(icon), text, shortTime);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QPointer>
+#include <QString>
+
+class KORVA_EditCanvas;
+class UTIL_PictureDialog;
+
+/// The editor's document commands: what is asked, in which order, and what the user is told. The file work
+/// itself is KORVA_PictureFile's; here are the questions, the dialogs and the name of the drawing.
+///
+/// Owned by the editor; the operations stand behind the editor's own of the same purpose.
+class KORVA_Documents
+{
+public:
+    /// What the user asked for, kept across the dialogs that come first.
+    enum Action : int { NoAction = -1, Open, ChooseCanvas, Save, InsertStamp, Create };
+
+    explicit KORVA_Documents(KORVA_EditCanvas& editor) : m_editor(editor) {}
+
+    [[nodiscard]] QString fileName() const { return m_fileName; }
+    void setFileName(const QString& name);
+
+    void openAtConstruction(const QString& name);
+    /// Nothing while a pick dialog is open.
+    void startOpen();
+    void saveChanges(int action);
+    /// Lets the user pick the picture; false when nothing was picked or opened.
+    bool pickAndOpen(int action);
+    bool open(int action, const QString& name);
+    bool isPicSizeNotOver(const QString& name, const char* format);
+    void setBuffer(const QByteArray& data);
+
+    void nameAndSave(int action);
+    void saveUnder(const QString& name);
+    void saveAndTell();
+
+    void askAndDelete();
+
+private:
+    bool readPicture(const QString& name, QPixmap* picture);
+    void askForName();
+    void resetTypedText();
+    void tell(const char* icon, const QString& text);
+
+    KORVA_EditCanvas& m_editor;
+    QString m_fileName;
+    int m_pendingAction = NoAction;
+    QPointer<UTIL_PictureDialog> m_saveDialog; ///< while one is open; a child of the editor
+    QPointer<UTIL_PictureDialog> m_pickDialog; ///< until the open is finished; a child of the editor
+};
