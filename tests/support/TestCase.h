@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ChildProcess.h"
+
 #include <QtTest>
 #include <QtWidgets>
 
@@ -20,6 +22,8 @@ int run(int argc, char** argv)
 {
     QApplication app(argc, argv);
     Test test;
+    if (const std::optional<int> exitCode = ChildProcess::runCase(test, QApplication::arguments()))
+        return *exitCode;
     return QTest::qExec(&test, argc, argv);
 }
 
