@@ -60,7 +60,7 @@ QImage sheet(QSize size, const QColor& color, const std::function<void(QPainter&
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
-    if (paint) {
+    if (paint && !image.isNull()) {
         QPainter painter(&image);
         paint(painter);
     }

@@ -4,7 +4,8 @@ namespace support {
 
 void TestCase::init()
 {
-    QTest::failOnWarning(QRegularExpression("."));
+    // What the off-screen platform has to say of every popup is none of ours.
+    QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support )"));
 }
 
 } // namespace support
