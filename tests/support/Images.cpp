@@ -71,7 +71,7 @@ QImage mosaic(QSize size)
 {
     QImage image = sheet(size);
     forEachPixel(image, [&](int x, int y, QRgb) {
-        image.setPixel(x, y, qRgb(x * 37 % 251, y * 53 % 251, (x * 11 + y * 7) % 251));
+        image.setPixel(x, y, qRgb(x * 37 % 251, y * 53 % 251, (x * 11 + y * 7) % 251 + 2));
     });
     return image;
 }

@@ -18,7 +18,7 @@ namespace support {
 /// A picture of one colour, painted on by `paint` if there is any.
 [[nodiscard]] QImage sheet(QSize size, const QColor& color = Qt::white,
                            const std::function<void(QPainter&)>& paint = {});
-/// A picture in which every pixel differs from its neighbours and no pixel is white.
+/// A picture in which every pixel differs from its neighbours and none is white or black.
 [[nodiscard]] QImage mosaic(QSize size);
 
 [[nodiscard]] QImage inverted(const QImage& image);
