@@ -52,10 +52,10 @@ KORVA_ChooseCanvasDlg::KORVA_ChooseCanvasDlg(QWidget* parent, int index, const c
     changeCanvasSize(index);
     connect(m_listBox, &UTIL_ListBox::mouseButtonClicked, this,
             &KORVA_ChooseCanvasDlg::slotSelChangeComboSize);
-    connect(createSoftKey(tr("Cancel", "2.11.3;SOFTKEY_2BUTTON"), 9), &QPushButton::clicked, this,
-            &KORVA_ChooseCanvasDlg::slotCancel);
     connect(createSoftKey(tr("OK", "2.11.3;SOFTKEY_2BUTTON"), 10), &QPushButton::clicked, this,
             &KORVA_ChooseCanvasDlg::slotOK);
+    connect(createSoftKey(tr("Cancel", "2.11.3;SOFTKEY_2BUTTON"), 9), &QPushButton::clicked, this,
+            &KORVA_ChooseCanvasDlg::slotCancel);
     m_listBox->setFocus();
 }
 

@@ -97,10 +97,10 @@ KORVA_ColorPicker::KORVA_ColorPicker(KORVA_COLORTYPE colorType, const QColor& co
     setDlgTitle(tr("Color", "2.11.6;DIALOG_TITLE"));
     createSwatch();
     createSliders();
-    connect(createSoftKey(tr("Cancel", "2.11.6;SOFTKEY_2BUTTON"), 9), &QPushButton::clicked, this,
-            &QDialog::reject);
     connect(createSoftKey(tr("OK", "2.11.6;SOFTKEY_2BUTTON"), 10), &QPushButton::clicked, this,
             &QDialog::accept);
+    connect(createSoftKey(tr("Cancel", "2.11.6;SOFTKEY_2BUTTON"), 9), &QPushButton::clicked, this,
+            &QDialog::reject);
     m_rSlider->setFocus();
 }
 
