@@ -1,12 +1,106 @@
 #include "UTIL_ImageReader.h"
 
+#include "UTIL_PictureProbe.h"
+#include "UTIL_PictureSource.h"
 #include "UTIL_Platform.h"
+#include "UTIL_Png.h"
+#include "UTIL_Reducer.h"
 
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 
-UTIL_ImageReader::UTIL_ImageReader(const QString& fileName, const char* format)
-    : m_fileName(fileName), m_format(format)
+namespace {
+
+/// Up to here a picture is decoded as it is: 16 MB at four bytes a pixel.
+constexpr qint64 mostPixelsAtOnce = 4'000'000;
+
+qint64 area(QSize size)
 {
+    return size.isValid() ? qint64(size.width()) * size.height() : 0;
+}
+
+/// While it lives, a decoder may allocate what the platform's pixel limit calls for: the toolkit's own
+/// limit of 128 MB would refuse pictures well within it.
+class Allowance
+{
+public:
+    explicit Allowance(qint64 pixels)
+    {
+        constexpr qint64 bytesPerPixel = 8; // sixteen bits for each of four channels
+        constexpr qint64 megabyte = 1 << 20;
+        const qint64 wanted = qMin<qint64>(pixels / megabyte * bytesPerPixel + bytesPerPixel, INT_MAX);
+        if (m_before > 0 && m_before < wanted)
+            QImageReader::setAllocationLimit(int(wanted));
+    }
+    ~Allowance() { QImageReader::setAllocationLimit(m_before); }
+    Allowance(const Allowance&) = delete;
+    Allowance& operator=(const Allowance&) = delete;
+
+private:
+    int m_before = QImageReader::allocationLimit();
+};
+
+/// While it lives, what the decoders warn of on this thread is kept from the log. It tells whether they
+/// warned of lost picture data, which is all that a JPEG with a hole in it gives away.
+class Silence
+{
+public:
+    Silence()
+    {
+        current = this;
+        previous = qInstallMessageHandler(handle);
+    }
+    ~Silence()
+    {
+        qInstallMessageHandler(previous);
+        current = nullptr;
+    }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+    [[nodiscard]] bool hasLostData() const { return m_hasLostData; }
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        if (!current || (type != QtWarningMsg && type != QtDebugMsg && type != QtInfoMsg)) {
+            previous(type, context, text);
+            return;
+        }
+        // Bytes too many between the parts of a file are common and do no harm.
+        if (text.contains(QLatin1String("Corrupt JPEG data")) &&
+            !text.contains(QLatin1String("extraneous")))
+            current->m_hasLostData = true;
+    }
+
+    static thread_local Silence* current;
+    static inline QtMessageHandler previous = nullptr;
+    bool m_hasLostData = false;
+};
+
+thread_local Silence* Silence::current = nullptr;
+
+QByteArray normalized(const char* format)
+{
+    const QByteArray name = QByteArray(format).toUpper();
+    return name == "JPG" ? QByteArray("JPEG") : name;
+}
+
+} // namespace
+
+UTIL_ImageReader::UTIL_ImageReader(const QString& fileName, const char* format)
+    : m_fileName(fileName), m_format(normalized(format))
+{
+}
+
+UTIL_ImageReader UTIL_ImageReader::fromData(const QByteArray& data, const char* format)
+{
+    UTIL_ImageReader reader(QString(), format);
+    reader.m_data = data;
+    reader.m_isInMemory = true;
+    return reader;
 }
 
 QPixmap UTIL_ImageReader::pixmap(const QString& fileName, const char* format)
@@ -15,21 +109,70 @@ QPixmap UTIL_ImageReader::pixmap(const QString& fileName, const char* format)
     return reader.read() ? QPixmap::fromImage(reader.image()) : QPixmap();
 }
 
+void UTIL_ImageReader::setReduction(Reduction reduction, QRgb background)
+{
+    m_reduction = reduction;
+    m_background = background;
+}
+
 bool UTIL_ImageReader::read()
 {
     m_image = {};
     m_status = Failed;
-
-    QImageReader reader(m_fileName, m_format);
-    reader.setAutoDetectImageFormat(m_format.isEmpty());
-    reader.setDecideFormatFromContent(m_format.isEmpty());
-    const QSize size = reader.size();
-    if (qint64(size.width()) * size.height() > UTIL_Platform::instance()->pixelLimit()) {
-        m_status = TooLarge;
-        return false;
+    if (m_isInMemory) {
+        QBuffer buffer(&m_data);
+        buffer.open(QIODevice::ReadOnly);
+        m_status = readFrom(buffer);
+    } else if (QFileInfo(m_fileName).isFile()) { // a pipe would never end
+        QFile file(m_fileName);
+        if (file.open(QIODevice::ReadOnly))
+            m_status = readFrom(file);
     }
-    if (!reader.read(&m_image))
-        return false;
-    m_status = Ok;
-    return true;
+    if (m_status != Ok)
+        m_image = {};
+    else if (m_parameters == "16")
+        m_image.convertTo(QImage::Format_RGB16, Qt::AvoidDither);
+    return m_status == Ok;
+}
+
+UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
+{
+    const qint64 limit = UTIL_Platform::instance()->pixelLimit();
+    const UTIL_PictureProbe probe = UTIL_PictureProbe::of(device);
+    if (!probe.format.isEmpty() && !m_format.isEmpty() && m_format != probe.format)
+        return Failed;
+    if (area(probe.size) > limit)
+        return TooLarge;
+    if (!probe.format.isEmpty() && !probe.sound)
+        return Failed;
+
+    const Allowance allowance(limit);
+    const Silence silence;
+    UTIL_PictureSource source(device, probe.kept);
+    QImageReader reader(&source, probe.format.isEmpty() ? m_format : probe.format);
+    reader.setAutoDetectImageFormat(probe.format.isEmpty() && m_format.isEmpty());
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize stored = reader.size().expandedTo(probe.size);
+    if (area(stored) > limit)
+        return TooLarge;
+
+    const bool isTurned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const QSize upright = isTurned ? stored.transposed() : stored;
+    const QSize wanted = m_reduction && upright.isValid() ? m_reduction(upright) : upright;
+    const bool isReduced = wanted != upright;
+    if (isReduced && probe.format == "JPEG")
+        reader.setScaledSize(isTurned ? wanted.transposed() : wanted);
+    if (isReduced && probe.format == "PNG" && area(stored) > mostPixelsAtOnce) {
+        source.seek(0);
+        m_image = png::readReduced(source, wanted);
+        return m_image.isNull() ? Failed : Ok;
+    }
+    if (!reader.read(&m_image) || silence.hasLostData())
+        return Failed;
+    if (area(m_image.size()) > limit)
+        return TooLarge;
+    if (isReduced && m_image.size() == upright && area(upright) > mostPixelsAtOnce)
+        m_image = UTIL_Reducer::reduced(m_image, wanted, m_background);
+    return Ok;
 }

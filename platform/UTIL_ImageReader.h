@@ -4,8 +4,11 @@
 #include <QPixmap>
 #include <QString>
 
-/// Reads a picture file. The pixel limit of UTIL_Platform is held against the header, before a pixel is
-/// decoded.
+class QIODevice;
+
+/// Reads a picture, from a file or from memory, the right way up as its camera noted it. The pixel limit of
+/// UTIL_Platform is held against the header, before a pixel is decoded; a file that stops half way or is
+/// made to exhaust the reader is a failure like any other. Nothing is logged. GUI thread only.
 class UTIL_ImageReader
 {
 public:
@@ -15,22 +18,39 @@ public:
         Failed = 1,      ///< missing, unreadable, damaged, or not of the format asked for
     };
 
-    /// `format` names the one format to accept ("PNG"); null recognises the file by its content, whatever
-    /// its name.
+    /// The size that a picture of the given size is wanted in; no greater in either direction.
+    using Reduction = QSize (*)(QSize);
+
+    /// `format` names the one format to accept ("PNG"); null recognises the picture by its content,
+    /// whatever its name.
     explicit UTIL_ImageReader(const QString& fileName, const char* format = nullptr);
+    [[nodiscard]] static UTIL_ImageReader fromData(const QByteArray& data, const char* format = nullptr);
 
     /// The picture of a file in one call; null when it cannot be read.
     [[nodiscard]] static QPixmap pixmap(const QString& fileName, const char* format = nullptr);
 
-    /// Reads the file; true when image() holds the picture.
+    /// "16" asks for a picture of 16 bits a pixel; anything else asks for nothing.
+    void setParameters(const char* parameters) { m_parameters = parameters; }
+    /// Where reading at the wanted size saves memory (JPEG, and whatever has millions of pixels), the
+    /// picture comes in exactly that size, laid on `background`; otherwise in its own.
+    void setReduction(Reduction reduction, QRgb background = 0xffffffff);
+
+    /// Reads the picture; true when image() holds it.
     bool read();
     [[nodiscard]] int status() const { return m_status; }
     /// The picture read last; null after a failure.
     [[nodiscard]] const QImage& image() const { return m_image; }
 
 private:
+    [[nodiscard]] Status readFrom(QIODevice& device);
+
     QString m_fileName;
+    QByteArray m_data;
+    bool m_isInMemory = false;
     QByteArray m_format;
+    QByteArray m_parameters;
+    Reduction m_reduction = nullptr;
+    QRgb m_background = 0xffffffff;
     Status m_status = Failed;
     QImage m_image;
 };

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "UTIL_PictureProbe.h"
+
+#include <QIODevice>
+
+/// Some parts of another device, one after the other, as if nothing else were in it. Reading only.
+class UTIL_PictureSource : public QIODevice
+{
+    Q_OBJECT
+
+public:
+    /// `device` is open and outlives the source.
+    UTIL_PictureSource(QIODevice& device, const QList<UTIL_PictureProbe::Range>& parts);
+
+    [[nodiscard]] qint64 size() const override { return m_size; }
+    bool seek(qint64 position) override;
+
+protected:
+    qint64 readData(char* data, qint64 most) override;
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QIODevice& m_device;
+    QList<UTIL_PictureProbe::Range> m_parts;
+    qint64 m_size = 0;
+    qsizetype m_part = 0; ///< which part is being read
+    qint64 m_offset = 0;  ///< how far
+};

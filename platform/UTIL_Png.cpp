@@ -1,0 +1,274 @@
+#include "UTIL_Png.h"
+
+#include "UTIL_Reducer.h"
+
+#include <QHash>
+#include <QIODevice>
+
+#include <png.h>
+#include <zlib.h>
+
+#include <optional>
+#include <vector>
+
+namespace {
+
+/// The library's two structures, and its way of reporting errors: a jump back into attempt().
+class Session
+{
+public:
+    enum Direction { Reading, Writing };
+
+    explicit Session(Direction direction)
+        : m_isWriting(direction == Writing),
+          m_png(m_isWriting ? png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, ignore)
+                            : png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, ignore)),
+          m_info(m_png ? png_create_info_struct(m_png) : nullptr)
+    {
+    }
+    ~Session()
+    {
+        if (m_isWriting)
+            png_destroy_write_struct(&m_png, &m_info);
+        else
+            png_destroy_read_struct(&m_png, &m_info, nullptr);
+    }
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// False when the library gave up within `step`, whose own variables must need no destructor.
+    template <typename Step>
+    bool attempt(Step step)
+    {
+        if (!m_info || setjmp(png_jmpbuf(m_png)) != 0) // NOLINT: the library knows no other way
+            return false;
+        step();
+        return true;
+    }
+
+    [[nodiscard]] png_structp png() const { return m_png; }
+    [[nodiscard]] png_infop info() const { return m_info; }
+
+private:
+    [[noreturn]] static void fail(png_structp png, png_const_charp) { png_longjmp(png, 1); }
+    static void ignore(png_structp, png_const_charp) {}
+
+    bool m_isWriting;
+    png_structp m_png;
+    png_infop m_info;
+};
+
+void readBytes(png_structp png, png_bytep data, size_t count)
+{
+    auto* device = static_cast<QIODevice*>(png_get_io_ptr(png));
+    if (device->read(reinterpret_cast<char*>(data), qint64(count)) != qint64(count))
+        png_error(png, "the file ends too early");
+}
+
+void appendBytes(png_structp png, png_bytep data, size_t count)
+{
+    static_cast<QByteArray*>(png_get_io_ptr(png))
+        ->append(reinterpret_cast<const char*>(data), qsizetype(count));
+}
+
+/// Pixels of straight alpha laid on white, in place.
+void layOnWhite(QRgb* row, int width)
+{
+    for (QRgb* pixel = row; pixel != row + width; ++pixel) {
+        const int alpha = qAlpha(*pixel);
+        if (alpha == 255)
+            continue;
+        const auto mix = [alpha](int channel) {
+            return (channel * alpha + 255 * (255 - alpha) + 127) / 255;
+        };
+        *pixel = qRgb(mix(qRed(*pixel)), mix(qGreen(*pixel)), mix(qBlue(*pixel)));
+    }
+}
+
+// --- Writing
+// ----------------------------------------------------------------------------------------------
+
+/// Samples as they go into the file, unpacked: one byte each.
+struct Pixels
+{
+    int colorType;
+    int depth;           ///< bits of a sample
+    int samples;         ///< of a pixel
+    QList<QRgb> palette; ///< empty for true colour and grey
+    std::vector<quint8> bytes;
+};
+
+int bitsFor(qsizetype colors)
+{
+    int bits = 1;
+    while (1 << bits < colors)
+        bits *= 2;
+    return bits;
+}
+
+Pixels trueColor(const QImage& image)
+{
+    Pixels pixels{PNG_COLOR_TYPE_RGB, 8, 3, {}, {}};
+    pixels.bytes.reserve(size_t(image.width()) * size_t(image.height()) * 3);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            for (const int channel : {qRed(row[x]), qGreen(row[x]), qBlue(row[x])})
+                pixels.bytes.push_back(quint8(channel));
+    }
+    return pixels;
+}
+
+/// Nothing when there are more than 256 colours.
+std::optional<Pixels> paletted(const QImage& image)
+{
+    Pixels pixels{PNG_COLOR_TYPE_PALETTE, 8, 1, {}, {}};
+    pixels.bytes.reserve(size_t(image.width()) * size_t(image.height()));
+    QHash<QRgb, quint8> indices;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            auto index = indices.constFind(row[x]);
+            if (index == indices.constEnd()) {
+                if (pixels.palette.size() == PNG_MAX_PALETTE_LENGTH)
+                    return std::nullopt;
+                index = indices.insert(row[x], quint8(pixels.palette.size()));
+                pixels.palette.append(row[x]);
+            }
+            pixels.bytes.push_back(*index);
+        }
+    }
+    pixels.depth = bitsFor(pixels.palette.size());
+    return pixels;
+}
+
+/// The palette's colours as levels of grey, of as few bits as hold them; nothing when one is no grey.
+std::optional<Pixels> grey(const Pixels& paletted)
+{
+    const auto isExact = [&paletted](int depth) {
+        const int step = 255 / ((1 << depth) - 1);
+        return std::all_of(paletted.palette.cbegin(), paletted.palette.cend(),
+                           [step](QRgb color) { return qIsGray(color) && qRed(color) % step == 0; });
+    };
+    Pixels pixels{PNG_COLOR_TYPE_GRAY, 1, 1, {}, {}};
+    while (!isExact(pixels.depth)) {
+        if (pixels.depth == 8)
+            return std::nullopt;
+        pixels.depth *= 2;
+    }
+    const int step = 255 / ((1 << pixels.depth) - 1);
+    pixels.bytes.reserve(paletted.bytes.size());
+    for (const quint8 index : paletted.bytes)
+        pixels.bytes.push_back(quint8(qRed(paletted.palette[index]) / step));
+    return pixels;
+}
+
+/// What the compressor is told; which serves a picture best shows only in trying.
+struct Packing
+{
+    int filters;
+    int strategy;
+};
+constexpr Packing packings[] = {
+    {PNG_FILTER_NONE, Z_DEFAULT_STRATEGY},
+    {PNG_ALL_FILTERS, Z_DEFAULT_STRATEGY},
+    {PNG_ALL_FILTERS, Z_FILTERED},
+};
+
+QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing)
+{
+    QByteArray file;
+    std::vector<png_color> palette;
+    for (const QRgb color : std::as_const(pixels.palette))
+        palette.push_back({png_byte(qRed(color)), png_byte(qGreen(color)), png_byte(qBlue(color))});
+
+    Session session(Session::Writing);
+    png_structp png = session.png();
+    const bool complete = session.attempt([&] {
+        png_set_write_fn(png, &file, appendBytes, nullptr);
+        png_set_IHDR(png, session.info(), png_uint_32(size.width()), png_uint_32(size.height()),
+                     pixels.depth, pixels.colorType, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
+                     PNG_FILTER_TYPE_DEFAULT);
+        if (!palette.empty())
+            png_set_PLTE(png, session.info(), palette.data(), int(palette.size()));
+        png_set_filter(png, PNG_FILTER_TYPE_BASE, packing.filters);
+        png_set_compression_level(png, Z_BEST_COMPRESSION);
+        png_set_compression_strategy(png, packing.strategy);
+        png_write_info(png, session.info());
+        png_set_packing(png);
+        for (int y = 0; y < size.height(); ++y)
+            png_write_row(png, pixels.bytes.data() + qsizetype(y) * size.width() * pixels.samples);
+        png_write_end(png, session.info());
+    });
+    return complete ? file : QByteArray();
+}
+
+} // namespace
+
+QImage png::readReduced(QIODevice& device, QSize target)
+{
+    Session session(Session::Reading);
+    png_structp png = session.png();
+    QSize size;
+    int passes = 1;
+    const bool begun = session.attempt([&] {
+        png_set_read_fn(png, &device, readBytes);
+        png_read_info(png, session.info());
+        size = QSize(int(png_get_image_width(png, session.info())),
+                     int(png_get_image_height(png, session.info())));
+        // Everything becomes eight bits a channel, in the order of QRgb.
+        png_set_expand(png);
+        png_set_scale_16(png);
+        png_set_gray_to_rgb(png);
+        png_set_bgr(png);
+        png_set_add_alpha(png, 0xff, PNG_FILLER_AFTER);
+        passes = png_set_interlace_handling(png);
+        png_read_update_info(png, session.info());
+    });
+    QImage rows(size.width(), passes > 1 ? size.height() : 1, QImage::Format_ARGB32);
+    if (!begun || rows.isNull())
+        return {};
+
+    UTIL_Reducer reducer(size, target);
+    const bool complete = session.attempt([&] {
+        for (int pass = 1; pass < passes; ++pass)
+            for (int y = 0; y < size.height(); ++y)
+                png_read_row(png, rows.scanLine(y), nullptr);
+        for (int y = 0; y < size.height(); ++y) {
+            uchar* row = rows.scanLine(passes > 1 ? y : 0);
+            png_read_row(png, row, nullptr);
+            auto* pixels = reinterpret_cast<QRgb*>(row);
+            layOnWhite(pixels, size.width());
+            reducer.addRow(pixels);
+        }
+        png_read_end(png, nullptr);
+    });
+    return complete ? reducer.image() : QImage();
+}
+
+QByteArray png::encoded(const QImage& image)
+{
+    const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
+    QList<Pixels> candidates;
+    if (std::optional<Pixels> few = paletted(opaque)) {
+        if (std::optional<Pixels> levels = grey(*few))
+            candidates.append(std::move(*levels));
+        if (few->depth < 8) {
+            candidates.append(*few);
+            few->depth = 8; // runs of whole bytes are sometimes found better
+        }
+        candidates.append(std::move(*few));
+    } else {
+        candidates.append(trueColor(opaque));
+    }
+
+    QByteArray best;
+    for (Pixels& pixels : candidates) {
+        for (const Packing& packing : packings) {
+            const QByteArray file = written(opaque.size(), pixels, packing);
+            if (best.isEmpty() || (!file.isEmpty() && file.size() < best.size()))
+                best = file;
+        }
+    }
+    return best;
+}
