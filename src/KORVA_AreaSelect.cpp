@@ -60,10 +60,9 @@ void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
     const QPoint to = event->position().toPoint();
     if (!m_pressed || !isActive() || !m_selecting || to == m_end)
         return;
-    toggleFrame(m_end);
-    toggleFrame(to);
+    const QRect touched = toggleFrame(m_end) | toggleFrame(to);
     m_end = to;
-    canvas()->refresh();
+    canvas()->refresh(touched);
 }
 
 void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
@@ -119,9 +118,10 @@ void KORVA_AreaSelect::drawFrame()
     m_frameShown = !m_frameShown;
 }
 
-void KORVA_AreaSelect::toggleFrame(QPoint to)
+QRect KORVA_AreaSelect::toggleFrame(QPoint to)
 {
     KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
     painter.setPen(QPen(Qt::green, 0, Qt::DashLine));
     painter.drawRect(m_start.x(), m_start.y(), to.x() - m_start.x(), to.y() - m_start.y());
+    return painter.touched();
 }

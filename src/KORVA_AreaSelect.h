@@ -3,6 +3,7 @@
 #include "KORVA_Tool.h"
 
 #include <QPoint>
+#include <QRect>
 
 /// Marks a rectangle with a dashed frame and hands it to the canvas, which lifts it into a floating piece.
 /// The left button only. Leaving the tool drops the selection.
@@ -32,7 +33,7 @@ protected:
 
 private:
     void drawFrame();
-    void toggleFrame(QPoint to);
+    QRect toggleFrame(QPoint to);
     void select(QPoint corner);
     [[nodiscard]] QPoint limited(QPoint p) const;
 

@@ -4,6 +4,7 @@
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_PasteLabel.h"
+#include "KORVA_Repainter.h"
 #include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
 #include "UTIL_ImageReader.h"
@@ -33,7 +34,9 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QString& fileName, QW
 
 KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize,
                            QWidget* parent, const char* name)
-    : QWidget(parent), m_picture(std::make_unique<QPixmap>(picture))
+    : QWidget(parent),
+      m_picture(std::make_unique<QPixmap>(picture)),
+      m_repainter(std::make_unique<KORVA_Repainter>(this))
 {
     setObjectName(name);
     UTIL_Platform::instance()->setMouseMode(this, 1);
@@ -58,8 +61,8 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
     emit sizeChanged();
     ++inst;
     saveOldPix();
-    clearCanvas(
-        Qt::white); // before anything is connected: a new canvas is modified, but has nothing to undo
+    // Before anything is connected: a new canvas is modified, but has nothing to undo.
+    clearCanvas(Qt::white);
     connectSignals(editor);
 }
 
@@ -231,7 +234,12 @@ KORVA_ScrollView* KORVA_Canvas::scrollView() const
 
 void KORVA_Canvas::refresh()
 {
-    repaint();
+    refresh(rect());
+}
+
+void KORVA_Canvas::refresh(const QRect& changed)
+{
+    m_repainter->add(changed & rect());
 }
 
 void KORVA_Canvas::markModified()

@@ -10,6 +10,7 @@
 
 class KORVA_EditCanvas;
 class KORVA_PasteLabel;
+class KORVA_Repainter;
 class KORVA_ScrollView;
 class KORVA_Tool;
 class QMenu;
@@ -121,8 +122,11 @@ public:
     /// The scroll view that holds the canvas; null when there is none.
     [[nodiscard]] KORVA_ScrollView* scrollView() const;
 
-    /// Shows the zoomed picture as it now is: how every change of it ends.
+    /// Shows the zoomed picture as it now is: how every change of it ends. It is on the screen at once or
+    /// with the screen's next picture.
     void refresh();
+    /// The same where only a rectangle changed; widget coordinates.
+    void refresh(const QRect& changed);
 
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -187,4 +191,5 @@ private:
     bool m_hasSelection = false;
     KORVA_PasteLabel* m_pasteLabel;
     QMenu* m_menu;
+    std::unique_ptr<KORVA_Repainter> m_repainter;
 };

@@ -39,7 +39,8 @@ KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
     QPalette frame = UTIL_Skin::palette();
     frame.setColor(QPalette::WindowText, UTIL_Skin::color(UTIL_Skin::Color::Border));
     m_scrollView->setPalette(frame);
-    m_scrollView->viewport()->setBackgroundRole(QPalette::WindowText); // a desk that the paper stands out from
+    m_scrollView->viewport()->setBackgroundRole(
+        QPalette::WindowText); // a desk that the paper stands out from
 
     connect(m_canvas, &KORVA_Canvas::sizeChanged, this, &KORVA_MainView::updateLayout);
     m_scrollView->addChild(m_canvas, centred(width(), normalCanvas.width()),

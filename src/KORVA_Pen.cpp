@@ -39,16 +39,17 @@ void KORVA_Pen::mouseReleaseEvent(QMouseEvent* event)
 
 void KORVA_Pen::drawTo(QPoint to)
 {
-    {
-        KORVA_ClassicPainter picture(canvas()->pixmap());
-        picture.setPen(picturePen());
-        picture.setWorldMatrix(zoom().toPictureMatrix());
-        picture.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
-    }
-    KORVA_ClassicPainter screen(canvas()->zoomedPixmap());
-    screen.setPen(screenPen());
-    screen.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
-
+    drawSegment(canvas()->pixmap(), picturePen(), zoom().toPictureMatrix(), to);
+    const QRect touched = drawSegment(canvas()->zoomedPixmap(), screenPen(), {}, to);
     m_last = to;
-    canvas()->refresh();
+    canvas()->refresh(touched);
+}
+
+QRect KORVA_Pen::drawSegment(QPixmap* target, const QPen& pen, const QTransform& matrix, QPoint to) const
+{
+    KORVA_ClassicPainter painter(target);
+    painter.setPen(pen);
+    painter.setWorldMatrix(matrix);
+    painter.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
+    return painter.touched();
 }

@@ -3,6 +3,7 @@
 #include "KORVA_DrawingTool.h"
 
 #include <QPoint>
+#include <QRect>
 
 /// The pencil: a dot where the stylus goes down and a line along every move. One press is one undo step.
 class KORVA_EXPORT KORVA_Pen : public KORVA_DrawingTool
@@ -19,6 +20,7 @@ public:
 
 private:
     void drawTo(QPoint to);
+    QRect drawSegment(QPixmap* target, const QPen& pen, const QTransform& matrix, QPoint to) const;
 
     QPoint m_last; ///< the last point drawn, in widget coordinates
     bool m_drawing = false;

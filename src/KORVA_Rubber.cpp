@@ -45,5 +45,5 @@ void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)
     KORVA_ClassicPainter(canvas()->pixmap()).fillRect(QRect(inPicture, square), Qt::white);
     KORVA_ClassicPainter(canvas()->zoomedPixmap()).fillRect(QRect(onScreen, square), Qt::white);
     m_drawing = false;
-    canvas()->refresh();
+    canvas()->refresh(QRect(onScreen, square));
 }

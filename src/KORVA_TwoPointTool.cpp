@@ -24,14 +24,16 @@ void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
     const QPoint to = event->position().toPoint();
     if (!isActive() || m_state == Idle || to == m_end)
         return;
+    QRect touched;
     {
         KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
         painter.setPen(screenPen());
         drawLeftShape(painter, m_start, m_end);
         drawShape(painter, m_start, to);
+        touched = painter.touched();
     }
     m_end = to;
-    canvas()->refresh();
+    canvas()->refresh(touched);
 }
 
 void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)

@@ -75,6 +75,7 @@ int KORVA_ClassicPainter::outlineWidth() const
 void KORVA_ClassicPainter::drawPoint(int x, int y)
 {
     const int side = outlineWidth();
+    touch(QRect(x, y, 1, 1), side);
     const QTransform matrix = m_painter.worldTransform();
     const QPointF place = matrix.map(QPointF(x, y));
     m_painter.setWorldTransform({});
@@ -85,10 +86,12 @@ void KORVA_ClassicPainter::drawPoint(int x, int y)
 
 void KORVA_ClassicPainter::drawLine(int x1, int y1, int x2, int y2)
 {
-    if (x1 == x2 && y1 == y2)
+    if (x1 == x2 && y1 == y2) {
         drawPoint(x1, y1);
-    else
-        m_painter.drawLine(x1, y1, x2, y2);
+        return;
+    }
+    m_painter.drawLine(x1, y1, x2, y2);
+    touch(classic::normalized(QRect(QPoint(x1, y1), QPoint(x2, y2))), outlineWidth());
 }
 
 void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
@@ -98,6 +101,7 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
     mirrorAboutAnchor(x, w);
     mirrorAboutAnchor(y, h);
     const int width = outlineWidth();
+    touch(QRect(x, y, w, h), width);
     if (width > 1 || m_painter.pen().style() > Qt::SolidLine) {
         const double centre = penCentre(width);
         m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1));
@@ -124,6 +128,7 @@ void KORVA_ClassicPainter::drawThinFrame(int x, int y, int w, int h)
 void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
 {
     const int width = outlineWidth();
+    touch(QRect(x, y, w, h), width);
     const int before = width / 2;
     const int after = qMax(0, width - 1) / 2;
     const double centre = penCentre(width);
@@ -136,23 +141,26 @@ void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
 void KORVA_ClassicPainter::fillRect(const QRect& rect, const QColor& color)
 {
     m_painter.fillRect(rect, color);
+    touch(rect);
 }
 
 void KORVA_ClassicPainter::drawPixmap(int x, int y, const QPixmap& pixmap)
 {
     m_painter.drawPixmap(x, y, pixmap);
+    touch(QRect(QPoint(x, y), pixmap.size()));
 }
 
 QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString& text)
 {
     QRect used;
     m_painter.drawText(box, flags, text, &used);
+    touch(used, m_painter.fontMetrics().height()); // letters may reach out of their box
     return used;
 }
 
-void KORVA_ClassicPainter::drawText(int x, int y, const QString& text)
+void KORVA_ClassicPainter::touch(const QRect& rect, int margin)
 {
-    m_painter.drawText(x, y, text);
+    m_touched |= rect.adjusted(-margin, -margin, margin, margin);
 }
 
 namespace classic {

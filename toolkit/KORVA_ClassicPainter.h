@@ -39,15 +39,18 @@ public:
     void drawPixmap(int x, int y, const QPixmap& pixmap);
     /// `flags` are Qt's text flags; the box actually used is returned, in target coordinates.
     QRect drawText(const QRect& box, int flags, const QString& text);
-    /// Text with its baseline's left end at (x, y).
-    void drawText(int x, int y, const QString& text);
+
+    /// A rectangle around all that was painted so far, in the coordinates given.
+    [[nodiscard]] QRect touched() const { return m_touched; }
 
 private:
+    void touch(const QRect& rect, int margin = 0);
     [[nodiscard]] int outlineWidth() const;
     void drawThinFrame(int x, int y, int w, int h);
 
     QPixmap m_nothing; ///< stands in for a null target, on which Qt refuses to open a painter
     QPainter m_painter;
+    QRect m_touched;
 };
 
 namespace classic {
@@ -62,7 +65,8 @@ namespace classic {
 /// A picture of this size filled with one colour; null when a side is not positive.
 [[nodiscard]] QPixmap filled(const QSize& size, const QColor& color);
 
-/// Copies a whole picture into another or onto a widget at (x, y); what falls outside is left away, masks are respected.
+/// Copies a whole picture into another or onto a widget at (x, y); what falls outside is left away, masks
+/// are respected.
 void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source);
 
 } // namespace classic
