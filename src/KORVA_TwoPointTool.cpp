@@ -8,6 +8,15 @@
 void KORVA_TwoPointTool::activating()
 {
     canvas()->setCursor(Qt::CrossCursor);
+    zoomedRebuilt();
+    canvas()->refresh();
+}
+
+void KORVA_TwoPointTool::deactivating()
+{
+    if (m_state == Dragging)
+        togglePreview();
+    canvas()->refresh();
 }
 
 void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
@@ -17,6 +26,7 @@ void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
     m_state = Dragging;
     m_start = m_end = event->position().toPoint();
     setButton(event->button());
+    m_shownPen = screenPen();
 }
 
 void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
@@ -27,7 +37,7 @@ void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
     QRect touched;
     {
         KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
-        painter.setPen(screenPen());
+        painter.setPen(m_shownPen);
         drawLeftShape(painter, m_start, m_end);
         drawShape(painter, m_start, to);
         touched = painter.touched();
@@ -54,8 +64,10 @@ void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
 
 void KORVA_TwoPointTool::zoomedRebuilt()
 {
-    if (m_state == Dragging)
-        togglePreview();
+    if (m_state == Idle)
+        return;
+    m_shownPen = screenPen();
+    togglePreview();
 }
 
 void KORVA_TwoPointTool::drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const
@@ -67,7 +79,7 @@ void KORVA_TwoPointTool::drawLeftShape(KORVA_ClassicPainter& painter, QPoint fro
 void KORVA_TwoPointTool::togglePreview()
 {
     KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
-    painter.setPen(screenPen());
+    painter.setPen(m_shownPen);
     drawShape(painter, m_start, m_end);
     drawShape(painter, m_start, m_start);
 }

@@ -18,8 +18,9 @@ public:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    /// The drag's state is kept over a change of tools.
+    /// A drag is kept over a change of tools; its preview is hidden meanwhile.
     void activating() override;
+    void deactivating() override;
     void zoomedRebuilt() override;
 
 protected:
@@ -39,10 +40,12 @@ private:
         Dragging, ///< the shape from m_start to m_end is on screen, inverted
     };
 
+    void showPreview();
     void togglePreview();
     void paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to);
 
     State m_state = Idle;
-    QPoint m_start; ///< widget coordinates
-    QPoint m_end;   ///< the last move, widget coordinates
+    QPoint m_start;  ///< widget coordinates
+    QPoint m_end;    ///< the last move, widget coordinates
+    QPen m_shownPen; ///< what the preview was drawn with: the pen may change before it is removed
 };
