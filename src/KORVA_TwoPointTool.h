@@ -40,7 +40,6 @@ private:
         Dragging, ///< the shape from m_start to m_end is on screen, inverted
     };
 
-    void showPreview();
     void togglePreview();
     void paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to);
 

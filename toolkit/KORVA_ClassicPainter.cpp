@@ -21,6 +21,14 @@ double penCentre(int width)
     return width > 1 && width % 2 == 1 ? 0.5 : 0.0;
 }
 
+// What a shape covers with an outline of this width.
+QRect withOutline(const QRect& box, int width)
+{
+    const int before = width / 2;
+    const int after = qMax(0, width - 1) / 2;
+    return box.adjusted(-before, -before, after, after);
+}
+
 void mirrorAboutAnchor(int& origin, int& length)
 {
     if (length < 0) {
@@ -102,38 +110,32 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
     mirrorAboutAnchor(y, h);
     const int width = outlineWidth();
     touch(QRect(x, y, w, h), width);
-    if (width > 1 || m_painter.pen().style() > Qt::SolidLine) {
+    if (m_painter.pen().style() > Qt::SolidLine) {
         const double centre = penCentre(width);
         m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1));
         return;
     }
-    m_painter.fillRect(x, y, w, h, m_painter.brush());
-    if (width == 1)
-        drawThinFrame(x, y, w, h);
-}
-
-// Four bars that share no pixel: today's own thin frame would invert the pixels of a narrow one twice.
-void KORVA_ClassicPainter::drawThinFrame(int x, int y, int w, int h)
-{
-    const QBrush ink = m_painter.pen().brush();
-    m_painter.fillRect(x, y, w, 1, ink);
-    if (h > 1)
-        m_painter.fillRect(x, y + h - 1, w, 1, ink);
-    if (h > 2)
-        m_painter.fillRect(x, y + 1, 1, h - 2, ink);
-    if (h > 2 && w > 1)
-        m_painter.fillRect(x + w - 1, y + 1, 1, h - 2, ink);
+    // Bars that share no pixel: today's own outline would invert the pixels of a narrow frame twice and let
+    // the corners of a wide one grow spikes.
+    const QRect outer = withOutline(QRect(x, y, w, h), width);
+    const QRect hole = outer.adjusted(width, width, -width, -width);
+    for (const QRect& bar : QRegion(outer) - hole)
+        m_painter.fillRect(bar, m_painter.pen().brush());
+    if (!hole.isEmpty())
+        m_painter.fillRect(hole, m_painter.brush());
 }
 
 void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
 {
+    if (w == 1 || h == 1) {
+        drawRect(x, y, w, h); // no more than a line, of which today's own would invert every pixel twice
+        return;
+    }
     const int width = outlineWidth();
     touch(QRect(x, y, w, h), width);
-    const int before = width / 2;
-    const int after = qMax(0, width - 1) / 2;
     const double centre = penCentre(width);
     m_painter.save();
-    m_painter.setClipRect(QRect(x, y, w, h).adjusted(-before, -before, after, after));
+    m_painter.setClipRect(withOutline(QRect(x, y, w, h), width));
     m_painter.drawEllipse(QRectF(x + centre, y + centre, w - 1, h - 1));
     m_painter.restore();
 }

@@ -46,7 +46,6 @@ public:
 private:
     void touch(const QRect& rect, int margin = 0);
     [[nodiscard]] int outlineWidth() const;
-    void drawThinFrame(int x, int y, int w, int h);
 
     QPixmap m_nothing; ///< stands in for a null target, on which Qt refuses to open a painter
     QPainter m_painter;
