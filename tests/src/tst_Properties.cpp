@@ -6,7 +6,7 @@ using fixtures::PictureCanvas;
 namespace {
 
 constexpr int sequences = 1000;
-constexpr int stepsEach = 15;
+constexpr int stepsEach = 40;
 constexpr QSize size(26, 21);
 
 /// A person who does with a small canvas whatever comes to mind; the same seed does the same again.
