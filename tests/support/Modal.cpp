@@ -1,0 +1,73 @@
+#include "Modal.h"
+
+#include <QtTest>
+
+namespace support {
+
+namespace {
+
+constexpr int patience = 5000;
+
+/// Waits for a dialog other than the one that was open when it was made.
+class Watcher : public QTimer
+{
+public:
+    explicit Watcher(std::function<void(QDialog&)> work)
+        : m_work(std::move(work)), m_open(QApplication::activeModalWidget())
+    {
+        m_age.start();
+        callOnTimeout(this, &Watcher::look);
+        start(1);
+    }
+
+private:
+    void look()
+    {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || dialog == m_open || !dialog->isVisible()) {
+            if (m_age.elapsed() > patience)
+                QTest::qFail("no modal dialog opened", __FILE__, __LINE__);
+            else
+                return;
+        }
+        stop();
+        deleteLater();
+        if (!dialog)
+            return;
+        QTimer::singleShot(patience, dialog, [dialog] {
+            QTest::qFail("the dialog stayed open", __FILE__, __LINE__);
+            dialog->done(-1);
+        });
+        m_work(*dialog);
+    }
+
+    std::function<void(QDialog&)> m_work;
+    QPointer<QWidget> m_open;
+    QElapsedTimer m_age;
+};
+
+} // namespace
+
+void whenOpen(const std::function<void(QDialog&)>& work)
+{
+    new Watcher(work);
+}
+
+QAbstractButton* button(const QDialog& dialog, const QString& text)
+{
+    for (QAbstractButton* candidate : dialog.findChildren<QAbstractButton*>())
+        if (candidate->text() == text)
+            return candidate;
+    return nullptr;
+}
+
+QStringList labels(const QDialog& dialog)
+{
+    QMap<int, QString> byTop;
+    for (const QLabel* label : dialog.findChildren<QLabel*>())
+        if (label->isVisible() && !label->text().isEmpty())
+            byTop[label->mapTo(&dialog, QPoint()).y()] = label->text();
+    return byTop.values();
+}
+
+} // namespace support
