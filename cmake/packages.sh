@@ -16,3 +16,4 @@ need_packages() {
 
 build_packages=(cmake ninja-build g++ qt6-base-dev libgl-dev qt6-image-formats-plugins
     libgif-dev libpng-dev fonts-dejavu-core)
+build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-dev qt6-image-formats-plugins fonts-dejavu-core)

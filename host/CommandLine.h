@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Failure.h"
+
+#include <QStringList>
+
+#include <optional>
+
+namespace pad {
+
+/// What korva-pad was asked to do.
+struct CommandLine
+{
+    std::optional<int> scale; ///< every pixel is shown scale × scale; nothing: what suits the screen
+    QString replay;
+    QString record;
+    QString save;
+    QString screenshot;
+    bool help = false;
+    bool version = false;
+    QString picture;
+
+    /// `arguments` without the program's name. An option's value follows it, or stands behind "="; what
+    /// follows "--" is a picture whatever its name.
+    [[nodiscard]] static Expected<CommandLine> parse(const QStringList& arguments);
+    [[nodiscard]] static QString helpText();
+
+    /// Whether the program writes its results and ends by itself, with nobody at the window.
+    [[nodiscard]] bool endsByItself() const { return !save.isEmpty() || !screenshot.isEmpty(); }
+};
+
+} // namespace pad

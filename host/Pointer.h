@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QEvent>
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+
+namespace pad {
+
+/// A pointer made of events: what the window system sends when a person works on a widget. An event goes to
+/// the widget under the point, or to an open pop-up; from a press to the release, to the widget pressed.
+class Pointer
+{
+public:
+    /// Points are coordinates of `surface`, which outlives the pointer.
+    explicit Pointer(QWidget* surface) : m_surface(surface) {}
+
+    void press(QPoint at, Qt::MouseButton button);
+    /// With no button held: a hover, which only a widget that tracks the mouse hears of.
+    void move(QPoint to);
+    void release(QPoint at, Qt::MouseButton button);
+
+private:
+    [[nodiscard]] QWidget* widgetUnder(QPoint at) const;
+    void send(QEvent::Type type, QPoint at, Qt::MouseButton button);
+
+    QWidget* m_surface; // not owned
+    QPointer<QWidget> m_pressed;
+    Qt::MouseButtons m_held;
+};
+
+} // namespace pad

@@ -1,0 +1,103 @@
+#include "Recorder.h"
+
+#include <KORVA_Canvas.h>
+#include <KORVA_EditCanvas.h>
+#include <KORVA_PasteLabel.h>
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+namespace pad {
+
+Recorder::Recorder(KORVA_EditCanvas& editor, QObject* parent) : QObject(parent), m_editor(editor) {}
+
+std::optional<Failure> Recorder::start(const QString& fileName)
+{
+    m_file.setFileName(fileName);
+    if (!m_file.open(QIODevice::WriteOnly))
+        return Failure{QStringLiteral("cannot write '%1': %2").arg(fileName, m_file.errorString())};
+    m_editor.canvas()->installEventFilter(this);
+    m_editor.canvas()->pasteLabel()->installEventFilter(this);
+    watchMenus();
+    return {};
+}
+
+std::optional<Failure> Recorder::finish()
+{
+    if (m_file.isOpen() && (!m_file.flush() || m_file.error() != QFileDevice::NoError))
+        return Failure{
+            QStringLiteral("cannot write '%1': %2").arg(m_file.fileName(), m_file.errorString())};
+    m_file.close();
+    return {};
+}
+
+void Recorder::watchMenus()
+{
+    const auto watch = [this](QMenu* menu, std::initializer_list<Verb> verbs) {
+        qsizetype i = 0;
+        for (const Verb verb : verbs) {
+            connect(menu->actions().at(i++), &QAction::triggered, this, [this, verb] {
+                Command command;
+                command.verb = verb;
+                write(command);
+            });
+        }
+    };
+    watch(m_editor.canvas()->contextMenu(), {Verb::Cut, Verb::Copy, Verb::Paste});
+    watch(m_editor.canvas()->pasteLabel()->menu(), {Verb::Copy, Verb::Cut, Verb::Paste});
+}
+
+bool Recorder::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        writeMouse(static_cast<const QWidget&>(*watched), static_cast<const QMouseEvent&>(*event));
+        break;
+    case QEvent::KeyPress:
+        if (watched == m_editor.canvas())
+            writeKey(static_cast<const QKeyEvent&>(*event));
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void Recorder::writeMouse(const QWidget& receiver, const QMouseEvent& event)
+{
+    if (event.button() != Qt::LeftButton && event.button() != Qt::NoButton)
+        return; // they open a menu, whose commands are written when they are chosen
+    Command command;
+    command.point = receiver.mapTo(m_editor.canvas(), event.position().toPoint());
+    command.verb = event.type() == QEvent::MouseMove            ? Verb::Move
+                   : event.type() == QEvent::MouseButtonRelease ? Verb::Release
+                                                                : Verb::Press;
+    write(command);
+}
+
+void Recorder::writeKey(const QKeyEvent& event)
+{
+    constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const bool isText =
+        !event.text().isEmpty() && event.text().at(0).isPrint() && !(event.modifiers() & commands);
+    Command command;
+    command.verb = isText ? Verb::Type : Verb::Key;
+    command.text = event.text();
+    command.key = event.keyCombination();
+    if (isText || event.key() != Qt::Key_unknown)
+        write(command);
+}
+
+void Recorder::write(const Command& command)
+{
+    m_file.write(Recording::toLine(command).toUtf8() + '\n');
+    if (command.verb != Verb::Move)
+        m_file.flush(); // what has been drawn survives the end of the program, however it comes
+}
+
+} // namespace pad

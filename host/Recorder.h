@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Recording.h"
+
+#include <QFile>
+#include <QObject>
+
+class KORVA_EditCanvas;
+class QKeyEvent;
+class QMouseEvent;
+
+namespace pad {
+
+/// Writes down what a person does to the drawing, so that playing it gives the same picture.
+class Recorder : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Recorder(KORVA_EditCanvas& editor, QObject* parent = nullptr);
+
+    /// Begins a recording in this file, which is replaced.
+    std::optional<Failure> start(const QString& fileName);
+    /// Ends the recording; a failure of any write comes out here at the latest.
+    std::optional<Failure> finish();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+public slots:
+    void write(const pad::Command& command);
+
+private:
+    void writeMouse(const QWidget& receiver, const QMouseEvent& event);
+    void writeKey(const QKeyEvent& event);
+    void watchMenus();
+
+    KORVA_EditCanvas& m_editor;
+    QFile m_file;
+};
+
+} // namespace pad

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "Failure.h"
+
+#include <QColor>
+#include <QKeyCombination>
+#include <QPoint>
+#include <QSize>
+
+#include <vector>
+
+namespace pad {
+
+/// What a line of a recording does.
+enum class Verb {
+    Tool,
+    Option,
+    Color,
+    Zoom,
+    Press,
+    Move, ///< without a press: a hover
+    Release,
+    Type,
+    Key,
+    Undo,
+    Redo,
+    Cut,
+    Copy,
+    Paste,
+    SelectAll,
+    Clear,
+    Canvas,
+    Open,
+    Save,
+    Wait,
+    Answer,
+};
+
+/// One line of a recording, understood. Which fields count depends on the verb.
+struct Command
+{
+    Verb verb = Verb::Wait;
+    int line = 0; ///< in the file, from 1
+    QPoint point; ///< Press, Move, Release: canvas widget coordinates
+    Qt::MouseButton button = Qt::LeftButton;
+    int number = 0; ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
+                    ///< Option, Answer: an index; Wait: milliseconds
+    QSize size;     ///< Canvas: pixels
+    QColor color;
+    QKeyCombination key = QKeyCombination(Qt::Key_unknown);
+    QString text; ///< Type: what is typed; Open, Save: a file's name
+
+    bool operator==(const Command& other) const = default;
+};
+
+/// The words of the language, by the numbers they stand for.
+inline constexpr const char* toolNames[] = {"pencil",    "select",  "line",   "text",
+                                            "rectangle", "ellipse", "eraser", "hand"};
+inline constexpr const char* zoomNames[] = {"50", "100", "150", "200", "fit"};
+inline constexpr const char* canvasNames[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
+
+/// A drawing session as text: a command a line, "#" begins a comment. A name or text with blanks stands in
+/// double quotes, with \" \\ \n \t inside.
+class Recording
+{
+public:
+    /// `name` is the file's, for the messages: "name:line: what is wrong".
+    [[nodiscard]] static Expected<Recording> parse(const QByteArray& text, const QString& name);
+    [[nodiscard]] static Expected<Recording> read(const QString& fileName);
+    /// The line, without its end, that parse() reads as this command.
+    [[nodiscard]] static QString toLine(const Command& command);
+
+    [[nodiscard]] const std::vector<Command>& commands() const { return m_commands; }
+    /// A failure of one of these commands, as parse() would word it.
+    [[nodiscard]] Failure failureAt(const Command& command, const QString& message) const;
+
+private:
+    QString m_name;
+    std::vector<Command> m_commands;
+};
+
+} // namespace pad

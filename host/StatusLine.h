@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class KORVA_EditCanvas;
+class QLabel;
+
+namespace pad {
+
+/// The line below the editor: tool, size of the picture, zoom, and where the pointer is in the picture.
+///
+/// It follows the pointer a few times a second, so that it costs a stroke nothing.
+class StatusLine : public QWidget
+{
+    Q_OBJECT
+
+public:
+    StatusLine(const KORVA_EditCanvas& editor, QWidget* parent);
+
+    /// Shows the present state now.
+    void refresh();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void refreshSoon();
+    QLabel* addField(const QString& meaning, Qt::Alignment alignment, int stretch);
+
+    const KORVA_EditCanvas& m_editor;
+    QLabel* m_tool;
+    QLabel* m_size;
+    QLabel* m_zoom;
+    QLabel* m_position;
+    QPoint m_pointer; ///< canvas widget coordinates
+    bool m_isOver = false;
+    QTimer m_timer;
+};
+
+} // namespace pad
