@@ -26,11 +26,9 @@ QPixmap sharpestOf(const QDir& folder, const QString& name)
         const QString mark = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
         const QString file =
             folder.filePath(plain.completeBaseName() + mark + QLatin1Char('.') + plain.suffix());
-        QPixmap icon;
-        if (QFileInfo(file).isFile() && icon.load(file)) {
-            icon.setDevicePixelRatio(scale);
+        QPixmap icon; // takes its device pixel ratio from the mark in the name
+        if (QFileInfo(file).isFile() && icon.load(file))
             return icon;
-        }
     }
     return {};
 }

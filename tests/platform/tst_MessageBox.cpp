@@ -306,6 +306,22 @@ private slots:
         (void)UTIL_Platform::instance()->question(nullptr, icon, message, buttons);
     }
 
+    void aNameWiderThanTheBoxIsBroken()
+    {
+        const auto textHeight = [](const QString& message) {
+            int height = 0;
+            support::whenOpen([&](QDialog& box) {
+                height = box.findChildren<QLabel*>().back()->height();
+                box.done(0);
+            });
+            UTIL_Platform::instance()->timedMessage(nullptr, icon, message, 60);
+            return height;
+        };
+        const int line = textHeight("x");
+        QVERIFY(line > 0);
+        QCOMPARE(textHeight(QString("x").repeated(70)), 3 * line);
+    }
+
     void aTextThatIsCutIsTheToolTip()
     {
         const QString message = QString("Many words. ").repeated(60);

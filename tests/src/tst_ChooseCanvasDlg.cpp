@@ -47,21 +47,6 @@ void choose(QDialog& dialog, int row, bool byKeyboard)
     QTest::keyClick(&list, Qt::Key_Space);
 }
 
-void press(QDialog& dialog, const QString& key, bool byKeyboard)
-{
-    if (byKeyboard)
-        QTest::keyClick(dialog.focusWidget(), key == "OK" ? Qt::Key_Return : Qt::Key_Escape);
-    else
-        QTest::mouseClick(support::button(dialog, key), Qt::LeftButton);
-}
-
-void addWays()
-{
-    QTest::addColumn<bool>("byKeyboard");
-    QTest::newRow("by pointer") << false;
-    QTest::newRow("by keyboard") << true;
-}
-
 } // namespace
 
 class tst_ChooseCanvasDlg : public support::TestCase
@@ -110,7 +95,7 @@ private slots:
         for (const bool byKeyboard : {false, true}) {
             KORVA_ChooseCanvasDlg dialog(nullptr, index);
             QCOMPARE(marked(dialog), QList<int>{index});
-            support::whenOpen([&](QDialog& open) { press(open, "OK", byKeyboard); });
+            support::whenOpen([&](QDialog& open) { support::press(open, "OK", byKeyboard); });
             QCOMPARE(dialog.exec(), 1);
             QCOMPARE(dialog.getIndex(), index);
             QCOMPARE(dialog.canvasSize(), entries[size_t(index)].size);
@@ -136,7 +121,7 @@ private slots:
             choose(open, index, byKeyboard);
             QCOMPARE(marked(open), QList<int>{index});
             QCOMPARE(dialog.getIndex(), index);
-            press(open, "OK", byKeyboard);
+            support::press(open, "OK", byKeyboard);
         });
         QCOMPARE(dialog.exec(), 1);
         QCOMPARE(dialog.getIndex(), index);
@@ -149,13 +134,13 @@ private slots:
         support::whenOpen([&](QDialog& open) {
             for (const int row : {0, 4, 2})
                 choose(open, row, false);
-            press(open, "OK", false);
+            support::press(open, "OK", false);
         });
         QCOMPARE(dialog.exec(), 1);
         QCOMPARE(dialog.getIndex(), 2);
     }
 
-    void cancellingBringsTheFirstIndexBack_data() { addWays(); }
+    void cancellingBringsTheFirstIndexBack_data() { support::addWays(); }
 
     void cancellingBringsTheFirstIndexBack()
     {
@@ -164,7 +149,7 @@ private slots:
         support::whenOpen([&](QDialog& open) {
             choose(open, 1, byKeyboard);
             QCOMPARE(dialog.getIndex(), 1);
-            press(open, "Cancel", byKeyboard);
+            support::press(open, "Cancel", byKeyboard);
         });
         QCOMPARE(dialog.exec(), 0);
         QCOMPARE(dialog.getIndex(), 3);
@@ -196,14 +181,14 @@ private slots:
             KORVA_ChooseCanvasDlg untouched(nullptr, index);
             QCOMPARE(marked(untouched), QList<int>{});
             QCOMPARE(untouched.canvasSize(), QSize(0, 0));
-            support::whenOpen([&](QDialog& open) { press(open, "OK", byKeyboard); });
+            support::whenOpen([&](QDialog& open) { support::press(open, "OK", byKeyboard); });
             QCOMPARE(untouched.exec(), 1);
             QCOMPARE(untouched.getIndex(), index);
 
             KORVA_ChooseCanvasDlg tapped(nullptr, index);
             support::whenOpen([&](QDialog& open) {
                 choose(open, 2, byKeyboard);
-                press(open, "OK", byKeyboard);
+                support::press(open, "OK", byKeyboard);
             });
             QCOMPARE(tapped.exec(), 1);
             QCOMPARE(tapped.getIndex(), 2);

@@ -34,14 +34,6 @@ QColor pick(int type, const QColor& color, const std::function<void(QDialog&)>& 
     return KORVA_ColorPicker::getColor(KORVA_COLORTYPE(type), color);
 }
 
-void press(QDialog& dialog, const QString& key, bool byKeyboard)
-{
-    if (byKeyboard)
-        QTest::keyClick(dialog.focusWidget(), key == "OK" ? Qt::Key_Return : Qt::Key_Escape);
-    else
-        QTest::mouseClick(support::button(dialog, key), Qt::LeftButton);
-}
-
 /// Takes a slider to its right end.
 void maximise(QDialog& dialog, int channel, bool byKeyboard)
 {
@@ -54,13 +46,6 @@ void maximise(QDialog& dialog, int channel, bool byKeyboard)
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     for (int i = slider->value(); i < slider->maximum(); ++i)
         QTest::keyClick(slider, Qt::Key_Right);
-}
-
-void addWays()
-{
-    QTest::addColumn<bool>("byKeyboard");
-    QTest::newRow("by pointer") << false;
-    QTest::newRow("by keyboard") << true;
 }
 
 } // namespace
@@ -195,13 +180,13 @@ private slots:
         QCOMPARE(given, values);
     }
 
-    void acceptingAtOnceReturnsTheColour_data() { addWays(); }
+    void acceptingAtOnceReturnsTheColour_data() { support::addWays(); }
 
     void acceptingAtOnceReturnsTheColour()
     {
         QFETCH(bool, byKeyboard);
         const QColor given = pick(KORVA_COLOR_16BIT, QColor(12, 34, 56),
-                                  [&](QDialog& dialog) { press(dialog, "OK", byKeyboard); });
+                                  [&](QDialog& dialog) { support::press(dialog, "OK", byKeyboard); });
         QCOMPARE(given, QColor(12, 34, 56));
     }
 
@@ -233,7 +218,7 @@ private slots:
                 maximise(dialog, 0, byKeyboard);
                 QVERIFY(swatchColor(dialog) != before);
             }
-            press(dialog, "Cancel", byKeyboard);
+            support::press(dialog, "Cancel", byKeyboard);
         });
         QCOMPARE(given, passed);
     }
@@ -277,12 +262,12 @@ private slots:
         const QColor given = pick(type, QColor(10, 20, 30), [&](QDialog& dialog) {
             maximise(dialog, channel, byKeyboard);
             QCOMPARE(swatchColor(dialog), result);
-            press(dialog, "OK", byKeyboard);
+            support::press(dialog, "OK", byKeyboard);
         });
         QCOMPARE(given, result);
     }
 
-    void withOneBitOnlyRedCanBeTakenAway_data() { addWays(); }
+    void withOneBitOnlyRedCanBeTakenAway_data() { support::addWays(); }
 
     void withOneBitOnlyRedCanBeTakenAway()
     {
@@ -292,7 +277,7 @@ private slots:
                 QTest::keyClick(dialog.focusWidget(), Qt::Key_Left);
             else
                 QTest::mouseClick(sliders(dialog)[0], Qt::LeftButton, {}, QPoint(4, 5));
-            press(dialog, "OK", byKeyboard);
+            support::press(dialog, "OK", byKeyboard);
         });
         QCOMPARE(given, QColor(0, 255, 255));
     }

@@ -61,6 +61,21 @@ QAbstractButton* button(const QDialog& dialog, const QString& text)
     return nullptr;
 }
 
+void press(QDialog& dialog, const QString& key, bool byKeyboard)
+{
+    if (byKeyboard)
+        QTest::keyClick(dialog.focusWidget(), key == "OK" ? Qt::Key_Return : Qt::Key_Escape);
+    else
+        QTest::mouseClick(button(dialog, key), Qt::LeftButton);
+}
+
+void addWays()
+{
+    QTest::addColumn<bool>("byKeyboard");
+    QTest::newRow("by pointer") << false;
+    QTest::newRow("by keyboard") << true;
+}
+
 QStringList labels(const QDialog& dialog)
 {
     QMap<int, QString> byTop;

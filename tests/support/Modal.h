@@ -12,6 +12,11 @@ void whenOpen(const std::function<void(QDialog&)>& work);
 
 /// The button of a dialog with exactly this text; null when there is none.
 [[nodiscard]] QAbstractButton* button(const QDialog& dialog, const QString& text);
+/// Presses the key "OK" or "Cancel" with a pointer, or what stands for it on the keyboard.
+void press(QDialog& dialog, const QString& key, bool byKeyboard);
+/// The column "byKeyboard" with a row for each way to work a dialog.
+void addWays();
+
 /// The texts of the labels that are to be seen, from top to bottom.
 [[nodiscard]] QStringList labels(const QDialog& dialog);
 
