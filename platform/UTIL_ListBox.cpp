@@ -28,12 +28,13 @@ void UTIL_ListBox::checkItem(int row, bool checked)
 {
     if (row < 0 || row >= count())
         return;
-    for (int other = 0; checked && other < count(); ++other)
-        item(other)->setCheckState(other == row ? Qt::Checked : Qt::Unchecked);
-    if (checked)
-        setCurrentRow(row);
-    else
+    if (!checked) {
         item(row)->setCheckState(Qt::Unchecked);
+        return;
+    }
+    for (int other = 0; other < count(); ++other)
+        item(other)->setCheckState(other == row ? Qt::Checked : Qt::Unchecked);
+    setCurrentRow(row);
 }
 
 void UTIL_ListBox::choose(QListWidgetItem* item, int button, const QPoint& position)

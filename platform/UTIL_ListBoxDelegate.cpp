@@ -47,12 +47,13 @@ void UTIL_ListBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& 
     for (const UTIL_ItemLayout::Field& field : m_layout.fields()) {
         const QRect area(option.rect.left() + field.left, option.rect.top(), field.width,
                          option.rect.height());
-        if (field.kind == UTIL_ItemLayout::Kind::Radio)
+        if (field.kind == UTIL_ItemLayout::Kind::Radio) {
             UTIL_Skin::paintRadio(*painter, area, marked, state != State::Disabled);
-        else
-            painter->drawText(
-                area, Qt::AlignLeft | Qt::AlignVCenter,
-                option.fontMetrics.elidedText(strings.value(number), Qt::ElideRight, field.width));
+        } else {
+            const QString text = strings.value(number);
+            painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
+                              option.fontMetrics.elidedText(text, Qt::ElideRight, field.width));
+        }
         ++number;
     }
 }

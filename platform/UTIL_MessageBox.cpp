@@ -111,10 +111,11 @@ void UTIL_MessageBox::keyPressEvent(QKeyEvent* event)
 {
     const bool taps = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                       event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
-    if (m_timeout && taps)
+    if (m_timeout && taps) {
         accept();
-    else
-        UTIL_Dialog::keyPressEvent(event);
+        return;
+    }
+    UTIL_Dialog::keyPressEvent(event);
 }
 
 void UTIL_MessageBox::mousePressEvent(QMouseEvent* event)

@@ -75,10 +75,11 @@ QRect UTIL_Slider::handleRect() const
 {
     const int start = QStyle::sliderPositionFromValue(minimum(), maximum(), sliderPosition(), travel());
     QRect handle = centred(logicalSize(m_handle), rect());
-    if (orientation() == Qt::Horizontal)
+    if (orientation() == Qt::Horizontal) {
         handle.moveLeft(start);
-    else
+    } else {
         handle.moveBottom(height() - 1 - start);
+    }
     return handle;
 }
 
@@ -108,9 +109,10 @@ void UTIL_Slider::mousePressEvent(QMouseEvent* event)
 
 void UTIL_Slider::mouseMoveEvent(QMouseEvent* event)
 {
-    if (isSliderDown())
-        setSliderPosition(QStyle::sliderValueFromPosition(
-            minimum(), maximum(), along(event->position().toPoint()) - m_grip, travel()));
+    if (!isSliderDown())
+        return;
+    const int start = along(event->position().toPoint()) - m_grip;
+    setSliderPosition(QStyle::sliderValueFromPosition(minimum(), maximum(), start, travel()));
 }
 
 void UTIL_Slider::mouseReleaseEvent(QMouseEvent* event)
