@@ -38,7 +38,7 @@ constexpr int textTool = 3;
 struct Commands::Entry
 {
     Label label;
-    const char* keys; ///< separated by ";"
+    const char* keys; ///< separated by "; "
     Needs needs;
     std::variant<Verb, void (Commands::*)()> action;
     bool endsGroup = false;
@@ -51,7 +51,7 @@ Commands::Commands(KORVA_EditCanvas& editor, Document& document, QWidget* window
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Save", "menu"), "Ctrl+S", Needs::File, &Commands::save,
          true},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Undo", "menu"), "Ctrl+Z", Needs::Undo, Verb::Undo},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Redo", "menu"), "Ctrl+Shift+Z;Ctrl+Y", Needs::Redo,
+        {QT_TRANSLATE_NOOP3("pad::Commands", "&Redo", "menu"), "Ctrl+Shift+Z; Ctrl+Y", Needs::Redo,
          Verb::Redo, true},
         {QT_TRANSLATE_NOOP3("pad::Commands", "Cu&t", "menu"), "Ctrl+X", Needs::Selection, Verb::Cut},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Copy", "menu"), "Ctrl+C", Needs::Selection, Verb::Copy},

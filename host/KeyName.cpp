@@ -11,11 +11,12 @@ constexpr struct
 {
     const char* name;
     Qt::KeyboardModifier modifier;
+    Qt::Key key;
 } modifiers[] = {
-    {"Ctrl", Qt::ControlModifier},
-    {"Shift", Qt::ShiftModifier},
-    {"Alt", Qt::AltModifier},
-    {"Meta", Qt::MetaModifier},
+    {"Ctrl", Qt::ControlModifier, Qt::Key_Control},
+    {"Shift", Qt::ShiftModifier, Qt::Key_Shift},
+    {"Alt", Qt::AltModifier, Qt::Key_Alt},
+    {"Meta", Qt::MetaModifier, Qt::Key_Meta},
 };
 
 constexpr QLatin1String prefix("Key_");
@@ -61,7 +62,7 @@ QString keyName(QKeyCombination key)
 {
     QString name;
     for (const auto& row : modifiers) {
-        if (key.keyboardModifiers().testFlag(row.modifier))
+        if (key.keyboardModifiers().testFlag(row.modifier) && key.key() != row.key)
             name += QLatin1String(row.name) + QLatin1Char('+');
     }
     const char* plain = QMetaEnum::fromType<Qt::Key>().valueToKey(key.key());

@@ -18,7 +18,7 @@ constexpr Format formats[] = {
     {"bmp", "BMP", -1},   {"jpg", "JPEG", 96},  {"jpe", "JPEG", 96},
     {"jpeg", "JPEG", 96}, {"gif", nullptr, -1},
 };
-constexpr Format otherwise{"", "PNG", -1};
+constexpr Format png{"png", "PNG", -1};
 
 Format formatOf(const QString& fileName)
 {
@@ -27,7 +27,16 @@ Format formatOf(const QString& fileName)
         if (extension == QLatin1String(format.extension))
             return format;
     }
-    return otherwise;
+    return png;
+}
+
+std::optional<Failure> write(const QImage& picture, const QString& fileName, const Format& format)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, format.name, format.quality) ||
+        !file.commit())
+        return Failure{QStringLiteral("cannot write '%1': %2").arg(fileName, file.errorString())};
+    return {};
 }
 
 } // namespace
@@ -37,11 +46,12 @@ std::optional<Failure> writePicture(const QImage& picture, const QString& fileNa
     const Format format = formatOf(fileName);
     if (!format.name)
         return Failure{QStringLiteral("cannot write '%1': GIF pictures are only read").arg(fileName)};
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, format.name, format.quality) ||
-        !file.commit())
-        return Failure{QStringLiteral("cannot write '%1': %2").arg(fileName, file.errorString())};
-    return {};
+    return write(picture, fileName, format);
+}
+
+std::optional<Failure> writePng(const QImage& picture, const QString& fileName)
+{
+    return write(picture, fileName, png);
 }
 
 } // namespace pad

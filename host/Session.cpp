@@ -36,6 +36,7 @@ int Session::run()
     if (const auto failure = begin())
         return complain(*failure);
     m_window.show();
+    m_window.activateWindow(); // not every desktop gives the keyboard to a new window
 
     // Inside the event loop, so that closing the window ends the program while it plays, too.
     int result = 0;
@@ -82,7 +83,7 @@ std::optional<Failure> Session::work()
 std::optional<Failure> Session::writeResults()
 {
     if (!m_line.screenshot.isEmpty()) {
-        if (auto failure = writePicture(m_window.screenshot(), m_line.screenshot))
+        if (auto failure = writePng(m_window.screenshot(), m_line.screenshot))
             return failure;
     }
     if (!m_line.save.isEmpty())

@@ -1,0 +1,315 @@
+#include "support/Images.h"
+#include "support/PadProcess.h"
+#include "support/TestCase.h"
+
+using support::PadProcess;
+using support::sameImage;
+using support::sheet;
+
+namespace {
+
+constexpr QSize newCanvas(200, 170);
+
+void writeFile(const QString& name, const QByteArray& bytes)
+{
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray readFile(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no such file)");
+}
+
+} // namespace
+
+/// The program itself, as a person or a script starts it: exit codes, standard error, files.
+class tst_CommandLine : public support::TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void help_data();
+    void help();
+    void version_data();
+    void version();
+    void failsWithOneLine_data();
+    void failsWithOneLine();
+    void savesInTheFormatOfTheName_data();
+    void savesInTheFormatOfTheName();
+    void replayThenSave();
+    void valueBehindAnEqualsSign();
+    void aPictureNamedLikeAnOption();
+    void nothingIsWrittenAfterABrokenRecording();
+    void aFailedSaveLeavesTheOldFile();
+    void screenshotAtItsScale_data();
+    void screenshotAtItsScale();
+    void replayAloneEndsOffScreen();
+    void withoutADisplay();
+    void waitsAsLongAsTold();
+    void aRecordingBeginsWithThePicture();
+
+private:
+    [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_CommandLine::init()
+{
+    support::TestCase::init();
+    m_folder = std::make_unique<QTemporaryDir>();
+    sheet(QSize(20, 10), Qt::blue).save(path("blue.png"));
+    writeFile(path("dot.rec"), "press 10 10\nrelease 10 10\n");
+    writeFile(path("broken.rec"), "press 10 10\nrelease 10\n");
+    writeFile(path("text.png"), "this is no picture");
+}
+
+void tst_CommandLine::help_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("--help") << "--help";
+    QTest::newRow("-h") << "-h";
+}
+
+void tst_CommandLine::help()
+{
+    QFETCH(QString, option);
+    PadProcess pad({option});
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.exitCode(), 0);
+    QCOMPARE(pad.errors(), "");
+    const QString text = pad.output();
+    for (const char* name :
+         {"--scale", "--replay", "--record", "--save", "--screenshot", "--help", "--version"})
+        QVERIFY2(text.contains(name), name);
+}
+
+void tst_CommandLine::version_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("--version") << "--version";
+    QTest::newRow("-v") << "-v";
+}
+
+void tst_CommandLine::version()
+{
+    QFETCH(QString, option);
+    PadProcess pad({option});
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.exitCode(), 0);
+    QCOMPARE(pad.errors(), "");
+    QVERIFY(QRegularExpression("^korva-pad \\d+\\.\\d+\\.\\d+\n$").match(pad.output()).hasMatch());
+}
+
+void tst_CommandLine::failsWithOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("line");
+    const auto row = [](const char* name, const QStringList& arguments, const char* line) {
+        QTest::newRow(name) << arguments << QString(line);
+    };
+    row("unknown option", {"--zoom", "2"}, "unknown option '--zoom' (--help lists them)");
+    row("unknown letter", {"-x"}, "unknown option '-x' (--help lists them)");
+    row("value missing", {"--save"}, "--save needs a value: --save FILE");
+    row("value empty", {"--replay="}, "--replay needs a value: --replay FILE");
+    row("value of a flag", {"--help=yes"}, "--help takes no value");
+    row("option twice", {"--save", "a.png", "--save", "b.png"}, "--save is given twice");
+    row("two pictures", {"blue.png", "red.png"}, "one picture at a time: 'blue.png' and 'red.png'");
+    row("scale of zero", {"--scale", "0"}, "--scale takes a number from 1 to 8, not '0'");
+    row("scale in words", {"--scale", "two"}, "--scale takes a number from 1 to 8, not 'two'");
+    row("missing picture", {"none.png", "--save", "a.png"}, "cannot open 'none.png': File not found");
+    row("not a picture", {"text.png", "--save", "a.png"},
+        "cannot open 'text.png': Unsupported image format");
+    row("missing recording", {"--replay", "none.rec"}, "cannot read 'none.rec': No such file or directory");
+    row("broken recording", {"--replay", "broken.rec"}, "broken.rec:2: 'release' needs Y");
+    row("unwritable drawing", {"--save", "none/a.png"},
+        "cannot write 'none/a.png': No such file or directory");
+    row("a GIF to write", {"--save", "a.gif"}, "cannot write 'a.gif': GIF pictures are only read");
+    row("unwritable screenshot", {"--screenshot", "none/a.png"},
+        "cannot write 'none/a.png': No such file or directory");
+    row("unwritable recording", {"--record", "none/a.rec"},
+        "cannot write 'none/a.rec': No such file or directory");
+}
+
+void tst_CommandLine::failsWithOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, line);
+    PadProcess pad(arguments, {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "korva-pad: " + line + "\n");
+    QCOMPARE(pad.output(), "");
+    QCOMPARE(pad.exitCode(), 1);
+    QVERIFY(!QFile::exists(path("a.png")));
+}
+
+void tst_CommandLine::savesInTheFormatOfTheName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("format");
+    QTest::newRow("png") << "a.png" << QByteArray("png");
+    QTest::newRow("capitals") << "a.PNG" << QByteArray("png");
+    QTest::newRow("bmp") << "a.bmp" << QByteArray("bmp");
+    QTest::newRow("jpg") << "a.jpg" << QByteArray("jpeg");
+    QTest::newRow("jpe") << "a.jpe" << QByteArray("jpeg");
+    QTest::newRow("jpeg") << "a.jpeg" << QByteArray("jpeg");
+    QTest::newRow("wbmp is not written") << "a.wbmp" << QByteArray("png");
+    QTest::newRow("no extension") << "drawing" << QByteArray("png");
+    QTest::newRow("quotes, blanks and a dollar") << "a 'b' \"c\" $d.png" << QByteArray("png");
+}
+
+void tst_CommandLine::savesInTheFormatOfTheName()
+{
+    QFETCH(QString, name);
+    PadProcess pad({"blue.png", "--save", name}, {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QCOMPARE(pad.exitCode(), 0);
+    QTEST(QImageReader::imageFormat(path(name)), "format");
+    QCOMPARE(QImage(path(name)).size(), QSize(20, 10));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 5); // nothing temporary stays
+}
+
+void tst_CommandLine::replayThenSave()
+{
+    PadProcess pad({"blue.png", "--replay", "dot.rec", "--save", "out.png"}, {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QCOMPARE(pad.exitCode(), 0);
+    QVERIFY(sameImage(QImage(path("out.png")),
+                      support::filled(sheet(QSize(20, 10), Qt::blue), QRect(10, 10, 1, 1), Qt::red)));
+}
+
+void tst_CommandLine::valueBehindAnEqualsSign()
+{
+    PadProcess pad({"--save=" + path("a=b.png")});
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QVERIFY(sameImage(QImage(path("a=b.png")), sheet(newCanvas)));
+}
+
+void tst_CommandLine::aPictureNamedLikeAnOption()
+{
+    QVERIFY(QFile::copy(path("blue.png"), path("--help")));
+    PadProcess pad({"--save", "out.png", "--", "--help"}, {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QVERIFY(sameImage(QImage(path("out.png")), sheet(QSize(20, 10), Qt::blue)));
+}
+
+void tst_CommandLine::nothingIsWrittenAfterABrokenRecording()
+{
+    writeFile(path("old.png"), "old");
+    writeFile(path("late.rec"), "save old.png\nscribble\n");
+    PadProcess pad({"--replay", "late.rec", "--screenshot", "shot.png", "--record", "new.rec"}, {},
+                   m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "korva-pad: late.rec:2: unknown command 'scribble'\n");
+    QCOMPARE(pad.exitCode(), 1);
+    QCOMPARE(readFile(path("old.png")), "old");
+    QVERIFY(!QFile::exists(path("shot.png")));
+    QVERIFY(!QFile::exists(path("new.rec")));
+}
+
+void tst_CommandLine::aFailedSaveLeavesTheOldFile()
+{
+    writeFile(path("a.gif"), "old");
+    PadProcess pad({"--save", path("a.gif")});
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.exitCode(), 1);
+    QCOMPARE(readFile(path("a.gif")), "old");
+}
+
+void tst_CommandLine::screenshotAtItsScale_data()
+{
+    QTest::addColumn<QStringList>("scale");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("small screen") << QStringList() << QSize(240, 320);
+    QTest::newRow("1") << QStringList{"--scale", "1"} << QSize(240, 320);
+    QTest::newRow("2") << QStringList{"--scale", "2"} << QSize(480, 640);
+    QTest::newRow("3") << QStringList{"--scale", "3"} << QSize(720, 960);
+}
+
+void tst_CommandLine::screenshotAtItsScale()
+{
+    QFETCH(QStringList, scale);
+    QFETCH(QSize, size);
+    PadProcess pad(scale + QStringList{"blue.png", "--screenshot", "shot.jpg"}, {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QCOMPARE(pad.exitCode(), 0);
+    QCOMPARE(QImageReader::imageFormat(path("shot.jpg")), "png"); // whatever the name
+    const QImage shot(path("shot.jpg"));
+    QCOMPARE(shot.size(), size);
+    const int times = size.width() / 240;
+    int blue = 0;
+    for (int y = 0; y < shot.height(); ++y) {
+        for (int x = 0; x < shot.width(); ++x)
+            blue += shot.pixelColor(x, y) == QColor(Qt::blue) ? 1 : 0;
+    }
+    QCOMPARE(blue, 20 * 10 * times * times);
+}
+
+void tst_CommandLine::replayAloneEndsOffScreen()
+{
+    writeFile(path("saves.rec"), "press 3 4\nrelease 3 4\nsave \"out 1.png\"\n");
+    PadProcess pad({"--replay", "saves.rec"}, {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QCOMPARE(pad.exitCode(), 0);
+    QVERIFY(sameImage(QImage(path("out 1.png")),
+                      support::filled(sheet(newCanvas), QRect(3, 4, 1, 1), Qt::red)));
+}
+
+void tst_CommandLine::withoutADisplay()
+{
+    const auto unset = [](const char* name) {
+        const QByteArray old = qgetenv(name);
+        qunsetenv(name);
+        return qScopeGuard([name, old] { qputenv(name, old); });
+    };
+    const auto platform = unset("QT_QPA_PLATFORM");
+    const auto display = unset("DISPLAY");
+    const auto wayland = unset("WAYLAND_DISPLAY");
+
+    PadProcess nowhere({});
+    QVERIFY(nowhere.waitForEnd());
+    QCOMPARE(nowhere.errors(), "korva-pad: there is no display\n");
+    QCOMPARE(nowhere.exitCode(), 1);
+
+    PadProcess alone({"--save", path("out.png")});
+    QVERIFY(alone.waitForEnd());
+    QCOMPARE(alone.errors(), "");
+    QCOMPARE(alone.exitCode(), 0);
+    QVERIFY(QFile::exists(path("out.png")));
+}
+
+void tst_CommandLine::waitsAsLongAsTold()
+{
+    writeFile(path("wait.rec"), "wait 400\n");
+    QElapsedTimer timer;
+    timer.start();
+    PadProcess pad({"--replay", path("wait.rec")});
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.exitCode(), 0);
+    QCOMPARE_GE(timer.elapsed(), 400);
+}
+
+void tst_CommandLine::aRecordingBeginsWithThePicture()
+{
+    PadProcess pad({"blue.png", "--record", "new.rec", "--save", "out.png"}, {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QCOMPARE(readFile(path("new.rec")), "open \"" + path("blue.png").toUtf8() + "\"\n");
+}
+
+int main(int argc, char** argv)
+{
+    return support::run<tst_CommandLine>(argc, argv);
+}
+
+#include "tst_CommandLine.moc"

@@ -1,0 +1,265 @@
+#include "support/Images.h"
+#include "support/PadProcess.h"
+#include "support/TestCase.h"
+#include "support/XServer.h"
+
+using support::PadProcess;
+using support::XServer;
+
+namespace {
+
+constexpr QSize window(240, 320);
+constexpr QPoint menuKey(60, 285);
+constexpr QPoint undoKey(180, 285);
+constexpr int patience = 20'000; // ms
+
+QRect placeOf(const QColor& color, const QImage& screen)
+{
+    QRect place;
+    for (int y = 0; y < screen.height(); ++y) {
+        for (int x = 0; x < screen.width(); ++x) {
+            if (screen.pixelColor(x, y) == color)
+                place |= QRect(x, y, 1, 1);
+        }
+    }
+    return place;
+}
+
+} // namespace
+
+/// The program in a real window of a real X server, worked with a real pointer and keyboard.
+class tst_RealWindow : public support::TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void showsThePicture();
+    void strokeUndoneAndRedoneFromTheMenu();
+    void softKeyUndoes();
+    void shortcuts();
+    void menuStaysInsideTheWindow();
+    void everyPointOfAFloodIsDrawn();
+    void theClipboardBothWays();
+    void scaleFollowsTheScreen_data();
+    void scaleFollowsTheScreen();
+    void quits();
+
+private:
+    /// Starts the program on a white picture and waits until it is shown.
+    void start(const QStringList& more = {});
+    [[nodiscard]] QPoint onPicture(QPoint at) const { return m_picture.topLeft() + at; }
+    [[nodiscard]] bool isRed(QPoint at) const
+    {
+        return m_server->screenshot().pixelColor(onPicture(at)) == QColor(Qt::red);
+    }
+    [[nodiscard]] bool isWhite(QPoint at) const
+    {
+        return m_server->screenshot().pixelColor(onPicture(at)) == QColor(Qt::white);
+    }
+    void strokeTo(QPoint from, QPoint to);
+    void choose(const char* mnemonic);
+
+    std::unique_ptr<XServer> m_server;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<PadProcess> m_pad;
+    QRect m_window;
+    QRect m_picture;
+};
+
+void tst_RealWindow::init()
+{
+    support::TestCase::init();
+    m_pad.reset();
+    m_server = std::make_unique<XServer>();
+    QVERIFY(m_server->isReady());
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void tst_RealWindow::start(const QStringList& more)
+{
+    // A frame of a colour of its own tells where the picture is on the screen.
+    QImage picture = support::sheet(QSize(160, 120), QColor(0, 128, 64));
+    picture = support::filled(picture, QRect(1, 1, 158, 118), Qt::white);
+    picture.save(m_folder->filePath("frame.png"));
+    m_pad = std::make_unique<PadProcess>(QStringList{m_folder->filePath("frame.png")} + more,
+                                         m_server->display());
+    m_window = m_server->waitForWindow(window);
+    QCOMPARE(m_window.size(), window);
+    QTRY_COMPARE_WITH_TIMEOUT(placeOf(QColor(0, 128, 64), m_server->screenshot()).size(), QSize(160, 120),
+                              patience);
+    m_picture = placeOf(QColor(0, 128, 64), m_server->screenshot());
+}
+
+void tst_RealWindow::strokeTo(QPoint from, QPoint to)
+{
+    m_server->moveTo(onPicture(from));
+    m_server->press();
+    m_server->moveTo(onPicture(to));
+    m_server->release();
+}
+
+void tst_RealWindow::choose(const char* mnemonic)
+{
+    const QImage before = m_server->screenshot();
+    m_server->click(m_window.topLeft() + menuKey);
+    QTRY_VERIFY(m_server->screenshot().copy(m_picture) != before.copy(m_picture)); // the menu lies over it
+    m_server->key(mnemonic);
+}
+
+void tst_RealWindow::showsThePicture()
+{
+    start();
+    const QImage shown = m_server->screenshot().copy(m_picture).convertToFormat(QImage::Format_RGB32);
+    const QImage file = QImage(m_folder->filePath("frame.png")).convertToFormat(QImage::Format_RGB32);
+    QVERIFY(support::sameImage(shown, file));
+}
+
+void tst_RealWindow::strokeUndoneAndRedoneFromTheMenu()
+{
+    start();
+    strokeTo({20, 30}, {80, 30});
+    QTRY_VERIFY(isRed({20, 30}) && isRed({50, 30}) && isRed({80, 30}));
+    QVERIFY(isWhite({81, 30}));
+    choose("u");
+    QTRY_VERIFY(isWhite({20, 30}) && isWhite({50, 30}) && isWhite({80, 30}));
+    choose("r");
+    QTRY_VERIFY(isRed({20, 30}) && isRed({50, 30}) && isRed({80, 30}));
+}
+
+void tst_RealWindow::softKeyUndoes()
+{
+    start();
+    strokeTo({20, 30}, {80, 30});
+    QTRY_VERIFY(isRed({80, 30}));
+    m_server->click(m_window.topLeft() + undoKey);
+    QTRY_VERIFY(isWhite({50, 30}));
+    m_server->click(m_window.topLeft() + undoKey); // which is the way forward now
+    QTRY_VERIFY(isRed({50, 30}));
+}
+
+void tst_RealWindow::shortcuts()
+{
+    start();
+    strokeTo({20, 30}, {80, 30});
+    QTRY_VERIFY(isRed({80, 30}));
+    m_server->key("z", {"Control_L"});
+    QTRY_VERIFY(isWhite({50, 30}));
+    m_server->key("y", {"Control_L"});
+    QTRY_VERIFY(isRed({50, 30}));
+    m_server->key("z", {"Control_L"});
+    QTRY_VERIFY(isWhite({50, 30}));
+    m_server->key("z", {"Control_L", "Shift_L"});
+    QTRY_VERIFY(isRed({50, 30}));
+    m_server->key("s", {"Control_L"});
+    QTRY_COMPARE(QImage(m_folder->filePath("frame.png")).pixelColor(50, 30), QColor(Qt::red));
+}
+
+void tst_RealWindow::menuStaysInsideTheWindow()
+{
+    start();
+    const QImage before = m_server->screenshot();
+    m_server->click(m_window.topLeft() + menuKey);
+    QTRY_VERIFY(m_server->screenshot().copy(m_picture) != before.copy(m_picture));
+    m_server->key("z");
+    QTest::qWait(300);
+    const QImage after = m_server->screenshot();
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            if (!m_window.contains(x, y))
+                QCOMPARE(after.pixel(x, y), before.pixel(x, y));
+        }
+    }
+}
+
+void tst_RealWindow::everyPointOfAFloodIsDrawn()
+{
+    start();
+    m_server->moveTo(onPicture({5, 10}));
+    m_server->press();
+    // A saw: where a point is left out, its teeth are cut.
+    for (int x = 5; x < 150; ++x)
+        m_server->moveTo(onPicture({x, x % 2 ? 10 : 60}));
+    m_server->release();
+    QTRY_VERIFY_WITH_TIMEOUT(isRed({149, 10}), patience);
+    const QImage screen = m_server->screenshot();
+    for (int x = 5; x < 150; ++x)
+        QCOMPARE(screen.pixelColor(onPicture({x, x % 2 ? 10 : 60})), QColor(Qt::red));
+}
+
+void tst_RealWindow::theClipboardBothWays()
+{
+    const QImage sent = support::mosaic(QSize(30, 20));
+    sent.save(m_folder->filePath("sent.png"));
+    QProcess in;
+    in.setProcessEnvironment([this] {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DISPLAY", m_server->display());
+        return environment;
+    }());
+    in.start("xclip", {"-quiet", "-selection", "clipboard", "-t", "image/png", "-i",
+                       m_folder->filePath("sent.png")});
+    QVERIFY(in.waitForStarted());
+
+    start();
+    m_server->moveTo(onPicture({80, 100}));
+    m_server->key("v", {"Control_L"});
+    m_server->moveTo(onPicture({80, 110}));
+    m_server->click(onPicture({100, 100})); // merges the piece where it lies
+    const QRect place(m_picture.topLeft(), sent.size());
+    QTRY_VERIFY(m_server->screenshot().copy(place).convertToFormat(QImage::Format_RGB32) ==
+                sent.convertToFormat(QImage::Format_RGB32));
+
+    m_server->key("v", {"Control_L"});
+    QTRY_VERIFY(m_server->screenshot().copy(place).convertToFormat(QImage::Format_RGB32) !=
+                sent.convertToFormat(QImage::Format_RGB32)); // the frame and its handles
+    m_server->click(onPicture({15, 10}), 3);
+    QTest::qWait(200);
+    m_server->key("Down");
+    m_server->key("Return");               // Copy
+    QVERIFY(in.waitForFinished(patience)); // another program owns the clipboard now
+
+    QProcess out;
+    out.setProcessEnvironment(in.processEnvironment());
+    out.start("xclip", {"-selection", "clipboard", "-t", "image/png", "-o"});
+    QVERIFY(out.waitForFinished(patience));
+    QVERIFY(support::sameImage(QImage::fromData(out.readAllStandardOutput(), "PNG"), sent));
+}
+
+void tst_RealWindow::scaleFollowsTheScreen_data()
+{
+    QTest::addColumn<QSize>("screen");
+    QTest::addColumn<QStringList>("option");
+    QTest::addColumn<QSize>("expected");
+    QTest::newRow("low screen") << QSize(800, 899) << QStringList() << QSize(240, 320);
+    QTest::newRow("tall screen") << QSize(800, 900) << QStringList() << QSize(480, 640);
+    QTest::newRow("asked for 1") << QSize(800, 900) << QStringList{"--scale", "1"} << QSize(240, 320);
+    QTest::newRow("asked for 3") << QSize(800, 1000) << QStringList{"--scale", "3"} << QSize(720, 960);
+}
+
+void tst_RealWindow::scaleFollowsTheScreen()
+{
+    QFETCH(QSize, screen);
+    QFETCH(QStringList, option);
+    QFETCH(QSize, expected);
+    m_server = std::make_unique<XServer>(screen);
+    m_pad = std::make_unique<PadProcess>(option, m_server->display());
+    QCOMPARE(m_server->waitForWindow(expected).size(), expected);
+}
+
+void tst_RealWindow::quits()
+{
+    start();
+    m_server->moveTo(onPicture({80, 100}));
+    m_server->key("q", {"Control_L"});
+    QVERIFY(m_pad->waitForEnd());
+    QCOMPARE(m_pad->exitCode(), 0);
+    QCOMPARE(m_pad->errors(), "");
+}
+
+int main(int argc, char** argv)
+{
+    return support::run<tst_RealWindow>(argc, argv);
+}
+
+#include "tst_RealWindow.moc"

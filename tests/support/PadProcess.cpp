@@ -1,0 +1,57 @@
+#include "PadProcess.h"
+
+namespace support {
+
+namespace {
+
+constexpr int patience = 20'000; // ms; the sanitizers are slow to start
+
+} // namespace
+
+PadProcess::PadProcess(const QStringList& arguments, const QString& display, const QString& folder)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!display.isEmpty()) {
+        environment.insert("DISPLAY", display);
+        environment.insert("QT_QPA_PLATFORM", "xcb");
+    }
+    m_process.setProcessEnvironment(environment);
+    m_process.setWorkingDirectory(folder);
+    m_process.start(KORVA_PAD, arguments);
+    m_process.waitForStarted(patience);
+}
+
+PadProcess::~PadProcess()
+{
+    if (!isRunning())
+        return;
+    m_process.terminate();
+    m_process.waitForFinished(patience);
+}
+
+bool PadProcess::waitForEnd()
+{
+    return !isRunning() || m_process.waitForFinished(patience);
+}
+
+bool PadProcess::isRunning() const
+{
+    return m_process.state() != QProcess::NotRunning;
+}
+
+int PadProcess::exitCode() const
+{
+    return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+}
+
+QString PadProcess::output()
+{
+    return QString::fromUtf8(m_process.readAllStandardOutput());
+}
+
+QString PadProcess::errors()
+{
+    return QString::fromUtf8(m_process.readAllStandardError());
+}
+
+} // namespace support

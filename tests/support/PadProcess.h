@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtCore>
+
+#include <memory>
+
+namespace support {
+
+/// korva-pad as a person starts it: a process of its own.
+class PadProcess
+{
+public:
+    /// Starts it in the folder given. Without a display it works off screen.
+    explicit PadProcess(const QStringList& arguments, const QString& display = {},
+                        const QString& folder = {});
+    /// Ends it if it still runs.
+    ~PadProcess();
+
+    [[nodiscard]] bool waitForEnd();
+    [[nodiscard]] bool isRunning() const;
+    [[nodiscard]] int exitCode() const;
+    [[nodiscard]] QString output();
+    [[nodiscard]] QString errors();
+
+private:
+    QProcess m_process;
+};
+
+} // namespace support

@@ -1,0 +1,143 @@
+#include "XServer.h"
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+
+namespace support {
+
+namespace {
+
+constexpr int patience = 20'000; // ms
+
+} // namespace
+
+struct XServer::Client
+{
+    explicit Client(const QString& display) : connection(XOpenDisplay(display.toLatin1().constData())) {}
+    ~Client()
+    {
+        if (connection)
+            XCloseDisplay(connection);
+    }
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+
+    [[nodiscard]] Window root() const { return DefaultRootWindow(connection); }
+
+    void sendKey(const char* name, bool down) const
+    {
+        const KeyCode code = XKeysymToKeycode(connection, XStringToKeysym(name));
+        XTestFakeKeyEvent(connection, code, down, CurrentTime);
+        XSync(connection, False);
+    }
+
+    [[nodiscard]] QRect findWindow(QSize size) const
+    {
+        Window rootReturn = 0;
+        Window parent = 0;
+        Window* children = nullptr;
+        unsigned count = 0;
+        if (!XQueryTree(connection, root(), &rootReturn, &parent, &children, &count))
+            return {};
+        QRect found;
+        for (unsigned i = 0; i < count; ++i) {
+            XWindowAttributes attributes;
+            if (XGetWindowAttributes(connection, children[i], &attributes) &&
+                attributes.map_state == IsViewable && QSize(attributes.width, attributes.height) == size) {
+                found = {QPoint(attributes.x, attributes.y), size};
+            }
+        }
+        if (children)
+            XFree(children);
+        return found;
+    }
+
+    Display* connection;
+};
+
+XServer::XServer(QSize screen)
+{
+    const QString geometry = QString("%1x%2x24").arg(screen.width()).arg(screen.height());
+    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", geometry, "-nolisten", "tcp", "-noreset"});
+    if (m_server.waitForStarted(patience) && m_server.waitForReadyRead(patience))
+        m_display = ':' + QString::fromLatin1(m_server.readAllStandardOutput().trimmed());
+    m_client = std::make_unique<Client>(m_display);
+}
+
+XServer::~XServer()
+{
+    m_client.reset();
+    m_server.terminate();
+    m_server.waitForFinished(patience);
+}
+
+bool XServer::isReady() const
+{
+    int event = 0;
+    int error = 0;
+    int major = 0;
+    int minor = 0;
+    return m_client->connection &&
+           XTestQueryExtension(m_client->connection, &event, &error, &major, &minor);
+}
+
+void XServer::moveTo(QPoint to)
+{
+    XTestFakeMotionEvent(m_client->connection, -1, to.x(), to.y(), CurrentTime);
+    XSync(m_client->connection, False);
+}
+
+void XServer::press(int button)
+{
+    XTestFakeButtonEvent(m_client->connection, unsigned(button), True, CurrentTime);
+    XSync(m_client->connection, False);
+}
+
+void XServer::release(int button)
+{
+    XTestFakeButtonEvent(m_client->connection, unsigned(button), False, CurrentTime);
+    XSync(m_client->connection, False);
+}
+
+void XServer::click(QPoint at, int button)
+{
+    moveTo(at);
+    press(button);
+    release(button);
+}
+
+void XServer::key(const char* name, std::initializer_list<const char*> held)
+{
+    for (const char* modifier : held)
+        m_client->sendKey(modifier, true);
+    m_client->sendKey(name, true);
+    m_client->sendKey(name, false);
+    for (const char* modifier : held)
+        m_client->sendKey(modifier, false);
+}
+
+QImage XServer::screenshot() const
+{
+    XWindowAttributes attributes;
+    XGetWindowAttributes(m_client->connection, m_client->root(), &attributes);
+    XImage* raw = XGetImage(m_client->connection, m_client->root(), 0, 0, unsigned(attributes.width),
+                            unsigned(attributes.height), AllPlanes, ZPixmap);
+    const QImage shared(reinterpret_cast<const uchar*>(raw->data), raw->width, raw->height,
+                        raw->bytes_per_line, QImage::Format_RGB32);
+    QImage image = shared.copy();
+    XDestroyImage(raw);
+    return image;
+}
+
+QRect XServer::waitForWindow(QSize size) const
+{
+    QRect found;
+    QElapsedTimer timer;
+    timer.start();
+    while ((found = m_client->findWindow(size)).isEmpty() && timer.elapsed() < patience)
+        QThread::msleep(10);
+    return found;
+}
+
+} // namespace support
