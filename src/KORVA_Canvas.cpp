@@ -4,6 +4,7 @@
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_PasteLabel.h"
+#include "KORVA_PictureSave.h"
 #include "KORVA_Repainter.h"
 #include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
@@ -12,7 +13,6 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -333,12 +333,8 @@ bool KORVA_Canvas::load(const QString& fileName, const char* format)
 
 bool KORVA_Canvas::save(const QString& fileName, const char* format)
 {
-    constexpr int jpegQuality = 96;
     mergePastePixmap();
-    const QString type = (format ? QString::fromLatin1(format) : QFileInfo(fileName).suffix()).toLower();
-    const bool isJpeg = type == "jpeg" || type == "jpg";
-    // For PNG the same number would mean "uncompressed".
-    return m_picture->save(fileName, format, isJpeg ? jpegQuality : -1);
+    return picturesave::write(m_picture->toImage(), fileName, format);
 }
 
 // --- Undo

@@ -104,7 +104,7 @@ bool KORVA_Documents::pickAndOpen(int action)
     delete m_pickDialog;
     UTIL_Platform* platform = UTIL_Platform::instance();
     m_pickDialog =
-        platform->createPickDialog(&m_editor, platform->photoFolder(), KORVA_PictureFile::openPatterns());
+        platform->createPickDialog(&m_editor, platform->photoFolder(), picturefile::openPatterns());
     const QPointer<UTIL_PictureDialog> dialog = m_pickDialog;
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
@@ -119,11 +119,12 @@ bool KORVA_Documents::open(int action, const QString& name)
 {
     if (action != InsertStamp)
         m_fileName = name;
-    if (!isPicSizeNotOver(name, KORVA_PictureFile::readFormat(name)))
+    KORVA_PictureFile file(name);
+    if (!check(file, picturefile::readFormat(name)))
         return false;
 
     QPixmap picture;
-    const bool opened = readPicture(name, &picture);
+    const bool opened = read(file, &picture);
     if (opened && action == Open) {
         m_editor.setPixmap(&picture);
         m_editor.clearModified();
@@ -142,9 +143,9 @@ bool KORVA_Documents::open(int action, const QString& name)
 void KORVA_Documents::openAtConstruction(const QString& name)
 {
     const bool isHandedOver = name == QLatin1String(handedOver) || name == QLatin1String(handedOverFile);
+    KORVA_PictureFile file(name);
     QPixmap picture;
-    if (isPicSizeNotOver(name, isHandedOver ? nullptr : KORVA_PictureFile::readFormat(name)) &&
-        readPicture(name, &picture)) {
+    if (check(file, isHandedOver ? QByteArray() : picturefile::readFormat(name)) && read(file, &picture)) {
         m_fileName = name;
         m_editor.setPixmap(&picture);
     }
@@ -152,7 +153,13 @@ void KORVA_Documents::openAtConstruction(const QString& name)
 
 bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
 {
-    switch (KORVA_PictureFile::check(name, format)) {
+    KORVA_PictureFile file(name, KORVA_PictureFile::Full);
+    return check(file, format);
+}
+
+bool KORVA_Documents::check(KORVA_PictureFile& file, const QByteArray& format)
+{
+    switch (file.check(format.isEmpty() ? nullptr : format.constData())) {
     case UTIL_ImageReader::Ok:
         return true;
     case UTIL_ImageReader::TooLarge:
@@ -164,24 +171,23 @@ bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
     }
 }
 
-bool KORVA_Documents::readPicture(const QString& name, QPixmap* picture)
+bool KORVA_Documents::read(KORVA_PictureFile& file, QPixmap* picture)
 {
-    QImage image;
-    if (!m_editor.getImage(&image, name)) {
+    const QImage image = file.take();
+    if (image.isNull()) {
         UTIL_Platform::instance()->timedInformation(
             &m_editor, warningIcon,
             KORVA_EditCanvas::tr("This file can not be opened.", "4.4.4.2;DIALOG_ICON_50_WARP"),
             KORVA_EditCanvas::tr("OK", "4.4.4.2;SOFTKEY_1BUTTON"), longTime);
         return false;
     }
-    return m_editor.convertScaleImage(&image, picture);
+    return picturefile::convert(image, picture);
 }
 
 void KORVA_Documents::setBuffer(const QByteArray& data)
 {
-    QImage image = KORVA_PictureFile::decode(data);
     QPixmap picture;
-    if (m_editor.convertScaleImage(&image, &picture))
+    if (picturefile::convert(picturefile::decoded(data), &picture))
         m_editor.setPixmap(&picture);
     else
         tell(errorIcon, KORVA_EditCanvas::tr("open buffer fail!", "2.11.2.9;DIALOG_ICON_50"));
@@ -207,7 +213,7 @@ void KORVA_Documents::askForName()
 {
     UTIL_Platform* platform = UTIL_Platform::instance();
     m_saveDialog =
-        platform->createSaveDialog(&m_editor, platform->photoFolder(), KORVA_PictureFile::savePatterns());
+        platform->createSaveDialog(&m_editor, platform->photoFolder(), picturefile::savePatterns());
     const QPointer<UTIL_PictureDialog> dialog = m_saveDialog;
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
@@ -235,12 +241,13 @@ void KORVA_Documents::saveAndTell()
         emit m_editor.canDelete(false);
         return;
     }
-    const char* format = KORVA_PictureFile::writeFormat(m_fileName); // null for GIF, which is never written
-    if (format && m_editor.save(m_fileName, format)) {
+    const QByteArray format = picturefile::writeFormat(m_fileName);
+    const bool canBeWritten = !format.isEmpty(); // a GIF never is, and keeps its name
+    if (canBeWritten && m_editor.save(m_fileName, format.constData())) {
         m_editor.clearModified();
         tell(completeIcon, KORVA_EditCanvas::tr("Saved Successfully", "2.11.2.9;DIALOG_ICON_50"));
     } else {
-        if (format)
+        if (canBeWritten)
             m_fileName.clear();
         tell(errorIcon, KORVA_EditCanvas::tr("Saved Failed", "2.11.2.10;DIALOG_ICON_50"));
     }

@@ -6,6 +6,7 @@
 #include <QString>
 
 class KORVA_EditCanvas;
+class KORVA_PictureFile;
 class UTIL_PictureDialog;
 
 /// The editor's document commands: what is asked, in which order, and what the user is told. The file work
@@ -40,7 +41,8 @@ public:
     void askAndDelete();
 
 private:
-    bool readPicture(const QString& name, QPixmap* picture);
+    bool check(KORVA_PictureFile& file, const QByteArray& format);
+    bool read(KORVA_PictureFile& file, QPixmap* picture);
     void askForName();
     void resetTypedText();
     void tell(const char* icon, const QString& text);

@@ -8,6 +8,7 @@
 #include "KORVA_MainView.h"
 #include "KORVA_Manager.h"
 #include "KORVA_PictureFile.h"
+#include "KORVA_PictureSave.h"
 #include "KORVA_Text.h"
 #include "KORVA_ToolTable.h"
 #include "RES_ICON_Reader.h"
@@ -472,7 +473,7 @@ bool KORVA_EditCanvas::openNewFilePrivate(int flag, const QString& openDocFile)
 
 void KORVA_EditCanvas::getFileFormat(const QString& name, QString& format) const
 {
-    format = QString::fromLatin1(KORVA_PictureFile::readFormat(name));
+    format = QString::fromLatin1(picturefile::readFormat(name));
 }
 
 bool KORVA_EditCanvas::isPicSizeNotOver(const QString& name, const char* format)
@@ -482,13 +483,14 @@ bool KORVA_EditCanvas::isPicSizeNotOver(const QString& name, const char* format)
 
 bool KORVA_EditCanvas::getImage(QImage* image, const QString& name)
 {
-    *image = KORVA_PictureFile::read(name);
+    *image = KORVA_PictureFile(name, KORVA_PictureFile::Full).take();
     return !image->isNull();
 }
 
 bool KORVA_EditCanvas::convertScaleImage(QImage* image, QPixmap* pixmap)
 {
-    return KORVA_PictureFile::fit(image, pixmap);
+    *image = picturefile::workingImage(*image);
+    return picturefile::convert(*image, pixmap);
 }
 
 void KORVA_EditCanvas::setBuffer(const QByteArray& encoded)
@@ -498,7 +500,8 @@ void KORVA_EditCanvas::setBuffer(const QByteArray& encoded)
 
 bool KORVA_EditCanvas::save(const QString& name, const char* format)
 {
-    return KORVA_PictureFile::save(*canvas()->pixmap(), name, format);
+    return picturesave::replace(
+        name, [&](const QString& temporary) { return canvas()->save(temporary, format); });
 }
 
 void KORVA_EditCanvas::saveFilePrivate()

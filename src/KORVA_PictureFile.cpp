@@ -1,107 +1,187 @@
 #include "KORVA_PictureFile.h"
 
+#include "UTIL_GifParser.h"
 #include "UTIL_ImageReader.h"
 
-#include <QFile>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QPainter>
 
-#include <cstdlib>
-
-namespace KORVA_PictureFile {
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace {
 
-constexpr int workingWidth = 352;
-constexpr int workingHeight = 288;
-constexpr int jpegQuality = 96;
+/// How a file of an extension is opened.
+enum class Opening {
+    ByContent,
+    AsJpeg,
+    AsGif, ///< only with every frame sound
+};
 
-QString extension(const QString& name)
-{
-    return name.contains('.') ? name.mid(name.lastIndexOf('.') + 1).toUpper() : QString();
-}
-
-constexpr struct
+struct Kind
 {
     const char* extension;
     const char* readFormat;
-    const char* writeFormat;
-} formats[] = {
-    {"BMP", "BMP", "BMP"},    {"JPG", "JPEG", "JPEG"}, {"JPE", "JPEG", "JPEG"},
-    {"JPEG", "JPEG", "JPEG"}, {"GIF", "GIF", nullptr}, {"WBMP", "WBMP", "PNG"},
+    const char* writeFormat; ///< null: never written
+    Opening opening;
 };
-constexpr auto otherFormat = "PNG";
+
+constexpr std::array kinds{
+    Kind{"BMP", "BMP", "BMP", Opening::ByContent}, Kind{"JPG", "JPEG", "JPEG", Opening::AsJpeg},
+    Kind{"JPE", "JPEG", "JPEG", Opening::AsJpeg},  Kind{"JPEG", "JPEG", "JPEG", Opening::AsJpeg},
+    Kind{"GIF", "GIF", nullptr, Opening::AsGif},   Kind{"WBMP", "WBMP", "PNG", Opening::ByContent},
+};
+constexpr Kind anyOther{nullptr, "PNG", "PNG", Opening::ByContent};
+
+const Kind& kindOf(const QString& fileName)
+{
+    const QByteArray extension = QFileInfo(fileName).suffix().toUpper().toUtf8();
+    const auto* const kind = std::find_if(
+        kinds.begin(), kinds.end(), [&extension](const Kind& each) { return extension == each.extension; });
+    return kind != kinds.end() ? *kind : anyOther;
+}
+
+constexpr QSize workingBox(352, 288);
+constexpr int workingDepth = 16;
+constexpr QRgb white = 0xffffffff;
+
+/// What is transparent shows `background`; a picture with a palette keeps having one.
+QImage laidOn(const QImage& image, QRgb background)
+{
+    if (!image.hasAlphaChannel())
+        return image;
+    if (image.format() == QImage::Format_Indexed8) {
+        QList<QRgb> colors = image.colorTable();
+        const QImage swatch(reinterpret_cast<const uchar*>(colors.constData()), int(colors.size()), 1,
+                            QImage::Format_ARGB32);
+        const QImage opaque = laidOn(swatch, background);
+        for (int index = 0; index < opaque.width(); ++index)
+            colors[index] = opaque.pixel(index, 0);
+        QImage result = image;
+        result.setColorTable(colors);
+        return result;
+    }
+    QImage paper(image.size(), QImage::Format_RGB32);
+    paper.fill(background);
+    QPainter(&paper).drawImage(0, 0, image);
+    return paper;
+}
+
+/// Changes whenever the file does.
+QString versionOf(const QString& fileName)
+{
+    const QFileInfo file(fileName);
+    return QString("%1 %2").arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
+}
+
+QImage inWorkingDepth(const QImage& image)
+{
+    return image.depth() > workingDepth || image.depth() == 1
+               ? image.convertToFormat(QImage::Format_RGB16, Qt::AvoidDither)
+               : image;
+}
 
 } // namespace
 
-QStringList openPatterns()
+QStringList picturefile::openPatterns()
 {
     return {"*.png", "*.gif", "*.jpeg", "*.jpg", "*.bmp", "*.wbmp"};
 }
 
-QStringList savePatterns()
+QStringList picturefile::savePatterns()
 {
     return {"*.png", "*.jpeg", "*.jpg", "*.bmp"};
 }
 
-const char* readFormat(const QString& name)
+QByteArray picturefile::readFormat(const QString& fileName)
 {
-    for (const auto& row : formats) {
-        if (extension(name) == QLatin1String(row.extension))
-            return row.readFormat;
-    }
-    return otherFormat;
+    return kindOf(fileName).readFormat;
 }
 
-const char* writeFormat(const QString& name)
+QByteArray picturefile::writeFormat(const QString& fileName)
 {
-    for (const auto& row : formats) {
-        if (extension(name) == QLatin1String(row.extension))
-            return row.writeFormat;
-    }
-    return otherFormat;
+    return kindOf(fileName).writeFormat;
 }
 
-int check(const QString& name, const char* format)
+QSize picturefile::workingSize(QSize size)
 {
-    UTIL_ImageReader reader(name, format);
+    const qint64 width = size.width();
+    const qint64 height = size.height();
+    const qint64 tallness = height * workingBox.width() - width * workingBox.height();
+    if (width * height <= qint64(workingBox.width()) * workingBox.height())
+        return size;
+    if (tallness == 0)
+        return workingBox;
+    // However long a strip is, a pixel of its width remains.
+    if (tallness > 0)
+        return {qMax(1, int(width * workingBox.height() / height)), workingBox.height()};
+    return {workingBox.width(), qMax(1, int(height * workingBox.width() / width))};
+}
+
+QImage picturefile::workingImage(const QImage& image)
+{
+    const QSize size = workingSize(image.size());
+    const QImage shallow = inWorkingDepth(laidOn(image, white));
+    return size == image.size()
+               ? shallow
+               : inWorkingDepth(shallow.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+bool picturefile::convert(const QImage& image, QPixmap* pixmap)
+{
+    const QImage working = workingImage(image);
+    return !working.isNull() && pixmap->convertFromImage(working, Qt::AvoidDither);
+}
+
+QImage picturefile::decoded(const QByteArray& data)
+{
+    UTIL_ImageReader reader = UTIL_ImageReader::fromData(data);
+    reader.setReduction(workingSize);
     reader.read();
+    return reader.image();
+}
+
+KORVA_PictureFile::KORVA_PictureFile(const QString& name, Scale scale) : m_name(name), m_scale(scale) {}
+
+int KORVA_PictureFile::check(const char* format)
+{
+    const Kind& kind = kindOf(m_name);
+    UTIL_ImageReader reader(m_name, format);
+    setUp(reader);
+    const QString version = versionOf(m_name);
+    reader.read();
+    const bool isWhatTakeReads =
+        format ? QByteArrayView(format) == kind.readFormat : kind.opening == Opening::ByContent;
+    m_checked = isWhatTakeReads ? reader.image() : QImage();
+    m_version = version;
     return reader.status();
 }
 
-QImage read(const QString& name)
+QImage KORVA_PictureFile::take()
 {
-    UTIL_ImageReader reader(name);
-    return reader.read() ? reader.image() : QImage();
+    const Kind& kind = kindOf(m_name);
+    UTIL_GifParser parser(m_name, UTIL_GifParser::WholeFile);
+    if (kind.opening == Opening::AsGif && parser.parse() != UTIL_GifParser::NoError)
+        return {};
+
+    QImage image = std::exchange(m_checked, {});
+    if (image.isNull() || m_version != versionOf(m_name)) {
+        UTIL_ImageReader reader(m_name, kind.opening == Opening::AsJpeg ? kind.readFormat : nullptr);
+        setUp(reader);
+        reader.read();
+        image = reader.image();
+    }
+    return parser.transparentIndex() >= 0 ? laidOn(image, parser.transparentColor().rgb()) : image;
 }
 
-QImage decode(const QByteArray& data)
+/// A great GIF comes in its own size: what its transparent pixels show is known only to take().
+void KORVA_PictureFile::setUp(UTIL_ImageReader& reader) const
 {
-    return QImage::fromData(data);
+    const Opening opening = kindOf(m_name).opening;
+    if (opening == Opening::AsJpeg)
+        reader.setParameters("16");
+    if (m_scale == Working && opening != Opening::AsGif)
+        reader.setReduction(picturefile::workingSize);
 }
-
-bool fit(QImage* image, QPixmap* pixmap)
-{
-    if (image->isNull())
-        return false;
-    if (image->width() * image->height() > workingWidth * workingHeight)
-        *image = image->scaled(workingWidth, workingHeight, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    *image = image->convertToFormat(QImage::Format_RGB16);
-    return pixmap->convertFromImage(*image, Qt::AvoidDither);
-}
-
-QString temporaryPath()
-{
-    const QString folder = qEnvironmentVariable("KIV_LOCAL_DOWNLOAD_PATH").trimmed();
-    return folder + (folder.endsWith('/') ? "appwrite/korva.temp" : "/appwrite/korva.temp");
-}
-
-bool save(const QPixmap& picture, const QString& name, const char* format)
-{
-    const QString temporary = temporaryPath();
-    const bool done = !name.contains('\'') &&
-                      picture.save(temporary, format, qstrcmp(format, "JPEG") == 0 ? jpegQuality : -1) &&
-                      std::system(("mv  '" + temporary + "' '" + name + "'").toUtf8().constData()) == 0;
-    QFile::remove(temporary);
-    return done;
-}
-
-} // namespace KORVA_PictureFile

@@ -4,32 +4,64 @@
 #include <QPixmap>
 #include <QStringList>
 
-/// Picture files: names and formats, the size check, reading, the working size and depth, writing. No
-/// widgets; what goes wrong is in the return values.
-namespace KORVA_PictureFile {
+class UTIL_ImageReader;
 
-/// What a folder dialog offers, in order.
+/// What picture files a drawing can come from and go to, and how a picture becomes fit for the canvas.
+/// Values in, values out: nothing here shows a message.
+namespace picturefile {
+
+/// What is offered for opening and for saving, in the dialogs' order.
 [[nodiscard]] QStringList openPatterns();
 [[nodiscard]] QStringList savePatterns();
 
-/// The format name to read or write a file by, from its last extension. Writing a GIF gives null: it is
-/// never done.
-[[nodiscard]] const char* readFormat(const QString& name);
-[[nodiscard]] const char* writeFormat(const QString& name);
+/// The format of a file by its last extension, whatever its case: what it is read as, and what is written
+/// into it. An empty one to write means that it cannot be written (GIF).
+[[nodiscard]] QByteArray readFormat(const QString& fileName);
+[[nodiscard]] QByteArray writeFormat(const QString& fileName);
 
-/// UTIL_ImageReader's status of reading the file; a null format recognises it by its content.
-[[nodiscard]] int check(const QString& name, const char* format);
-/// Decodes as the extension says; null when that fails.
-[[nodiscard]] QImage read(const QString& name);
-[[nodiscard]] QImage decode(const QByteArray& data);
+/// The size in which a picture is worked on: its own, or the greatest of its shape within 352 × 288 when it
+/// has more pixels than that.
+[[nodiscard]] QSize workingSize(QSize size);
+/// The picture in its working size and depth: 16 bits, or 8 where it has that and keeps its size. What is
+/// transparent comes out white. Null in, null out.
+[[nodiscard]] QImage workingImage(const QImage& image);
+/// The same as a pixmap; false when the picture is null or cannot be converted.
+[[nodiscard]] bool convert(const QImage& image, QPixmap* pixmap);
 
-/// Brings an image to the working depth of 16 bits and scales one with more pixels than 352 × 288 into that
-/// size. False when there is no image.
-bool fit(QImage* image, QPixmap* pixmap);
+/// A picture in memory, recognised by its content; null when it cannot be decoded. A great one comes in its
+/// working size.
+[[nodiscard]] QImage decoded(const QByteArray& data);
 
-/// Where a picture is encoded before it is moved into place.
-[[nodiscard]] QString temporaryPath();
-/// Encodes to the temporary path and moves the file over `name`; on failure `name` is as it was.
-bool save(const QPixmap& picture, const QString& name, const char* format);
+} // namespace picturefile
 
-} // namespace KORVA_PictureFile
+/// A picture file on its way in. Checking it decodes it; opening it then takes what the check decoded, as
+/// long as the file was not changed in between and the outcome would be the same.
+class KORVA_PictureFile
+{
+public:
+    enum Scale {
+        Full,    ///< the picture as it is
+        Working, ///< what may be decoded smaller comes in its working size: enough for the canvas
+    };
+
+    KORVA_PictureFile() = default;
+    explicit KORVA_PictureFile(const QString& name, Scale scale = Working);
+
+    [[nodiscard]] const QString& name() const { return m_name; }
+
+    /// Whether the file can be read as `format`, or as whatever it is when that is null: 0, -100 when it
+    /// has too many pixels to be decoded, another number for every other failure.
+    int check(const char* format);
+    /// The picture, read by the file's extension: a GIF with all its frames sound and its transparent
+    /// colour shown as any other, a JPEG in 16 bits, anything else by its content. Null when it cannot be
+    /// read.
+    [[nodiscard]] QImage take();
+
+private:
+    void setUp(UTIL_ImageReader& reader) const;
+
+    QString m_name;
+    Scale m_scale = Working;
+    QImage m_checked;  ///< what check() decoded; null when take() must decode itself
+    QString m_version; ///< of the file when it was checked
+};
