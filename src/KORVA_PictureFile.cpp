@@ -147,41 +147,55 @@ KORVA_PictureFile::KORVA_PictureFile(const QString& name, Scale scale) : m_name(
 
 int KORVA_PictureFile::check(const char* format)
 {
+    examine();
+    if (m_gifError == UTIL_GifParser::TooManyFrames)
+        return UTIL_ImageReader::Failed; // before its screen, which may be as excessive, is decoded
     const Kind& kind = kindOf(m_name);
-    UTIL_ImageReader reader(m_name, format);
-    setUp(reader);
-    const QString version = versionOf(m_name);
-    reader.read();
     const bool isWhatTakeReads =
         format ? QByteArrayView(format) == kind.readFormat : kind.opening == Opening::ByContent;
+    UTIL_ImageReader reader = this->reader(format);
+    reader.read();
     m_checked = isWhatTakeReads ? reader.image() : QImage();
-    m_version = version;
     return reader.status();
 }
 
 QImage KORVA_PictureFile::take()
 {
-    const Kind& kind = kindOf(m_name);
-    UTIL_GifParser parser(m_name, UTIL_GifParser::WholeFile);
-    if (kind.opening == Opening::AsGif && parser.parse() != UTIL_GifParser::NoError)
-        return {};
-
     QImage image = std::exchange(m_checked, {});
-    if (image.isNull() || m_version != versionOf(m_name)) {
-        UTIL_ImageReader reader(m_name, kind.opening == Opening::AsJpeg ? kind.readFormat : nullptr);
-        setUp(reader);
+    if (m_version != versionOf(m_name)) {
+        examine();
+        image = {};
+    }
+    if (m_gifError != UTIL_GifParser::NoError)
+        return {};
+    if (image.isNull()) {
+        const Kind& kind = kindOf(m_name);
+        UTIL_ImageReader reader = this->reader(kind.opening == Opening::AsJpeg ? kind.readFormat : nullptr);
         reader.read();
         image = reader.image();
     }
-    return parser.transparentIndex() >= 0 ? laidOn(image, parser.transparentColor().rgb()) : image;
+    return m_transparentColor ? laidOn(image, *m_transparentColor) : image;
 }
 
-/// A great GIF comes in its own size: what its transparent pixels show is known only to take().
-void KORVA_PictureFile::setUp(UTIL_ImageReader& reader) const
+void KORVA_PictureFile::examine()
 {
-    const Opening opening = kindOf(m_name).opening;
-    if (opening == Opening::AsJpeg)
+    m_version = versionOf(m_name);
+    m_gifError = UTIL_GifParser::NoError;
+    m_transparentColor.reset();
+    if (kindOf(m_name).opening != Opening::AsGif)
+        return;
+    UTIL_GifParser parser(m_name, UTIL_GifParser::WholeFile);
+    m_gifError = parser.parse();
+    if (parser.transparentIndex() >= 0)
+        m_transparentColor = parser.transparentColor().rgb();
+}
+
+UTIL_ImageReader KORVA_PictureFile::reader(const char* format) const
+{
+    UTIL_ImageReader reader(m_name, format);
+    if (kindOf(m_name).opening == Opening::AsJpeg)
         reader.setParameters("16");
-    if (m_scale == Working && opening != Opening::AsGif)
-        reader.setReduction(picturefile::workingSize);
+    if (m_scale == Working)
+        reader.setReduction(picturefile::workingSize, m_transparentColor.value_or(white));
+    return reader;
 }

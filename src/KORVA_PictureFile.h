@@ -4,6 +4,8 @@
 #include <QPixmap>
 #include <QStringList>
 
+#include <optional>
+
 class UTIL_ImageReader;
 
 /// What picture files a drawing can come from and go to, and how a picture becomes fit for the canvas.
@@ -58,10 +60,13 @@ public:
     [[nodiscard]] QImage take();
 
 private:
-    void setUp(UTIL_ImageReader& reader) const;
+    void examine();
+    [[nodiscard]] UTIL_ImageReader reader(const char* format) const;
 
     QString m_name;
     Scale m_scale = Working;
     QImage m_checked;  ///< what check() decoded; null when take() must decode itself
-    QString m_version; ///< of the file when it was checked
+    QString m_version; ///< of the file when it was examined; null when it was not
+    int m_gifError = 0;
+    std::optional<QRgb> m_transparentColor; ///< a GIF's
 };
