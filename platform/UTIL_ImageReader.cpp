@@ -150,8 +150,9 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
     const Silence silence;
     UTIL_PictureSource source(device, probe.kept);
     QImageReader reader(&source, probe.format.isEmpty() ? m_format : probe.format);
-    reader.setAutoDetectImageFormat(probe.format.isEmpty() && m_format.isEmpty());
-    reader.setDecideFormatFromContent(true);
+    const bool isUnknown = probe.format.isEmpty() && m_format.isEmpty();
+    reader.setAutoDetectImageFormat(isUnknown);
+    reader.setDecideFormatFromContent(isUnknown);
     reader.setAutoTransform(true);
     const QSize stored = reader.size().expandedTo(probe.size);
     if (area(stored) > limit)
