@@ -21,7 +21,8 @@ QImage converted(const QString& fileName, const QStringList& more)
 {
     const QTemporaryDir folder;
     const QString plain = folder.filePath("plain.ppm");
-    const QStringList before{fileName + "[0]", "-auto-orient", "+repage", "-background", "white", "-flatten"};
+    const QStringList before{fileName + "[0]", "-auto-orient", "+repage",
+                             "-background",    "white",        "-flatten"};
     const QStringList after{"-colorspace", "sRGB", "-depth", "8", plain};
     return convert(before + more + after) ? QImage(plain) : QImage();
 }
