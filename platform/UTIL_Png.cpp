@@ -193,6 +193,7 @@ QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing)
             png_set_PLTE(png, session.info(), palette.data(), int(palette.size()));
         png_set_filter(png, PNG_FILTER_TYPE_BASE, packing.filters);
         png_set_compression_level(png, Z_BEST_COMPRESSION);
+        png_set_compression_mem_level(png, MAX_MEM_LEVEL);
         png_set_compression_strategy(png, packing.strategy);
         png_write_info(png, session.info());
         png_set_packing(png);
