@@ -13,6 +13,8 @@ private slots:
     void frameCoversThePlainDifference();
     void frameOfAWidePen_data();
     void frameOfAWidePen();
+    void oneSideOfOnePixelUnderAWidePen_data();
+    void oneSideOfOnePixelUnderAWidePen();
     void tapPaintsNothingButCounts();
     void dragWithoutWidthLeavesNoTrace_data();
     void dragWithoutWidthLeavesNoTrace();
@@ -68,6 +70,28 @@ void tst_Rectangle::frameOfAWidePen()
     desk.stylus.drag({{10, 20}, {30, 50}});
     QVERIFY(
         sameImage(desk.canvas.merged(), filled(filled(desk.base, outside, Qt::blue), inside, Qt::white)));
+}
+
+void tst_Rectangle::oneSideOfOnePixelUnderAWidePen_data()
+{
+    QTest::addColumn<QPoint>("to");
+    QTest::addColumn<QRect>("covered");
+    QTest::newRow("1 x 20") << QPoint(11, 40) << QRect(8, 18, 5, 24);
+    QTest::newRow("20 x 1") << QPoint(30, 21) << QRect(8, 18, 24, 5);
+    QTest::newRow("1 x 1") << QPoint(11, 21) << QRect(8, 18, 5, 5);
+}
+
+void tst_Rectangle::oneSideOfOnePixelUnderAWidePen()
+{
+    QFETCH(const QPoint, to);
+    QFETCH(const QRect, covered);
+    Desk desk(fixtures::Rectangle);
+    desk.manager.setPenWidth(5);
+    desk.stylus.press({10, 20});
+    desk.stylus.move(to);
+    QVERIFY(sameImage(desk.canvas.shown(), filled(desk.base, covered, Qt::black)));
+    desk.stylus.release(to);
+    QVERIFY(sameImage(desk.canvas.merged(), filled(desk.base, covered, Qt::blue)));
 }
 
 void tst_Rectangle::tapPaintsNothingButCounts()
