@@ -45,9 +45,14 @@ QString firstCharacter(const QString& text)
     return text.left(finder.toNextBoundary());
 }
 
+bool isControl(QChar c)
+{
+    return c.category() == QChar::Other_Control;
+}
+
 bool isPrintable(const QString& text)
 {
-    return !text.isEmpty() && (text[0] == '\t' || text[0].category() != QChar::Other_Control);
+    return text == "\t" || (!text.isEmpty() && !isControl(text[0]));
 }
 
 } // namespace
@@ -106,7 +111,12 @@ void KORVA_Text::resetBuffer()
 {
     if (!m_text.isNull())
         setText({});
+    if (m_started) {
+        hideCursor();
+        m_cursor = m_lineStart;
+    }
     m_keys.clear();
+    m_stops.clear();
     setTextKey(false);
 }
 
@@ -121,6 +131,7 @@ void KORVA_Text::paintBuffer()
         drawText(painter, zoom().toPicture(m_lineStart), m_text);
     }
     canvas()->updateZoomed();
+    zoomedRebuilt(); // a tool that is being left is no longer told
     canvas()->markModified();
 }
 
@@ -241,13 +252,14 @@ void KORVA_Text::deleteBackward()
     }
 }
 
-void KORVA_Text::insert(const QString& text)
+void KORVA_Text::insert(QString text)
 {
     if (text == "\t") {
         m_stops.push(m_cursor.x());
         const int tab = tabWidth * advance("x");
         moveCursorX(m_lineStart.x() + ((m_cursor.x() - m_lineStart.x()) / tab + 1) * tab);
     } else {
+        text.removeIf(isControl); // a break among letters would have no stop to go back to
         moveCursorX(m_cursor.x() +
                     advance(firstCharacter(text))); // by the first one's width, however many come
     }
@@ -361,7 +373,8 @@ void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
     for (QString rest = event->commitString(); !rest.isEmpty();) {
         const QString character = firstCharacter(rest);
         rest.remove(0, character.size());
-        QKeyEvent key(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, character);
+        const Qt::Key code = character.contains('\n') ? Qt::Key_Return : Qt::Key_unknown;
+        QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, character);
         keyPressEvent(&key);
     }
     showText(m_text + event->preeditString());

@@ -66,7 +66,7 @@ private:
     void typeKey(QKeyEvent* event);
     void breakLine();
     void deleteBackward();
-    void insert(const QString& text);
+    void insert(QString text);
     void drawText(KORVA_ClassicPainter& painter, QPoint baseline, const QString& text) const;
     void showText(const QString& text);
     void hideCursor();

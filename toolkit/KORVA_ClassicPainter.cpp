@@ -154,10 +154,36 @@ void KORVA_ClassicPainter::drawPixmap(int x, int y, const QPixmap& pixmap)
 
 QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString& text)
 {
+    const int margin = m_painter.fontMetrics().height(); // letters may reach out of their box
     QRect used;
-    m_painter.drawText(box, flags, text, &used);
-    touch(used, m_painter.fontMetrics().height()); // letters may reach out of their box
+    if (m_painter.compositionMode() == QPainter::RasterOp_NotDestination) {
+        used = m_painter.boundingRect(box, flags, text);
+        invertText(used.adjusted(-margin, -margin, margin, margin), box, flags, text);
+    } else {
+        m_painter.drawText(box, flags, text, &used);
+    }
+    touch(used, margin);
     return used;
+}
+
+// By way of a mask: where two letters share a pixel it is inverted once all the same.
+void KORVA_ClassicPainter::invertText(const QRect& area, const QRect& box, int flags, const QString& text)
+{
+    const QRect visible = area & QRect(0, 0, m_painter.device()->width(), m_painter.device()->height());
+    if (visible.isEmpty())
+        return;
+    QImage mask(visible.size(), QImage::Format_RGB32);
+    mask.fill(Qt::black);
+    {
+        QPainter letters(&mask);
+        letters.translate(-visible.topLeft());
+        letters.setPen(Qt::white);
+        letters.setFont(m_painter.font());
+        letters.drawText(box, flags, text);
+    }
+    m_painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+    m_painter.drawImage(visible.topLeft(), mask);
+    setRasterOp(NotROP);
 }
 
 void KORVA_ClassicPainter::touch(const QRect& rect, int margin)

@@ -46,6 +46,7 @@ public:
 private:
     void touch(const QRect& rect, int margin = 0);
     [[nodiscard]] int outlineWidth() const;
+    void invertText(const QRect& area, const QRect& box, int flags, const QString& text);
 
     QPixmap m_nothing; ///< stands in for a null target, on which Qt refuses to open a painter
     QPainter m_painter;
