@@ -153,6 +153,13 @@ private:
     QTemporaryDir m_folder;
 };
 
+/// A picture that every lossless format keeps in 16 bits a pixel.
+inline QImage flag(QSize size = {40, 30})
+{
+    QImage image = support::sheet(size, Qt::blue);
+    return support::filled(image, QRect(5, 5, 10, 10), Qt::yellow);
+}
+
 inline constexpr auto handedOver = "/tmp/korva.tmp";
 
 /// An editor and everything that it says, to the user and to its host, in one log.
