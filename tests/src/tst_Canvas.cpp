@@ -411,6 +411,10 @@ void tst_Canvas::eventsOnThePieceReachItInItsOwnCoordinates()
         QMouseEvent event(type, at, canvas.mapToGlobal(at), button, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&canvas, &event);
     };
+    send(QEvent::MouseMove, {38, 21}, Qt::NoButton); // (18, 1) of the item
+    QCOMPARE(canvas.pasteLabel()->cursor().shape(), Qt::UpArrowCursor);
+    send(QEvent::MouseMove, {30, 30}, Qt::NoButton);
+    QCOMPARE(canvas.pasteLabel()->cursor().shape(), Qt::PointingHandCursor);
     send(QEvent::MouseButtonPress, {30, 30}, Qt::LeftButton);
     send(QEvent::MouseMove, {33, 34}, Qt::NoButton);
     QCOMPARE(canvas.pasteLabel()->pos(), QPoint(23, 24));

@@ -16,6 +16,8 @@ ChildProcess ChildProcess::run(const char* caseName)
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("ASAN_OPTIONS", "handle_abort=0:detect_leaks=0"); // an abort must look like one
+    const QTemporaryDir runtimeFolder; // without one Qt has something to say too
+    environment.insert("XDG_RUNTIME_DIR", runtimeFolder.path());
     process.setProcessEnvironment(environment);
     process.setChildProcessModifier([] {
         constexpr rlimit none{0, 0};
