@@ -80,6 +80,25 @@ struct PictureCanvas : KORVA_Canvas
     }
 };
 
+/// What a change of the picture announces.
+inline void watchPicture(support::SignalRecorder& recorder, const KORVA_Canvas& canvas)
+{
+    recorder.watch(&canvas, &KORVA_Canvas::sizeChanged);
+    recorder.watch(&canvas, &KORVA_Canvas::pixmapChanged);
+    recorder.watch(&canvas, &KORVA_Canvas::modified);
+    recorder.watch(&canvas, &KORVA_Canvas::canUndo);
+    recorder.watch(&canvas, &KORVA_Canvas::canRedo);
+}
+
+/// What lifting, merging, cutting and pasting announce.
+inline void watchSelection(support::SignalRecorder& recorder, const KORVA_Canvas& canvas)
+{
+    recorder.watch(&canvas, &KORVA_Canvas::pixmapChanged);
+    recorder.watch(&canvas, &KORVA_Canvas::modified);
+    recorder.watch(&canvas, qOverload<bool>(&KORVA_Canvas::selection));
+    recorder.watch(&canvas, &KORVA_Canvas::clipboard);
+}
+
 inline void setClipboard(const QImage& image)
 {
     QGuiApplication::clipboard()->setPixmap(QPixmap::fromImage(image));

@@ -1,46 +1,12 @@
-#include "Fixtures.h"
+#include "PasteItem.h"
 
-using support::Gestures;
+using fixtures::itemPlace;
+using fixtures::itemSize;
+using fixtures::parentSize;
+using fixtures::PasteItem;
+using fixtures::transformed;
 using support::mosaic;
 using support::sameImage;
-
-namespace {
-
-constexpr QSize itemSize(100, 80);
-constexpr QPoint itemPlace(50, 60);
-constexpr QSize parentSize(300, 250);
-
-/// An item of 100 x 80 pixels at (50, 60) in a parent of 300 x 250.
-struct Item
-{
-    explicit Item(int zoom = 100)
-        : picture(mosaic(QSize(itemSize.width() * 100 / zoom, itemSize.height() * 100 / zoom)))
-    {
-        parent.resize(parentSize);
-        label.setZoom(zoom, zoom);
-        label.setImage(QPixmap::fromImage(picture));
-        label.move(itemPlace);
-    }
-
-    /// Hovers at a place, presses there, moves by a distance and releases.
-    void drag(QPoint from, QPoint distance)
-    {
-        pointer.hover(from);
-        pointer.drag({from, from + distance});
-    }
-
-    QImage picture;
-    QWidget parent;
-    KORVA_PasteLabel label{&parent};
-    Gestures pointer{label};
-};
-
-QImage transformed(const QImage& image, const QTransform& transform)
-{
-    return image.transformed(transform);
-}
-
-} // namespace
 
 class tst_PasteLabel : public support::TestCase
 {
@@ -70,20 +36,6 @@ private slots:
     void releaseShowsTheCrossAndEndsTheDrag();
     void releaseWithoutPressDoesNothing();
     void everyReleaseFoldsTheShownPictureBack();
-
-    void setZoomRemembersTheHorizontalRate();
-    void resizeZoomAddsUp();
-    void rotateTurnsClockwise();
-    void imageOfAFile();
-    void imageOfAMissingFileIsNone();
-    void growingFillsWithTheBaseColour();
-    void shrinkingKeepsThePicture();
-
-    void menuHasCopyCutPaste();
-    void rightClickOpensTheMenu();
-    void pasteWaitsUntilEnabled();
-    void actionsOnlyEmitSignals();
-    void paintsPictureFrameAndHandles();
 };
 
 void tst_PasteLabel::newItemIsEmptyAndTracks()
@@ -137,7 +89,7 @@ void tst_PasteLabel::hoverShowsTheZone()
 {
     QFETCH(const QPoint, point);
     QFETCH(const Qt::CursorShape, cursor);
-    Item item;
+    PasteItem item;
     item.pointer.hover(point);
     QCOMPARE(item.label.cursor().shape(), cursor);
     QCOMPARE(item.label.geometry(), QRect(itemPlace, itemSize));
@@ -145,7 +97,7 @@ void tst_PasteLabel::hoverShowsTheZone()
 
 void tst_PasteLabel::tinyItemTurnsFirst()
 {
-    Item item;
+    PasteItem item;
     item.label.setImage(QPixmap::fromImage(mosaic(QSize(8, 8))));
     item.pointer.hover({4, 4}); // in reach of all four corners
     QCOMPARE(item.label.cursor().shape(), Qt::UpArrowCursor);
@@ -157,7 +109,7 @@ void tst_PasteLabel::tinyItemTurnsFirst()
 
 void tst_PasteLabel::insideFollowsThePointer()
 {
-    Item item;
+    PasteItem item;
     item.pointer.press({50, 40});
     item.pointer.move({57, 45}); // at once, before the release
     QCOMPARE(item.label.pos(), itemPlace + QPoint(7, 5));
@@ -170,7 +122,7 @@ void tst_PasteLabel::insideFollowsThePointer()
 
 void tst_PasteLabel::moveIsLimitedToTheRightAndBelowOnly()
 {
-    Item item;
+    PasteItem item;
     item.drag({50, 40}, {1000, 900});
     QCOMPARE(item.label.pos(), QPoint(parentSize.width(), parentSize.height()));
     item.drag({50, 40}, {-1000, -900});
@@ -179,7 +131,7 @@ void tst_PasteLabel::moveIsLimitedToTheRightAndBelowOnly()
 
 void tst_PasteLabel::zoneOfTheLastHoverCounts()
 {
-    Item item;
+    PasteItem item;
     item.pointer.drag({{97, 2}, {107, 12}}); // never hovered: it moves
     QCOMPARE(item.label.geometry(), QRect(itemPlace + QPoint(10, 10), itemSize));
     item.pointer.hover({97, 40});
@@ -189,7 +141,7 @@ void tst_PasteLabel::zoneOfTheLastHoverCounts()
 
 void tst_PasteLabel::outsideDragDoesNothing()
 {
-    Item item;
+    PasteItem item;
     item.pointer.hover({-5, 40});
     item.pointer.drag({{50, 40}, {70, 60}});
     QCOMPARE(item.label.geometry(), QRect(itemPlace, itemSize));
@@ -223,7 +175,7 @@ void tst_PasteLabel::edgesAndCornersStretch()
     QFETCH(const QPoint, from);
     QFETCH(const QPoint, distance);
     QFETCH(const QRect, geometry);
-    Item item;
+    PasteItem item;
     item.drag(from, distance);
     QCOMPARE(item.label.geometry(), geometry.translated(itemPlace));
     QVERIFY(sameImage(item.label.getImage(),
@@ -233,7 +185,7 @@ void tst_PasteLabel::edgesAndCornersStretch()
 
 void tst_PasteLabel::stretchWaitsForTheRelease()
 {
-    Item item;
+    PasteItem item;
     item.pointer.hover({3, 40});
     item.pointer.press({3, 40});
     item.pointer.move({33, 40});
@@ -244,7 +196,7 @@ void tst_PasteLabel::stretchWaitsForTheRelease()
 
 void tst_PasteLabel::percentagesAreTruncated()
 {
-    Item item;
+    PasteItem item;
     item.drag({50, 77}, {0, 1}); // 81 of 80 is 101.25 %, taken as 101: 80.8 pixels
     QCOMPARE(item.label.size(), QSize(100, 81));
     item.label.setImage(QPixmap::fromImage(mosaic(QSize(300, 40))));
@@ -254,7 +206,7 @@ void tst_PasteLabel::percentagesAreTruncated()
 
 void tst_PasteLabel::stretchIsFoldedBackToRealSize()
 {
-    Item item(200);
+    PasteItem item(200);
     item.drag({97, 40}, {30, 0});
     QCOMPARE(item.label.size(), QSize(130, 80));
     QCOMPARE(item.label.getImage().size(), QSize(65, 40));
@@ -277,7 +229,7 @@ void tst_PasteLabel::stretchingToNothingIsClamped()
 {
     QFETCH(const QPoint, from);
     QFETCH(const QPoint, distance);
-    Item item;
+    PasteItem item;
     item.drag(from, distance);
     QVERIFY(item.label.size().isEmpty());
     QVERIFY(item.label.getImage().isNull());
@@ -304,7 +256,7 @@ void tst_PasteLabel::rotationFollowsTheDrag()
 {
     QFETCH(const QPoint, distance);
     QFETCH(const int, degrees);
-    Item item;
+    PasteItem item;
     item.drag({97, 2}, distance);
     QCOMPARE(item.label.geometry(), QRect(itemPlace, itemSize.transposed()));
     QVERIFY(sameImage(item.label.getImage(), transformed(item.picture, QTransform().rotate(degrees))));
@@ -320,7 +272,7 @@ void tst_PasteLabel::twoQuarterTurnsMakeAHalf_data()
 void tst_PasteLabel::twoQuarterTurnsMakeAHalf()
 {
     QFETCH(const int, zoom);
-    Item item(zoom);
+    PasteItem item(zoom);
     item.drag({97, 2}, {0, 0});
     item.drag({77, 2}, {0, 0});
     QCOMPARE(item.label.geometry(), QRect(itemPlace, itemSize));
@@ -329,7 +281,7 @@ void tst_PasteLabel::twoQuarterTurnsMakeAHalf()
 
 void tst_PasteLabel::releaseShowsTheCrossAndEndsTheDrag()
 {
-    Item item;
+    PasteItem item;
     item.drag({50, 40}, {5, 5});
     QCOMPARE(item.label.cursor().shape(), Qt::CrossCursor);
     item.pointer.hover({60, 60});
@@ -338,7 +290,7 @@ void tst_PasteLabel::releaseShowsTheCrossAndEndsTheDrag()
 
 void tst_PasteLabel::releaseWithoutPressDoesNothing()
 {
-    Item item;
+    PasteItem item;
     item.pointer.hover({97, 2});
     item.pointer.release({97, 2});
     QCOMPARE(item.label.geometry(), QRect(itemPlace, itemSize));
@@ -347,182 +299,13 @@ void tst_PasteLabel::releaseWithoutPressDoesNothing()
 
 void tst_PasteLabel::everyReleaseFoldsTheShownPictureBack()
 {
-    Item item;
+    PasteItem item;
     item.label.setZoom(50, 50);
     QVERIFY(sameImage(item.label.getImage(), item.picture));
     item.pointer.press({20, 20});
     item.pointer.release({20, 20}); // what half size has lost stays lost
     const QImage half = transformed(item.picture, QTransform::fromScale(0.5, 0.5));
     QVERIFY(sameImage(item.label.getImage(), transformed(half, QTransform::fromScale(2, 2))));
-}
-
-// --- The picture
-
-void tst_PasteLabel::setZoomRemembersTheHorizontalRate()
-{
-    Item item;
-    item.label.setZoom(200, 50);
-    QCOMPARE(item.label.size(), QSize(200, 40));
-    QVERIFY(sameImage(item.label.getImage(), item.picture));
-    item.label.setImage(QPixmap::fromImage(mosaic(QSize(10, 20))));
-    QCOMPARE(item.label.size(), QSize(20, 40));
-    item.label.setZoom(50, 50);
-    item.label.setImage(QPixmap::fromImage(mosaic(QSize(175, 99))));
-    QCOMPARE(item.label.size(), QSize(88, 50)); // rounded, where the canvas truncates
-}
-
-void tst_PasteLabel::resizeZoomAddsUp()
-{
-    Item item;
-    item.label.setResizeZoom(200, 100);
-    item.label.setResizeZoom(200, 50);
-    QCOMPARE(item.label.size(), QSize(400, 40));
-    QVERIFY(sameImage(item.label.getImage(), item.picture));
-    item.label.setImage(QPixmap::fromImage(mosaic(QSize(10, 20))));
-    QCOMPARE(item.label.size(), QSize(10, 20)); // the zoom has stayed
-}
-
-void tst_PasteLabel::rotateTurnsClockwise()
-{
-    Item item;
-    item.label.rotate(90);
-    item.drag({40, 50}, {0, 0}); // folds it into the picture
-    const QImage turned = item.label.getImage().toImage();
-    QCOMPARE(turned.size(), itemSize.transposed());
-    QCOMPARE(turned.pixel(turned.width() - 1, 0), item.picture.pixel(0, 0));
-    QCOMPARE(turned.pixel(0, turned.height() - 1), item.picture.pixel(99, 79));
-}
-
-void tst_PasteLabel::imageOfAFile()
-{
-    QTemporaryDir folder;
-    const QString file = folder.filePath("pi\u00e8ce.png");
-    QVERIFY(mosaic(QSize(12, 9)).save(file));
-    Item item;
-    item.label.setZoom(200, 200);
-    item.label.setImage(file.toUtf8().constData());
-    QVERIFY(sameImage(item.label.getImage(), mosaic(QSize(12, 9))));
-    QCOMPARE(item.label.size(), QSize(24, 18));
-}
-
-void tst_PasteLabel::imageOfAMissingFileIsNone()
-{
-    Item item;
-    item.label.setImage("/nowhere/at/all.png");
-    QVERIFY(item.label.getImage().isNull());
-    QVERIFY(item.label.size().isEmpty());
-}
-
-void tst_PasteLabel::growingFillsWithTheBaseColour()
-{
-    Item item;
-    QPalette colors;
-    colors.setColor(QPalette::Base, Qt::yellow);
-    item.label.setPalette(colors);
-    item.parent.show();
-    item.label.resize(110, 85);
-    item.drag({50, 40}, {0, 0}); // folds it into the picture
-    QVERIFY(sameImage(item.label.getImage(),
-                      support::overlaid(support::sheet(QSize(110, 85), Qt::yellow), {0, 0}, item.picture)));
-}
-
-void tst_PasteLabel::shrinkingKeepsThePicture()
-{
-    Item item;
-    item.parent.show();
-    item.label.resize(20, 90);
-    item.drag({10, 40}, {0, 0});
-    QCOMPARE(item.label.getImage().size(), QSize(100, 90));
-    QVERIFY(sameImage(item.label.getImage().copy(0, 0, 100, 80), item.picture));
-}
-
-// --- Menu and look
-
-void tst_PasteLabel::menuHasCopyCutPaste()
-{
-    const Item item;
-    QStringList texts;
-    for (const QAction* action : item.label.menu()->actions())
-        texts << action->text();
-    QCOMPARE(texts, QStringList({"Copy", "Cut", "Paste"}));
-}
-
-void tst_PasteLabel::rightClickOpensTheMenu()
-{
-    Item item;
-    item.parent.show();
-    for (const QPoint place : {QPoint(50, 40), QPoint(98, 1), QPoint(0, 79)}) {
-        item.pointer.click(place, Qt::RightButton);
-        QVERIFY(item.label.menu()->isVisible());
-        QVERIFY(item.label.menu()->geometry().contains(item.label.mapToGlobal(place)));
-        item.label.menu()->close();
-    }
-    item.pointer.move({80, 70}); // no drag has begun
-    QCOMPARE(item.label.pos(), itemPlace);
-}
-
-void tst_PasteLabel::pasteWaitsUntilEnabled()
-{
-    Item item;
-    QCOMPARE(fixtures::enabledActions(item.label.menu()), "110");
-    item.label.setPasteItem(true);
-    QCOMPARE(fixtures::enabledActions(item.label.menu()), "111");
-    item.label.setPasteItem(false);
-    QCOMPARE(fixtures::enabledActions(item.label.menu()), "110");
-}
-
-void tst_PasteLabel::actionsOnlyEmitSignals()
-{
-    Item item;
-    support::SignalRecorder recorder;
-    recorder.watch(&item.label, &KORVA_PasteLabel::signalCut);
-    recorder.watch(&item.label, &KORVA_PasteLabel::signalCopy);
-    recorder.watch(&item.label, &KORVA_PasteLabel::signalPaste);
-    item.label.setPasteItem(true);
-    for (QAction* action : item.label.menu()->actions())
-        action->trigger();
-    QCOMPARE(recorder.taken(), QStringList({"signalCopy()", "signalCut()", "signalPaste()"}));
-    item.label.slotCut();
-    item.label.slotCopy();
-    item.label.slotPaste();
-    QCOMPARE(recorder.taken(), QStringList({"signalCut()", "signalCopy()", "signalPaste()"}));
-    QVERIFY(sameImage(item.label.getImage(), item.picture));
-}
-
-void tst_PasteLabel::paintsPictureFrameAndHandles()
-{
-    Item item;
-    QImage shown = item.label.grab().toImage();
-
-    // The frame is dotted: some of its pixels are inverted, the others are the picture's.
-    int inverted = 0;
-    int plain = 0;
-    const auto inspect = [&](int x, int y) {
-        const QRgb was = item.picture.pixel(x, y);
-        inverted += shown.pixel(x, y) == (~was | 0xff000000);
-        plain += shown.pixel(x, y) == was;
-        shown.setPixel(x, y, was); // taken off for what follows
-    };
-    const QImage withHandles = shown;
-    for (int x = 0; x < 100; ++x) {
-        inspect(x, 0);
-        inspect(x, 79);
-    }
-    for (int y = 1; y < 79; ++y) {
-        inspect(0, y);
-        inspect(99, y);
-    }
-    QVERIFY2(inverted > 70 && plain > 70, qPrintable(QString("%1 and %2").arg(inverted).arg(plain)));
-    QCOMPARE(inverted + plain, 356 - 4 * 11 - 4 * 6); // the rest of the border is under the handles
-
-    QImage expected = item.picture;
-    for (const QPoint handle : {QPoint(0, 0), QPoint(94, 0), QPoint(0, 74), QPoint(94, 74), QPoint(47, 0),
-                                QPoint(47, 74), QPoint(0, 37), QPoint(94, 37)}) {
-        const QRect square(handle, QSize(6, 6));
-        QVERIFY(sameImage(withHandles.copy(square), support::sheet(square.size(), Qt::black)));
-        expected = support::filled(expected, square.intersected(QRect(1, 1, 98, 78)), Qt::black);
-    }
-    QVERIFY(sameImage(shown, expected));
 }
 
 int main(int argc, char** argv)

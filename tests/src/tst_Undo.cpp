@@ -19,11 +19,7 @@ struct ChangedCanvas
         canvas.setPixmap(&picture);
         canvas.clearCanvas(Qt::blue);
         canvas.clearModified();
-        recorder.watch(&canvas, &KORVA_Canvas::sizeChanged);
-        recorder.watch(&canvas, &KORVA_Canvas::pixmapChanged);
-        recorder.watch(&canvas, &KORVA_Canvas::modified);
-        recorder.watch(&canvas, &KORVA_Canvas::canUndo);
-        recorder.watch(&canvas, &KORVA_Canvas::canRedo);
+        fixtures::watchPicture(recorder, canvas);
     }
 
     [[nodiscard]] bool showsBefore()
