@@ -2,16 +2,8 @@
 #include "KORVA_MainView.h"
 #include "KORVA_ScrollView.h"
 
-using fixtures::clipboardImage;
-using fixtures::enabledActions;
-using fixtures::PictureCanvas;
-using fixtures::setClipboard;
-using support::filled;
-using support::mosaic;
-using support::overlaid;
-using support::sameImage;
-using support::sheet;
-using support::SignalRecorder;
+using namespace fixtures;
+using namespace support;
 
 namespace {
 
