@@ -15,12 +15,12 @@ class KORVA_EXPORT KORVA_TwoPointTool : public KORVA_DrawingTool
     Q_OBJECT
 
 public:
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
     /// A drag is kept over a change of tools; its preview is hidden meanwhile.
     void activating() override;
     void deactivating() override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void zoomedRebuilt() override;
 
 protected:

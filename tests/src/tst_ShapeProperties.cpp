@@ -2,8 +2,6 @@
 
 using fixtures::Desk;
 using fixtures::painted;
-using fixtures::shape;
-using fixtures::solidPen;
 using fixtures::toggled;
 using fixtures::ToolID;
 using support::sameImage;
@@ -108,17 +106,19 @@ struct tst_ShapeProperties::Drag
     }
     [[nodiscard]] QImage withPreview(QImage screen) const
     {
-        screen = toggled(screen, screenWidth(), shape(id, anchor(), lastMove()));
-        return toggled(screen, screenWidth(), shape(id, anchor(), anchor())); // a line's first point
+        screen = toggled(screen, screenWidth(), fixtures::shape(id, anchor(), lastMove()));
+        return toggled(screen, screenWidth(),
+                       fixtures::shape(id, anchor(), anchor())); // a line's first point
     }
     [[nodiscard]] QImage onScreen(const QImage& screen) const
     {
-        return painted(screen, solidPen(color, screenWidth()), brush, shape(id, anchor(), end()));
+        return painted(screen, fixtures::solidPen(color, screenWidth()), brush,
+                       fixtures::shape(id, anchor(), end()));
     }
     [[nodiscard]] QImage inThePicture(const QImage& picture) const
     {
-        return painted(picture, solidPen(color, width), brush,
-                       shape(id, inPicture(anchor(), zoom), inPicture(end(), zoom)));
+        return painted(picture, fixtures::solidPen(color, width), brush,
+                       fixtures::shape(id, inPicture(anchor(), zoom), inPicture(end(), zoom)));
     }
 };
 
