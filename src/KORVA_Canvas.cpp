@@ -372,7 +372,13 @@ void KORVA_Canvas::exchangeWithSnapshot()
     QPixmap after = *m_picture;
     m_picture = std::make_unique<QPixmap>(m_previous);
     m_previous = after;
-    updateZoomed();
+    if (m_picture->size() == after.size()) {
+        updateZoomed();
+    } else { // back over a resize: the screen follows
+        rebuildZoomed();
+        fitToZoomed();
+        refresh();
+    }
 }
 
 void KORVA_Canvas::setUndoFlag(int flag)

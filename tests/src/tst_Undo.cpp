@@ -64,6 +64,7 @@ private slots:
     void undoAfterAMergeKeepsThePiece();
     void snapshotComesBeforeTheChange_data();
     void snapshotComesBeforeTheChange();
+    void theScreenFollowsBackOverAResize();
     void liftingTakesNoSnapshot();
     void undoWorksAtEveryZoom();
 };
@@ -287,6 +288,16 @@ void tst_Undo::snapshotComesBeforeTheChange()
     c.canvas.pasteLabel()->hide(); // what floats is not yet part of the picture
     c.canvas.undo();
     QVERIFY(sameImage(*c.canvas.pixmap(), support::sheet(size, Qt::blue)));
+}
+
+void tst_Undo::theScreenFollowsBackOverAResize()
+{
+    ChangedCanvas c;
+    c.canvas.setZoom(200);
+    c.canvas.resizeImage(5, 5);
+    c.canvas.undo();
+    QVERIFY(sameImage(*c.canvas.zoomedPixmap(), support::sheet(2 * size, Qt::blue)));
+    QCOMPARE(c.canvas.size(), 2 * size);
 }
 
 void tst_Undo::liftingTakesNoSnapshot()
