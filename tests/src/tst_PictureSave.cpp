@@ -546,12 +546,13 @@ void tst_PictureSave::targetSurvivesKills()
     QFETCH(bool, isAcross);
     std::optional<Mount> other;
     if (isAcross) {
-        other.emplace(path("other"), "size=8m");
+        other.emplace(path("other"), "size=32m");
         if (!other->isThere())
             QSKIP("mounting is not permitted here");
     }
     const QString target = path(isAcross ? "other/a.bmp" : "photos/a.bmp");
-    const QImage pictures[] = {support::mosaic(QSize(90, 70)), support::sheet(QSize(90, 70), Qt::red)};
+    const QImage pictures[] = {support::mosaic(QSize(500, 400)),
+                               support::sheet(QSize(500, 400), Qt::red)};
     QByteArray whole[2];
     QElapsedTimer timer;
     timer.start();
@@ -574,7 +575,7 @@ void tst_PictureSave::targetSurvivesKills()
         }
         QVERIFY(child > 0);
         setpgid(child, child);
-        usleep(useconds_t(random() % unsigned(3 * saveTime)));
+        usleep(useconds_t(random() % unsigned(2 * saveTime)));
         kill(-child, SIGKILL);
         QCOMPARE(waitpid(child, nullptr, 0), child);
         const QByteArray after = contents(target);

@@ -1,0 +1,135 @@
+#include "KORVA_PictureFile.h"
+#include "support/PictureFiles.h"
+#include "support/TestCase.h"
+
+#ifdef __SANITIZE_ADDRESS__
+// The compiler's library has them, but no header for them.
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void*, size_t),
+                                                         void (*)(const volatile void*));
+extern "C" size_t __sanitizer_get_allocated_size(const volatile void*);
+#endif
+
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+
+/// The sanitizer keeps freed memory for long, so what the process holds says nothing: its allocations are
+/// counted.
+std::atomic<qint64> held = 0;
+std::atomic<qint64> most = 0;
+
+void allocated(const volatile void*, size_t size)
+{
+    held += qint64(size);
+    most = qMax<qint64>(most, held);
+}
+
+void released(const volatile void* memory)
+{
+    if (memory)
+        held -= qint64(__sanitizer_get_allocated_size(memory));
+}
+
+/// The picture itself; less would mean that nothing was counted.
+constexpr qint64 leastBytes = 352 * 264 * 2;
+
+class Peak
+{
+public:
+    Peak()
+    {
+        static const int installed = __sanitizer_install_malloc_and_free_hooks(allocated, released);
+        Q_UNUSED(installed)
+        held = 0;
+        most = 0;
+    }
+    [[nodiscard]] qint64 bytes() const { return most; }
+};
+
+#else
+
+constexpr qint64 leastBytes = 0; // what was freed before may serve
+
+class Peak
+{
+public:
+    Peak() { support::write("/proc/self/clear_refs", "5"); } // the peak starts from what is held now
+    [[nodiscard]] qint64 bytes() const { return peak() - m_before; }
+
+private:
+    static qint64 peak()
+    {
+        const QByteArray status = support::contents("/proc/self/status");
+        const qsizetype start = status.indexOf("VmHWM:") + 6;
+        return status.sliced(start, status.indexOf("kB", start) - start).trimmed().toLongLong() * 1024;
+    }
+
+    qint64 m_before = peak();
+};
+
+#endif
+
+constexpr qint64 megabyte = 1'000'000;
+
+} // namespace
+
+/// Opening a photograph of twelve megapixels must not cost what its pixels take.
+class tst_PictureMemory : public support::TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void openingStaysSmall_data();
+    void openingStaysSmall();
+
+private:
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    QTemporaryDir m_folder;
+};
+
+void tst_PictureMemory::initTestCase()
+{
+    QVERIFY(support::convert({"-size", "1000x750", "-seed", "1", "plasma:red-blue", "-depth", "8",
+                              "-sample", "400%", "-define", "png:compression-level=1", path("photo.png")}));
+}
+
+void tst_PictureMemory::openingStaysSmall_data()
+{
+    QTest::addColumn<QStringList>("making");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("megabytes");
+    QTest::addRow("JPEG") << QStringList{"-sampling-factor", "2x2"} << "it.jpg" << 40;
+    QTest::addRow("PNG, 24 bits") << QStringList() << "PNG24:it.png" << 90;
+    QTest::addRow("PNG, 64 bits") << QStringList{"-depth", "16", "-alpha", "set"} << "PNG64:it.png" << 90;
+    QTest::addRow("PNG, interlaced") << QStringList{"-interlace", "PNG"} << "PNG24:it.png" << 90;
+}
+
+void tst_PictureMemory::openingStaysSmall()
+{
+    QFETCH(QStringList, making);
+    QFETCH(QString, file);
+    QFETCH(int, megabytes);
+    const QString name = path(file.section(':', -1));
+    const QString variety = file.contains(':') ? file.section(':', 0, 0) + ':' : QString();
+    QVERIFY(support::convert(QStringList{path("photo.png")} + making +
+                             QStringList{"-define", "png:compression-level=1", variety + name}));
+    const Peak peak;
+    KORVA_PictureFile picture(name);
+    QCOMPARE(picture.check(picturefile::readFormat(name)), 0);
+    QPixmap opened;
+    QVERIFY(picturefile::convert(picture.take(), &opened));
+    const qint64 bytes = peak.bytes();
+    qInfo("%lld bytes", static_cast<long long>(bytes));
+    QCOMPARE(opened.size(), QSize(352, 264));
+    QVERIFY2(bytes >= leastBytes && bytes < megabytes * megabyte, qPrintable(QString::number(bytes)));
+}
+
+int main(int argc, char** argv)
+{
+    return support::run<tst_PictureMemory>(argc, argv);
+}
+
+#include "tst_PictureMemory.moc"
