@@ -2,6 +2,7 @@
 
 #include "UTIL_GifParser.h"
 #include "UTIL_ImageReader.h"
+#include "UTIL_Platform.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -45,6 +46,8 @@ const Kind& kindOf(const QString& fileName)
 
 constexpr QSize workingBox(352, 288);
 constexpr int workingDepth = 16;
+/// A damaged GIF of more pixels is not even tried.
+constexpr qint64 greatScreen = 4'000'000;
 constexpr QRgb white = 0xffffffff;
 
 /// What is transparent shows `background`; a picture with a palette keeps having one.
@@ -148,8 +151,8 @@ KORVA_PictureFile::KORVA_PictureFile(const QString& name, Scale scale) : m_name(
 int KORVA_PictureFile::check(const char* format)
 {
     examine();
-    if (m_gifError == UTIL_GifParser::TooManyFrames)
-        return UTIL_ImageReader::Failed; // before its screen, which may be as excessive, is decoded
+    if (m_isTrap)
+        return UTIL_ImageReader::Failed;
     const Kind& kind = kindOf(m_name);
     const bool isWhatTakeReads =
         format ? QByteArrayView(format) == kind.readFormat : kind.opening == Opening::ByContent;
@@ -166,7 +169,7 @@ QImage KORVA_PictureFile::take()
         examine();
         image = {};
     }
-    if (m_gifError != UTIL_GifParser::NoError)
+    if (m_isDamaged)
         return {};
     if (image.isNull()) {
         const Kind& kind = kindOf(m_name);
@@ -180,12 +183,14 @@ QImage KORVA_PictureFile::take()
 void KORVA_PictureFile::examine()
 {
     m_version = versionOf(m_name);
-    m_gifError = UTIL_GifParser::NoError;
+    m_isDamaged = m_isTrap = false;
     m_transparentColor.reset();
     if (kindOf(m_name).opening != Opening::AsGif)
         return;
     UTIL_GifParser parser(m_name, UTIL_GifParser::WholeFile);
-    m_gifError = parser.parse();
+    m_isDamaged = parser.parse() != UTIL_GifParser::NoError;
+    const qint64 pixels = qint64(parser.screenSize().width()) * parser.screenSize().height();
+    m_isTrap = m_isDamaged && pixels > greatScreen && pixels <= UTIL_Platform::instance()->pixelLimit();
     if (parser.transparentIndex() >= 0)
         m_transparentColor = parser.transparentColor().rgb();
 }

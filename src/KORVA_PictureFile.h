@@ -67,6 +67,7 @@ private:
     Scale m_scale = Working;
     QImage m_checked;  ///< what check() decoded; null when take() must decode itself
     QString m_version; ///< of the file when it was examined; null when it was not
-    int m_gifError = 0;
+    bool m_isDamaged = false; ///< a GIF that is not sound to its end
+    bool m_isTrap = false;    ///< and whose screen it would be a waste to decode
     std::optional<QRgb> m_transparentColor; ///< a GIF's
 };
