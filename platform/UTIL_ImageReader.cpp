@@ -10,6 +10,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QMutex>
+
+#include <atomic>
 
 namespace {
 
@@ -21,52 +24,49 @@ qint64 area(QSize size)
     return size.isValid() ? qint64(size.width()) * size.height() : 0;
 }
 
-/// While it lives, a decoder may allocate what the platform's pixel limit calls for: the toolkit's own
-/// limit of 128 MB would refuse pictures well within it.
-class Allowance
+/// What is changed for the whole program while any thread reads: a decoder may allocate what the pixel
+/// limit calls for (the toolkit's own 128 MB would refuse pictures well within it), and what it warns of is
+/// kept from the log.
+class Reading
 {
 public:
-    explicit Allowance(qint64 pixels)
+    explicit Reading(qint64 pixels)
     {
+        const QMutexLocker locker(&mutex);
+        if (readers++ == 0) {
+            limitBefore = QImageReader::allocationLimit();
+            previous = qInstallMessageHandler(handle);
+        }
+        current = this;
         constexpr qint64 bytesPerPixel = 8; // sixteen bits for each of four channels
         constexpr qint64 megabyte = 1 << 20;
-        const qint64 wanted = qMin<qint64>(pixels / megabyte * bytesPerPixel + bytesPerPixel, INT_MAX);
-        if (m_before > 0 && m_before < wanted)
+        const qint64 wanted = qMin<qint64>((pixels / megabyte + 1) * bytesPerPixel, INT_MAX);
+        const int limit = QImageReader::allocationLimit();
+        if (limit > 0 && limit < wanted)
             QImageReader::setAllocationLimit(int(wanted));
     }
-    ~Allowance() { QImageReader::setAllocationLimit(m_before); }
-    Allowance(const Allowance&) = delete;
-    Allowance& operator=(const Allowance&) = delete;
-
-private:
-    int m_before = QImageReader::allocationLimit();
-};
-
-/// While it lives, what the decoders warn of on this thread is kept from the log. It tells whether they
-/// warned of lost picture data, which is all that a JPEG with a hole in it gives away.
-class Silence
-{
-public:
-    Silence()
+    ~Reading()
     {
-        current = this;
-        previous = qInstallMessageHandler(handle);
-    }
-    ~Silence()
-    {
-        qInstallMessageHandler(previous);
+        const QMutexLocker locker(&mutex);
         current = nullptr;
+        if (--readers == 0) {
+            QImageReader::setAllocationLimit(limitBefore);
+            qInstallMessageHandler(previous);
+        }
     }
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
 
+    /// Whether this reader's decoder warned of lost picture data, which is all that a JPEG with a hole in
+    /// it gives away.
     [[nodiscard]] bool hasLostData() const { return m_hasLostData; }
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
     {
-        if (!current || (type != QtWarningMsg && type != QtDebugMsg && type != QtInfoMsg)) {
-            previous(type, context, text);
+        if (!current || type == QtCriticalMsg || type == QtFatalMsg) {
+            if (const QtMessageHandler handler = previous)
+                handler(type, context, text);
             return;
         }
         // Bytes too many between the parts of a file are common and do no harm.
@@ -75,12 +75,15 @@ private:
             current->m_hasLostData = true;
     }
 
-    static thread_local Silence* current;
-    static inline QtMessageHandler previous = nullptr;
+    static inline QMutex mutex;
+    static inline int readers = 0;
+    static inline int limitBefore = 0;
+    static inline std::atomic<QtMessageHandler> previous = nullptr;
+    static thread_local Reading* current; ///< this thread's
     bool m_hasLostData = false;
 };
 
-thread_local Silence* Silence::current = nullptr;
+thread_local Reading* Reading::current = nullptr;
 
 QByteArray normalized(const char* format)
 {
@@ -137,7 +140,7 @@ bool UTIL_ImageReader::read()
 
 UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
 {
-    const qint64 limit = UTIL_Platform::instance()->pixelLimit();
+    const qint64 limit = m_pixelLimit ? *m_pixelLimit : UTIL_Platform::instance()->pixelLimit();
     const UTIL_PictureProbe probe = UTIL_PictureProbe::of(device);
     if (!probe.format.isEmpty() && !m_format.isEmpty() && m_format != probe.format)
         return Failed;
@@ -146,8 +149,7 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
     if (!probe.format.isEmpty() && !probe.sound)
         return Failed;
 
-    const Allowance allowance(limit);
-    const Silence silence;
+    const Reading reading(limit);
     UTIL_PictureSource source(device, probe.kept);
     QImageReader reader(&source, probe.format.isEmpty() ? m_format : probe.format);
     const bool isUnknown = probe.format.isEmpty() && m_format.isEmpty();
@@ -169,7 +171,7 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
         m_image = png::readReduced(source, wanted);
         return m_image.isNull() ? Failed : Ok;
     }
-    if (!reader.read(&m_image) || silence.hasLostData())
+    if (!reader.read(&m_image) || reading.hasLostData())
         return Failed;
     if (area(m_image.size()) > limit)
         return TooLarge;

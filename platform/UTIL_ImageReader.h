@@ -4,11 +4,14 @@
 #include <QPixmap>
 #include <QString>
 
+#include <optional>
+
 class QIODevice;
 
 /// Reads a picture, from a file or from memory, the right way up as its camera noted it. The pixel limit of
 /// UTIL_Platform is held against the header, before a pixel is decoded; a file that stops half way or is
-/// made to exhaust the reader is a failure like any other. Nothing is logged. GUI thread only.
+/// made to exhaust the reader is a failure like any other. Nothing is logged. For use in the GUI thread,
+/// and in any other after setPixelLimit().
 class UTIL_ImageReader
 {
 public:
@@ -29,6 +32,8 @@ public:
     /// The picture of a file in one call; null when it cannot be read.
     [[nodiscard]] static QPixmap pixmap(const QString& fileName, const char* format = nullptr);
 
+    /// What holds instead of the platform's limit.
+    void setPixelLimit(qint64 pixels) { m_pixelLimit = pixels; }
     /// "16" asks for a picture of 16 bits a pixel; anything else asks for nothing.
     void setParameters(const char* parameters) { m_parameters = parameters; }
     /// Where reading at the wanted size saves memory (JPEG, and whatever has millions of pixels), the
@@ -49,6 +54,7 @@ private:
     bool m_isInMemory = false;
     QByteArray m_format;
     QByteArray m_parameters;
+    std::optional<qint64> m_pixelLimit;
     Reduction m_reduction = nullptr;
     QRgb m_background = 0xffffffff;
     Status m_status = Failed;

@@ -1,8 +1,8 @@
 #include "UTIL_Platform.h"
 
 #include "UTIL_MessageBox.h"
-
-#include "UTIL_PictureDialog.h"
+#include "UTIL_PickDialog.h"
+#include "UTIL_SaveDialog.h"
 
 #include <QStandardPaths>
 
@@ -54,14 +54,16 @@ int UTIL_Platform::timeoutSecond() const
     return millisecondsPerSecond;
 }
 
-UTIL_PictureDialog* UTIL_Platform::createPickDialog(QWidget* parent, const QString&, const QStringList&)
+UTIL_PictureDialog* UTIL_Platform::createPickDialog(QWidget* parent, const QString& folder,
+                                                    const QStringList& patterns)
 {
-    return new UTIL_PictureDialog(parent);
+    return new UTIL_PickDialog(parent, folder, patterns);
 }
 
-UTIL_PictureDialog* UTIL_Platform::createSaveDialog(QWidget* parent, const QString&, const QStringList&)
+UTIL_PictureDialog* UTIL_Platform::createSaveDialog(QWidget* parent, const QString& folder,
+                                                    const QStringList& patterns)
 {
-    return new UTIL_PictureDialog(parent);
+    return new UTIL_SaveDialog(parent, folder, patterns);
 }
 
 QString UTIL_Platform::photoFolder() const

@@ -55,10 +55,11 @@ struct FontRow
 };
 
 // In the order of UTIL_Skin::Font.
-constexpr std::array<FontRow, 3> fonts = {{
+constexpr std::array<FontRow, 4> fonts = {{
     {13, QFont::Normal},
     {15, QFont::Bold},
     {13, QFont::Bold},
+    {11, QFont::Normal},
 }};
 
 QColor colorOf(QRgb rgb)

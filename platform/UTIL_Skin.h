@@ -28,7 +28,7 @@ public:
         Veil,     ///< laid over a window that waits for its dialog
     };
 
-    enum class Font { Text, Title, Key };
+    enum class Font { Text, Title, Key, Caption };
 
     enum class Control {
         Key,        ///< a push button
@@ -69,6 +69,9 @@ public:
         static constexpr int iconHeight = 18;
         static constexpr int sliderTouch = 28; ///< how high a slider is for a finger
         static constexpr int messageMargin = 18;
+        static constexpr int thumbnailWidth = 64;
+        static constexpr int thumbnailHeight = 48;
+        static constexpr int captionHeight = 18; ///< of a thumbnail's name
     };
 
     /// What a picture of a disabled control is painted with.

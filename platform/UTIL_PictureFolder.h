@@ -1,0 +1,37 @@
+#pragma once
+
+#include "UTIL_Thumbnails.h"
+
+#include <QAbstractListModel>
+
+/// A folder as a model: its sub-folders, then those of its files that match the patterns, each by name.
+/// Texts are the names, decorations the thumbnails.
+class UTIL_PictureFolder : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    enum Role : int { IsFolderRole = Qt::UserRole };
+
+    explicit UTIL_PictureFolder(const QStringList& patterns, QObject* parent = nullptr);
+
+    void setFolder(const QString& folder);
+    /// An absolute path.
+    [[nodiscard]] QString folder() const { return m_folder; }
+    [[nodiscard]] QString path(const QModelIndex& index) const;
+    [[nodiscard]] bool isFolder(const QModelIndex& index) const;
+    /// The row of an entry; invalid when there is none of this name.
+    [[nodiscard]] QModelIndex find(const QString& name) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    void tellReady(const QString& fileName);
+
+    QStringList m_patterns;
+    QString m_folder;
+    QStringList m_names; ///< the folders first
+    int m_folderCount = 0;
+    mutable UTIL_Thumbnails m_thumbnails; ///< begins to make what is asked for
+};

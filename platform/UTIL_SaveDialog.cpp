@@ -1,0 +1,95 @@
+#include "UTIL_SaveDialog.h"
+
+#include "UTIL_PictureFolder.h"
+#include "UTIL_PictureView.h"
+#include "UTIL_Platform.h"
+#include "UTIL_PushButton.h"
+#include "UTIL_Skin.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+
+UTIL_SaveDialog::UTIL_SaveDialog(QWidget* parent, const QString& path, const QStringList& patterns)
+    : UTIL_FolderDialog(parent, tr("Save picture", "SAVE_DIALOG;TITLE"), patterns),
+      m_edit(new QLineEdit(this))
+{
+    for (const QString& pattern : patterns)
+        m_extensions.append(pattern.sliced(pattern.lastIndexOf(QLatin1Char('.'))));
+    // A slash would lead to another folder, and no file can be saved under a name with a quote.
+    static const QRegularExpression fitting("[^/'\\n]*");
+    m_edit->setValidator(new QRegularExpressionValidator(fitting, m_edit));
+    m_edit->setMinimumHeight(UTIL_Skin::Size::keyHeight);
+    m_edit->setAccessibleName(tr("File name", "SAVE_DIALOG;CONTEXT"));
+    addBelowFolder(m_edit);
+    connect(m_edit, &QLineEdit::textChanged, this, [this] { confirmKey().setEnabled(!name().isEmpty()); });
+    enter(path);
+    m_edit->setText(freeName());
+    m_edit->setFocus();
+}
+
+void UTIL_SaveDialog::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        if (!fileName().isEmpty())
+            m_edit->setText(QFileInfo(fileName()).fileName());
+        m_edit->setSelection(0, int(QFileInfo(m_edit->text()).completeBaseName().size()));
+    }
+    UTIL_FolderDialog::setVisible(visible);
+}
+
+/// A name that was proposed moves along to one that is free there; one that was typed stays.
+void UTIL_SaveDialog::enter(const QString& path)
+{
+    UTIL_FolderDialog::enter(path);
+    if (!m_edit->isModified())
+        m_edit->setText(freeName());
+}
+
+void UTIL_SaveDialog::choose(const QString& path)
+{
+    if (!path.isEmpty())
+        m_edit->setText(QFileInfo(path).fileName());
+}
+
+void UTIL_SaveDialog::confirm()
+{
+    if (name().isEmpty())
+        return;
+    const QString path = QDir(folder().folder()).filePath(name());
+    const QStringList answers{tr("Yes", "SAVE_DIALOG;SOFTKEY_2BUTTON"),
+                              tr("No", "SAVE_DIALOG;SOFTKEY_2BUTTON")};
+    if (QFileInfo::exists(path) &&
+        UTIL_Platform::instance()->question(
+            this, "Dialog_Exclamatory_Mark.gif",
+            tr("Replace %1?", "SAVE_DIALOG;DIALOG_ICON_50_WARP").arg(name()), answers) != 0)
+        return;
+    QDir().mkpath(folder().folder()); // the user's photo folder may never have been used
+    setFileName(path);
+    accept();
+}
+
+QString UTIL_SaveDialog::freeName() const
+{
+    const QDir dir(folder().folder());
+    QString name = tr("Drawing", "SAVE_DIALOG;CONTEXT") + m_extensions.value(0);
+    for (int number = 2; dir.exists(name); ++number)
+        name = tr("Drawing %1", "SAVE_DIALOG;CONTEXT").arg(number) + m_extensions.value(0);
+    return name;
+}
+
+QString UTIL_SaveDialog::name() const
+{
+    const QString typed = m_edit->text().trimmed();
+    const QFileInfo file(typed);
+    const QString extension = QLatin1Char('.') + file.suffix();
+    if (file.completeBaseName().isEmpty() || typed.contains(QLatin1Char('\'')))
+        return {};
+    if (m_extensions.contains(extension, Qt::CaseInsensitive))
+        return typed;
+    // Another format's extension would be followed by a second one, so it gives way.
+    const bool isOther = QImageReader::supportedImageFormats().contains(file.suffix().toLower().toLatin1());
+    return (isOther ? file.completeBaseName() : typed) + m_extensions.value(0);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QCache>
+#include <QObject>
+#include <QPixmap>
+#include <QStringList>
+#include <QThreadPool>
+
+/// Small pictures of picture files, made in a thread of their own, the last wanted first. What was wanted
+/// long ago and is no longer to be seen is forgotten.
+class UTIL_Thumbnails : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit UTIL_Thumbnails(QObject* parent = nullptr);
+    ~UTIL_Thumbnails() override;
+
+    /// The file's thumbnail; null while it is being made (ready() tells when it is) and for a file that is
+    /// no picture.
+    [[nodiscard]] QPixmap wanted(const QString& fileName);
+    /// Forgets what is wanted and not begun.
+    void clear() { m_wanted.clear(); }
+
+signals:
+    void ready(const QString& fileName);
+
+private:
+    void makeNext();
+    void take(const QString& fileName, const QImage& image);
+
+    QThreadPool m_pool;
+    QStringList m_wanted; ///< the last is made next
+    QString m_making;     ///< empty when the thread is idle
+    QCache<QString, QPixmap> m_made;
+};
