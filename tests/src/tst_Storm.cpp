@@ -222,7 +222,7 @@ void tst_Storm::storm()
     QVERIFY2(changes > eventsPerStorm / 20, qPrintable(QString::number(changes))); // it was no calm
     manager.setCurrentTool(fixtures::Drag); // leaves no preview, no cursor, no piece
     QVERIFY(!canvas.pixmap()->isNull());
-    canvas.setZoom(canvas.zoom());
+    canvas.updateZoomed();
     QVERIFY(support::sameImage(*canvas.zoomedPixmap(),
                                support::scaled(canvas.pixmap()->toImage(), canvas.zoom())));
 }
