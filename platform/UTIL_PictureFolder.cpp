@@ -1,7 +1,36 @@
 #include "UTIL_PictureFolder.h"
 
+#include <QCollator>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+/// As people sort: whatever the case, and 9 before 10.
+QStringList sorted(const QStringList& names)
+{
+    // The C locale knows no numbers.
+    QCollator collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    std::vector<std::pair<QCollatorSortKey, QString>> keyed;
+    for (const QString& name : names)
+        keyed.emplace_back(collator.sortKey(name), name);
+    std::sort(keyed.begin(), keyed.end(), [](const auto& left, const auto& right) {
+        const int order = left.first.compare(right.first);
+        return order != 0 ? order < 0 : left.second < right.second;
+    });
+    QStringList result;
+    for (const auto& [key, name] : keyed)
+        result.append(name);
+    return result;
+}
+
+} // namespace
 
 UTIL_PictureFolder::UTIL_PictureFolder(const QStringList& patterns, QObject* parent)
     : QAbstractListModel(parent), m_patterns(patterns)
@@ -11,14 +40,13 @@ UTIL_PictureFolder::UTIL_PictureFolder(const QStringList& patterns, QObject* par
 
 void UTIL_PictureFolder::setFolder(const QString& folder)
 {
-    constexpr QDir::SortFlags byName = QDir::Name | QDir::IgnoreCase;
     beginResetModel();
     m_thumbnails.clear();
     const QDir dir(folder);
     m_folder = QDir::cleanPath(dir.absolutePath());
-    const QStringList folders = dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, byName);
+    const QStringList folders = dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     m_folderCount = int(folders.size());
-    m_names = folders + dir.entryList(m_patterns, QDir::Files, byName);
+    m_names = sorted(folders) + sorted(dir.entryList(m_patterns, QDir::Files, QDir::Unsorted));
     endResetModel();
 }
 

@@ -142,12 +142,22 @@ void UTIL_PictureView::keyPressEvent(QKeyEvent* event)
     }
 }
 
+/// The toolkit makes the first entry the current one without showing it.
+void UTIL_PictureView::focusInEvent(QFocusEvent* event)
+{
+    QListView::focusInEvent(event);
+    if (!selectionModel()->hasSelection())
+        selectionModel()->clearCurrentIndex();
+}
+
 void UTIL_PictureView::paintEvent(QPaintEvent* event)
 {
     QListView::paintEvent(event);
+    QPainter painter(viewport());
+    if (hasFocus() && !currentIndex().isValid())
+        UTIL_Skin::paintFocus(painter, viewport()->rect());
     if (model()->rowCount() > 0)
         return;
-    QPainter painter(viewport());
     painter.setPen(UTIL_Skin::color(Color::QuietInk));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
                      tr("There are no pictures here.", "FOLDER_DIALOG;CONTEXT"));

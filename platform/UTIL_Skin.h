@@ -69,8 +69,8 @@ public:
         static constexpr int iconHeight = 18;
         static constexpr int sliderTouch = 28; ///< how high a slider is for a finger
         static constexpr int messageMargin = 18;
-        static constexpr int thumbnailWidth = 64;
-        static constexpr int thumbnailHeight = 48;
+        static constexpr int thumbnailWidth = 60;
+        static constexpr int thumbnailHeight = 45;
         static constexpr int captionHeight = 18; ///< of a thumbnail's name
     };
 

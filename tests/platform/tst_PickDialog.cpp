@@ -1,0 +1,297 @@
+#include "FolderFixtures.h"
+#include "UTIL_PickDialog.h"
+#include "UTIL_Skin.h"
+
+#include <unistd.h>
+
+#include <ctime>
+
+using fixtures::Photos;
+
+namespace {
+
+const QStringList patterns{"*.png", "*.jpg", "*.bmp"};
+const QStringList shown{"sub", "a.bmp", "B9.jpg", "b10.png", "bad.png"};
+
+struct Stage : fixtures::Stage<UTIL_PickDialog>
+{
+    explicit Stage(const QString& folder, const QStringList& filter = patterns)
+        : fixtures::Stage<UTIL_PickDialog>(folder, filter)
+    {
+        show();
+    }
+};
+
+} // namespace
+
+class tst_PickDialog : public support::TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void platformMakesIt();
+    void fitsTheScreen();
+    void showsFoldersAndWhatMatches();
+    void nothingIsChosenAtFirst();
+    void tapChoosesAndOkReturnsIt();
+    void doubleTapReturnsIt();
+    void cancelReturnsNothing_data();
+    void cancelReturnsNothing();
+    void foldersOpen_data();
+    void foldersOpen();
+    void okOnAFolderGoesThere();
+    void keyboardGoesThroughFolders();
+    void dragScrollsAndChoosesNothing();
+    void thumbnailsAppear();
+    void emptyOrMissingFolderSaysSo_data();
+    void emptyOrMissingFolderSaysSo();
+    void thousandsOfPicturesDoNotStall();
+    void mayGoAwayWhileThumbnailsAreMade();
+
+private:
+    Photos m_photos;
+};
+
+void tst_PickDialog::platformMakesIt()
+{
+    QWidget window;
+    UTIL_PictureDialog* dialog =
+        UTIL_Platform::instance()->createPickDialog(&window, m_photos.path(), patterns);
+    QVERIFY(qobject_cast<UTIL_PickDialog*>(dialog));
+    QCOMPARE(dialog->parentWidget(), &window);
+    support::whenOpen([&](QDialog& open) {
+        auto* view = open.findChild<UTIL_PictureView*>();
+        view->setCurrentIndex(view->model()->index(1, 0));
+        QTest::mouseClick(support::button(open, "OK"), Qt::LeftButton);
+    });
+    QCOMPARE(dialog->exec(), 1);
+    QCOMPARE(dialog->fileName(), m_photos.path("a.bmp"));
+}
+
+void tst_PickDialog::fitsTheScreen()
+{
+    Stage stage(m_photos.path());
+    const QSize screen(UTIL_Skin::Size::screenWidth, UTIL_Skin::Size::screenHeight);
+    QCOMPARE(stage.dialog.size(), screen);
+    constexpr int finger = UTIL_Skin::Size::keyHeight;
+    for (QAbstractButton* key : stage.dialog.findChildren<QAbstractButton*>()) {
+        QVERIFY(key->height() >= finger && key->width() >= finger);
+        QVERIFY(stage.dialog.rect().contains(key->geometry()));
+    }
+    QVERIFY(stage.view().gridSize().width() >= finger && stage.view().gridSize().height() >= finger);
+}
+
+void tst_PickDialog::showsFoldersAndWhatMatches()
+{
+    QCOMPARE(Stage(m_photos.path()).names(), shown);
+    QCOMPARE(Stage(m_photos.path(), {"*.gif"}).names(), QStringList({"sub", "other.gif"}));
+}
+
+void tst_PickDialog::nothingIsChosenAtFirst()
+{
+    Stage stage(m_photos.path());
+    QVERIFY(stage.dialog.fileName().isEmpty());
+    QVERIFY(!stage.isEnabled("OK"));
+    QTest::keyClick(&stage.view(), Qt::Key_Return);
+    QVERIFY(stage.dialog.isVisible());
+    QVERIFY(stage.names() == shown);
+}
+
+void tst_PickDialog::tapChoosesAndOkReturnsIt()
+{
+    Stage stage(m_photos.path());
+    stage.tap("B9.jpg");
+    QVERIFY(stage.dialog.isVisible());
+    stage.tap("b10.png");
+    stage.press("OK");
+    QCOMPARE(stage.dialog.result(), 1);
+    QCOMPARE(stage.dialog.fileName(), m_photos.path("b10.png"));
+}
+
+void tst_PickDialog::doubleTapReturnsIt()
+{
+    Stage stage(m_photos.path());
+    stage.doubleTap("a.bmp");
+    QVERIFY(!stage.dialog.isVisible());
+    QCOMPARE(stage.dialog.result(), 1);
+    QCOMPARE(stage.dialog.fileName(), m_photos.path("a.bmp"));
+}
+
+void tst_PickDialog::cancelReturnsNothing_data()
+{
+    QTest::addColumn<int>("way");
+    QTest::addRow("key") << 0;
+    QTest::addRow("Escape") << 1;
+    QTest::addRow("closing") << 2;
+}
+
+void tst_PickDialog::cancelReturnsNothing()
+{
+    QFETCH(int, way);
+    Stage stage(m_photos.path());
+    stage.tap("a.bmp");
+    if (way == 0)
+        stage.press("Cancel");
+    else if (way == 1)
+        QTest::keyClick(&stage.view(), Qt::Key_Escape);
+    else
+        stage.dialog.close();
+    QVERIFY(!stage.dialog.isVisible());
+    QCOMPARE(stage.dialog.result(), 0);
+    QVERIFY(stage.dialog.fileName().isEmpty());
+}
+
+void tst_PickDialog::foldersOpen_data()
+{
+    QTest::addColumn<bool>("isByKeyboard");
+    QTest::addRow("by taps") << false;
+    QTest::addRow("by keyboard") << true;
+}
+
+void tst_PickDialog::foldersOpen()
+{
+    QFETCH(bool, isByKeyboard);
+    Stage stage(m_photos.path());
+    const auto into = [&](const QString& name) {
+        if (!isByKeyboard)
+            return stage.tap(name);
+        QTest::keyClick(&stage.view(), Qt::Key_Down);
+        QCOMPARE(stage.view().currentIndex().data().toString(), name);
+        QTest::keyClick(&stage.view(), Qt::Key_Return);
+    };
+    into("sub");
+    QCOMPARE(stage.names(), QStringList({"deeper", "inside.png"}));
+    QVERIFY(support::labels(stage.dialog).contains("sub"));
+    into("deeper");
+    QCOMPARE(stage.names(), QStringList());
+    for (const char* name : {"deeper", "sub"}) {
+        if (isByKeyboard)
+            QTest::keyClick(&stage.view(), Qt::Key_Backspace);
+        else
+            stage.press("Up");
+        QCOMPARE(stage.view().currentIndex().data().toString(), name); // where it came from
+        QVERIFY(stage.dialog.fileName().isEmpty());
+    }
+    QCOMPARE(stage.names(), shown);
+}
+
+void tst_PickDialog::okOnAFolderGoesThere()
+{
+    Stage stage(m_photos.path());
+    stage.view().setCurrentIndex(stage.view().model()->index(0, 0));
+    stage.press("OK");
+    QVERIFY(stage.dialog.isVisible());
+    QCOMPARE(stage.names(), QStringList({"deeper", "inside.png"}));
+    stage.tap("inside.png");
+    stage.press("OK");
+    QCOMPARE(stage.dialog.fileName(), m_photos.path("sub/inside.png"));
+}
+
+void tst_PickDialog::keyboardGoesThroughFolders()
+{
+    Stage stage(m_photos.path());
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right})
+        QTest::keyClick(&stage.view(), key);
+    QCOMPARE(stage.dialog.fileName(), m_photos.path("B9.jpg"));
+    QTest::keyClick(&stage.view(), Qt::Key_Return);
+    QVERIFY(!stage.dialog.isVisible());
+    QCOMPARE(stage.dialog.fileName(), m_photos.path("B9.jpg"));
+
+    Stage root("/");
+    QVERIFY(!root.isEnabled("Up"));
+    QTest::keyClick(&root.view(), Qt::Key_Backspace);
+    QVERIFY(root.dialog.isVisible());
+}
+
+void tst_PickDialog::dragScrollsAndChoosesNothing()
+{
+    QTemporaryDir folder;
+    for (int i = 0; i < 30; ++i)
+        QVERIFY(support::sheet(QSize(4, 4), Qt::red).save(folder.filePath(QString("%1.png").arg(i))));
+    Stage stage(folder.path());
+    QWidget* viewport = stage.view().viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, {}, QPoint(50, 150));
+    QTest::mouseMove(viewport, QPoint(50, 120));
+    QTest::mouseMove(viewport, QPoint(50, 60));
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, QPoint(50, 60));
+    QCOMPARE(stage.view().verticalScrollBar()->value(), 90);
+    QVERIFY(stage.dialog.fileName().isEmpty());
+}
+
+void tst_PickDialog::thumbnailsAppear()
+{
+    Stage stage(m_photos.path());
+    const auto colorOf = [&](const QString& name) {
+        return stage.view().viewport()->grab().toImage().pixelColor(stage.centre(name) - QPoint(0, 10));
+    };
+    QTRY_COMPARE(colorOf("b10.png"), QColor(Qt::red));
+    QTRY_COMPARE(colorOf("a.bmp"), QColor(Qt::red));
+    QVERIFY(colorOf("bad.png") != QColor(Qt::red));
+}
+
+void tst_PickDialog::emptyOrMissingFolderSaysSo_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addRow("empty") << m_photos.path("sub/deeper");
+    QTest::addRow("missing") << m_photos.path("missing");
+}
+
+void tst_PickDialog::emptyOrMissingFolderSaysSo()
+{
+    QFETCH(QString, folder);
+    Stage stage(folder);
+    QCOMPARE(stage.names(), QStringList());
+    QVERIFY(!stage.isEnabled("OK"));
+    const QImage image = stage.view().viewport()->grab().toImage();
+    const QRect ink = support::inkBounds(image.copy(image.rect().adjusted(8, 8, -8, -8)));
+    QVERIFY(ink.width() > 50 && ink.height() < 40);
+    stage.press("Up");
+    QVERIFY(stage.names() != QStringList());
+}
+
+void tst_PickDialog::thousandsOfPicturesDoNotStall()
+{
+    constexpr int count = 5000;
+    const QTemporaryDir folder;
+    const QByteArray picture = folder.filePath("0.png").toUtf8();
+    QVERIFY(support::mosaic(QSize(640, 480)).save(QString::fromUtf8(picture)));
+    for (int i = 1; i < count; ++i)
+        QVERIFY(::link(picture.constData(),
+                       folder.filePath(QString("%1.png").arg(i)).toUtf8().constData()) == 0);
+
+    const std::clock_t start = std::clock();
+    Stage stage(folder.path());
+    QCOMPARE(stage.view().model()->rowCount(), count);
+    // A screenful of thumbnails at a time is made, in the background, wherever the view has got to.
+    QScrollBar* bar = stage.view().verticalScrollBar();
+    QElapsedTimer turn;
+    qint64 longest = 0;
+    for (int step = 0; step <= 40; ++step) {
+        turn.start();
+        bar->setValue(bar->maximum() * step / 40);
+        QCoreApplication::processEvents();
+        longest = qMax(longest, turn.elapsed());
+    }
+    QTest::qWait(300);
+    QVERIFY2(longest < 500, qPrintable(QString::number(longest)));
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+    QVERIFY2(seconds < 10, qPrintable(QString::number(seconds))); // all of them would take minutes here
+    QTest::keyClick(&stage.view(), Qt::Key_Down);
+    QTest::keyClick(&stage.view(), Qt::Key_End);
+    QCOMPARE(stage.dialog.fileName(), folder.filePath("4999.png"));
+}
+
+void tst_PickDialog::mayGoAwayWhileThumbnailsAreMade()
+{
+    for (int i = 0; i < 20; ++i) {
+        Stage stage(m_photos.path());
+        QCoreApplication::processEvents();
+    }
+}
+
+int main(int argc, char** argv)
+{
+    return support::run<tst_PickDialog>(argc, argv);
+}
+
+#include "tst_PickDialog.moc"
