@@ -34,6 +34,7 @@ KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_scrollView);
+    m_scrollView->setFocusPolicy(Qt::NoFocus); // Shift+Tab would come back to the canvas for ever
     m_scrollView->resize(normalCanvas);
     setFocusProxy(m_canvas);
     QPalette frame = UTIL_Skin::palette();
