@@ -1,8 +1,10 @@
 #include "UTIL_ComboBox.h"
 
+#include "UTIL_PopupMenu.h"
 #include "UTIL_Skin.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -18,6 +20,20 @@ UTIL_ComboBox::UTIL_ComboBox(QWidget* parent) : QComboBox(parent)
     setAttribute(Qt::WA_Hover);
     view()->setPalette(UTIL_Skin::palette());
     view()->setFont(font());
+}
+
+void UTIL_ComboBox::showPopup()
+{
+    QComboBox::showPopup();
+    UTIL_PopupMenu::keepInWindow(*view()->window(), this);
+}
+
+void UTIL_ComboBox::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        showPopup();
+    else
+        QComboBox::keyPressEvent(event);
 }
 
 void UTIL_ComboBox::paintEvent(QPaintEvent*)

@@ -4,7 +4,8 @@
 
 #include <QComboBox>
 
-/// A flat box that shows the chosen entry and opens the list of all of them.
+/// A flat box that shows the chosen entry and opens the list of all of them, inside the window it belongs
+/// to. Space and Return open it; the arrow keys choose without.
 class KORVA_EXPORT UTIL_ComboBox : public QComboBox
 {
     Q_OBJECT
@@ -12,6 +13,9 @@ class KORVA_EXPORT UTIL_ComboBox : public QComboBox
 public:
     explicit UTIL_ComboBox(QWidget* parent = nullptr);
 
+    void showPopup() override;
+
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };

@@ -35,16 +35,17 @@ UTIL_PopupMenu::UTIL_PopupMenu(QWidget* parent) : QMenu(parent)
 void UTIL_PopupMenu::showEvent(QShowEvent* event)
 {
     QMenu::showEvent(event);
-    const QRect room = this->room();
-    const int x = qMax(room.left(), qMin(this->x(), room.right() + 1 - width()));
-    const int y = qMax(room.top(), qMin(this->y(), room.bottom() + 1 - height()));
-    move(x, y);
+    keepInWindow(*this, parentWidget());
 }
 
-QRect UTIL_PopupMenu::room() const
+void UTIL_PopupMenu::keepInWindow(QWidget& popup, const QWidget* owner)
 {
-    const QWidget* owner = parentWidget();
     while (owner && owner->windowType() == Qt::Popup)
         owner = owner->parentWidget();
-    return owner ? owner->window()->geometry() : geometry();
+    if (!owner)
+        return;
+    const QRect room = owner->window()->geometry();
+    const int x = qMax(room.left(), qMin(popup.x(), room.right() + 1 - popup.width()));
+    const int y = qMax(room.top(), qMin(popup.y(), room.bottom() + 1 - popup.height()));
+    popup.move(x, y);
 }

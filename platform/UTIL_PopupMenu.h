@@ -12,9 +12,9 @@ class KORVA_EXPORT UTIL_PopupMenu : public QMenu
 public:
     explicit UTIL_PopupMenu(QWidget* parent);
 
+    /// Moves a pop-up into the window that its owner belongs to.
+    static void keepInWindow(QWidget& popup, const QWidget* owner);
+
 protected:
     void showEvent(QShowEvent* event) override;
-
-private:
-    [[nodiscard]] QRect room() const;
 };

@@ -3,6 +3,7 @@
 #include "RES_ICON_Reader.h"
 #include "UTIL_Skin.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -57,6 +58,14 @@ QSize UTIL_PushButton::minimumSizeHint() const
     return {Size::keyHeight, Size::keyHeight};
 }
 
+void UTIL_PushButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
 void UTIL_PushButton::paintEvent(QPaintEvent*)
 {
     const UTIL_Skin::State state = stateOf(*this);
@@ -68,8 +77,6 @@ void UTIL_PushButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     constexpr int ring = Size::focusWidth + Size::focusGap;
     UTIL_Skin::paintBox(painter, hasFocus() ? rect().adjusted(ring, ring, -ring, -ring) : rect(), look);
-    if (hasFocus())
-        UTIL_Skin::paintFocus(painter, rect());
 
     const int iconWidth = icon().isNull() ? 0 : iconSize().width();
     const int gap = iconWidth && !text().isEmpty() ? Size::spacing : 0;
@@ -84,4 +91,6 @@ void UTIL_PushButton::paintEvent(QPaintEvent*)
                  isEnabled() ? QIcon::Normal : QIcon::Disabled);
     painter.drawText(line.adjusted(iconWidth + gap, 0, 0, 0),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, shown);
+    if (hasFocus())
+        UTIL_Skin::paintFocus(painter, rect()); // last: an icon may be as large as the key
 }

@@ -4,7 +4,8 @@
 
 #include <QPushButton>
 
-/// A flat key with an icon, a text or both. The filled key is the one that Return presses.
+/// A flat key with an icon, a text or both. Space and Return press the one that has the focus; Return the
+/// filled one where no key has it.
 class KORVA_EXPORT UTIL_PushButton : public QPushButton
 {
     Q_OBJECT
@@ -30,6 +31,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
