@@ -31,6 +31,7 @@ private:
                 return;
         }
         stop();
+        const auto work = std::move(m_work); // which may outlive this one by running an event loop
         deleteLater();
         if (!dialog)
             return;
@@ -38,7 +39,7 @@ private:
             QTest::qFail("the dialog stayed open", __FILE__, __LINE__);
             dialog->done(-1);
         });
-        m_work(*dialog);
+        work(*dialog);
     }
 
     std::function<void(QDialog&)> m_work;
