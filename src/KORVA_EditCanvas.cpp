@@ -117,14 +117,14 @@ KORVA_EditCanvas::~KORVA_EditCanvas() = default;
 
 void KORVA_EditCanvas::createControls()
 {
-    m_toolButton = createButton(this, "toolButton", toolButtonPlace, tr("Tool"));
+    m_toolButton = createButton(this, "toolButton", toolButtonPlace, tr("Tool", "tool bar"));
     m_toolMenu = new UTIL_PopupMenu(m_toolButton);
     int id = tables::toolMenuBase;
     for (const tables::ToolRow& row : tables::tools)
-        addEntry(m_toolMenu, id++, row.icon, tr(row.name));
+        addEntry(m_toolMenu, id++, row.icon, tr(row.name.text, row.name.comment));
     m_toolButton->setMenu(m_toolMenu);
 
-    m_optionButton = createButton(this, "optionButton", optionButtonPlace, tr("Tool option"));
+    m_optionButton = createButton(this, "optionButton", optionButtonPlace, tr("Tool option", "tool bar"));
     m_optionMenu = new UTIL_PopupMenu(m_optionButton);
     m_optionButton->setMenu(m_optionMenu);
     showIcon(m_toolButton, tables::toolRow(tables::Pencil)->icon);
@@ -134,14 +134,16 @@ void KORVA_EditCanvas::createControls()
     m_zoomBox = new UTIL_ComboBox(this);
     m_zoomBox->setObjectName("zoomBox");
     m_zoomBox->setGeometry(zoomBoxPlace);
-    m_zoomBox->setToolTip(tr("Zoom"));
-    m_zoomBox->setAccessibleName(tr("Zoom"));
+    m_zoomBox->setToolTip(tr("Zoom", "tool bar"));
+    m_zoomBox->setAccessibleName(tr("Zoom", "tool bar"));
     for (const auto& row : zoomTable)
         m_zoomBox->addItem(QString::fromLatin1(row.text));
     m_zoomBox->addItem(tr("Fit to page", "2.11.1;MENU"));
+    for (int i = 0; i < m_zoomBox->count(); ++i)
+        m_zoomBox->setItemData(i, m_zoomBox->itemText(i), Qt::ToolTipRole);
     m_zoomBox->setCurrentIndex(realSizeIndex);
 
-    m_colorButton = createButton(this, "colorButton", colorButtonPlace, tr("Color"));
+    m_colorButton = createButton(this, "colorButton", colorButtonPlace, tr("Color", "tool bar"));
     m_colorButton->setFlat(true);
     fillColorButton(m_color);
 }
@@ -343,7 +345,7 @@ void KORVA_EditCanvas::loadToolOptions(int tool)
     int id = tables::optionMenuBase;
     for (const tables::OptionRow& row : tables::options) {
         if (row.tool == tool)
-            addEntry(m_optionMenu, id, row.icon, tr(row.name));
+            addEntry(m_optionMenu, id, row.icon, tr(row.name.text, row.name.comment));
         ++id;
     }
 }

@@ -28,6 +28,9 @@ private slots:
     void toolPopup_data();
     void toolPopup();
     void mainViewTakesTheFocus();
+    void everyControlHasAName_data();
+    void everyControlHasAName();
+    void everyEntryHasAName();
 
     void signalsToTheHost_data();
     void signalsToTheHost();
@@ -156,6 +159,58 @@ void tst_EditCanvas::mainViewTakesTheFocus()
     desk.button("toolButton").setFocus();
     desk.editor->mainView()->setFocus();
     QCOMPARE(QApplication::focusWidget(), &desk.canvas());
+}
+
+void tst_EditCanvas::everyControlHasAName_data()
+{
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("tool button") << QByteArray("toolButton") << "Tool <tool bar>";
+    QTest::newRow("option button") << QByteArray("optionButton") << "Tool option <tool bar>";
+    QTest::newRow("zoom box") << QByteArray("zoomBox") << "Zoom <tool bar>";
+    QTest::newRow("color button") << QByteArray("colorButton") << "Color <tool bar>";
+}
+
+void tst_EditCanvas::everyControlHasAName()
+{
+    QFETCH(const QByteArray, control);
+    QFETCH(const QString, expected);
+    const EditorDesk desk;
+    auto& widget = desk.control<QWidget>(control);
+    QCOMPARE(widget.toolTip(), expected);
+    QCOMPARE(widget.accessibleName(), expected);
+    // Of a combo box the toolkit speaks the chosen entry here.
+    if (!qobject_cast<QComboBox*>(&widget))
+        QCOMPARE(QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name), expected);
+}
+
+void tst_EditCanvas::everyEntryHasAName()
+{
+    const EditorDesk desk;
+    QStringList names;
+    const auto addNames = [&names](QMenu* menu) {
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(menu);
+        for (int i = 0; i < menu->actions().size(); ++i) {
+            const QString name = spoken->child(i)->text(QAccessible::Name);
+            QCOMPARE(menu->actions()[i]->toolTip(), name);
+            names << name;
+        }
+    };
+    addNames(desk.button("toolButton").menu());
+    QCOMPARE(names, QStringList({"Select <tool>", "Eraser <tool>", "Line <tool>", "Pencil <tool>",
+                                 "Text <tool>", "Rectangle <tool>", "Ellipse <tool>"}));
+    names.clear();
+    for (int tool = ToolID::Pencil; tool <= ToolID::Eraser; ++tool) {
+        desk.editor->loadToolOptions(tool);
+        addNames(desk.button("optionButton").menu());
+    }
+    QCOMPARE(names.size(), 18);
+    const QRegularExpression translated("^[^ <].* <tool option>$");
+    QCOMPARE(names.filter(translated), names);
+
+    const QComboBox& box = desk.zoomBox();
+    for (int i = 0; i < box.count(); ++i)
+        QCOMPARE(box.itemData(i, Qt::ToolTipRole).toString(), box.itemText(i));
 }
 
 // --- What it tells
