@@ -1,21 +1,42 @@
-# The installed tree: library, public headers, CMake package.
+# The installed tree, in the three parts that the packages are made of: runtime (the shared library), development
+# (headers, CMake and pkg-config) and pad (the programs).
 include(CMakePackageConfigHelpers)
 
 set(korva_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Korva)
+set(korva_header_dir ${CMAKE_INSTALL_INCLUDEDIR}/korva)
 
 install(TARGETS korva
     EXPORT KorvaTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/korva)
-install(EXPORT KorvaTargets NAMESPACE Korva:: DESTINATION ${korva_package_dir})
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION ${korva_header_dir} COMPONENT development)
+install(EXPORT KorvaTargets NAMESPACE Korva:: DESTINATION ${korva_package_dir} COMPONENT development)
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/KorvaConfig.cmake.in
     ${PROJECT_BINARY_DIR}/KorvaConfig.cmake INSTALL_DESTINATION ${korva_package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/KorvaConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/KorvaConfig.cmake ${PROJECT_BINARY_DIR}/KorvaConfigVersion.cmake
-    DESTINATION ${korva_package_dir})
+    DESTINATION ${korva_package_dir} COMPONENT development)
+
+# Relative to the file, so that the tree can be installed anywhere.
+set(korva_pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH korva_pc_prefix /${korva_pc_dir} /)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/korva.pc.in ${PROJECT_BINARY_DIR}/korva.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/korva.pc DESTINATION ${korva_pc_dir} COMPONENT development)
 
 if(KORVA_BUILD_HOST)
-    install(TARGETS korva-pad RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS korva-pad COMPONENT pad)
+    install(FILES docs/man/korva-pad.1 docs/man/korva-preview.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT pad)
+    install(FILES packaging/korva-pad.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT pad)
+    install(FILES packaging/org.korva.pad.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT pad)
+    install(FILES host/demo.rec DESTINATION ${CMAKE_INSTALL_DATADIR}/korva COMPONENT pad)
+
+    set(korva_icon_dir ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+    foreach(size 16 22 24 32 48 64 128 256)
+        install(FILES images/korva-pad-${size}.png
+            DESTINATION ${korva_icon_dir}/${size}x${size}/apps RENAME korva-pad.png COMPONENT pad)
+    endforeach()
+    install(FILES images/source/korva-pad.svg DESTINATION ${korva_icon_dir}/scalable/apps COMPONENT pad)
 endif()

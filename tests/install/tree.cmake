@@ -1,0 +1,48 @@
+# The installed tree holds what it should, and of the headers only the public ones.
+include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
+
+file(REMOVE_RECURSE ${prefix})
+step(${CMAKE_COMMAND} --install ${tree} --prefix ${prefix})
+
+set(wanted "")
+foreach(header IN LISTS headers)
+    get_filename_component(name ${header} NAME)
+    list(APPEND wanted ${name})
+endforeach()
+file(GLOB found RELATIVE ${prefix}/include/korva ${prefix}/include/korva/*)
+list(SORT wanted)
+list(SORT found)
+if(NOT "${wanted}" STREQUAL "${found}")
+    message(FATAL_ERROR "public headers are\n${wanted}\ninstalled are\n${found}")
+endif()
+
+foreach(pattern
+        bin/korva-pad
+        lib*/libkorva.so
+        lib*/libkorva.so.1
+        lib*/cmake/Korva/KorvaConfig.cmake
+        lib*/pkgconfig/korva.pc
+        share/applications/korva-pad.desktop
+        share/icons/hicolor/48x48/apps/korva-pad.png
+        share/icons/hicolor/scalable/apps/korva-pad.svg
+        share/korva/demo.rec
+        share/man/man1/korva-pad.1
+        share/man/man1/korva-preview.1
+        share/metainfo/org.korva.pad.metainfo.xml)
+    file(GLOB direct ${prefix}/${pattern})
+    string(REPLACE "lib*/" "lib/*/" multiarch ${pattern})
+    file(GLOB nested ${prefix}/${multiarch})
+    if(NOT direct AND NOT nested)
+        message(FATAL_ERROR "${pattern} is not installed")
+    endif()
+endforeach()
+
+step(desktop-file-validate ${prefix}/share/applications/korva-pad.desktop)
+step(appstreamcli validate --no-net ${prefix}/share/metainfo/org.korva.pad.metainfo.xml)
+foreach(page korva-pad korva-preview)
+    execute_process(COMMAND man --warnings -l -E UTF-8 ${prefix}/share/man/man1/${page}.1
+        OUTPUT_QUIET ERROR_VARIABLE complaints RESULT_VARIABLE result)
+    if(complaints OR result)
+        message(FATAL_ERROR "${page}.1: ${complaints}")
+    endif()
+endforeach()
