@@ -1,0 +1,69 @@
+# Debian packages, one for each part of the installed tree: packaging/build-deb makes them.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME korva)
+set(CPACK_PACKAGE_CONTACT "The Korva developers <korva@packages.example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/finish-tree.cmake)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/finish-packages.cmake)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL runtime development pad)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/src)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+
+# korva_package(component name section [DEPENDS package...] [DESCRIPTION line...])
+function(korva_package component name section)
+    cmake_parse_arguments(PARSE_ARGV 3 arg "" "" "COMPONENTS;DEPENDS;DESCRIPTION")
+    list(JOIN arg_DEPENDS ", " depends)
+    list(JOIN arg_DESCRIPTION "\n" description)
+    string(TOUPPER ${component} upper)
+    foreach(variable IN ITEMS
+            "DEBIAN_${upper}_PACKAGE_NAME;${name}"
+            "DEBIAN_${upper}_PACKAGE_SECTION;${section}"
+            "DEBIAN_${upper}_PACKAGE_DEPENDS;${depends}"
+            "COMPONENT_${upper}_DESCRIPTION;${description}")
+        list(POP_FRONT variable suffix)
+        set(CPACK_${suffix} "${variable}" PARENT_SCOPE)
+    endforeach()
+    set(CPACK_COMPONENT_${upper}_DEPENDS ${arg_COMPONENTS} PARENT_SCOPE)
+endfunction()
+
+korva_package(runtime libkorva${PROJECT_VERSION_MAJOR} libs
+    DEPENDS qt6-image-formats-plugins # reads WBMP
+    DESCRIPTION
+        "bitmap drawing pad widget for small touch screens"
+        "A drawing editor that a Qt program embeds as one widget: pencil, line,"
+        "rectangle, ellipse, eraser, text, and a selection that is moved, stretched"
+        "and turned.\n\nThis package holds the shared library.")
+korva_package(development libkorva-dev libdevel
+    COMPONENTS runtime
+    DEPENDS qt6-base-dev
+    DESCRIPTION
+        "bitmap drawing pad widget for small touch screens (development files)"
+        "A drawing editor that a Qt program embeds as one widget: pencil, line,"
+        "rectangle, ellipse, eraser, text, and a selection that is moved, stretched"
+        "and turned.\n\nThis package holds the headers and the files for CMake and pkg-config.")
+korva_package(pad korva-pad graphics
+    COMPONENTS runtime
+    DESCRIPTION
+        "drawing pad for small pictures"
+        "Draws and edits small pictures on a touch screen of 240 x 320 pixels or more,"
+        "as well with a mouse: pencil, shapes, text, and a selection that is moved,"
+        "stretched and turned. Reads PNG, GIF, JPEG, BMP and WBMP; writes PNG, JPEG"
+        "and BMP.\n\nIt can record a drawing session as text and play it again.")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_MULTIARCH same)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
+
+include(CPack)
