@@ -1,4 +1,5 @@
 # What the scripts of this folder share.
+cmake_minimum_required(VERSION 3.25)
 
 # step(command...): runs it and stops, with what it wrote, when it fails.
 function(step)
