@@ -1,5 +1,5 @@
-# The Debian packages, installed into a root of their own, draw the demo as it should be. Nothing but what they hold
-# is taken from that root's programs; the libraries they depend on are the system's.
+# The Debian packages, installed into a root of their own, draw the demo as the built tree does. The libraries
+# that they depend on are the system's.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 
 step(cpack -G DEB -B ${work} --config ${tree}/CPackConfig.cmake)
@@ -23,6 +23,12 @@ endif()
 
 file(GLOB library ${root}/usr/lib/*/libkorva.so.1)
 get_filename_component(libraries ${library} DIRECTORY)
+set(demo ${root}/usr/share/korva/demo.rec)
+step(${pad} --replay ${demo} --save ${work}/reference.png)
 step(${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${libraries} ${root}/usr/bin/korva-pad
-    --replay ${root}/usr/share/korva/demo.rec --save ${work}/drawing.png)
-step(compare -metric AE ${here}/demo.png ${work}/drawing.png null:)
+    --replay ${demo} --save ${work}/drawing.png)
+step(compare -metric AE ${work}/reference.png ${work}/drawing.png null:)
+step(identify -format "%k" ${work}/drawing.png)
+if(step_output LESS 5)
+    message(FATAL_ERROR "the demo has only ${step_output} colours")
+endif()
