@@ -426,7 +426,12 @@ void KORVA_EditCanvas::setRubberCursor(int width, int rate)
 
 void KORVA_EditCanvas::slotColor()
 {
-    m_color = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
+    setColor(KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr));
+}
+
+void KORVA_EditCanvas::setColor(const QColor& color)
+{
+    m_color = color;
     fillColorButton(m_color);
     m_manager->setLMBColor(m_color);
 }

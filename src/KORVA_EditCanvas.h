@@ -41,6 +41,8 @@ public:
     [[nodiscard]] KORVA_COLORTYPE colorType() const { return m_colorType; }
     /// The drawing colour.
     [[nodiscard]] QColor color() const { return m_color; }
+    /// Takes a drawing colour as if it had been picked.
+    void setColor(const QColor& color);
     /// The picture file being edited; empty for a drawing that was never saved.
     [[nodiscard]] QString fileName() const;
 
