@@ -1,9 +1,9 @@
 # Sourced by ./run and ./test: need_packages NAME... installs what is missing of Debian's packages.
 need_packages() {
-    local missing=()
-    local package
+    local installed missing=() package
+    installed=" $(dpkg-query -W -f '${db:Status-Status}:${Package} ' "$@" 2>/dev/null || true)"
     for package in "$@"; do
-        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+        [[ $installed == *" installed:$package "* ]] || missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return 0
 

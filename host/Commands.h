@@ -2,8 +2,9 @@
 
 #include "Recording.h"
 
-#include <QList>
 #include <QObject>
+
+#include <vector>
 
 class KORVA_EditCanvas;
 class QAction;
@@ -11,7 +12,7 @@ class QMenu;
 
 namespace pad {
 
-class Document;
+class Platform;
 
 /// The commands behind the menu, the keys and the right soft key, enabled as the editor says.
 class Commands : public QObject
@@ -19,20 +20,23 @@ class Commands : public QObject
     Q_OBJECT
 
 public:
-    Commands(KORVA_EditCanvas& editor, Document& document, QWidget* window);
+    Commands(KORVA_EditCanvas& editor, Platform& platform, QWidget* window);
 
     [[nodiscard]] QMenu* menu() const { return m_menu; }
     /// What the right soft key offers: the way back or, after an undo, forward again.
     [[nodiscard]] QAction* contextAction() const;
+    /// Asks about unsaved changes before the window goes; false when it must stay.
+    [[nodiscard]] bool mayClose();
 
     /// Leaves plain keys to the text tool.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    /// A person chose a command that a recording can hold; it is carried out already.
+    /// A person chose something that a recording can hold; it is carried out already.
     void performed(const pad::Command& command);
     void contextActionChanged();
-    void failed(const QString& message);
+    /// The drawing became another one, or the file behind it changed.
+    void documentChanged();
 
 private:
     struct Entry;
@@ -45,21 +49,31 @@ private:
         Selection, ///< a floating piece
         Clipboard, ///< a picture on it
     };
+    struct Dependent
+    {
+        Needs needs;
+        QAction* action; // the menu's
+    };
 
-    QAction* add(const Entry& entry, QMenu* menu, QWidget* window);
-    void addZooms(QWidget* window);
-    void follow(const KORVA_EditCanvas& editor);
+    void addEntries();
+    QAction* add(const Entry& entry);
+    void follow();
     void setAvailable(Needs what, bool available);
-    void perform(Verb verb, int number = 0);
-    void save();
-    void quit();
     void updateClipboard();
 
+    void newDrawing();
+    void open();
+    void save();
+    void stamp();
+    void remove();
+    void perform(Verb verb);
+    [[nodiscard]] int askCanvasType();
+
     KORVA_EditCanvas& m_editor;
-    Document& m_document;
-    QWidget* m_window; // not owned
+    Platform& m_platform;
+    QWidget* m_window; // the parent
     QMenu* m_menu;
-    QList<std::pair<Needs, QAction*>> m_actions;
+    std::vector<Dependent> m_dependents;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
 };

@@ -2,40 +2,33 @@
 
 #include "Recording.h"
 
-#include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 
 namespace pad {
 
 namespace {
 
-void zoomTo(KORVA_EditCanvas& editor, int index)
-{
-    constexpr int percents[] = {50, 100, 150, 200, 100};
-    editor.canvas()->setZoom(percents[index]);
-}
-
 constexpr struct
 {
     Verb verb;
-    void (*perform)(KORVA_EditCanvas& editor, const Command& command);
+    void (KORVA_EditCanvas::*perform)();
 } operations[] = {
-    {Verb::Undo, [](KORVA_EditCanvas& e, const Command&) { e.canvas()->undo(); }},
-    {Verb::Redo, [](KORVA_EditCanvas& e, const Command&) { e.canvas()->redo(); }},
-    {Verb::Cut, [](KORVA_EditCanvas& e, const Command&) { e.canvas()->cut(); }},
-    {Verb::Copy, [](KORVA_EditCanvas& e, const Command&) { e.canvas()->copy(); }},
-    {Verb::Paste, [](KORVA_EditCanvas& e, const Command&) { e.canvas()->paste(); }},
-    {Verb::Clear, [](KORVA_EditCanvas& e, const Command&) { e.canvas()->clearCanvas(Qt::white); }},
-    {Verb::Zoom, [](KORVA_EditCanvas& e, const Command& c) { zoomTo(e, c.number); }},
+    {Verb::Undo, &KORVA_EditCanvas::undo},
+    {Verb::Redo, &KORVA_EditCanvas::redo},
+    {Verb::Cut, &KORVA_EditCanvas::cut},
+    {Verb::Copy, &KORVA_EditCanvas::copy},
+    {Verb::Paste, qOverload<>(&KORVA_EditCanvas::paste)},
+    {Verb::SelectAll, &KORVA_EditCanvas::selectAll},
+    {Verb::Clear, &KORVA_EditCanvas::clearCanvas},
 };
 
 } // namespace
 
-bool performOn(KORVA_EditCanvas& editor, const Command& command)
+bool performOn(KORVA_EditCanvas& editor, Verb verb)
 {
     for (const auto& operation : operations) {
-        if (operation.verb == command.verb) {
-            operation.perform(editor, command);
+        if (operation.verb == verb) {
+            (editor.*operation.perform)();
             return true;
         }
     }

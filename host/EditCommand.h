@@ -4,10 +4,9 @@ class KORVA_EditCanvas;
 
 namespace pad {
 
-struct Command;
+enum class Verb;
 
-/// Carries out a command that is a plain operation of the editor: undo, zoom and the like. False, with
-/// nothing done, for any other: strokes, keys, files, waiting.
-bool performOn(KORVA_EditCanvas& editor, const Command& command);
+/// Carries out a command that is a plain operation of the editor. False, with nothing done, for any other.
+bool performOn(KORVA_EditCanvas& editor, Verb verb);
 
 } // namespace pad

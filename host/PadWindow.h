@@ -3,12 +3,12 @@
 #include <QWidget>
 
 class KORVA_EditCanvas;
+class UTIL_PushButton;
 
 namespace pad {
 
 class Commands;
-class Document;
-class SoftKey;
+class Platform;
 class StatusLine;
 
 /// The window of the device: the editor, the status line and two soft keys.
@@ -17,26 +17,30 @@ class PadWindow : public QWidget
     Q_OBJECT
 
 public:
-    PadWindow();
+    /// Opens a picture at once; an empty name means a new drawing. The editor tells what is wrong with it,
+    /// and has no file name then.
+    explicit PadWindow(Platform& platform, const QString& picture = {});
 
     [[nodiscard]] KORVA_EditCanvas& editor() const { return *m_editor; }
-    [[nodiscard]] Document& document() const { return *m_document; }
     [[nodiscard]] Commands& commands() const { return *m_commands; }
 
     /// The window as it is on screen, at its scale.
     [[nodiscard]] QImage screenshot();
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
+    UTIL_PushButton* addKey(const QString& text, const QRect& place);
     void openMenu();
     void updateContextKey();
     void updateTitle();
 
     KORVA_EditCanvas* m_editor;
-    Document* m_document;
     Commands* m_commands;
     StatusLine* m_status;
-    SoftKey* m_menuKey;
-    SoftKey* m_contextKey;
+    UTIL_PushButton* m_menuKey;
+    UTIL_PushButton* m_contextKey;
 };
 
 } // namespace pad

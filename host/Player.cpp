@@ -1,6 +1,6 @@
 #include "Player.h"
 
-#include "Document.h"
+#include "DocumentAction.h"
 #include "EditCommand.h"
 
 #include <KORVA_Canvas.h>
@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QScopeGuard>
 #include <QTimer>
 
 namespace pad {
@@ -32,53 +33,61 @@ QString textOf(QKeyCombination key)
 
 } // namespace
 
-Player::Player(KORVA_EditCanvas& editor, Document& document)
-    : m_editor(editor), m_document(document), m_pointer(editor.canvas())
+Player::Player(KORVA_EditCanvas& editor, Platform& platform)
+    : m_editor(editor), m_platform(platform), m_controls(editor), m_pointer(editor.canvas())
 {
 }
 
 std::optional<Failure> Player::play(const Recording& recording)
 {
+    m_script = {};
+    m_platform.obey(&m_script);
+    const auto free = qScopeGuard([this] { m_platform.obey(nullptr); });
     for (const Command& command : recording.commands()) {
-        if (const auto failure = perform(command))
-            return recording.failureAt(command, failure->message);
+        perform(command);
+        if (!m_script.stopped.isEmpty())
+            return recording.failureAt(command, m_script.stopped);
     }
     return {};
 }
 
-std::optional<Failure> Player::perform(const Command& command)
+struct Player::Action
 {
-    if (performOn(m_editor, command))
-        return {};
-    switch (command.verb) {
-    case Verb::Press:
-        m_pointer.press(command.point, command.button);
-        return {};
-    case Verb::Move:
-        m_pointer.move(command.point);
-        return {};
-    case Verb::Release:
-        m_pointer.release(command.point, command.button);
-        return {};
-    case Verb::Type:
-        type(command.text);
-        return {};
-    case Verb::Key:
-        pressKey(command.key, textOf(command.key));
-        return {};
-    case Verb::Open:
-        return m_document.open(command.text);
-    case Verb::Save:
-        return m_document.saveAs(command.text);
-    case Verb::Wait: {
-        QEventLoop loop;
-        QTimer::singleShot(command.number, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-        loop.exec();
-        return {};
+    Verb verb;
+    void (*perform)(Player& player, const Command& command);
+};
+
+void Player::perform(const Command& command)
+{
+    static constexpr Action actions[] = {
+        {Verb::Tool, [](Player& p, const Command& c) { p.m_controls.chooseTool(c.number); }},
+        {Verb::Option, [](Player& p, const Command& c) { p.option(c.number); }},
+        {Verb::Color, [](Player& p, const Command& c) { p.m_editor.setColor(c.color); }},
+        {Verb::Zoom, [](Player& p, const Command& c) { p.m_controls.chooseZoom(c.number); }},
+        {Verb::Press, [](Player& p, const Command& c) { p.m_pointer.press(c.point, c.button); }},
+        {Verb::Move, [](Player& p, const Command& c) { p.m_pointer.move(c.point); }},
+        {Verb::Release, [](Player& p, const Command& c) { p.m_pointer.release(c.point, c.button); }},
+        {Verb::Type, [](Player& p, const Command& c) { p.type(c.text); }},
+        {Verb::Key, [](Player& p, const Command& c) { p.pressKey(c.key, textOf(c.key)); }},
+        {Verb::Canvas, [](Player& p, const Command& c) { p.canvas(c.number, c.size); }},
+        {Verb::Open, [](Player& p, const Command& c) { p.open(c.text); }},
+        {Verb::Stamp, [](Player& p, const Command& c) { p.stamp(c.text); }},
+        {Verb::Save, [](Player& p, const Command& c) { p.save(c.text); }},
+        {Verb::Wait, [](Player&, const Command& c) { wait(c.number); }},
+        {Verb::Answer, [](Player& p, const Command& c) { p.m_script.answer = c.number; }},
+    };
+    if (performOn(m_editor, command.verb))
+        return;
+    for (const Action& action : actions) {
+        if (action.verb == command.verb)
+            action.perform(*this, command);
     }
-    default:
-        return Failure{QStringLiteral("'%1' has nothing to work on yet").arg(Recording::toLine(command))};
-    }
+}
+
+void Player::option(int option)
+{
+    if (!m_controls.chooseOption(option))
+        stop(QStringLiteral("the tool has no option %1").arg(option));
 }
 
 void Player::type(const QString& text)
@@ -99,6 +108,68 @@ void Player::pressKey(QKeyCombination key, const QString& text)
         QKeyEvent event(type, key.key(), key.keyboardModifiers(), text);
         QCoreApplication::sendEvent(receiver, &event);
     }
+}
+
+void Player::canvas(int type, QSize size)
+{
+    if (mayReplaceDrawing(m_editor, m_platform))
+        newCanvas(m_editor, type, size);
+    else
+        stop(QStringLiteral("the drawing could not be saved"));
+}
+
+void Player::open(const QString& fileName)
+{
+    if (!isReadable(fileName))
+        return;
+    m_script.fileName = fileName;
+    m_editor.slotOpen();
+    m_script.fileName.clear();
+    if (m_editor.fileName() != fileName)
+        stopAt(QStringLiteral("open"), fileName);
+}
+
+void Player::stamp(const QString& fileName)
+{
+    if (isReadable(fileName) && !m_editor.openNewFilePrivate(InsertStamp, fileName))
+        stopAt(QStringLiteral("open"), fileName);
+}
+
+void Player::save(const QString& fileName)
+{
+    m_editor.commitText();
+    m_editor.setFileName(fileName);
+    m_editor.saveFilePrivate();
+    if (m_editor.fileName() != fileName || m_editor.isModified())
+        stopAt(QStringLiteral("write"), fileName);
+}
+
+void Player::wait(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+bool Player::isReadable(const QString& fileName)
+{
+    QString format;
+    m_editor.getFileFormat(fileName, format);
+    const bool readable = m_editor.isPicSizeNotOver(fileName, format.toLatin1().constData());
+    if (!readable)
+        stopAt(QStringLiteral("open"), fileName);
+    return readable;
+}
+
+void Player::stop(const QString& reason)
+{
+    if (m_script.stopped.isEmpty())
+        m_script.stopped = reason;
+}
+
+void Player::stopAt(const QString& what, const QString& fileName)
+{
+    stop(QStringLiteral("cannot %1 '%2': %3").arg(what, fileName, m_script.told));
 }
 
 } // namespace pad

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "EditorControls.h"
 #include "Failure.h"
+#include "Platform.h"
 #include "Pointer.h"
 #include "Recording.h"
 
@@ -10,27 +12,40 @@ class KORVA_EditCanvas;
 
 namespace pad {
 
-class Document;
-
 /// Plays a recording on the editor: strokes and keys as the window system's own events, the rest as a
-/// person chooses it.
+/// person chooses it. Questions take their answers from the recording; timed boxes are not shown.
 class Player
 {
 public:
-    Player(KORVA_EditCanvas& editor, Document& document);
+    Player(KORVA_EditCanvas& editor, Platform& platform);
 
     /// Returns when the last command is done, or with the first that could not be. Runs the event loop
     /// while it waits.
     std::optional<Failure> play(const Recording& recording);
 
 private:
-    std::optional<Failure> perform(const Command& command);
+    struct Action;
+
+    void perform(const Command& command);
+    void option(int option);
     void type(const QString& text);
     void pressKey(QKeyCombination key, const QString& text);
+    void canvas(int type, QSize size);
+    void open(const QString& fileName);
+    void stamp(const QString& fileName);
+    void save(const QString& fileName);
+    static void wait(int milliseconds);
+
+    [[nodiscard]] bool isReadable(const QString& fileName);
+    /// Stops the replay, unless it is stopped already.
+    void stop(const QString& reason);
+    void stopAt(const QString& what, const QString& fileName);
 
     KORVA_EditCanvas& m_editor;
-    Document& m_document;
+    Platform& m_platform;
+    EditorControls m_controls;
     Pointer m_pointer;
+    Script m_script;
 };
 
 } // namespace pad

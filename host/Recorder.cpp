@@ -11,7 +11,10 @@
 
 namespace pad {
 
-Recorder::Recorder(KORVA_EditCanvas& editor, QObject* parent) : QObject(parent), m_editor(editor) {}
+Recorder::Recorder(KORVA_EditCanvas& editor, QObject* parent)
+    : QObject(parent), m_editor(editor), m_controls(editor)
+{
+}
 
 std::optional<Failure> Recorder::start(const QString& fileName)
 {
@@ -20,6 +23,7 @@ std::optional<Failure> Recorder::start(const QString& fileName)
         return Failure{QStringLiteral("cannot write '%1': %2").arg(fileName, m_file.errorString())};
     m_editor.canvas()->installEventFilter(this);
     m_editor.canvas()->pasteLabel()->installEventFilter(this);
+    connect(&m_controls, &EditorControls::chosen, this, &Recorder::write);
     watchMenus();
     return {};
 }
@@ -38,11 +42,8 @@ void Recorder::watchMenus()
     const auto watch = [this](QMenu* menu, std::initializer_list<Verb> verbs) {
         qsizetype i = 0;
         for (const Verb verb : verbs) {
-            connect(menu->actions().at(i++), &QAction::triggered, this, [this, verb] {
-                Command command;
-                command.verb = verb;
-                write(command);
-            });
+            connect(menu->actions().at(i++), &QAction::triggered, this,
+                    [this, verb] { write(Command{.verb = verb}); });
         }
     };
     watch(m_editor.canvas()->contextMenu(), {Verb::Cut, Verb::Copy, Verb::Paste});
@@ -95,6 +96,8 @@ void Recorder::writeKey(const QKeyEvent& event)
 
 void Recorder::write(const Command& command)
 {
+    if (!m_file.isOpen())
+        return;
     m_file.write(Recording::toLine(command).toUtf8() + '\n');
     if (command.verb != Verb::Move)
         m_file.flush(); // what has been drawn survives the end of the program, however it comes

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EditorControls.h"
 #include "Recording.h"
 
 #include <QFile>
@@ -35,6 +36,7 @@ private:
     void watchMenus();
 
     KORVA_EditCanvas& m_editor;
+    EditorControls m_controls;
     QFile m_file;
 };
 

@@ -180,6 +180,7 @@ constexpr Rule grammar[] = {
     {"clear", Verb::Clear},
     {"canvas", Verb::Canvas, {&canvasType, &width, &height}},
     {"open", Verb::Open, {&fileName}},
+    {"stamp", Verb::Stamp, {&fileName}},
     {"save", Verb::Save, {&fileName}},
     {"wait", Verb::Wait, {&number}},
     {"answer", Verb::Answer, {&number}},

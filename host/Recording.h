@@ -31,6 +31,7 @@ enum class Verb {
     Clear,
     Canvas,
     Open,
+    Stamp, ///< lays a picture file over the drawing
     Save,
     Wait,
     Answer,
@@ -40,15 +41,15 @@ enum class Verb {
 struct Command
 {
     Verb verb = Verb::Wait;
-    int line = 0; ///< in the file, from 1
-    QPoint point; ///< Press, Move, Release: canvas widget coordinates
+    int line = 0;      ///< in the file, from 1
+    QPoint point = {}; ///< Press, Move, Release: canvas widget coordinates
     Qt::MouseButton button = Qt::LeftButton;
-    int number = 0; ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
-                    ///< Option, Answer: an index; Wait: milliseconds
-    QSize size;     ///< Canvas: pixels
-    QColor color;
+    int number = 0;  ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
+                     ///< Option, Answer: an index; Wait: milliseconds
+    QSize size = {}; ///< Canvas: pixels
+    QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);
-    QString text; ///< Type: what is typed; Open, Save: a file's name
+    QString text = {}; ///< Type: what is typed; Open, Stamp, Save: a file's name
 
     bool operator==(const Command& other) const = default;
 };

@@ -1,11 +1,9 @@
 #include "Session.h"
 
 #include "Commands.h"
-#include "Document.h"
 #include "PictureFile.h"
 #include "Player.h"
 
-#include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 
 #include <QApplication>
@@ -23,20 +21,17 @@ int complain(const Failure& failure)
     return 1;
 }
 
-Session::Session(const CommandLine& line, Recording recording)
-    : m_line(line), m_recording(std::move(recording)), m_recorder(m_window.editor())
+Session::Session(CommandLine line, Recording recording, Platform& platform)
+    : m_line(std::move(line)), m_recording(std::move(recording)), m_platform(platform)
 {
-    connect(&m_window.commands(), &Commands::performed, &m_recorder, &Recorder::write);
-    connect(&m_window.commands(), &Commands::failed, this,
-            [](const QString& message) { complain({message}); });
 }
 
 int Session::run()
 {
     if (const auto failure = begin())
         return complain(*failure);
-    m_window.show();
-    m_window.activateWindow(); // not every desktop gives the keyboard to a new window
+    m_window->show();
+    m_window->activateWindow(); // not every desktop gives the keyboard to a new window
 
     // Inside the event loop, so that closing the window ends the program while it plays, too.
     int result = 0;
@@ -44,37 +39,52 @@ int Session::run()
         if (const auto failure = work())
             result = complain(*failure);
         if (result != 0 || endsNow())
-            QCoreApplication::quit();
+            QCoreApplication::exit();
     };
     QMetaObject::invokeMethod(this, workNow, Qt::QueuedConnection);
     QApplication::exec();
-    if (const auto failure = m_recorder.finish())
-        result = complain(*failure);
+    if (m_recorder) {
+        if (const auto failure = m_recorder->finish())
+            result = complain(*failure);
+    }
     return result;
 }
 
 std::optional<Failure> Session::begin()
 {
-    if (!m_line.picture.isEmpty()) {
-        if (auto failure = m_window.document().open(m_line.picture))
-            return failure;
-    }
-    if (m_line.record.isEmpty())
-        return {};
-    if (auto failure = m_recorder.start(m_line.record))
+    if (auto failure = openPicture())
         return failure;
-    if (!m_line.picture.isEmpty()) {
-        Command open;
-        open.verb = Verb::Open;
-        open.text = QFileInfo(m_line.picture).absoluteFilePath();
-        m_recorder.write(open);
-    }
+    return m_line.record.isEmpty() ? std::nullopt : startRecorder();
+}
+
+std::optional<Failure> Session::openPicture()
+{
+    Script script; // before there is a window, nobody can tap a box away
+    m_platform.obey(&script);
+    m_window = std::make_unique<PadWindow>(m_platform, m_line.picture);
+    m_platform.obey(nullptr);
+    if (m_line.picture.isEmpty() || !m_window->editor().fileName().isEmpty())
+        return {};
+    QFile file(m_line.picture);
+    const QString reason = file.open(QIODevice::ReadOnly) ? script.told : file.errorString();
+    return Failure{QStringLiteral("cannot open '%1': %2").arg(m_line.picture, reason)};
+}
+
+std::optional<Failure> Session::startRecorder()
+{
+    m_recorder = std::make_unique<Recorder>(m_window->editor());
+    connect(&m_window->commands(), &Commands::performed, m_recorder.get(), &Recorder::write);
+    if (auto failure = m_recorder->start(m_line.record))
+        return failure;
+    if (!m_line.picture.isEmpty())
+        m_recorder->write(
+            Command{.verb = Verb::Open, .text = QFileInfo(m_line.picture).absoluteFilePath()});
     return {};
 }
 
 std::optional<Failure> Session::work()
 {
-    Player player(m_window.editor(), m_window.document());
+    Player player(m_window->editor(), m_platform);
     if (auto failure = player.play(m_recording))
         return failure;
     return writeResults();
@@ -83,11 +93,11 @@ std::optional<Failure> Session::work()
 std::optional<Failure> Session::writeResults()
 {
     if (!m_line.screenshot.isEmpty()) {
-        if (auto failure = writePng(m_window.screenshot(), m_line.screenshot))
+        if (auto failure = writePng(m_window->screenshot(), m_line.screenshot))
             return failure;
     }
     if (!m_line.save.isEmpty())
-        return writePicture(m_window.editor().canvas()->pixmap()->toImage(), m_line.save);
+        return writePicture(m_window->editor().pixmap()->toImage(), m_line.save);
     return {};
 }
 

@@ -2,10 +2,13 @@
 
 #include "CommandLine.h"
 #include "PadWindow.h"
+#include "Platform.h"
 #include "Recorder.h"
 #include "Recording.h"
 
 #include <QObject>
+
+#include <memory>
 
 namespace pad {
 
@@ -15,21 +18,24 @@ class Session : public QObject
     Q_OBJECT
 
 public:
-    explicit Session(const CommandLine& line, Recording recording);
+    Session(CommandLine line, Recording recording, Platform& platform);
 
     /// Runs until the window is closed or the work is done; the outcome is the program's exit code.
     int run();
 
 private:
     std::optional<Failure> begin();
+    std::optional<Failure> openPicture();
+    std::optional<Failure> startRecorder();
     std::optional<Failure> work();
     std::optional<Failure> writeResults();
     [[nodiscard]] bool endsNow() const;
 
     CommandLine m_line;
     Recording m_recording;
-    PadWindow m_window;
-    Recorder m_recorder;
+    Platform& m_platform;
+    std::unique_ptr<PadWindow> m_window;
+    std::unique_ptr<Recorder> m_recorder;
 };
 
 /// Tells the person at the keyboard, on one line of standard error. The result is the exit code for it.

@@ -15,7 +15,28 @@ namespace pad {
 
 using namespace std::chrono_literals;
 
-StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent) : QWidget(parent), m_editor(editor)
+namespace {
+
+constexpr struct
+{
+    const char* text;
+    const char* comment;
+} toolLabels[] = {
+    // By identifier.
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Pencil", "tool"),
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Select", "tool"),
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Line", "tool"),
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Text", "tool"),
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Rectangle", "tool"),
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Ellipse", "tool"),
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Eraser", "tool"),
+    QT_TRANSLATE_NOOP3("pad::StatusLine", "Hand", "tool"),
+};
+
+} // namespace
+
+StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
+    : QWidget(parent), m_editor(editor), m_picture(editor.canvas()->size())
 {
     auto* fields = new QHBoxLayout(this);
     fields->setContentsMargins(10, 0, 10, 0);
@@ -28,8 +49,12 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent) : QWidge
     m_timer.setSingleShot(true);
     m_timer.setInterval(60ms);
     connect(&m_timer, &QTimer::timeout, this, &StatusLine::refresh);
+    connect(&editor, &KORVA_EditCanvas::signalTextTool, this, &StatusLine::refreshSoon);
     connect(&editor, &KORVA_EditCanvas::sizeChanged, this, &StatusLine::refreshSoon);
-    connect(&editor, &KORVA_EditCanvas::pixmapChanged, this, &StatusLine::refreshSoon);
+    connect(&editor, &KORVA_EditCanvas::pixmapChanged, this, [this](const QPixmap* picture) {
+        m_picture = picture->size();
+        refreshSoon();
+    });
     // A hover over the canvas is seen only here: the canvas asks for moves with a button held.
     qApp->installEventFilter(this);
     refresh();
@@ -45,16 +70,25 @@ QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment, in
     return field;
 }
 
-void StatusLine::refresh()
+QSize StatusLine::pictureSize() const
 {
+    // An undo may bring back a picture of another size without announcing it.
     const KORVA_Canvas& canvas = *m_editor.canvas();
     const KORVA_Zoom zoom(canvas.zoom());
-    const QSize size = zoom.percent() ? m_editor.canvas()->size() : QSize();
-    m_tool->setText(tr("Pencil", "tool"));
-    m_size->setText(
-        tr("%1 × %2", "picture size").arg(zoom.toPicture(size.width())).arg(zoom.toPicture(size.height())));
-    m_zoom->setText(tr("%1 %", "zoom").arg(zoom.percent()));
+    if (zoom.zoomed(m_picture) == canvas.size())
+        return m_picture;
+    return {zoom.toPicture(canvas.width()), zoom.toPicture(canvas.height())};
+}
+
+void StatusLine::refresh()
+{
+    const KORVA_Zoom zoom(m_editor.canvas()->zoom());
+    const QSize size = pictureSize();
     const QPoint at = zoom.toPicture(m_pointer);
+    const auto& tool = toolLabels[m_editor.canvas()->getCurrentToolID()];
+    m_tool->setText(tr(tool.text, tool.comment));
+    m_size->setText(tr("%1 × %2", "picture size").arg(size.width()).arg(size.height()));
+    m_zoom->setText(tr("%1 %", "zoom").arg(zoom.percent()));
     m_position->setText(m_isOver ? tr("%1, %2", "position").arg(at.x()).arg(at.y()) : QString());
 }
 
@@ -66,12 +100,12 @@ void StatusLine::refreshSoon()
 
 bool StatusLine::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseMove && watched == m_editor.canvas()) {
-        m_pointer = static_cast<QMouseEvent*>(event)->position().toPoint();
-        m_isOver = true;
-        refreshSoon();
-    } else if (event->type() == QEvent::Leave && watched == m_editor.canvas()) {
-        m_isOver = false;
+    if (event->type() != QEvent::MouseMove && event->type() != QEvent::Leave)
+        return false;
+    if (watched == m_editor.canvas()) {
+        m_isOver = event->type() == QEvent::MouseMove;
+        if (m_isOver)
+            m_pointer = static_cast<const QMouseEvent*>(event)->position().toPoint();
         refreshSoon();
     }
     return false;

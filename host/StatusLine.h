@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPoint>
+#include <QSize>
 #include <QTimer>
 #include <QWidget>
 
@@ -24,14 +26,16 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void refreshSoon();
     QLabel* addField(const QString& meaning, Qt::Alignment alignment, int stretch);
+    void refreshSoon();
+    [[nodiscard]] QSize pictureSize() const;
 
     const KORVA_EditCanvas& m_editor;
     QLabel* m_tool;
     QLabel* m_size;
     QLabel* m_zoom;
     QLabel* m_position;
+    QSize m_picture;  ///< as last announced
     QPoint m_pointer; ///< canvas widget coordinates
     bool m_isOver = false;
     QTimer m_timer;

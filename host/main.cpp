@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 #include "Display.h"
+#include "DownloadFolder.h"
+#include "Platform.h"
 #include "Recording.h"
 #include "Session.h"
 #include "Theme.h"
@@ -40,12 +42,14 @@ int run(char** argv, const pad::CommandLine& line)
         return pad::complain(*failure);
 
     int only = 1; // the arguments are ours alone
-    QApplication app(only, argv);
+    const QApplication app(only, argv);
     QCoreApplication::setApplicationName(QStringLiteral("korva-pad"));
     // Takes effect only when the application object exists: every point of a stroke is drawn.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
-    pad::theme::apply(app);
-    return pad::Session(line, std::get<pad::Recording>(std::move(recording))).run();
+    pad::theme::apply();
+    const pad::DownloadFolder downloads;
+    return pad::Session(line, std::get<pad::Recording>(std::move(recording)), pad::Platform::install())
+        .run();
 }
 
 } // namespace

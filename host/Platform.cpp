@@ -1,0 +1,93 @@
+#include "Platform.h"
+
+#include <UTIL_PictureDialog.h>
+
+namespace pad {
+
+namespace {
+
+/// A folder dialog that is answered before it opens.
+class ScriptedDialog : public UTIL_PictureDialog
+{
+public:
+    ScriptedDialog(QWidget* parent, const QString& name) : UTIL_PictureDialog(parent) { setFileName(name); }
+
+    int exec() override { return fileName().isEmpty() ? Rejected : Accepted; }
+};
+
+} // namespace
+
+Platform& Platform::install()
+{
+    auto platform = std::make_unique<Platform>();
+    Platform& installed = *platform;
+    UTIL_Platform::install(std::move(platform));
+    return installed;
+}
+
+int Platform::question(QWidget* parent, const QString& icon, const QString& text,
+                       const QStringList& buttons)
+{
+    m_lastAnswer.reset();
+    if (!m_script) {
+        m_lastAnswer = UTIL_Platform::question(parent, icon, text, buttons);
+        return *m_lastAnswer;
+    }
+    const int refusal = int(buttons.size()) - 1;
+    const std::optional<int> answer = std::exchange(m_script->answer, {});
+    if (answer && *answer <= refusal && m_script->stopped.isEmpty()) {
+        m_lastAnswer = answer;
+        return *answer;
+    }
+    if (m_script->stopped.isEmpty())
+        m_script->stopped = QStringLiteral("the question '%1' has no answer").arg(text);
+    return refusal;
+}
+
+void Platform::timedInformation(QWidget* parent, const QString& icon, const QString& text,
+                                const QString& button, int timeout)
+{
+    if (m_script)
+        m_script->told = text;
+    else
+        UTIL_Platform::timedInformation(parent, icon, text, button, timeout);
+}
+
+void Platform::timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout)
+{
+    if (m_script)
+        m_script->told = text;
+    else
+        UTIL_Platform::timedMessage(parent, icon, text, timeout);
+}
+
+UTIL_PictureDialog* Platform::createPickDialog(QWidget* parent, const QString& folder,
+                                               const QStringList& patterns)
+{
+    if (m_script)
+        return scriptedDialog(parent, QStringLiteral("no picture is named to open"));
+    UTIL_PictureDialog* dialog = UTIL_Platform::createPickDialog(parent, folder, patterns);
+    m_lastPicked.clear();
+    QObject::connect(dialog, &QDialog::accepted, [this, dialog] { m_lastPicked = dialog->fileName(); });
+    return dialog;
+}
+
+UTIL_PictureDialog* Platform::createSaveDialog(QWidget* parent, const QString& folder,
+                                               const QStringList& patterns)
+{
+    if (m_script) {
+        m_script->fileName.clear(); // what is named is for opening
+        return scriptedDialog(parent, QStringLiteral("the drawing has no name to be saved under"));
+    }
+    return UTIL_Platform::createSaveDialog(parent, folder, patterns);
+}
+
+UTIL_PictureDialog* Platform::scriptedDialog(QWidget* parent, const QString& lacking)
+{
+    const bool isStopped = !m_script->stopped.isEmpty();
+    if (m_script->fileName.isEmpty() && !isStopped)
+        m_script->stopped = lacking;
+    return new ScriptedDialog(parent, isStopped ? QString() : m_script->fileName);
+}
+
+} // namespace pad
