@@ -121,9 +121,9 @@ void tst_CommandLine::failsWithOneLine_data()
     row("two pictures", {"blue.png", "red.png"}, "one picture at a time: 'blue.png' and 'red.png'");
     row("scale of zero", {"--scale", "0"}, "--scale takes a number from 1 to 8, not '0'");
     row("scale in words", {"--scale", "two"}, "--scale takes a number from 1 to 8, not 'two'");
-    row("missing picture", {"none.png", "--save", "a.png"}, "cannot open 'none.png': File not found");
-    row("not a picture", {"text.png", "--save", "a.png"},
-        "cannot open 'text.png': Unsupported image format");
+    row("missing picture", {"none.png", "--save", "a.png"},
+        "cannot open 'none.png': No such file or directory");
+    row("not a picture", {"text.png", "--save", "a.png"}, "cannot open 'text.png': Failed to open file");
     row("missing recording", {"--replay", "none.rec"}, "cannot read 'none.rec': No such file or directory");
     row("broken recording", {"--replay", "broken.rec"}, "broken.rec:2: 'release' needs Y");
     row("unwritable drawing", {"--save", "none/a.png"},

@@ -1,4 +1,5 @@
-#include "Document.h"
+#include "DownloadFolder.h"
+#include "Platform.h"
 #include "Player.h"
 
 #include "support/Images.h"
@@ -17,6 +18,12 @@ namespace {
 
 constexpr QSize newCanvas(200, 170);
 
+pad::Platform& platform()
+{
+    static pad::Platform& installed = pad::Platform::install();
+    return installed;
+}
+
 /// An editor in a window, and what a recording does to it.
 struct Pad
 {
@@ -34,8 +41,7 @@ struct Pad
     QImage picture() { return editor.canvas()->pixmap()->toImage(); }
 
     KORVA_EditCanvas editor{KORVA_COLOR_16BIT};
-    pad::Document document{editor};
-    pad::Player player{editor, document};
+    pad::Player player{editor, platform()};
 };
 
 /// Counts the mouse events that reach a widget.
@@ -71,7 +77,27 @@ private slots:
     void aPressBesideThePieceMergesIt();
     void stretchingByAHandle();
     void theRightButtonOpensTheMenu();
+    void everyToolIsReached_data();
+    void everyToolIsReached();
+    void selectComesBackFromTheHand();
+    void options_data();
+    void options();
+    void anOptionThatIsNotThere();
+    void colors();
+    void fitToPage();
+    void typing();
+    void selectAllAndCut();
+    void canvases_data();
+    void canvases();
     void openAndSave();
+    void stamps();
+    void saveAddsTypedTextAndTheFloatingPiece();
+    void unsavedChanges_data();
+    void unsavedChanges();
+    void answerIsUsedUp();
+    void anAnswerThatIsNotThere();
+    void saveBeforeOpening();
+    void stopsAtTheFirstFailure_data();
     void stopsAtTheFirstFailure();
 };
 
@@ -166,10 +192,120 @@ void tst_Player::theRightButtonOpensTheMenu()
     QVERIFY(sameImage(pad.picture(), filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red)));
 }
 
+void tst_Player::everyToolIsReached_data()
+{
+    QTest::addColumn<int>("id");
+    for (int id = 0; id < 8; ++id)
+        QTest::newRow(pad::toolNames[id]) << id;
+}
+
+void tst_Player::everyToolIsReached()
+{
+    QFETCH(int, id);
+    Pad pad;
+    QCOMPARE(pad.play(QByteArray("tool ") + pad::toolNames[id]), "");
+    QCOMPARE(pad.editor.canvas()->getCurrentToolID(), id);
+}
+
+void tst_Player::selectComesBackFromTheHand()
+{
+    Pad pad;
+    QCOMPARE(pad.play("tool hand\ntool pencil\ntool select"), "");
+    QCOMPARE(pad.editor.canvas()->getCurrentToolID(), 1);
+}
+
+void tst_Player::options_data()
+{
+    QTest::addColumn<QByteArray>("option");
+    QTest::addColumn<int>("width");
+    QTest::newRow("small") << QByteArray("option 0") << 1;
+    QTest::newRow("medium") << QByteArray("option 1") << 3;
+    QTest::newRow("large") << QByteArray("option 2") << 5;
+}
+
+void tst_Player::options()
+{
+    QFETCH(QByteArray, option);
+    QFETCH(int, width);
+    Pad pad;
+    QCOMPARE(pad.play(option + "\npress 50 50\nrelease 50 50"), "");
+    QCOMPARE(support::inkBounds(pad.picture()).size(), QSize(width, width));
+}
+
+void tst_Player::anOptionThatIsNotThere()
+{
+    Pad pad;
+    QCOMPARE(pad.play("tool ellipse\noption 2"), "test.rec:2: the tool has no option 2");
+}
+
+void tst_Player::colors()
+{
+    Pad pad;
+    QCOMPARE(
+        pad.play(
+            "color #1f6feb\npress 10 20\nrelease 10 20\ntool line\npress 50 50\nmove 60 50\nrelease 60 50"),
+        "");
+    const QColor blue(0x1f, 0x6f, 0xeb);
+    QCOMPARE(pad.editor.color(), blue);
+    QVERIFY(sameImage(pad.picture(), filled(filled(sheet(newCanvas), QRect(10, 20, 1, 1), blue),
+                                            QRect(50, 50, 11, 1), blue)));
+}
+
+void tst_Player::fitToPage()
+{
+    Pad pad;
+    QCOMPARE(pad.play("canvas 16bit 111 93\nzoom fit\npress 40 20\nrelease 40 20"), "");
+    QCOMPARE(pad.editor.canvas()->zoom(), 200);
+    QVERIFY(sameImage(pad.picture(), filled(sheet(QSize(111, 93)), QRect(20, 10, 1, 1), Qt::red)));
+}
+
+void tst_Player::typing()
+{
+    Pad pad;
+    QCOMPARE(pad.play("tool text\npress 20 40\nrelease 20 40\ntype \"He#y\"\nkey BackSpace\nkey BackSpace\n"
+                      "key Y\nkey Return\ntype \"to\\nyou\"\ntool pencil"),
+             "");
+    Pad other;
+    QCOMPARE(other.play("tool text\npress 20 40\nrelease 20 40\ntype \"Hey\\nto\\nyou\"\ntool pencil"), "");
+    QVERIFY(support::inkCount(pad.picture()) > 50);
+    QVERIFY(sameImage(pad.picture(), other.picture()));
+}
+
+void tst_Player::selectAllAndCut()
+{
+    Pad pad;
+    QCOMPARE(pad.play("press 10 20\nrelease 10 20\nselectall\ncut"), "");
+    QVERIFY(sameImage(pad.picture(), sheet(newCanvas)));
+    QVERIFY(sameImage(QGuiApplication::clipboard()->image(),
+                      filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red)));
+}
+
+void tst_Player::canvases_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<int>("colors");
+    QTest::newRow("16bit") << QByteArray("16bit") << int(KORVA_COLOR_16BIT);
+    QTest::newRow("1bit") << QByteArray("1bit") << int(KORVA_COLOR_1BIT);
+    QTest::newRow("4bit") << QByteArray("4bit") << int(KORVA_COLOR_4BIT);
+    QTest::newRow("8bit") << QByteArray("8bit") << int(KORVA_COLOR_8BIT);
+    QTest::newRow("4bitb") << QByteArray("4bitb") << int(KORVA_COLOR_4BIT);
+}
+
+void tst_Player::canvases()
+{
+    QFETCH(QByteArray, type);
+    QFETCH(int, colors);
+    Pad pad;
+    QCOMPARE(pad.play("canvas " + type + " 32 40"), "");
+    QCOMPARE(int(pad.editor.colorType()), colors);
+    QVERIFY(!pad.editor.isModified());
+    QVERIFY(sameImage(pad.picture(), sheet(QSize(32, 40))));
+}
+
 void tst_Player::openAndSave()
 {
     const QTemporaryDir folder;
-    const QString before = folder.filePath("before.png");
+    const QString before = folder.filePath("be fore.png");
     const QString after = folder.filePath("after.bmp");
     sheet(QSize(30, 20), Qt::green).save(before);
     Pad pad;
@@ -177,20 +313,134 @@ void tst_Player::openAndSave()
                       '"'),
              "");
     QCOMPARE(pad.editor.canvas()->size(), QSize(30, 20));
-    QVERIFY(!pad.editor.canvas()->isModified());
+    QCOMPARE(pad.editor.fileName(), after);
+    QVERIFY(!pad.editor.isModified());
     QVERIFY(sameImage(QImage(after), filled(sheet(QSize(30, 20), Qt::green), QRect(5, 5, 1, 1), Qt::red)));
+}
+
+void tst_Player::stamps()
+{
+    const QTemporaryDir folder;
+    const QString stamp = folder.filePath("stamp.png");
+    sheet(QSize(30, 20), Qt::green).save(stamp);
+    Pad pad;
+    QCOMPARE(
+        pad.play("stamp \"" + stamp.toUtf8() + "\"\nmove 10 10\npress 10 10\nmove 110 60\nrelease 110 60"),
+        "");
+    QCOMPARE(pad.editor.fileName(), "");
+    QVERIFY(sameImage(pad.picture(), filled(sheet(newCanvas), QRect(100, 50, 30, 20), Qt::green)));
+}
+
+void tst_Player::saveAddsTypedTextAndTheFloatingPiece()
+{
+    const QTemporaryDir folder;
+    const QByteArray out = folder.filePath("out.png").toUtf8();
+    QGuiApplication::clipboard()->setImage(sheet(QSize(40, 30), Qt::blue));
+    Pad pad;
+    QCOMPARE(pad.play("tool text\npress 20 80\nrelease 20 80\ntype abc\npaste\nsave \"" + out + '"'), "");
+    const QImage saved(out);
+    QCOMPARE(saved.pixelColor(39, 29), QColor(Qt::blue));
+    QVERIFY(support::inkCount(saved.copy(20, 60, 60, 25)) > 20);
+}
+
+void tst_Player::unsavedChanges_data()
+{
+    QTest::addColumn<QByteArray>("command");
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("open") << QByteArray("open PICTURE") << "Save changes to drawing before opening?"
+                          << QSize(30, 20);
+    QTest::newRow("canvas") << QByteArray("canvas 16bit 64 80")
+                            << "Save changes to drawing before choosing canvas?" << QSize(64, 80);
+}
+
+void tst_Player::unsavedChanges()
+{
+    QFETCH(QByteArray, command);
+    QFETCH(QString, question);
+    QFETCH(QSize, size);
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath("picture.png");
+    sheet(QSize(30, 20), Qt::green).save(picture);
+    command.replace("PICTURE", picture.toUtf8());
+
+    Pad unanswered;
+    QCOMPARE(unanswered.play("press 10 20\nrelease 10 20\n" + command),
+             "test.rec:3: the question '" + question + "' has no answer");
+    QVERIFY(sameImage(unanswered.picture(), filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red)));
+
+    Pad refused;
+    QCOMPARE(refused.play("press 10 20\nrelease 10 20\nanswer 1\n" + command), "");
+    QCOMPARE(refused.editor.canvas()->size(), size);
+
+    Pad unchanged;
+    QCOMPARE(unchanged.play(command), "");
+    QCOMPARE(unchanged.editor.canvas()->size(), size);
+}
+
+void tst_Player::answerIsUsedUp()
+{
+    Pad pad;
+    QCOMPARE(pad.play("answer 1\npress 1 1\nrelease 1 1\ncanvas 16bit 64 80\npress 1 1\nrelease 1 1\n"
+                      "canvas 16bit 32 40"),
+             "test.rec:7: the question 'Save changes to drawing before choosing canvas?' has no answer");
+    QCOMPARE(pad.editor.canvas()->size(), QSize(64, 80));
+}
+
+void tst_Player::anAnswerThatIsNotThere()
+{
+    Pad pad;
+    QCOMPARE(pad.play("press 1 1\nrelease 1 1\nanswer 2\ncanvas 16bit 64 80"),
+             "test.rec:4: the question 'Save changes to drawing before choosing canvas?' has no answer");
+    QCOMPARE(pad.editor.canvas()->size(), newCanvas);
+}
+
+void tst_Player::saveBeforeOpening()
+{
+    const QTemporaryDir folder;
+    const QByteArray mine = folder.filePath("mine.png").toUtf8();
+    const QByteArray other = folder.filePath("other.png").toUtf8();
+    sheet(QSize(30, 20), Qt::green).save(other);
+
+    Pad unnamed;
+    QCOMPARE(unnamed.play("press 1 1\nrelease 1 1\nanswer 0\nopen " + other),
+             "test.rec:4: the drawing has no name to be saved under");
+    QVERIFY(sameImage(unnamed.picture(), filled(sheet(newCanvas), QRect(1, 1, 1, 1), Qt::red)));
+
+    Pad named;
+    QCOMPARE(named.play("save " + mine + "\npress 1 1\nrelease 1 1\nanswer 0\nopen " + other), "");
+    QVERIFY(sameImage(QImage(mine), filled(sheet(newCanvas), QRect(1, 1, 1, 1), Qt::red)));
+    QVERIFY(sameImage(named.picture(), sheet(QSize(30, 20), Qt::green)));
+}
+
+void tst_Player::stopsAtTheFirstFailure_data()
+{
+    QTest::addColumn<QByteArray>("command");
+    QTest::addColumn<QString>("complaint");
+    const auto row = [](const char* name, const char* command, const char* complaint) {
+        QTest::newRow(name) << QByteArray(command) << QString(complaint);
+    };
+    row("a picture that is not there", "open /nowhere.png",
+        "cannot open '/nowhere.png': Failed to open file");
+    row("a stamp that is not there", "stamp /nowhere.png",
+        "cannot open '/nowhere.png': Failed to open file");
+    row("a folder that is not there", "save /nowhere/a.png", "cannot write '/nowhere/a.png': Saved Failed");
+    row("a format that is only read", "save /tmp/a.gif", "cannot write '/tmp/a.gif': Saved Failed");
 }
 
 void tst_Player::stopsAtTheFirstFailure()
 {
+    QFETCH(QByteArray, command);
+    QFETCH(QString, complaint);
     Pad pad;
-    QCOMPARE(pad.play("press 10 20\nrelease 10 20\n\nopen /nowhere.png\nclear"),
-             "test.rec:4: cannot open '/nowhere.png': File not found");
+    QCOMPARE(pad.play("press 10 20\nrelease 10 20\n\n" + command + "\nclear"), "test.rec:4: " + complaint);
+    QVERIFY(pad.editor.isModified());
     QVERIFY(sameImage(pad.picture(), filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red)));
 }
 
 int main(int argc, char** argv)
 {
+    const pad::DownloadFolder downloads;
     return support::run<tst_Player>(argc, argv);
 }
 

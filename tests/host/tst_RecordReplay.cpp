@@ -1,6 +1,6 @@
 #include "Commands.h"
-#include "Document.h"
 #include "PadWindow.h"
+#include "Platform.h"
 #include "Player.h"
 #include "Recorder.h"
 
@@ -10,10 +10,60 @@
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_PasteLabel.h>
+#include <UTIL_PictureDialog.h>
 
 using support::sameImage;
 
 namespace {
+
+QStringList linesOf(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return {"(no such file)"};
+    return QString::fromUtf8(file.readAll().chopped(1)).split('\n');
+}
+
+/// Answers the dialogs that come up while a command runs, one after the other.
+class Clerk
+{
+public:
+    using Step = std::function<void(QWidget* dialog)>;
+
+    explicit Clerk(std::vector<Step> steps) : m_steps(std::move(steps))
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (dialog && m_done < m_steps.size())
+                m_steps[m_done++](dialog);
+        });
+        m_timer.start(10);
+    }
+
+    static Step press(const QString& text)
+    {
+        return [text](const QWidget* dialog) {
+            for (auto* button : dialog->findChildren<QAbstractButton*>()) {
+                if (button->text() == text)
+                    return button->click();
+            }
+        };
+    }
+
+    static Step choose(const QString& fileName)
+    {
+        return [fileName](QWidget* widget) {
+            auto* dialog = qobject_cast<UTIL_PictureDialog*>(widget);
+            dialog->setFileName(fileName);
+            dialog->accept();
+        };
+    }
+
+private:
+    std::vector<Step> m_steps;
+    std::size_t m_done = 0;
+    QTimer m_timer;
+};
 
 /// A person at the window: everything goes through the window system's own delivery.
 class Person
@@ -26,70 +76,101 @@ public:
 
     void draw()
     {
-        for (int i = 0; i < 12; ++i)
+        for (int i = 0; i < 25; ++i)
             doSomething();
     }
 
 private:
     void doSomething()
     {
-        switch (m_random.bounded(8)) {
+        static constexpr const char* commands[] = {"Undo", "Redo", "Paste", "Cut", "Copy", "Select all"};
+        switch (m_random.bounded(10)) {
         case 0:
-            return choose("Undo");
+            return pick(m_window.commands().menu(), commands[m_random.bounded(6)]);
         case 1:
-            return choose("Redo");
+            return pickAny("toolButton");
         case 2:
-            return choose("Paste");
+            return pickAny("optionButton");
         case 3:
-            return choose(m_random.bounded(2) ? "Cut" : "Copy");
-        case 4:
             return zoom();
+        case 4:
+            return color();
+        case 5:
+            drag(); // where the keyboard is taken along
+            type(QString("a%1 Q\"").arg(m_random.bounded(100)));
+            return;
         default:
             return drag();
         }
     }
 
-    void choose(const QString& command) { trigger(m_window.commands().menu()->actions(), command); }
-
-    void zoom()
+    static void pick(const QMenu* menu, const QString& text)
     {
-        for (QAction* action : m_window.commands().menu()->actions()) {
-            if (action->menu())
-                trigger(action->menu()->actions(), QString("%1 %").arg(50 * (1 + m_random.bounded(4))));
-        }
-    }
-
-    static void trigger(const QList<QAction*>& actions, const QString& text)
-    {
-        for (QAction* action : actions) {
+        for (QAction* action : menu->actions()) {
             if (action->text().remove('&') == text)
                 action->trigger();
         }
     }
 
+    void type(const QString& text)
+    {
+        for (const QChar letter : text)
+            QTest::keyClick(m_window.windowHandle(), letter.toLatin1());
+        QTest::keyClick(m_window.windowHandle(), Qt::Key_Backspace);
+    }
+
+    void pickAny(const char* button)
+    {
+        const QList<QAction*> entries = m_window.findChild<QPushButton*>(button)->menu()->actions();
+        entries.at(m_random.bounded(int(entries.size())))->trigger();
+    }
+
+    void zoom()
+    {
+        auto* box = m_window.findChild<QComboBox*>("zoomBox");
+        box->setCurrentIndex(m_random.bounded(box->count()));
+        emit box->activated(box->currentIndex());
+    }
+
+    void color()
+    {
+        QTimer::singleShot(0, [this] {
+            auto* picker = QApplication::activeModalWidget();
+            for (auto* slider : picker->findChildren<QAbstractSlider*>())
+                slider->setValue(m_random.bounded(slider->maximum() + 1));
+            QTest::keyClick(picker, Qt::Key_Return);
+        });
+        QTest::mouseClick(m_window.findChild<QPushButton*>("colorButton"), Qt::LeftButton);
+    }
+
     void drag()
     {
-        QPoint at = somewhere();
-        const bool onPiece = m_canvas.pasteLabel()->isVisible() && m_random.bounded(4);
-        if (onPiece)
-            at = inside(m_canvas.pasteLabel()->geometry());
-        QTest::mouseMove(m_window.windowHandle(), inWindow(at - QPoint(1, 1)));
-        QTest::mouseMove(m_window.windowHandle(), inWindow(at));
+        const QRect view = m_canvas.visibleRegion().boundingRect();
+        const QRect piece = m_canvas.pasteLabel()->geometry() & view;
+        const bool onPiece = m_canvas.pasteLabel()->isVisible() && !piece.isEmpty() && m_random.bounded(4);
+        QPoint at = inside(onPiece ? piece : view);
+        move(at - QPoint(1, 1));
+        move(at);
         QTest::mousePress(m_window.windowHandle(), Qt::LeftButton, {}, inWindow(at));
         for (int i = m_random.bounded(6); i > 0; --i) {
             at += QPoint(m_random.bounded(-15, 16), m_random.bounded(-15, 16));
-            QTest::mouseMove(m_window.windowHandle(), inWindow(at));
+            move(at);
         }
         QTest::mouseRelease(m_window.windowHandle(), Qt::LeftButton, {}, inWindow(at));
     }
 
-    QPoint somewhere() { return inside(m_canvas.visibleRegion().boundingRect()); }
+    void move(QPoint to) { QTest::mouseMove(m_window.windowHandle(), inWindow(to)); }
+
     QPoint inside(const QRect& rect)
     {
-        return rect.topLeft() + QPoint(m_random.bounded(std::max(1, rect.width())),
-                                       m_random.bounded(std::max(1, rect.height())));
+        return rect.topLeft() + QPoint(m_random.bounded(rect.width()), m_random.bounded(rect.height()));
     }
-    [[nodiscard]] QPoint inWindow(QPoint at) const { return m_canvas.mapTo(&m_window, at); }
+
+    [[nodiscard]] QPoint inWindow(QPoint at) const
+    {
+        const QPoint place = m_canvas.mapTo(&m_window, at);
+        return {qBound(0, place.x(), m_window.width() - 1), qBound(0, place.y(), m_window.height() - 1)};
+    }
 
     pad::PadWindow& m_window;
     KORVA_Canvas& m_canvas;
@@ -103,10 +184,16 @@ class tst_RecordReplay : public support::TestCase
     Q_OBJECT
 
 private slots:
+    void cleanupTestCase() { QVERIFY(m_ink > 10'000); } // the drawings were not all empty
     void givesTheSamePicture_data();
     void givesTheSamePicture();
     void keysAndText();
+    void theControls();
+    void documents();
     void menusOfCanvasAndPiece();
+
+private:
+    int m_ink = 0;
 };
 
 void tst_RecordReplay::givesTheSamePicture_data()
@@ -126,26 +213,27 @@ void tst_RecordReplay::givesTheSamePicture()
     QGuiApplication::clipboard()->setImage(stamp);
     QImage drawn;
     {
-        pad::PadWindow window;
+        pad::PadWindow window(pad::Platform::install());
         pad::Recorder recorder(window.editor());
         QObject::connect(&window.commands(), &pad::Commands::performed, &recorder, &pad::Recorder::write);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QVERIFY(!recorder.start(file));
         Person(window, seed).draw();
-        drawn = window.editor().canvas()->pixmap()->toImage();
+        drawn = window.editor().pixmap()->toImage();
         QVERIFY(!recorder.finish());
     }
-    QVERIFY(support::inkCount(drawn) > 0);
+    m_ink += support::inkCount(drawn);
 
     QGuiApplication::clipboard()->setImage(stamp);
-    pad::PadWindow again;
+    pad::Platform& platform = pad::Platform::install();
+    pad::PadWindow again(platform);
     again.show();
-    pad::Player player(again.editor(), again.document());
+    pad::Player player(again.editor(), platform);
     const auto recording = pad::Recording::read(file);
     QVERIFY(std::holds_alternative<pad::Recording>(recording));
     QVERIFY(!player.play(std::get<pad::Recording>(recording)));
-    QVERIFY(sameImage(again.editor().canvas()->pixmap()->toImage(), drawn));
+    QVERIFY(sameImage(again.editor().pixmap()->toImage(), drawn));
 }
 
 void tst_RecordReplay::keysAndText()
@@ -161,11 +249,69 @@ void tst_RecordReplay::keysAndText()
     QTest::keyClick(editor.canvas(), Qt::Key_Backspace);
     QTest::keyClick(editor.canvas(), Qt::Key_Left, Qt::ShiftModifier);
     QVERIFY(!recorder.finish());
-    QFile file(folder.filePath("keys.rec"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(QString::fromUtf8(file.readAll()).split('\n'),
+    QCOMPARE(linesOf(folder.filePath("keys.rec")),
              QStringList({"type \"a\"", "key Shift", "type \"B\"", "type \"\\\"\"", "key Return",
-                          "key Backspace", "key Shift", "key Shift+Left", ""}));
+                          "key Backspace", "key Shift", "key Shift+Left"}));
+}
+
+void tst_RecordReplay::theControls()
+{
+    const QTemporaryDir folder;
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    pad::Recorder recorder(editor);
+    QVERIFY(!recorder.start(folder.filePath("controls.rec")));
+    const auto choose = [&editor](const char* button, int row) {
+        editor.findChild<QPushButton*>(button)->menu()->actions().at(row)->trigger();
+    };
+    for (int row = 0; row < 7; ++row)
+        choose("toolButton", row);
+    choose("optionButton", 1);
+    choose("toolButton", 0);
+    choose("optionButton", 1);
+    choose("optionButton", 0);
+    for (int index = 0; index < 5; ++index)
+        emit editor.findChild<QComboBox*>("zoomBox")->activated(index);
+    QVERIFY(!recorder.finish());
+    QCOMPARE(linesOf(folder.filePath("controls.rec")),
+             QStringList({"tool select", "tool eraser", "tool line", "tool pencil", "tool text",
+                          "tool rectangle", "tool ellipse", "option 1", "tool select", "tool hand",
+                          "tool select", "zoom 50", "zoom 100", "zoom 150", "zoom 200", "zoom fit"}));
+}
+
+void tst_RecordReplay::documents()
+{
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath("picture.png");
+    const QString recordingFile = folder.filePath("documents.rec");
+    support::mosaic(QSize(40, 30)).save(picture);
+    pad::PadWindow window(pad::Platform::install());
+    pad::Recorder recorder(window.editor());
+    connect(&window.commands(), &pad::Commands::performed, &recorder, &pad::Recorder::write);
+    window.show();
+    QVERIFY(!recorder.start(recordingFile));
+    const auto choose = [&window](const char* text) {
+        for (QAction* action : window.commands().menu()->actions()) {
+            if (action->text().remove('&') == text)
+                action->trigger();
+        }
+    };
+
+    window.editor().canvas()->markModified();
+    Clerk opening({Clerk::press("No"), Clerk::choose(picture)});
+    choose("Open ...");
+    Clerk stamping({Clerk::choose(picture)});
+    choose("Insert stamp ...");
+    Clerk cancelled({Clerk::press("No"), Clerk::press("Cancel")});
+    choose("New ...");
+    Clerk creating({Clerk::press("No"), Clerk::press("OK"), Clerk::press("16 colors")});
+    choose("New ...");
+    QCOMPARE(window.editor().canvas()->size(), QSize(200, 170));
+    QCOMPARE(window.editor().fileName(), "");
+    QVERIFY(!window.editor().isModified());
+    QVERIFY(!recorder.finish());
+    QCOMPARE(linesOf(recordingFile),
+             QStringList({"answer 1", "open \"" + picture + '"', "stamp \"" + picture + '"', "zoom 100",
+                          "answer 1", "canvas 4bit 200 170"}));
 }
 
 void tst_RecordReplay::menusOfCanvasAndPiece()
@@ -182,9 +328,7 @@ void tst_RecordReplay::menusOfCanvasAndPiece()
     editor.canvas()->pasteLabel()->menu()->actions().at(1)->trigger();
     editor.canvas()->contextMenu()->actions().at(2)->trigger();
     QVERIFY(!recorder.finish());
-    QFile file(folder.filePath("menus.rec"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), "copy\ncopy\ncut\npaste\n");
+    QCOMPARE(linesOf(folder.filePath("menus.rec")), QStringList({"copy", "copy", "cut", "paste"}));
 }
 
 int main(int argc, char** argv)

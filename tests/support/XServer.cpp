@@ -125,7 +125,7 @@ QImage XServer::screenshot() const
                             unsigned(attributes.height), AllPlanes, ZPixmap);
     const QImage shared(reinterpret_cast<const uchar*>(raw->data), raw->width, raw->height,
                         raw->bytes_per_line, QImage::Format_RGB32);
-    QImage image = shared.copy();
+    QImage image = shared.convertToFormat(QImage::Format_ARGB32); // the server leaves the fourth byte at 0
     XDestroyImage(raw);
     return image;
 }
