@@ -1,6 +1,7 @@
 #include "UTIL_ComboBox.h"
 
 #include "UTIL_PopupMenu.h"
+#include "UTIL_PopupStyle.h"
 #include "UTIL_Skin.h"
 
 #include <QAbstractItemView>
@@ -15,10 +16,13 @@ using Size = UTIL_Skin::Size;
 
 UTIL_ComboBox::UTIL_ComboBox(QWidget* parent) : QComboBox(parent)
 {
+    setStyle(new UTIL_PopupStyle(this));
     setPalette(UTIL_Skin::palette());
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
     setAttribute(Qt::WA_Hover);
-    view()->setPalette(UTIL_Skin::palette());
+    QPalette list = UTIL_Skin::palette();
+    list.setColor(QPalette::Window, UTIL_Skin::color(UTIL_Skin::Color::Surface)); // as a menu's
+    view()->setPalette(list);
     view()->setFont(font());
 }
 

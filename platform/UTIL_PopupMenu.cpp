@@ -1,33 +1,11 @@
 #include "UTIL_PopupMenu.h"
 
+#include "UTIL_PopupStyle.h"
 #include "UTIL_Skin.h"
-
-#include <QProxyStyle>
-#include <QStyleFactory>
-
-namespace {
-
-using Size = UTIL_Skin::Size;
-
-class PopupStyle : public QProxyStyle
-{
-public:
-    PopupStyle() : QProxyStyle(QStyleFactory::create("fusion")) {}
-
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
-    {
-        return metric == PM_SmallIconSize ? int(Size::iconWidth)
-                                          : QProxyStyle::pixelMetric(metric, option, widget);
-    }
-};
-
-} // namespace
 
 UTIL_PopupMenu::UTIL_PopupMenu(QWidget* parent) : QMenu(parent)
 {
-    auto* style = new PopupStyle;
-    style->setParent(this);
-    setStyle(style);
+    setStyle(new UTIL_PopupStyle(this));
     setPalette(UTIL_Skin::palette());
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
 }

@@ -75,8 +75,9 @@ void UTIL_PushButton::paintEvent(QPaintEvent*)
         look.border = look.fill;
 
     QPainter painter(this);
-    constexpr int ring = Size::focusWidth + Size::focusGap;
-    UTIL_Skin::paintBox(painter, hasFocus() ? rect().adjusted(ring, ring, -ring, -ring) : rect(), look);
+    // A key with an icon alone is too small to make room for the ring.
+    const int ring = hasFocus() && !text().isEmpty() ? Size::focusWidth + Size::focusGap : 0;
+    UTIL_Skin::paintBox(painter, rect().adjusted(ring, ring, -ring, -ring), look);
 
     const int iconWidth = icon().isNull() ? 0 : iconSize().width();
     const int gap = iconWidth && !text().isEmpty() ? Size::spacing : 0;

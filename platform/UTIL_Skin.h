@@ -57,6 +57,7 @@ public:
         static constexpr int keyHeight = 36;
         static constexpr int keyPadding = 8;
         static constexpr int rowHeight = 34;
+        static constexpr int menuRowHeight = 30;
         static constexpr int rowInset = 2;
         static constexpr int radius = 6;
         static constexpr int hairline = 1;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// How pop-up menus and the lists of boxes are laid out: icons at their full size, rows high enough for a
+/// finger.
+class UTIL_PopupStyle : public QProxyStyle
+{
+public:
+    /// The owner also deletes it.
+    explicit UTIL_PopupStyle(QObject* owner);
+
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                  const QWidget* widget) const override;
+    [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                         const QSize& contents, const QWidget* widget) const override;
+};
