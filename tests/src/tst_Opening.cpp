@@ -1,6 +1,7 @@
 #include "EditorFixtures.h"
 
 #include "KORVA_ScrollView.h"
+#include "support/PictureFiles.h"
 
 using fixtures::EditorDesk;
 using fixtures::PictureFolder;
@@ -34,10 +35,8 @@ const std::pair<const char*, Trouble> troubles[] = {
     {"no picture",
      {failed,
       [](const PictureFolder& folder) {
-          QFile file(folder.file("words.png"));
-          file.open(QIODevice::WriteOnly);
-          file.write("These are words.");
-          return file.fileName();
+          support::write(folder.file("words.png"), "These are words.");
+          return folder.file("words.png");
       }}},
     {"a picture under another format's name",
      {failed,
@@ -45,6 +44,13 @@ const std::pair<const char*, Trouble> troubles[] = {
     {"more pixels than can be decoded",
      {oversize, [](const PictureFolder& folder) { return folder.written("a.png", fixtures::flag()); },
       [](RecordingPlatform& platform, const QString&) { platform.limit = 40 * 30 - 1; }}},
+    {"a GIF damaged behind its first frame",
+     {notOpened,
+      [](const PictureFolder& folder) {
+          constexpr int end = 4;
+          support::write(folder.file("a.gif"), support::gifOfFrames({40, 30}, 2).chopped(end));
+          return folder.file("a.gif");
+      }}},
     {"gone after the size check",
      {notOpened, [](const PictureFolder& folder) { return folder.written("a.png", fixtures::flag()); },
       [](RecordingPlatform& platform, const QString& name) {

@@ -1,6 +1,7 @@
 #include "EditorFixtures.h"
 
 #include "KORVA_Text.h"
+#include "support/PictureFiles.h"
 
 using fixtures::EditorDesk;
 using fixtures::PictureFolder;
@@ -11,19 +12,6 @@ namespace {
 const QString nameAsked = "name | /photos | *.png *.jpeg *.jpg *.bmp";
 const QString saved = "message | Dialog_Complete.gif | Saved Successfully <2.11.2.9;DIALOG_ICON_50> | 1";
 const QString notSaved = "message | Dialog_Error.gif | Saved Failed <2.11.2.10;DIALOG_ICON_50> | 1";
-
-QByteArray contentsOf(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& name, const QByteArray& bytes)
-{
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 QByteArray formatOf(const QString& name)
 {
@@ -183,7 +171,7 @@ void tst_Saving::gifFailsAndKeepsItsName()
 {
     const PictureFolder folder;
     const QString name = folder.file("drawing.Gif");
-    write(name, "as it was");
+    support::write(name, "as it was");
     EditorDesk desk;
     desk.editor->setFileName(name);
     desk.scribble();
@@ -191,7 +179,7 @@ void tst_Saving::gifFailsAndKeepsItsName()
     QCOMPARE(desk.log.taken(), QStringList({notSaved, "canDelete(true)"}));
     QCOMPARE(desk.editor->fileName(), name);
     QVERIFY(desk.editor->isModified());
-    QCOMPARE(contentsOf(name), QByteArray("as it was"));
+    QCOMPARE(support::contents(name), QByteArray("as it was"));
 }
 
 void tst_Saving::failureClearsTheName_data()
@@ -211,8 +199,8 @@ void tst_Saving::failureClearsTheName()
     const PictureFolder folder;
     const QString file = folder.file(name);
     if (QFileInfo(file).dir().exists())
-        write(file, "as it was");
-    const QByteArray before = contentsOf(file);
+        support::write(file, "as it was");
+    const QByteArray before = support::contents(file);
     if (!temporary.isNull())
         qputenv("KIV_LOCAL_DOWNLOAD_PATH", temporary.toUtf8());
     EditorDesk desk;
@@ -222,7 +210,7 @@ void tst_Saving::failureClearsTheName()
     QCOMPARE(desk.log.taken(), QStringList({notSaved, "canDelete(true)"}));
     QCOMPARE(desk.editor->fileName(), QString());
     QVERIFY(desk.editor->isModified());
-    QCOMPARE(contentsOf(file), before);
+    QCOMPARE(support::contents(file), before);
     QVERIFY(QDir(folder.file("appwrite")).isEmpty());
 }
 
