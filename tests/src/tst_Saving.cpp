@@ -48,6 +48,7 @@ private slots:
 
     void floatingPieceIsSaved();
     void typedTextIsSaved();
+    void anEmptyTextIsAChange();
     void savingKeepsUndo();
 
     void setFileName_data();
@@ -296,6 +297,19 @@ void tst_Saving::typedTextIsSaved()
     const auto* text = qobject_cast<KORVA_Text*>(desk.manager().currentTool());
     QVERIFY(text && text->isBufferEmpty());
     QVERIFY(!desk.editor->isModified());
+}
+
+void tst_Saving::anEmptyTextIsAChange()
+{
+    const PictureFolder folder;
+    EditorDesk desk;
+    desk.editor->setFileName(folder.file("drawing.png"));
+    desk.chooseTool(ToolID::Text);
+    desk.editor->clearModified();
+    (void)desk.log.taken();
+    desk.editor->slotSave(); // which commits the text before it looks whether there is anything to save
+    QCOMPARE(desk.log.taken(),
+             QStringList({"modified()", "canUndo(true)", "canRedo(false)", saved, "canDelete(true)"}));
 }
 
 void tst_Saving::savingKeepsUndo()

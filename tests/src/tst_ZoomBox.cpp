@@ -64,6 +64,8 @@ void tst_ZoomBox::rates_data()
     add("fit 222 x 186", {222, 186}, 4, 100);
     add("fit the width", {300, 10}, 4, 74);
     add("fit the height", {10, 300}, 4, 62);
+    add("a pixel wider than the page", {223, 10}, 4, 99);
+    add("a pixel higher than the page", {10, 187}, 4, 99);
     add("fit the normal canvas", normal, 4, 109);
     add("fit the stamp", {32, 40}, 4, 465);
     add("fit a dot", {1, 1}, 4, 18600);
