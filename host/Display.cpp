@@ -17,10 +17,11 @@ bool isSet(const char* variable)
 }
 
 /// The height of the X screen, asked for directly because that takes less than a millisecond; 0 without
-/// one.
+/// one. The connection stays: many a server starts anew when its last client leaves, and would turn away
+/// the program that comes right after.
 int xScreenHeight()
 {
-    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
+    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
         xcb_connect(nullptr, nullptr), &xcb_disconnect);
     if (xcb_connection_has_error(connection.get()))
         return 0;
