@@ -112,7 +112,7 @@ QPixmap UTIL_ImageReader::pixmap(const QString& fileName, const char* format)
     return reader.read() ? QPixmap::fromImage(reader.image()) : QPixmap();
 }
 
-void UTIL_ImageReader::setReduction(Reduction reduction, QRgb background)
+void UTIL_ImageReader::setReduction(const Reduction& reduction, QRgb background)
 {
     m_reduction = reduction;
     m_background = background;

@@ -4,6 +4,7 @@
 #include <QPixmap>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class QIODevice;
@@ -22,7 +23,7 @@ public:
     };
 
     /// The size that a picture of the given size is wanted in; no greater in either direction.
-    using Reduction = QSize (*)(QSize);
+    using Reduction = std::function<QSize(QSize)>;
 
     /// `format` names the one format to accept ("PNG"); null recognises the picture by its content,
     /// whatever its name.
@@ -38,7 +39,7 @@ public:
     void setParameters(const char* parameters) { m_parameters = parameters; }
     /// Where reading at the wanted size saves memory (JPEG, and whatever has millions of pixels), the
     /// picture comes in exactly that size, laid on `background`; otherwise in its own.
-    void setReduction(Reduction reduction, QRgb background = 0xffffffff);
+    void setReduction(const Reduction& reduction, QRgb background = 0xffffffff);
 
     /// Reads the picture; true when image() holds it.
     bool read();
@@ -55,7 +56,7 @@ private:
     QByteArray m_format;
     QByteArray m_parameters;
     std::optional<qint64> m_pixelLimit;
-    Reduction m_reduction = nullptr;
+    Reduction m_reduction;
     QRgb m_background = 0xffffffff;
     Status m_status = Failed;
     QImage m_image;
