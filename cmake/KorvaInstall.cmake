@@ -25,7 +25,7 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/korva.pc.in ${PROJECT_BINARY_DIR}/korva
 install(FILES ${PROJECT_BINARY_DIR}/korva.pc DESTINATION ${korva_pc_dir} COMPONENT development)
 
 if(KORVA_BUILD_HOST)
-    install(TARGETS korva-pad COMPONENT pad)
+    install(TARGETS korva-pad korva-preview COMPONENT pad)
     install(FILES docs/man/korva-pad.1 docs/man/korva-preview.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT pad)
     install(FILES packaging/korva-pad.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT pad)
