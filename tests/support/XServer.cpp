@@ -63,6 +63,8 @@ XServer::XServer(QSize screen)
     if (m_server.waitForStarted(patience) && m_server.waitForReadyRead(patience))
         m_display = ':' + QString::fromLatin1(m_server.readAllStandardOutput().trimmed());
     m_client = std::make_unique<Client>(m_display);
+    // A window may be gone between the list of windows and the question about it.
+    XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
 }
 
 XServer::~XServer()
