@@ -1,0 +1,357 @@
+#include "IMV_UI_PhotoDisplay.h"
+#include "UTIL_Skin.h"
+#include "support/Animation.h"
+#include "support/Images.h"
+#include "support/PictureFiles.h"
+#include "support/TestCase.h"
+
+using support::GifFrame;
+
+namespace {
+
+constexpr QSize frame(204, 171);
+
+const QColor ground = UTIL_Skin::color(UTIL_Skin::Color::Ground);
+const QColor surface = UTIL_Skin::color(UTIL_Skin::Color::Surface);
+
+/// A display on a window of the skin's ground.
+struct Shown
+{
+    template <typename Content>
+    explicit Shown(const Content& content, QSize size = frame)
+    {
+        window.setPalette(UTIL_Skin::palette());
+        window.resize(size);
+        display = new IMV_UI_PhotoDisplay(content, &window);
+        display->resize(size);
+        window.show();
+    }
+
+    [[nodiscard]] QImage grab() { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    /// What is shown in the middle.
+    [[nodiscard]] QColor middle() { return grab().pixelColor(window.rect().center()); }
+    /// Where it isn't ground.
+    [[nodiscard]] QRect area()
+    {
+        QImage image = grab();
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == ground)
+                    image.setPixelColor(x, y, Qt::white);
+        return support::inkBounds(image);
+    }
+    /// The colours shown one after the other for so long, beginning with the present one.
+    [[nodiscard]] QStringList colorsDuring(int milliseconds)
+    {
+        QStringList colors;
+        QElapsedTimer timer;
+        timer.start();
+        do {
+            const QString color = middle().name();
+            if (colors.isEmpty() || colors.last() != color) {
+                colors << color;
+                changes << timer.elapsed();
+            }
+            QTest::qWait(2);
+        } while (timer.elapsed() < milliseconds);
+        return colors;
+    }
+
+    QWidget window;
+    IMV_UI_PhotoDisplay* display = nullptr;
+    QList<qint64> changes; ///< when each of colorsDuring() came
+};
+
+const QString red = "#ff0000";
+const QString green = "#00ff00";
+const QString blue = "#0000ff";
+
+} // namespace
+
+class tst_PhotoDisplay : public support::TestCase
+{
+    Q_OBJECT
+
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString gif(const QList<GifFrame>& frames, int loops = 0) const
+    {
+        const QString name = path("animation.gif");
+        return support::writeGif(name, QSize(40, 30), frames, loops) ? name : QString();
+    }
+
+    QTemporaryDir m_folder;
+
+public:
+    /// 0 when the picture that has as many pixels as the screen has for it is shown pixel by pixel, and a
+    /// small one no larger than on other screens.
+    Q_INVOKABLE int showsOnASharpScreen()
+    {
+        const QImage full = support::mosaic(frame * 2);
+        Shown shown(full);
+        if (IMV_UI_PhotoDisplay::reductionTo(frame)(full.size()) != full.size())
+            return 1;
+        if (!support::sameImage(shown.grab(), full, "sharp"))
+            return 2;
+        shown.display->setImage(support::sheet(QSize(60, 50), Qt::black));
+        return shown.area() == QRect(144, 120, 120, 100) ? 0 : 3;
+    }
+
+private slots:
+    void aPictureFitsItsFrame_data()
+    {
+        QTest::addColumn<QSize>("picture");
+        QTest::addColumn<QRect>("shown");
+        QTest::newRow("one pixel") << QSize(1, 1) << QRect(102, 85, 1, 1);
+        QTest::newRow("smaller") << QSize(60, 50) << QRect(72, 60, 60, 50);
+        QTest::newRow("exact") << QSize(204, 171) << QRect(0, 0, 204, 171);
+        QTest::newRow("wider") << QSize(408, 100) << QRect(0, 60, 204, 50);
+        QTest::newRow("taller") << QSize(100, 342) << QRect(77, 0, 50, 171);
+        QTest::newRow("a line") << QSize(4000, 1) << QRect(0, 85, 204, 1);
+    }
+
+    void aPictureFitsItsFrame()
+    {
+        QFETCH(QSize, picture);
+        Shown shown(support::sheet(picture, Qt::black));
+        QTEST(shown.area(), "shown");
+    }
+
+    void aPictureThatFitsIsShownPixelByPixel()
+    {
+        const QImage picture = support::mosaic(QSize(60, 50));
+        Shown shown(picture);
+        QVERIFY(support::sameImage(shown.grab(),
+                                   support::overlaid(support::sheet(frame, ground), {72, 60}, picture)));
+    }
+
+    void aPictureIsReducedSmoothly()
+    {
+        const QImage stripes = support::sheet(QSize(408, 342), Qt::white, [](QPainter& painter) {
+            for (int x = 0; x < 408; x += 2)
+                painter.drawLine(x, 0, x, 341);
+        });
+        Shown shown(stripes);
+        const int grey = shown.middle().red();
+        QVERIFY2(grey > 100 && grey < 155, qPrintable(QString::number(grey)));
+    }
+
+    void aReaderIsAskedForWhatIsShown()
+    {
+        const auto reduction = IMV_UI_PhotoDisplay::reductionTo(frame);
+        QCOMPARE(reduction(QSize(4000, 3000)), QSize(204, 153));
+        QCOMPARE(reduction(QSize(3000, 4000)), QSize(128, 171));
+        QCOMPARE(reduction(QSize(30, 40)), QSize(30, 40));
+    }
+
+    void aSharpScreenShowsMorePixels()
+    {
+        qputenv("QT_SCALE_FACTOR", "2");
+        const support::ChildProcess child = support::ChildProcess::run("showsOnASharpScreen");
+        qunsetenv("QT_SCALE_FACTOR");
+        QVERIFY2(child.signal == 0 && child.exitCode == 0, qPrintable(child.output + child.errors));
+    }
+
+    void theSurfaceIsSeenThroughTransparentParts()
+    {
+        QImage picture(40, 40, QImage::Format_ARGB32);
+        picture.fill(QColor(255, 0, 0, 0));
+        picture.setPixelColor(0, 0, Qt::red);
+        picture.setPixelColor(1, 0, QColor(0, 0, 0, 128));
+        Shown shown(picture);
+        const QImage grab = shown.grab();
+        QCOMPARE(grab.pixelColor(82, 65), QColor(Qt::red));
+        QCOMPARE(grab.pixelColor(83, 65).lightness() / 4, 127 / 4);
+        QCOMPARE(grab.pixelColor(102, 85), surface);
+        QCOMPARE(grab.pixelColor(81, 65), ground);
+    }
+
+    void aNullImageLeavesTheDisplayEmpty()
+    {
+        Shown shown(support::sheet(QSize(9, 9), Qt::red));
+        QCOMPARE(shown.area().size(), QSize(9, 9));
+        shown.display->setImage({});
+        QCOMPARE(shown.area(), QRect());
+        QCOMPARE(Shown(QImage()).area(), QRect());
+    }
+
+    void thePictureFollowsTheDisplaysSize()
+    {
+        Shown shown(support::sheet(QSize(100, 100), Qt::black));
+        shown.display->resize(40, 80);
+        QCOMPARE(shown.area(), QRect(0, 20, 40, 40));
+        shown.display->resize(frame);
+        QCOMPARE(shown.area(), QRect(52, 35, 100, 100));
+    }
+
+    void aFileIsReadWhenTheDisplayIsShown()
+    {
+        const QString file = path("late.png");
+        IMV_UI_PhotoDisplay display(file);
+        display.resize(frame);
+        QTest::qWait(20);
+        QVERIFY(support::mosaic(QSize(30, 20)).save(file)); // it could not have been read before
+        display.show();
+        QTRY_COMPARE(display.pixmap().size(), QSize(30, 20));
+        QVERIFY(support::sameImage(display.pixmap(), support::mosaic(QSize(30, 20))));
+    }
+
+    void aGreatFileIsReadAsLargeAsItIsShown()
+    {
+        const QString file = path("great.jpg");
+        QVERIFY(support::sheet(QSize(1600, 1200), Qt::blue).save(file));
+        Shown shown(file);
+        QTRY_COMPARE(shown.area(), QRect(0, 9, 204, 153));
+    }
+
+    void aTurnedPhotoIsShownUpright()
+    {
+        const QImage photo =
+            support::filled(support::sheet(QSize(80, 40), Qt::blue), {0, 0, 40, 40}, Qt::red);
+        const QString file = path("turned.jpg");
+        QVERIFY(photo.save(file));
+        support::write(file, support::withOrientation(support::contents(file), 6));
+        Shown shown(file);
+        QTRY_COMPARE(shown.area(), QRect(82, 45, 40, 80));
+        const QImage grab = shown.grab();
+        QVERIFY(grab.pixelColor(102, 50).red() > 240); // what was left is on top
+        QVERIFY(grab.pixelColor(102, 120).blue() > 240);
+    }
+
+    void anUnreadableFileHasAMark_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("no name") << "";
+        QTest::newRow("missing") << path("missing.png");
+        QTest::newRow("a folder") << m_folder.path();
+        QTest::newRow("damaged") << path("damaged.png");
+    }
+
+    void anUnreadableFileHasAMark()
+    {
+        support::write(path("damaged.png"), "this is no picture");
+        QFETCH(QString, name);
+        Shown shown(name);
+        QTRY_VERIFY(!shown.area().isEmpty());
+        QVERIFY(shown.area().width() < frame.width() / 2);
+        shown.display->setImage(support::sheet(frame, Qt::red));
+        QCOMPARE(shown.area().size(), frame); // a picture takes its place
+    }
+
+    void anAnimationPlaysWithItsOwnDelays()
+    {
+        Shown shown{QImage()};
+        shown.display->loadGifAnimation(gif({{red, 100}, {green, 300}, {blue, 200}}));
+        QCOMPARE(shown.colorsDuring(900).mid(0, 4), QStringList({red, green, blue, red}));
+        const QList<int> due = {0, 100, 400, 600};
+        for (int i = 1; i < due.size(); ++i) {
+            const qint64 late = shown.changes[i] - due[i];
+            QVERIFY2(late > -60 && late < 200, qPrintable(QString("%1: %2 ms").arg(i).arg(late)));
+        }
+    }
+
+    void anAnimationPlaysAsOftenAsItSays_data()
+    {
+        QTest::addColumn<int>("loops");
+        QTest::addColumn<QStringList>("colors");
+        QTest::newRow("once") << -1 << QStringList{red, blue};
+        QTest::newRow("once more") << 1 << QStringList{red, blue, red, blue};
+        QTest::newRow("twice more") << 2 << QStringList{red, blue, red, blue, red, blue};
+    }
+
+    void anAnimationPlaysAsOftenAsItSays()
+    {
+        QFETCH(int, loops);
+        Shown shown{QImage()};
+        shown.display->loadGifAnimation(gif({{red, 30}, {blue, 30}}, loops));
+        QTEST(shown.colorsDuring(600), "colors"); // its last frame stays
+    }
+
+    void anAnimationPlaysForEver()
+    {
+        Shown shown{QImage()};
+        shown.display->loadGifAnimation(gif({{red, 20}, {blue, 20}}, 0));
+        QVERIFY(shown.colorsDuring(400).size() > 6);
+    }
+
+    void aHiddenDisplayDoesNotWork()
+    {
+        Shown shown{QImage()};
+        shown.display->loadGifAnimation(gif({{red, 30}, {blue, 30}}));
+        QVERIFY(shown.colorsDuring(200).size() > 2);
+
+        shown.window.hide();
+        const QColor before = shown.middle();
+        const qint64 picture = shown.display->pixmap().cacheKey();
+        for (int i = 0; i < 20; ++i) {
+            QTest::qWait(10);
+            QCOMPARE(shown.display->pixmap().cacheKey(), picture);
+        }
+        shown.window.show();
+        QCOMPARE(shown.middle(), before);
+        QVERIFY(shown.colorsDuring(200).size() > 2);
+    }
+
+    void anAnimationThatHasEndedDoesNotBeginAnewWhenShown()
+    {
+        Shown shown{QImage()};
+        shown.display->loadGifAnimation(gif({{red, 20}, {blue, 20}}, -1));
+        QCOMPARE(shown.colorsDuring(150), QStringList({red, blue}));
+        shown.window.hide();
+        shown.window.show();
+        QCOMPARE(shown.colorsDuring(100), QStringList(blue));
+    }
+
+    void anAnimationOfAHiddenDisplayWaitsAtItsFirstFrame()
+    {
+        IMV_UI_PhotoDisplay display{QImage()};
+        display.resize(frame);
+        display.loadGifAnimation(gif({{red, 20}, {blue, 20}}));
+        const QImage first = support::sheet(QSize(40, 30), red);
+        QVERIFY(support::sameImage(display.pixmap(), first));
+        QTest::qWait(100);
+        QVERIFY(support::sameImage(display.pixmap(), first));
+        display.show();
+        QTRY_COMPARE(display.pixmap().toImage().pixelColor(0, 0).name(), blue);
+    }
+
+    void aPictureEndsAnAnimation()
+    {
+        Shown shown{QImage()};
+        shown.display->loadGifAnimation(gif({{red, 20}, {blue, 20}}));
+        shown.display->setImage(support::sheet(frame, Qt::green));
+        QCOMPARE(shown.colorsDuring(100), QStringList(green));
+    }
+
+    void whatCannotBePlayedChangesNothing_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("missing") << path("missing.gif");
+        QTest::newRow("no GIF") << path("still.png");
+        QTest::newRow("no name") << "";
+    }
+
+    void whatCannotBePlayedChangesNothing()
+    {
+        QVERIFY(support::mosaic(frame).save(path("still.png")));
+        QFETCH(QString, name);
+        Shown shown(support::sheet(frame, Qt::green));
+        shown.display->loadGifAnimation(name);
+        QCOMPARE(shown.colorsDuring(50), QStringList(green));
+    }
+
+    void aFileThatVanishesWhileItPlaysDoesNoHarm()
+    {
+        Shown shown{QImage()};
+        const QString file = gif({{red, 20}, {blue, 20}});
+        shown.display->loadGifAnimation(file);
+        QVERIFY(QFile::remove(file));
+        QVERIFY(!shown.colorsDuring(150).contains(ground.name()));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    return support::run<tst_PhotoDisplay>(argc, argv);
+}
+
+#include "tst_PhotoDisplay.moc"
