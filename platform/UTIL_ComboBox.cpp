@@ -34,21 +34,23 @@ void UTIL_ComboBox::showPopup()
 
 void UTIL_ComboBox::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         showPopup();
-    else
+    } else {
         QComboBox::keyPressEvent(event);
+    }
 }
 
 void UTIL_ComboBox::paintEvent(QPaintEvent*)
 {
     UTIL_Skin::State state = UTIL_Skin::State::Resting;
-    if (!isEnabled())
+    if (!isEnabled()) {
         state = UTIL_Skin::State::Disabled;
-    else if (view()->isVisible())
+    } else if (view()->isVisible()) {
         state = UTIL_Skin::State::Pressed;
-    else if (underMouse())
+    } else if (underMouse()) {
         state = UTIL_Skin::State::Hovered;
+    }
     const UTIL_Skin::Look look = UTIL_Skin::look(UTIL_Skin::Control::Key, state);
 
     QPainter painter(this);

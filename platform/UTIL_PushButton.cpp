@@ -60,10 +60,11 @@ QSize UTIL_PushButton::minimumSizeHint() const
 
 void UTIL_PushButton::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         click();
-    else
+    } else {
         QPushButton::keyPressEvent(event);
+    }
 }
 
 void UTIL_PushButton::paintEvent(QPaintEvent*)
