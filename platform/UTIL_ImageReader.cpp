@@ -142,7 +142,8 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
 {
     const qint64 limit = m_pixelLimit ? *m_pixelLimit : UTIL_Platform::instance()->pixelLimit();
     const UTIL_PictureProbe probe = UTIL_PictureProbe::of(device);
-    if (!probe.format.isEmpty() && !m_format.isEmpty() && m_format != probe.format)
+    const bool isTold = !probe.format.isEmpty() || UTIL_PictureProbe::knows(m_format);
+    if (isTold && !m_format.isEmpty() && m_format != probe.format)
         return Failed;
     if (area(probe.size) > limit)
         return TooLarge;

@@ -3,6 +3,7 @@
 #include <QIODevice>
 #include <QtEndian>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -258,6 +259,12 @@ constexpr Kind kinds[] = {
 };
 
 } // namespace
+
+bool UTIL_PictureProbe::knows(const QByteArray& format)
+{
+    return std::any_of(std::begin(kinds), std::end(kinds),
+                       [&](const Kind& kind) { return format == kind.format; });
+}
 
 UTIL_PictureProbe UTIL_PictureProbe::of(QIODevice& device)
 {

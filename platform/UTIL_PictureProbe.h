@@ -22,6 +22,8 @@ struct UTIL_PictureProbe
     bool sound = false; ///< the file reaches its end mark and is no trap; a GIF's frames are not looked at
     QList<Range> kept;  ///< the parts of the file that hold the picture, in order
 
+    /// Whether files of the format are told by their first bytes.
+    [[nodiscard]] static bool knows(const QByteArray& format);
     /// Reads `device` from its start; the device's position afterwards is undefined.
     [[nodiscard]] static UTIL_PictureProbe of(QIODevice& device);
 };

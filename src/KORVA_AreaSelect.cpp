@@ -79,7 +79,8 @@ void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
 
 void KORVA_AreaSelect::selectAll()
 {
-    if (!isActive() || m_selecting)
+    const bool isDragging = m_selecting && m_pressed; // a tap alone leaves it selecting, too
+    if (!isActive() || isDragging)
         return;
     disableSelection();
     m_start = m_end = QPoint(0, 0);

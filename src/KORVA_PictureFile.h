@@ -65,9 +65,9 @@ private:
 
     QString m_name;
     Scale m_scale = Working;
-    QImage m_checked;  ///< what check() decoded; null when take() must decode itself
-    QString m_version; ///< of the file when it was examined; null when it was not
-    bool m_isDamaged = false; ///< a GIF that is not sound to its end
-    bool m_isTrap = false;    ///< and whose screen it would be a waste to decode
+    QImage m_checked;                       ///< what check() decoded; null when take() must decode itself
+    QString m_version;                      ///< of the file when it was examined; null when it was not
+    bool m_isDamaged = false;               ///< a GIF that is not sound to its end
+    bool m_isTrap = false;                  ///< and whose screen it would be a waste to decode
     std::optional<QRgb> m_transparentColor; ///< a GIF's
 };

@@ -27,6 +27,7 @@ private slots:
     void selectAllTakesTheWholeCanvas();
     void selectAllLeavesNoFrame();
     void selectAllDuringADragDoesNothing();
+    void selectAllAfterATapTakesTheWholeCanvas();
     void selectAllMergesAFloatingPieceFirst();
     void selectionMergesAFloatingPieceFirst();
     void leavingTheToolDropsTheSelection();
@@ -256,6 +257,16 @@ void tst_AreaSelect::selectAllDuringADragDoesNothing()
     desk.as<KORVA_AreaSelect>().selectAll();
     QVERIFY(!desk.canvas.hasSelection());
     QVERIFY(sameImage(desk.canvas.shown(), frame));
+}
+
+void tst_AreaSelect::selectAllAfterATapTakesTheWholeCanvas()
+{
+    Desk desk(fixtures::AreaSelect, support::mosaic(QSize(80, 60)));
+    desk.stylus.press({10, 10});
+    desk.stylus.release({10, 10});
+    desk.as<KORVA_AreaSelect>().selectAll();
+    QCOMPARE(desk.canvas.selection(), QRect(0, 0, 80, 60));
+    QVERIFY(sameImage(desk.canvas.pasteLabel()->getImage(), desk.base));
 }
 
 void tst_AreaSelect::selectAllMergesAFloatingPieceFirst()
