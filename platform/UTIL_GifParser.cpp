@@ -77,9 +77,10 @@ private:
     int decodePixels(const GifImageDesc& image)
     {
         std::vector<GifPixelType> row(size_t(image.Width));
-        for (int y = 0; y < image.Height; ++y)
+        for (int y = 0; y < image.Height; ++y) {
             if (DGifGetLine(m_gif, row.data(), image.Width) == GIF_ERROR)
                 return m_gif->Error;
+        }
         return NoError;
     }
 
@@ -89,9 +90,10 @@ private:
         GifByteType* block = nullptr;
         if (DGifGetCode(m_gif, &codeSize, &block) == GIF_ERROR)
             return m_gif->Error;
-        while (block)
+        while (block) {
             if (DGifGetCodeNext(m_gif, &block) == GIF_ERROR)
                 return m_gif->Error;
+        }
         return NoError;
     }
 
@@ -106,10 +108,11 @@ private:
             const QByteArrayView data(block + 1, block[0]);
             if (code == GRAPHICS_EXT_FUNC_CODE && isFirst)
                 readControl(data);
-            if (code == APPLICATION_EXT_FUNC_CODE && isFirst)
+            if (code == APPLICATION_EXT_FUNC_CODE && isFirst) {
                 isLoop = data == "NETSCAPE2.0" || data == "ANIMEXTS1.0";
-            else if (isLoop && data.size() == 3 && data[0] == 1)
+            } else if (isLoop && data.size() == 3 && data[0] == 1) {
                 m_parser.m_loopCount = qFromLittleEndian<quint16>(data.data() + 1);
+            }
             if (DGifGetExtensionNext(m_gif, &block) == GIF_ERROR)
                 return m_gif->Error;
         }

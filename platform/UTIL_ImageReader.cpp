@@ -131,10 +131,11 @@ bool UTIL_ImageReader::read()
         if (file.open(QIODevice::ReadOnly))
             m_status = readFrom(file);
     }
-    if (m_status != Ok)
+    if (m_status != Ok) {
         m_image = {};
-    else if (m_parameters == "16")
+    } else if (m_parameters == "16") {
         m_image.convertTo(QImage::Format_RGB16, Qt::AvoidDither);
+    }
     return m_status == Ok;
 }
 

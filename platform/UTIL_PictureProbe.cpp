@@ -121,10 +121,11 @@ void probePng(Bytes& bytes, Probe& probe)
         const bool critical = name.front() >= 'A' && name.front() <= 'Z';
         if (critical || name == "tRNS") {
             Probe::Range& last = probe.kept.last();
-            if (last.start + last.length == start)
+            if (last.start + last.length == start) {
                 last.length = end - last.start;
-            else
+            } else {
                 probe.kept.append({start, end - start});
+            }
         }
         if (!bytes.skip(end - bytes.position()))
             return;
@@ -206,9 +207,10 @@ void probeGif(Bytes& bytes, Probe& probe)
     std::optional<quint8> block = bytes.byte();
     while (block == '!') {
         bytes.skip(1);
-        for (std::optional<quint8> length = bytes.byte(); length.value_or(0) > 0; length = bytes.byte())
+        for (std::optional<quint8> length = bytes.byte(); length.value_or(0) > 0; length = bytes.byte()) {
             if (!bytes.skip(*length))
                 return;
+        }
         block = bytes.byte();
     }
     const std::optional<quint16> left = coordinate();

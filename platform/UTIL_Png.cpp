@@ -28,10 +28,11 @@ public:
     }
     ~Session()
     {
-        if (m_isWriting)
+        if (m_isWriting) {
             png_destroy_write_struct(&m_png, &m_info);
-        else
+        } else {
             png_destroy_read_struct(&m_png, &m_info, nullptr);
+        }
     }
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -112,9 +113,10 @@ Pixels trueColor(const QImage& image)
     pixels.bytes.reserve(size_t(image.width()) * size_t(image.height()) * 3);
     for (int y = 0; y < image.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < image.width(); ++x) {
             for (const int channel : {qRed(row[x]), qGreen(row[x]), qBlue(row[x])})
                 pixels.bytes.push_back(quint8(channel));
+        }
     }
     return pixels;
 }
@@ -232,9 +234,10 @@ QImage png::readReduced(QIODevice& device, QSize target)
 
     UTIL_Reducer reducer(size, target);
     const bool complete = session.attempt([&] {
-        for (int pass = 1; pass < passes; ++pass)
+        for (int pass = 1; pass < passes; ++pass) {
             for (int y = 0; y < size.height(); ++y)
                 png_read_row(png, rows.scanLine(y), nullptr);
+        }
         for (int y = 0; y < size.height(); ++y) {
             uchar* row = rows.scanLine(passes > 1 ? y : 0);
             png_read_row(png, row, nullptr);

@@ -25,7 +25,7 @@ UTIL_SaveDialog::UTIL_SaveDialog(QWidget* parent, const QString& path, const QSt
     m_edit->setAccessibleName(tr("File name", "SAVE_DIALOG;CONTEXT"));
     addBelowFolder(m_edit);
     connect(m_edit, &QLineEdit::textChanged, this, [this] { confirmKey().setEnabled(!name().isEmpty()); });
-    enter(path);
+    UTIL_SaveDialog::enter(path);
     m_edit->setText(freeName());
     m_edit->setFocus();
 }
@@ -82,7 +82,7 @@ QString UTIL_SaveDialog::freeName() const
 
 QString UTIL_SaveDialog::name() const
 {
-    const QString typed = m_edit->text().trimmed();
+    QString typed = m_edit->text().trimmed();
     const QFileInfo file(typed);
     const QString extension = QLatin1Char('.') + file.suffix();
     if (file.completeBaseName().isEmpty() || typed.contains(QLatin1Char('\'')))
