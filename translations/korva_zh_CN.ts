@@ -1,0 +1,369 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>KORVA_Canvas</name>
+    <message>
+        <source>Cut</source>
+        <comment>2.11.1;MENU</comment>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <comment>2.11.1;MENU</comment>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <comment>2.11.1;MENU</comment>
+        <translation>粘贴</translation>
+    </message>
+</context>
+<context>
+    <name>KORVA_ChooseCanvasDlg</name>
+    <message>
+        <source>32 X 40(stamp)</source>
+        <comment>2.11.3;MENU</comment>
+        <translation>32 X 40（图章）</translation>
+    </message>
+    <message>
+        <source>200 X 170(normal)</source>
+        <comment>2.11.3;MENU</comment>
+        <translation>200 X 170（标准）</translation>
+    </message>
+    <message>
+        <source>Canvas Size:</source>
+        <comment>2.11.3;DIALOG_CONTEXT</comment>
+        <translation>画布大小：</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>2.11.3;SOFTKEY_2BUTTON</comment>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>2.11.3;SOFTKEY_2BUTTON</comment>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>KORVA_ColorPicker</name>
+    <message>
+        <source>Red</source>
+        <comment>colour channel</comment>
+        <translation>红</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <comment>colour channel</comment>
+        <translation>绿</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <comment>colour channel</comment>
+        <translation>蓝</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <comment>2.11.6;DIALOG_TITLE</comment>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>2.11.6;SOFTKEY_2BUTTON</comment>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>2.11.6;SOFTKEY_2BUTTON</comment>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>KORVA_EditCanvas</name>
+    <message>
+        <source>Save changes to drawing before opening?</source>
+        <comment>2.11.2.3;DIALOG_ICON_50_WARP</comment>
+        <translation>打开前是否保存对绘图的更改？</translation>
+    </message>
+    <message>
+        <source>Save changes to drawing before choosing canvas?</source>
+        <comment>2.11.2.3;DIALOG_ICON_50_WARP</comment>
+        <translation>选择画布前是否保存对绘图的更改？</translation>
+    </message>
+    <message>
+        <source>Save changes to drawing before creating?</source>
+        <comment>2.11.2.3;DIALOG_ICON_50_WARP</comment>
+        <translation>新建前是否保存对绘图的更改？</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <comment>2.11.2.3;SOFTKEY_2BUTTON</comment>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <comment>2.11.2.3;SOFTKEY_2BUTTON</comment>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>The image is oversize</source>
+        <comment>2.11.2.9;DIALOG_ICON_50</comment>
+        <translation>图片过大</translation>
+    </message>
+    <message>
+        <source>Failed to open file</source>
+        <comment>2.11.2.9;DIALOG_ICON_50</comment>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>This file can not be opened.</source>
+        <comment>4.4.4.2;DIALOG_ICON_50_WARP</comment>
+        <translation>此文件无法打开。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>4.4.4.2;SOFTKEY_1BUTTON</comment>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>open buffer fail!</source>
+        <comment>2.11.2.9;DIALOG_ICON_50</comment>
+        <translation>无法打开传入的图片！</translation>
+    </message>
+    <message>
+        <source>Saved Successfully</source>
+        <comment>2.11.2.9;DIALOG_ICON_50</comment>
+        <translation>保存成功</translation>
+    </message>
+    <message>
+        <source>Saved Failed</source>
+        <comment>2.11.2.10;DIALOG_ICON_50</comment>
+        <translation>保存失败</translation>
+    </message>
+    <message>
+        <source>Delete drawing?</source>
+        <comment>2.11.2.1;DIALOG_ICON_50</comment>
+        <translation>删除绘图？</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>2.11.2.1;SOFTKEY_2BUTTON</comment>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>2.11.2.1;SOFTKEY_2BUTTON</comment>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <comment>2.11.1;MENU</comment>
+        <translation>适合页面</translation>
+    </message>
+    <message>
+        <source>Tool</source>
+        <comment>tool bar</comment>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Tool option</source>
+        <comment>tool bar</comment>
+        <translation>工具选项</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>tool bar</comment>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <comment>tool bar</comment>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <comment>tool</comment>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Eraser</source>
+        <comment>tool</comment>
+        <translation>橡皮擦</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <comment>tool</comment>
+        <translation>直线</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <comment>tool</comment>
+        <translation>铅笔</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <comment>tool</comment>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <comment>tool</comment>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <comment>tool</comment>
+        <translation>椭圆</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <comment>tool option</comment>
+        <translation>小</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <comment>tool option</comment>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <comment>tool option</comment>
+        <translation>大</translation>
+    </message>
+    <message>
+        <source>Select area</source>
+        <comment>tool option</comment>
+        <translation>选择区域</translation>
+    </message>
+    <message>
+        <source>Move view</source>
+        <comment>tool option</comment>
+        <translation>移动视图</translation>
+    </message>
+    <message>
+        <source>7 point</source>
+        <comment>tool option</comment>
+        <translation>7 磅</translation>
+    </message>
+    <message>
+        <source>9 point</source>
+        <comment>tool option</comment>
+        <translation>9 磅</translation>
+    </message>
+    <message>
+        <source>11 point</source>
+        <comment>tool option</comment>
+        <translation>11 磅</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <comment>tool option</comment>
+        <translation>轮廓</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <comment>tool option</comment>
+        <translation>填充</translation>
+    </message>
+</context>
+<context>
+    <name>KORVA_PasteLabel</name>
+    <message>
+        <source>Copy</source>
+        <comment>2.11.1;MENU</comment>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <comment>2.11.1;MENU</comment>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <comment>2.11.1;MENU</comment>
+        <translation>粘贴</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_FolderDialog</name>
+    <message>
+        <source>Up</source>
+        <comment>FOLDER_DIALOG;BUTTON</comment>
+        <translation>向上</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>FOLDER_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>FOLDER_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_MessageBox</name>
+    <message>
+        <source>Cancel</source>
+        <comment>message box</comment>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_PickDialog</name>
+    <message>
+        <source>Open picture</source>
+        <comment>PICK_DIALOG;TITLE</comment>
+        <translation>打开图片</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_PictureView</name>
+    <message>
+        <source>There are no pictures here.</source>
+        <comment>FOLDER_DIALOG;CONTEXT</comment>
+        <translation>这里没有图片。</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_SaveDialog</name>
+    <message>
+        <source>Save picture</source>
+        <comment>SAVE_DIALOG;TITLE</comment>
+        <translation>保存图片</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <comment>SAVE_DIALOG;CONTEXT</comment>
+        <translation>文件名</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Replace %1?</source>
+        <comment>SAVE_DIALOG;DIALOG_ICON_50_WARP</comment>
+        <translation>替换 %1？</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <comment>SAVE_DIALOG;CONTEXT</comment>
+        <translation>绘图</translation>
+    </message>
+    <message>
+        <source>Drawing %1</source>
+        <comment>SAVE_DIALOG;CONTEXT</comment>
+        <translation>绘图 %1</translation>
+    </message>
+</context>
+</TS>
