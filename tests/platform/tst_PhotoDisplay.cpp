@@ -92,8 +92,12 @@ public:
             return 1;
         if (!support::sameImage(shown.grab(), full, "sharp"))
             return 2;
+        const QImage read = support::mosaic(QSize(408, 305)); // what a reader makes of 4000 × 2995
+        shown.display->setImage(read);
+        if (!support::sameImage(shown.display->pixmap(), read, "read"))
+            return 3;
         shown.display->setImage(support::sheet(QSize(60, 50), Qt::black));
-        return shown.area() == QRect(144, 120, 120, 100) ? 0 : 3;
+        return shown.area() == QRect(144, 120, 120, 100) ? 0 : 4;
     }
 
 private slots:
@@ -263,7 +267,7 @@ private slots:
         QFETCH(int, loops);
         Shown shown{QImage()};
         shown.display->loadGifAnimation(gif({{red, 30}, {blue, 30}}, loops));
-        QTEST(shown.colorsDuring(600), "colors"); // its last frame stays
+        QTEST(shown.colorsDuring(450), "colors"); // its last frame stays
     }
 
     void anAnimationPlaysForEver()
@@ -308,8 +312,11 @@ private slots:
         display.loadGifAnimation(gif({{red, 20}, {blue, 20}}));
         const QImage first = support::sheet(QSize(40, 30), red);
         QVERIFY(support::sameImage(display.pixmap(), first));
-        QTest::qWait(100);
-        QVERIFY(support::sameImage(display.pixmap(), first));
+        const qint64 picture = display.pixmap().cacheKey();
+        for (int waited = 0; waited < 10; ++waited) {
+            QTest::qWait(10);
+            QCOMPARE(display.pixmap().cacheKey(), picture);
+        }
         display.show();
         QTRY_COMPARE(display.pixmap().toImage().pixelColor(0, 0).name(), blue);
     }
