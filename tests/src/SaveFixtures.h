@@ -3,7 +3,7 @@
 #include "KORVA_PictureSave.h"
 #include "support/Images.h"
 #include "support/PictureFiles.h"
-#include "support/TestCase.h"
+#include "support/SaveTest.h"
 
 /// What the tests of saving share.
 namespace fixtures {
@@ -21,28 +21,6 @@ inline QImage red()
 {
     return support::sheet(QSize(40, 30), Qt::red);
 }
-
-/// A download folder with its appwrite, and a folder photos in it, which also is the current one. It goes
-/// with the object.
-class SaveFolder
-{
-public:
-    SaveFolder()
-    {
-        QDir(path("")).mkpath("appwrite");
-        QDir(path("")).mkdir("photos");
-        qputenv(variable, path("").toUtf8());
-        QDir::setCurrent(path(""));
-    }
-    ~SaveFolder() { QDir::setCurrent("/"); }
-    SaveFolder(const SaveFolder&) = delete;
-    SaveFolder& operator=(const SaveFolder&) = delete;
-
-    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
-
-private:
-    QTemporaryDir m_folder;
-};
 
 [[nodiscard]] inline QStringList filesIn(const QString& folder)
 {

@@ -97,28 +97,16 @@ enum class Fault {
 } // namespace
 
 /// What is left when a save fails, or is not let to its end.
-class tst_PictureFaults : public support::TestCase
+class tst_PictureFaults : public support::SaveTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        TestCase::init();
-        m_folder.emplace();
-    }
-    void cleanup() { m_folder.reset(); }
-
     void savesAcrossFileSystems();
     void faultLeavesTheOldFile_data();
     void faultLeavesTheOldFile();
     void targetSurvivesKills_data();
     void targetSurvivesKills();
-
-private:
-    [[nodiscard]] QString path(const QString& name) const { return m_folder->path(name); }
-
-    std::optional<fixtures::SaveFolder> m_folder;
 };
 
 void tst_PictureFaults::savesAcrossFileSystems()

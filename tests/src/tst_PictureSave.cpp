@@ -8,18 +8,11 @@ using fixtures::variable;
 using support::contents;
 using support::write;
 
-class tst_PictureSave : public support::TestCase
+class tst_PictureSave : public support::SaveTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        TestCase::init();
-        m_folder.emplace();
-    }
-    void cleanup() { m_folder.reset(); }
-
     void temporaryPath_data();
     void temporaryPath();
     void roundTripIsExact_data();
@@ -36,11 +29,6 @@ private slots:
     void leadingDashIsNoOption();
     void existingFileIsReplaced();
     void staleTemporaryFileIsNotWrittenThrough();
-
-private:
-    [[nodiscard]] QString path(const QString& name) const { return m_folder->path(name); }
-
-    std::optional<fixtures::SaveFolder> m_folder;
 };
 
 void tst_PictureSave::temporaryPath_data()
