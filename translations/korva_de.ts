@@ -269,6 +269,39 @@
     </message>
 </context>
 <context>
+    <name>KORVA_ImageView_Dialog</name>
+    <message>
+        <source>Cancel</source>
+        <comment>4.4.2.12;SOFTKEY_2BUTTON</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <comment>4.4.2.12;SOFTKEY_2BUTTON</comment>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <source>The image is oversize</source>
+        <comment>2.11.2.9;DIALOG_ICON_50</comment>
+        <translation>Das Bild ist zu groß</translation>
+    </message>
+    <message>
+        <source>Failed to open file</source>
+        <comment>2.11.2.9;DIALOG_ICON_50</comment>
+        <translation>Die Datei konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Picture load error.</source>
+        <comment>2.16.5.9.4;FORM_CONTEXT_WITH_SCROLL_ICON1_20_WARP2</comment>
+        <translation>Das Bild konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>2.16.5.9.4;CST_5BUTTON</comment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>KORVA_PasteLabel</name>
     <message>
         <source>Copy</source>
@@ -284,6 +317,19 @@
         <source>Paste</source>
         <comment>2.11.1;MENU</comment>
         <translation>Einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>KORVA_Preview_Dialog</name>
+    <message>
+        <source>Cancel</source>
+        <comment>4.4.2.12;SOFTKEY_2BUTTON</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <comment>4.4.2.12;SOFTKEY_2BUTTON</comment>
+        <translation>Bestätigen</translation>
     </message>
 </context>
 <context>
