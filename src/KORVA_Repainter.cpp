@@ -10,14 +10,13 @@ constexpr int interval = 8; // milliseconds: half a frame of most screens
 
 } // namespace
 
-void KORVA_Repainter::add(const QRegion& changed)
+void KORVA_Repainter::add(const QRect& changed)
 {
-    m_changed += changed;
-    const qint64 elapsed = m_sinceLast.isValid() ? m_sinceLast.elapsed() : interval;
-    if (elapsed >= interval)
+    m_changed |= changed;
+    if (!m_sinceLast.isValid() || m_sinceLast.elapsed() >= interval)
         repaint();
     else if (!m_timer.isActive())
-        m_timer.start(static_cast<int>(interval - elapsed), Qt::PreciseTimer, this);
+        m_timer.start(interval, Qt::PreciseTimer, this); // a steady stream of changes comes before it
 }
 
 void KORVA_Repainter::timerEvent(QTimerEvent*)

@@ -3,12 +3,13 @@
 #include <QBasicTimer>
 #include <QElapsedTimer>
 #include <QObject>
-#include <QRegion>
+#include <QRect>
 
 class QWidget;
 
-/// Brings a widget's changes to the screen at the screen's pace: at once when the last repaint is some time
-/// ago, else together with what follows, and never later than that time. Only what changed is painted.
+/// Brings a widget's changes to the screen at the screen's pace: at once when the last repaint is 8 ms ago
+/// or more, else together with the next change, and never later than 8 ms after it. Only the rectangle
+/// around what changed is painted.
 class KORVA_Repainter : public QObject
 {
     Q_OBJECT
@@ -17,7 +18,7 @@ public:
     explicit KORVA_Repainter(QWidget* widget) : m_widget(widget) {}
 
     /// In widget coordinates.
-    void add(const QRegion& changed);
+    void add(const QRect& changed);
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -26,7 +27,7 @@ private:
     void repaint();
 
     QWidget* m_widget; // owns this object
-    QRegion m_changed;
+    QRect m_changed;
     QElapsedTimer m_sinceLast;
     QBasicTimer m_timer;
 };
