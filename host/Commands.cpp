@@ -89,7 +89,7 @@ void Commands::addEntries()
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Copy", "menu"), "Ctrl+C", Needs::Selection,
          [](Commands& c) { c.perform(Verb::Copy); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Paste", "menu"), "Ctrl+V", Needs::Clipboard,
-         [](Commands& c) { c.perform(Verb::Paste); }},
+         [](Commands& c) { c.paste(); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "Select &all", "menu"), "Ctrl+A", Needs::Nothing,
          [](Commands& c) { c.perform(Verb::SelectAll); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
@@ -122,7 +122,7 @@ QAction* Commands::add(const Entry& entry)
 
 void Commands::follow()
 {
-    for (const Needs needs : {Needs::Undo, Needs::Redo, Needs::Selection, Needs::Clipboard})
+    for (const Needs needs : {Needs::Undo, Needs::Redo, Needs::Selection})
         setAvailable(needs, false);
     setAvailable(Needs::File, !m_editor.fileName().isEmpty());
 
@@ -135,10 +135,12 @@ void Commands::follow()
     let(&KORVA_EditCanvas::canDelete, Needs::File);
     connect(&m_editor, &KORVA_EditCanvas::canDelete, this, &Commands::documentChanged);
 
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &Commands::updateClipboard);
-    // Later: asking another program for its clipboard takes time that the first picture should not wait
-    // for.
-    QMetaObject::invokeMethod(this, &Commands::updateClipboard, Qt::QueuedConnection);
+    // What is on the clipboard is found out when it matters: asking another program takes time and brings
+    // in every picture format that the toolkit knows.
+    setAvailable(Needs::Clipboard, true);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
+            [this] { setAvailable(Needs::Clipboard, true); });
+    connect(m_menu, &QMenu::aboutToShow, this, &Commands::updateClipboard);
 }
 
 void Commands::setAvailable(Needs what, bool available)
@@ -151,10 +153,12 @@ void Commands::setAvailable(Needs what, bool available)
         emit contextActionChanged();
 }
 
-void Commands::updateClipboard()
+bool Commands::updateClipboard()
 {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    setAvailable(Needs::Clipboard, data && data->hasImage());
+    const bool hasPicture = data && data->hasImage();
+    setAvailable(Needs::Clipboard, hasPicture);
+    return hasPicture;
 }
 
 QAction* Commands::contextAction() const
@@ -179,6 +183,12 @@ void Commands::perform(Verb verb)
 {
     performOn(m_editor, verb);
     emit performed(Command{.verb = verb});
+}
+
+void Commands::paste()
+{
+    if (updateClipboard())
+        perform(Verb::Paste);
 }
 
 void Commands::newDrawing()

@@ -47,7 +47,7 @@ private:
         Undo,      ///< a change to take back
         Redo,      ///< a change taken back
         Selection, ///< a floating piece
-        Clipboard, ///< a picture on it
+        Clipboard, ///< a picture on it; taken for granted until somebody asks
     };
     struct Dependent
     {
@@ -59,7 +59,7 @@ private:
     QAction* add(const Entry& entry);
     void follow();
     void setAvailable(Needs what, bool available);
-    void updateClipboard();
+    bool updateClipboard();
 
     void newDrawing();
     void open();
@@ -67,6 +67,7 @@ private:
     void stamp();
     void remove();
     void perform(Verb verb);
+    void paste();
     [[nodiscard]] int askCanvasType();
 
     KORVA_EditCanvas& m_editor;
