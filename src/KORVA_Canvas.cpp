@@ -427,8 +427,9 @@ void KORVA_Canvas::rebuildZoomed()
 
 void KORVA_Canvas::paintZoomed()
 {
-    m_zoomed->fill(Qt::white);
-    {
+    if (zoom() == 100) {
+        *m_zoomed = *m_picture; // one picture in memory until either is painted on
+    } else {                    // the picture covers it and is opaque
         KORVA_ClassicPainter painter(m_zoomed.get());
         painter.setWorldMatrix(m_zoom.toWidgetMatrix());
         painter.drawPixmap(0, 0, *m_picture);

@@ -42,7 +42,8 @@ void mirrorAboutAnchor(int& origin, int& length)
 KORVA_ClassicPainter::KORVA_ClassicPainter(QPaintDevice* target, RasterOp op)
     : m_painter(paintable(target, m_nothing))
 {
-    setRasterOp(op);
+    if (op != CopyROP)
+        setRasterOp(op);
 }
 
 void KORVA_ClassicPainter::setPen(const QPen& pen)

@@ -21,6 +21,7 @@ private slots:
     void pasteItemIsToldTheZoom();
     void ratesBelowOneAreIgnored();
     void updateZoomedShowsWhatWasPainted();
+    void thePictureCoversTheZoomedOne();
     void emptyClipboardPictureStaysEmpty();
     void coordinatesTruncateTowardZero();
     void penWidthTruncates();
@@ -148,6 +149,21 @@ void tst_Zoom::updateZoomedShowsWhatWasPainted()
     QVERIFY(sameImage(canvas.shown(), support::sheet(QSize(30, 30), Qt::blue)));
     QVERIFY(sameImage(canvas.grab(), support::sheet(QSize(30, 30), Qt::blue)));
     QVERIFY(!canvas.isModified());
+}
+
+void tst_Zoom::thePictureCoversTheZoomedOne()
+{
+    for (int side = 1; side <= 40; ++side) {
+        PictureCanvas canvas(support::sheet(QSize(side, 2 * side + 1), Qt::blue));
+        for (int zoom = 3; zoom <= 400; zoom += 7) {
+            canvas.setZoom(zoom);
+            canvas.zoomedPixmap()->fill(Qt::red);
+            canvas.updateZoomed();
+            const QImage expected = support::sheet(canvas.zoomedPixmap()->size(), Qt::blue);
+            QVERIFY2(sameImage(canvas.shown(), expected),
+                     qPrintable(QStringLiteral("%1 pixels wide at %2 %").arg(side).arg(zoom)));
+        }
+    }
 }
 
 void tst_Zoom::emptyClipboardPictureStaysEmpty()
