@@ -1,0 +1,72 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <KORVA_Canvas.h>
+#include <KORVA_EditCanvas.h>
+#include <KORVA_Manager.h>
+
+#include <QEvent>
+#include <QImage>
+#include <QWidget>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// What happens inside the library, operation by operation, each beside its physical limit. A limit bears
+/// the name of its operation with "/limit" behind it; the report prints the two as a ratio.
+namespace bench {
+
+enum Tool { Pencil, Select, Line, Text, Rectangle, Ellipse, Eraser };
+
+/// An editor in a window of 240 × 320, with a picture of noise.
+class Editor
+{
+public:
+    explicit Editor(QSize picture, int zoomPercent = 100, Tool tool = Pencil);
+
+    KORVA_EditCanvas* operator->() { return &m_editor; }
+    KORVA_Canvas& canvas() { return *m_editor.canvas(); }
+
+    /// Widget coordinates, through the toolkit as a stylus's events.
+    void press(QPoint at);
+    void move(QPoint to);
+    void release(QPoint at);
+    void key(Qt::Key key, const QString& text);
+
+private:
+    void send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons buttons);
+
+    QWidget m_window;
+    KORVA_EditCanvas m_editor;
+};
+
+/// A picture that no codec finds easy: soft shapes and noise, always the same for a size.
+[[nodiscard]] QImage noise(QSize size);
+
+/// A walk to and fro over an area, a few pixels at a time.
+[[nodiscard]] std::vector<QPoint> walk(QSize area);
+
+struct PictureSize
+{
+    QSize size;
+    [[nodiscard]] std::string name() const;
+};
+/// Every quarter of the area, from the stamp to four times the working size in each direction.
+extern const std::vector<PictureSize> growingSizes;
+extern const std::vector<int> zoomRates;
+
+/// Copies so many bytes once a round, from memory to memory that were both touched before.
+void copyBytes(benchmark::State& state, size_t bytes);
+/// The bytes of a picture on the screen or at real size: four a pixel.
+[[nodiscard]] size_t bytesOf(QSize size);
+
+using Body = std::function<void(benchmark::State&)>;
+void add(const std::string& name, const Body& body, const Body& limit);
+
+void addStrokes();
+void addPictures();
+void addFiles(const QString& folder);
+
+} // namespace bench
