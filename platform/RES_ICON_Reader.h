@@ -9,8 +9,9 @@
 class KORVA_EXPORT RES_ICON_Reader
 {
 public:
-    /// The picture of a plain file name such as "Dialog_Error.gif", as sharp as the screen can show it: of
-    /// "Dialog_Error@2x.gif" and "Dialog_Error@3x.gif" the one that fits the device pixel ratio. A file in
-    /// UTIL_Platform::iconFolder() comes before the built-in one. Null for an unknown name.
+    /// The picture of a plain file name such as "Dialog_Error.gif", as sharp as the screen can show it:
+    /// `Dialog_Error@2x.gif` or `Dialog_Error@3x.gif` where the device pixel ratio asks for it. A file in
+    /// UTIL_Platform::iconFolder() comes before the built-in one. Null for an unknown name and for one with
+    /// a slash. Only while there is an application object.
     [[nodiscard]] static QPixmap getIcon(const QString& name);
 };

@@ -11,8 +11,10 @@ class KORVA_EXPORT UTIL_ComboBox : public QComboBox
     Q_OBJECT
 
 public:
+    /// A box without entries.
     explicit UTIL_ComboBox(QWidget* parent = nullptr);
 
+    /// Opens the list, moved into the window.
     void showPopup() override;
 
 protected:

@@ -20,30 +20,35 @@ class KORVA_EXPORT UTIL_Dialog : public QDialog
     Q_OBJECT
 
 public:
+    /// How a dialog gets its size.
     enum Type : int {
-        StandardDialog = 0, ///< the size and places of UTIL_Geometry
+        StandardDialog = 0, ///< UTIL_Skin::Size::dialogWidth × UTIL_Skin::Size::dialogHeight
         FreeDialog = 1,     ///< sized by the derived class
     };
 
+    /// `type` is a Type. Of `flags` the kind of window is not taken: it is a frameless dialog.
     UTIL_Dialog(int type, bool modal, QWidget* parent = nullptr, const char* name = nullptr,
                 Qt::WindowFlags flags = {});
     ~UTIL_Dialog() override;
 
-    /// An empty title takes no room on the screen.
+    /// Sets the title in the card and the window's; an empty one is not shown.
     void setDlgTitle(const QString& title);
+    /// The title.
     [[nodiscard]] QString dlgTitle() const;
 
-    /// A rectangle of the geometry service in this dialog's coordinates.
+    /// A rectangle of the screen in this dialog's coordinates.
     [[nodiscard]] QRect fromGlobal(const QRect& global) const;
 
+    /// Puts the dialog in its place, and the veil over the window, before it is shown.
     void setVisible(bool visible) override;
 
 protected:
-    /// A soft key in the rectangle that its UTIL_PushButton flags name. The dialog owns it.
+    /// A soft key in the lower left corner, or the right one: the first or second by its
+    /// UTIL_PushButton::Flag. For standard dialogs. The dialog owns it.
     UTIL_PushButton* createSoftKey(const QString& text, int flags);
 
     void paintEvent(QPaintEvent* event) override;
-    /// Whether the parent's window is veiled while the dialog is open.
+    /// Whether the parent's window is veiled while the dialog is open: when the dialog is modal.
     [[nodiscard]] virtual bool isVeiling() const;
 
 private:

@@ -14,18 +14,21 @@ class KORVA_EXPORT UTIL_ListBox : public QListWidget
     Q_OBJECT
 
 public:
-    /// `layout` divides the rows into fields, as "%T5%R20%T5%T189": %T<width> a text, %R<width> the mark.
+    /// `layout` divides the rows into fields from left to right, each a letter and its width in pixels:
+    /// `%T5` a text, `%R20` the mark, as in `%T5%R20%T5%T189`. It is read up to the first thing that is
+    /// none.
     explicit UTIL_ListBox(const QString& layout, QWidget* parent = nullptr, const char* name = nullptr);
 
     /// Takes the item over; a negative position, or one past the end, appends it.
     void insertItem(UTIL_ListBoxItem* item, int position = -1);
-    /// Gives the mark to a row, or takes it away from it; nothing for a row that does not exist.
+    /// Gives the mark to a row and makes that the current one, or takes it away from it; nothing for a row
+    /// that does not exist. No mouseButtonClicked().
     void checkItem(int row, bool checked);
     /// The row of the keyboard, -1 for none.
     [[nodiscard]] int currentItemIndex() const { return currentRow(); }
 
 signals:
-    /// A row was chosen: with a mouse button, or from the keyboard (0). Its row is the current one and
+    /// A row was chosen: with a Qt::MouseButton, or from the keyboard (0). It is the current one and
     /// carries the mark. `position` is global.
     void mouseButtonClicked(int button, QListWidgetItem* item, const QPoint& position);
 

@@ -9,12 +9,16 @@
 class KORVA_EXPORT UTIL_ListBoxItem : public QListWidgetItem
 {
 public:
+    /// A row without texts and mark.
     UTIL_ListBoxItem();
 
     /// Sets the text of a field of the list box's layout, 0 the first; nothing for a negative one.
     void setString(int field, const QString& text);
-    /// Empty for a field that was never set.
+    /// The text of a field; empty for one that was never set.
     [[nodiscard]] QString string(int field) const;
 
-    enum Role : int { StringsRole = Qt::UserRole };
+    /// The item's data beside Qt's own.
+    enum Role : int {
+        StringsRole = Qt::UserRole, ///< the texts of the fields, a QStringList
+    };
 };

@@ -2,20 +2,22 @@
 
 #include "UTIL_Dialog.h"
 
-/// What a folder dialog gives: exec() is 1 when it was accepted, with the file's name.
+/// The base of the folder dialogs that UTIL_Platform makes: exec() is 1 when one was accepted, with the
+/// file's name.
 class KORVA_EXPORT UTIL_PictureDialog : public UTIL_Dialog
 {
     Q_OBJECT
 
 public:
+    /// A modal dialog; the derived class fills and sizes it.
     explicit UTIL_PictureDialog(QWidget* parent = nullptr, Qt::WindowFlags flags = {})
         : UTIL_Dialog(FreeDialog, true, parent, nullptr, flags)
     {
     }
 
-    /// Empty: none was chosen.
+    /// The path of the file chosen; empty: none was.
     [[nodiscard]] QString fileName() const { return m_fileName; }
-    /// Before the dialog opens: what it proposes.
+    /// Before the dialog opens: what it proposes. From the derived class: what was chosen.
     void setFileName(const QString& name) { m_fileName = name; }
 
 private:

@@ -11,12 +11,16 @@ class QWidget;
 class UTIL_PictureDialog;
 
 /// The services of the device that the engine stands on. A host that has its own derives from this class,
-/// overrides what it replaces and hands the object to install(); everything else stays the desktop's.
+/// overrides what it replaces and hands the object to install(); everything else stays the desktop's. What
+/// it overrides may call the base class.
 ///
-/// Called from the GUI thread only.
+/// Called from the GUI thread only. `icon` is always a file name for RES_ICON_Reader::getIcon(), `parent`
+/// the widget whose window a box or dialog belongs to, and boxes are modal: the call returns when the box
+/// is gone.
 class KORVA_EXPORT UTIL_Platform
 {
 public:
+    /// The desktop's services.
     UTIL_Platform();
     virtual ~UTIL_Platform();
     UTIL_Platform(const UTIL_Platform&) = delete;
@@ -24,39 +28,44 @@ public:
 
     /// The services in force; never null.
     static UTIL_Platform* instance();
-    /// Puts other services in force; null brings the desktop's back.
+    /// Puts other services in force, for good or until the next call, and deletes those before; null brings
+    /// the desktop's back. Before the first widget is made: some services are asked for then.
     static void install(std::unique_ptr<UTIL_Platform> platform);
 
-    // `icon` is a file name for RES_ICON_Reader. Every box is modal and belongs to the parent's window.
-
-    /// Asks and returns the index of the button pressed, 0 the first. Only the buttons answer; Escape and
-    /// closing mean the button named "Cancel" where there is one.
+    /// Asks and returns the index of the button pressed, 0 the first: to the library that is the yes, and
+    /// every other number the no. Only the buttons answer; Escape and closing mean the button named
+    /// "Cancel" where there is one.
     virtual int question(QWidget* parent, const QString& icon, const QString& text,
                          const QStringList& buttons);
     /// Tells something until its button or a tap takes it away, at most `timeout` seconds.
     virtual void timedInformation(QWidget* parent, const QString& icon, const QString& text,
                                   const QString& button, int timeout);
-    /// The same without a button.
+    /// As timedInformation(), without a button.
     virtual void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout);
-    /// How many milliseconds a second of a time-out lasts; 0 closes timed boxes at once.
+    /// How many milliseconds a second of a time-out lasts in the desktop's boxes: 1000. 0 or less closes
+    /// them at once.
     [[nodiscard]] virtual int timeoutSecond() const;
 
-    /// Dialogs in which the user picks or names one picture file, filtered by the patterns ("*.png").
-    /// Children of the parent; the caller deletes them.
+    /// A dialog in which the user picks one picture file, starting in a folder and filtered by the patterns
+    /// ("*.png"). A child of the parent; the caller runs and deletes it. Never null.
     virtual UTIL_PictureDialog* createPickDialog(QWidget* parent, const QString& folder,
                                                  const QStringList& patterns);
+    /// The same for naming the file that is to be written. Whether a file may be replaced is asked here,
+    /// and by nobody after.
     virtual UTIL_PictureDialog* createSaveDialog(QWidget* parent, const QString& folder,
                                                  const QStringList& patterns);
 
-    /// Where the user's pictures live; folder dialogs start there.
+    /// Where the user's pictures live; folder dialogs start there. The desktop's is the Pictures folder.
     [[nodiscard]] virtual QString photoFolder() const;
-    /// A folder whose files replace the built-in icons of the same names; empty for none.
+    /// A folder whose files replace the built-in icons of the same names; empty, as the desktop's is, for
+    /// none.
     [[nodiscard]] virtual QString iconFolder() const;
-    /// The most pixels (width × height) a picture file may have to be decoded.
+    /// The most pixels (width × height) a picture file may have to be decoded: 64 000 000.
     [[nodiscard]] virtual qint64 pixelLimit() const;
 
-    /// How a touch screen reports to this widget; 1 asks for mouse events. Nothing on a desktop.
+    /// How a touch screen reports to a widget that is being made; 1, the one mode in use, asks for mouse
+    /// events. Nothing on a desktop.
     virtual void setMouseMode(QWidget* widget, int mode);
-    /// Whether the on-screen keyboard hides by itself. Nothing on a desktop.
+    /// Whether the on-screen keyboard hides by itself; the text tool asks for false. Nothing on a desktop.
     virtual void setAutoHideKeyboard(bool enabled);
 };

@@ -10,9 +10,11 @@ class KORVA_EXPORT UTIL_PopupMenu : public QMenu
     Q_OBJECT
 
 public:
+    /// An empty menu; its window is that of `parent`.
     explicit UTIL_PopupMenu(QWidget* parent);
 
-    /// Moves a pop-up into the window that its owner belongs to.
+    /// Moves a pop-up that is shown into the window that its owner belongs to; nothing where `owner` is
+    /// null. One that is larger keeps its top left inside.
     static void keepInWindow(QWidget& popup, const QWidget* owner);
 
 protected:

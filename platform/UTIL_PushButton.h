@@ -19,15 +19,19 @@ public:
         Outlined = 8,      ///< has an outline when at rest
     };
 
-    /// `iconName` is a file name for RES_ICON_Reader; empty for no icon.
+    /// `iconName` is a file name for RES_ICON_Reader::getIcon(); empty or unknown for no icon.
     UTIL_PushButton(const QString& iconName, const QString& text, QWidget* parent = nullptr,
                     const char* name = nullptr);
 
-    /// Any combination of Flag; other bits are kept and mean nothing.
+    /// Any combination of Flag; other bits are kept and mean nothing. FirstSoftKey makes it the dialog's
+    /// default, its absence takes that away.
     void setFlags(int flags);
+    /// What setFlags() was given; Outlined at first.
     [[nodiscard]] int flags() const { return m_flags; }
 
+    /// Room for icon and text, as high as every key.
     [[nodiscard]] QSize sizeHint() const override;
+    /// A square: a text that does not fit is cut short.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:

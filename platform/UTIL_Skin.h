@@ -17,6 +17,7 @@ class QRectF;
 class KORVA_EXPORT UTIL_Skin
 {
 public:
+    /// What a colour is for.
     enum class Color {
         Ground,   ///< windows and dialogs
         Surface,  ///< what lies on the ground: lists, fields
@@ -28,58 +29,77 @@ public:
         Veil,     ///< laid over a window that waits for its dialog
     };
 
-    enum class Font { Text, Title, Key, Caption };
+    /// What a font is for; all are the application's in a size of their own.
+    enum class Font {
+        Text,    ///< in dialogs, lists and menus
+        Title,   ///< of a dialog
+        Key,     ///< on push buttons
+        Caption, ///< below a thumbnail
+    };
 
+    /// What has looks of its own.
     enum class Control {
         Key,        ///< a push button
         PrimaryKey, ///< the push button that Return presses
         Row,        ///< a row of a list
     };
 
-    enum class State { Resting, Hovered, Pressed, Checked, Disabled };
-
-    struct Look
-    {
-        QColor fill;
-        QColor border;
-        QColor ink;
+    /// What a control's look depends on.
+    enum class State {
+        Resting,  ///< none of the others
+        Hovered,  ///< under the mouse
+        Pressed,  ///< held down, or its list is open
+        Checked,  ///< on, or marked
+        Disabled, ///< not to be used
     };
 
+    /// The colours of a control in a state; what is transparent is not painted.
+    struct Look
+    {
+        QColor fill;   ///< the box
+        QColor border; ///< its outline
+        QColor ink;    ///< text and icon on it
+    };
+
+    /// Sizes in logical pixels.
     struct Size
     {
-        static constexpr int screenWidth = 240;
-        static constexpr int screenHeight = 320;
-        static constexpr int dialogWidth = 220;
-        static constexpr int dialogHeight = 256;
-        static constexpr int titleHeight = 34;
-        static constexpr int margin = 10;
-        static constexpr int spacing = 8;
-        static constexpr int keyHeight = 36;
-        static constexpr int keyPadding = 8;
-        static constexpr int rowHeight = 34;
-        static constexpr int menuRowHeight = 30;
-        static constexpr int rowInset = 2;
-        static constexpr int radius = 6;
-        static constexpr int hairline = 1;
-        static constexpr int focusWidth = 2;
-        static constexpr int focusGap = 2;
-        static constexpr int radioDiameter = 16;
-        static constexpr int radioDot = 8;
-        static constexpr int chevron = 4;    ///< half the width of the mark of a box that opens
-        static constexpr int iconWidth = 24; ///< of a tool or an option
-        static constexpr int iconHeight = 18;
-        static constexpr int sliderTouch = 28; ///< how high a slider is for a finger
-        static constexpr int messageMargin = 18;
-        static constexpr int thumbnailWidth = 60;
-        static constexpr int thumbnailHeight = 45;
-        static constexpr int captionHeight = 18; ///< of a thumbnail's name
+        static constexpr int screenWidth = 240;    ///< the screen that all is made for
+        static constexpr int screenHeight = 320;   ///< of the same screen
+        static constexpr int dialogWidth = 220;    ///< of a standard dialog
+        static constexpr int dialogHeight = 256;   ///< of a standard dialog
+        static constexpr int titleHeight = 34;     ///< of a dialog's title
+        static constexpr int margin = 10;          ///< from a dialog's edge to what is in it
+        static constexpr int spacing = 8;          ///< between keys and other parts
+        static constexpr int keyHeight = 36;       ///< of a push button
+        static constexpr int keyPadding = 8;       ///< from a key's edge to its text
+        static constexpr int rowHeight = 34;       ///< of a list's row
+        static constexpr int menuRowHeight = 30;   ///< of a menu's row
+        static constexpr int rowInset = 2;         ///< from a list's edge to a row's box
+        static constexpr int radius = 6;           ///< of a box's corners
+        static constexpr int hairline = 1;         ///< the width of outlines
+        static constexpr int focusWidth = 2;       ///< of the focus ring's line
+        static constexpr int focusGap = 2;         ///< between a control and the ring around it
+        static constexpr int radioDiameter = 16;   ///< of the mark of a radio row
+        static constexpr int radioDot = 8;         ///< of the dot in it, across
+        static constexpr int chevron = 4;          ///< half the width of the mark of a box that opens
+        static constexpr int iconWidth = 24;       ///< of a tool or an option
+        static constexpr int iconHeight = 18;      ///< of a tool or an option
+        static constexpr int sliderTouch = 28;     ///< how high a slider is for a finger
+        static constexpr int messageMargin = 18;   ///< above a message's icon, and below its text
+        static constexpr int thumbnailWidth = 60;  ///< the most that a thumbnail has
+        static constexpr int thumbnailHeight = 45; ///< the most that a thumbnail has
+        static constexpr int captionHeight = 18;   ///< of a thumbnail's name
     };
 
     /// What a picture of a disabled control is painted with.
     static constexpr double disabledOpacity = 0.4;
 
+    /// The colour for a purpose; Color::Veil is translucent.
     [[nodiscard]] static QColor color(Color color);
+    /// The font for a purpose.
     [[nodiscard]] static QFont font(Font font);
+    /// The palette of windows and dialogs.
     [[nodiscard]] static QPalette palette();
     /// How a control looks in a state; the focus ring is drawn on top of any state.
     [[nodiscard]] static Look look(Control control, State state);
@@ -91,11 +111,11 @@ public:
     /// The round mark of a radio row, centred in `box`.
     static void paintRadio(QPainter& painter, const QRectF& box, bool marked, bool enabled);
 
-    /// The mark of a control that opens a list.
+    /// The mark of a control that opens a list, pointing down, around `centre`.
     static void paintChevron(QPainter& painter, const QPoint& centre, const Look& look);
 
     /// The file that holds a skin picture ("Dialog_Error" is in "Dialog_Error.gif").
     [[nodiscard]] static QString pictureFile(const QString& name);
-    /// A skin picture by its name; null when there is none.
+    /// A skin picture by its name, without extension; null when there is none.
     [[nodiscard]] static QPixmap picture(const QString& name);
 };

@@ -6,12 +6,14 @@
 #include <QRect>
 
 /// Marks a rectangle with a dashed frame and hands it to the canvas, which lifts it into a floating piece.
-/// The left button only. Leaving the tool drops the selection.
+/// The left button only, in widget coordinates; the pixel of the release no longer belongs to the
+/// rectangle. After a tap the next drag grows from there. Leaving the tool drops the selection.
 class KORVA_EXPORT KORVA_AreaSelect : public KORVA_Tool
 {
     Q_OBJECT
 
 public:
+    /// `name` is KORVA_Tool::name().
     explicit KORVA_AreaSelect(const QString& name);
 
     void mousePressEvent(QMouseEvent* event) override;
@@ -22,10 +24,12 @@ public:
     void zoomedRebuilt() override;
 
 public slots:
-    /// What the canvas says of its selection: gone, and the frame goes too.
+    /// What the canvas says of its selection: where it is gone the frame goes too.
     void selection(bool exists);
+    /// Takes the tool's frame off the screen; the canvas's selection stays.
     void disableSelection();
-    /// Selects the whole canvas; nothing while a drag is going on.
+    /// Selects the whole canvas, merging a floating piece; nothing while inactive or while a drag is going
+    /// on.
     void selectAll();
 
 protected:

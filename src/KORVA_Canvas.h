@@ -21,18 +21,23 @@ class QMenu;
 /// floating piece, and hands stylus and key events to the one active tool. "Widget coordinates" are pixels
 /// of the zoomed picture, "picture coordinates" of the real one.
 ///
-/// Every operation that changes the picture calls markModified(), which makes undo possible; what does not
-/// says so.
+/// Every operation that changes the picture takes the snapshot before and calls markModified() after, which
+/// emits modified(), canUndo(true), canRedo(false); what does otherwise says so. undo(), redo() and a
+/// picture taken in leave the modified flag as it is.
 class KORVA_EXPORT KORVA_Canvas : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// A white picture. `editor` may be null: then nothing is forwarded to it.
+    /// A white picture of `width` × `height` pixels at 100 %; empty where a side is not positive. It counts
+    /// as modified and has nothing to undo.
+    ///
+    /// `editor` has signals of the names of this class's; all but clipboard() are handed on to it. Null: to
+    /// nobody. Not owned.
     KORVA_Canvas(KORVA_EditCanvas* editor, int width, int height, QWidget* parent = nullptr,
                  const char* name = nullptr);
-    /// A white picture of the size of the one in the file; bring its contents in with load() or
-    /// setPixmap().
+    /// The same in the size of the picture in the file, whose contents load() or setPixmap() bring in;
+    /// empty when it cannot be read.
     KORVA_Canvas(KORVA_EditCanvas* editor, const QString& fileName, QWidget* parent = nullptr,
                  const char* name = nullptr);
     ~KORVA_Canvas() override;
@@ -40,83 +45,114 @@ public:
     /// How many canvases were ever made.
     static int inst;
 
+    /// Whether markModified() came after the last clearModified().
     [[nodiscard]] bool isModified() const { return m_modified; }
+    /// For who has saved the picture. Undo is still possible; no signal.
     void clearModified() { m_modified = false; }
 
-    /// The canvas's half of a tool change; the tool's own activate() comes before. Aborts when a tool is
-    /// active.
+    /// The canvas's half of a tool change, made by KORVA_Manager; the tool's own activate() comes before.
+    /// The tool is not owned. Aborts when a tool is active.
     void activate(KORVA_Tool* tool);
     /// Comes before the tool's own deactivate(). Aborts when no tool is active.
     void deactivate();
+    /// Whether a tool is active. In an editor one always is.
     [[nodiscard]] bool isActive() const { return m_toolActive; }
+    /// The active tool; null when there is none.
     [[nodiscard]] KORVA_Tool* getCurrentTool() const { return m_tool; }
-    /// -1 when there is no tool.
+    /// The active tool's KORVA_Tool::id(); -1 when there is none.
     [[nodiscard]] int getCurrentToolID() const;
 
-    /// The picture, after merging a floating piece into it: who paints on it paints on all of it.
-    /// Valid until the next undo, redo, resize or load.
+    /// The picture, after merging a floating piece into it: who paints on it paints on all of it. The
+    /// painter calls saveOldPix() before, markModified() and updateZoomed() after. The canvas's own; valid
+    /// until the next undo, redo, resize or load.
     QPixmap* pixmap();
-    /// The picture on screen, for feedback; nothing is merged.
+    /// The picture on screen, for feedback, in widget coordinates; nothing is merged. refresh() shows what
+    /// was painted on it. The canvas's own; valid until the zoom or the picture's size changes.
     QPixmap* zoomedPixmap() { return m_zoomed.get(); }
     /// Copies a picture in; transparent pixels come out white. A floating piece is dropped. Not a
-    /// modification, and no snapshot is taken. Null is ignored.
+    /// modification, and no snapshot is taken. Emits pixmapChanged(), then sizeChanged() where the size on
+    /// screen is another. Null is ignored.
     void setPixmap(QPixmap* picture);
+    /// The depth of the picture in bits a pixel: the toolkit's, whatever was set.
     [[nodiscard]] int getDepth() const;
-    /// 1, 4, 8, 15, 16, 24 or 32 bits; aborts for others. The picture keeps its pixels and the toolkit's
-    /// depth.
+    /// Asks for a depth of 1, 4, 8, 15, 16, 24 or 32 bits; aborts for others. The picture keeps its pixels
+    /// and the toolkit's depth; any other depth than that is a modification, emits pixmapChanged() and
+    /// drops a floating piece.
     void setDepth(int d);
-    /// Fills the picture; typed text and a floating piece are dropped.
+    /// Fills the picture; typed text and a floating piece are dropped, without selection(false).
     void clearCanvas(const QColor& color);
-    /// Scales the picture to a new size in pixels.
+    /// Scales the picture to `w` × `h` pixels; nothing where that is its size, empty where a side is not
+    /// positive. Emits sizeChanged(), pixmapChanged(), modified(). A floating piece is merged into the new
+    /// picture, and the old size cannot be had back then.
     void resizeImage(int w, int h);
-    /// Takes the picture of a file in while no tool is active, and tells whether that was so. What cannot
-    /// be read gives an empty picture. A null format recognises the file by its content.
+    /// Takes the picture of a file in, as setPixmap() does, while no tool is active, and tells whether that
+    /// was so: in an editor it never is. What cannot be read gives an empty picture. `format` names the one
+    /// to accept ("PNG"); null recognises the file by its content.
     bool load(const QString& fileName, const char* format);
-    /// Writes the picture with a floating piece merged into it; false when it could not be written.
-    /// A null format follows the name's extension. The modified flag stays as it is.
+    /// Writes the picture with a floating piece merged into it, a JPEG in quality 96; false when it could
+    /// not be written. `format` is "PNG", "JPEG" or "BMP"; null follows the name's extension. A file of
+    /// that name is overwritten in place. The modified flag is not cleared.
     bool save(const QString& fileName, const char* format);
 
-    /// Takes the undo snapshot: what undo() brings back.
+    /// Takes the undo snapshot: what undo() brings back, in place of the one before. Undo becomes possible
+    /// with markModified().
     void saveOldPix() { m_previous = *m_picture; }
-    /// 0 nothing to undo, 1 and 2 as the editor reads them: 1 offers redo, 2 offers undo.
+    /// Tells the host what to offer: 0 neither undo nor redo, 1 redo, 2 undo, the other way round than
+    /// undoFlag(). Emits canRedo(), then canUndo(); other numbers are kept and emit nothing.
     void setUndoFlag(int flag);
-    /// 0 nothing to undo, 1 undo possible, 2 redo possible.
+    /// 0 nothing to undo, 1 undo possible, 2 redo possible; or what setUndoFlag() was given.
     [[nodiscard]] int undoFlag() const { return m_undoFlag; }
 
-    /// Percent, 100 is real size; merges a floating piece first. Rates below 1 are ignored.
+    /// Sets the zoom in percent, 100 is real size; merges a floating piece first, which is a modification.
+    /// Rates below 1 are ignored; there is no upper limit but memory. Emits sizeChanged() where the size on
+    /// screen is another.
     void setZoom(int percent);
+    /// The zoom in percent.
     [[nodiscard]] int zoom() const { return m_zoom.percent(); }
     /// Draws the zoomed picture anew from the picture and shows it.
     void updateZoomed();
-    /// Scales the picture kept for pasting by the zoom; two calls scale it twice.
+    /// Scales the picture kept for pasting by the zoom; two calls scale it twice. Nothing where none is
+    /// kept: paste() takes the system clipboard's.
     void updateZoomedClipboard();
 
-    /// Lifts a rectangle (widget coordinates) out of the picture into a floating piece and leaves white
-    /// behind. No snapshot, no modification: the change counts when the piece is merged or cut.
+    /// Lifts a rectangle (widget coordinates, its corners in any order) out of the picture into a floating
+    /// piece and leaves white behind. At 150 and 200 % the piece takes 2 picture pixels more along in width
+    /// and height. A piece that was floating is merged. No snapshot, no modification: the change counts
+    /// when the piece is merged or cut. Emits selection(true).
     void setSelection(const QRect& rect);
+    /// The rectangle last selected, in widget coordinates; null after clearSelection().
     [[nodiscard]] QRect selection() const { return m_selection; }
+    /// Whether setSelection() came after the last clearSelection(). A merge does not end it.
     [[nodiscard]] bool hasSelection() const { return m_hasSelection; }
+    /// Forgets the rectangle; a piece floats on. Emits selection(false).
     void clearSelection();
 
-    /// Puts the floating piece on the clipboard and drops it; the selection becomes white.
+    /// Puts the floating piece on the clipboard and drops it; the selection becomes white. Emits
+    /// clipboard(true), selection(false), modified(), clipboard(true). Where nothing floats, the last piece
+    /// and the last selection are taken: a host offers it by selection(bool).
     void cut();
-    /// Puts the floating piece on the clipboard. The picture is not touched.
+    /// Puts the floating piece, or the last one, on the clipboard. The picture is not touched. Emits
+    /// clipboard(true).
     void copy();
-    /// Lays the clipboard's picture over the canvas as a floating piece at (0, 0) and scrolls there.
+    /// Lays the clipboard's picture over the canvas as a floating piece at (0, 0), scrolls there and marks
+    /// the picture modified. A piece that was floating is merged first. An empty clipboard lays nothing.
     void paste();
-    /// Copies the clipboard's picture into the picture at (x, y) in picture coordinates.
+    /// Copies the clipboard's picture into the picture at (x, y) in picture coordinates; nothing floats,
+    /// what lies outside is cut off. Nothing at all when the clipboard holds no picture.
     void paste(int x, int y);
-    /// Lays a picture over the canvas as a floating piece at (0, 0) and scrolls there. No snapshot is
-    /// taken.
+    /// Lays a copy of a picture over the canvas as a floating piece at (0, 0), scrolls there and marks the
+    /// picture modified. A piece that was floating is merged first; otherwise no snapshot is taken.
     void insertStamp(QPixmap& stamp);
     /// Paints a floating piece into the picture where it lies. The snapshot is taken afterwards, so that
-    /// undo brings back the state just before the next change and not the time before the piece.
+    /// undo brings back the state just before the next change and not the time before the piece. Emits
+    /// selection(false) at the end; nothing at all when nothing floats.
     void mergePastePixmap();
     /// Whether a point (widget coordinates) lies on the floating piece.
     [[nodiscard]] bool ptInPasteLabel(const QPoint& p) const;
 
+    /// The floating piece; hidden while there is none. The canvas owns it.
     [[nodiscard]] KORVA_PasteLabel* pasteLabel() const { return m_pasteLabel; }
-    /// Cut (0), Copy (1), Paste (2).
+    /// The menu of the right button, with the actions Cut (0), Copy (1), Paste (2). The canvas owns it.
     [[nodiscard]] QMenu* contextMenu() const { return m_menu; }
 
     /// The scroll view that holds the canvas; null when there is none.
@@ -131,34 +167,63 @@ public:
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 public slots:
+    /// The picture was changed: sets the modified flag and emits modified(), canUndo(true), canRedo(false).
     void markModified();
+    /// As undo(), but emits canUndo(true), canRedo(false).
     void redo();
+    /// Merges a floating piece and exchanges picture and snapshot: a second call brings the change back.
+    /// While typed text is pending the picture stays. Emits canUndo(false), canRedo(true) in any case,
+    /// sizeChanged() before them where the sizes differ.
     void undo();
+    /// Makes undo possible: emits canUndo(true), canRedo(false). Follows every modified().
     void record();
+    /// Calls cut().
     void slotCut();
+    /// Calls copy().
     void slotCopy();
+    /// Calls paste().
     void slotPaste();
+    /// Enables or disables Cut and Copy in the context menu. Follows every selection(bool).
     void slotSelection(bool exists);
+    /// Enables or disables Paste in the context menu and in the floating piece's. Follows every
+    /// clipboard(bool).
     void slotClipBoard(bool filled);
 
 signals:
+    /// The zoom or the picture's size gave the widget another size.
     void sizeChanged();
+    /// Another picture was taken in, or the picture was scaled. Painting, undo and redo do not emit it.
+    /// `picture` stays the canvas's.
     void pixmapChanged(QPixmap* picture);
+    /// From markModified(), before the signals on undo and redo.
     void modified();
+    /// True when a rectangle was lifted; false when it was forgotten and whenever a piece was merged.
     void selection(bool exists);
+    /// A piece was put on the clipboard. Always true.
     void clipboard(bool filled);
+    /// Whether undo is to be offered.
     void canUndo(bool possible);
+    /// Whether redo is to be offered.
     void canRedo(bool possible);
 
 protected:
+    /// Claims the keys that type while the text tool takes them, before they become a host's shortcuts.
     bool event(QEvent* event) override;
+    /// Tab stays here while the text tool takes it.
     bool focusNextPrevChild(bool next) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    /// The left button goes to the floating piece under it, in the piece's own coordinates; elsewhere it
+    /// merges the piece and goes to the tool. The right button opens the context menu. Others do nothing.
     void mousePressEvent(QMouseEvent* event) override;
+    /// To the floating piece under it, else to the tool.
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// To the floating piece under it, else to the tool.
     void mouseMoveEvent(QMouseEvent* event) override;
+    /// To the tool; ignored when there is none.
     void keyPressEvent(QKeyEvent* event) override;
+    /// To the tool; ignored when there is none.
     void keyReleaseEvent(QKeyEvent* event) override;
+    /// The menu key: opens the floating piece's menu, or the canvas's own where nothing floats.
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -13,15 +13,17 @@ class KORVA_EXPORT KORVA_ChooseCanvasDlg : public UTIL_Dialog
     Q_OBJECT
 
 public:
-    /// `index` is the size marked at the start; one that does not exist marks none.
+    /// `index` is the size marked at the start, 0 to 4; another one marks none.
     explicit KORVA_ChooseCanvasDlg(QWidget* parent, int index, const char* name = nullptr,
                                    bool modal = true, Qt::WindowFlags flags = {});
 
     /// The size chosen last; after a rejection, and before any choice, the index given to the constructor.
     [[nodiscard]] int getIndex() const { return m_index; }
-    /// The pixels of the size chosen last; empty before there was a valid one.
+    /// The size marked last, in pixels; 0 × 0 before there was one. A rejection does not bring the first
+    /// one back, unlike getIndex().
     [[nodiscard]] QSize canvasSize() const { return {m_width, m_height}; }
 
+    /// Cancel, Escape and closing: getIndex() is the constructor's again.
     void reject() override;
 
 private slots:

@@ -21,14 +21,17 @@ public:
     KORVA_ColorPicker(KORVA_COLORTYPE colorType, const QColor& color, QWidget* parent = nullptr,
                       const char* name = nullptr, Qt::WindowFlags flags = {});
 
-    /// Runs the dialog and returns the colour accepted, or `color` itself when there was none.
+    /// Runs the dialog, modal to `parent`, and returns the colour accepted, or `color` itself when there
+    /// was none.
     [[nodiscard]] static QColor getColor(KORVA_COLORTYPE colorType, const QColor& color,
                                          QWidget* parent = nullptr, const char* name = nullptr);
 
+    /// The colour in the swatch.
     [[nodiscard]] QColor color() const { return m_color; }
 
     /// The 8-bit value of a channel at a slider position; 0 for a position the colour type does not have.
     int CalActualValue(int position);
+    /// Shows a colour in the swatch; color() stays.
     void fillColorLabel(const QColor& color);
 
 protected:

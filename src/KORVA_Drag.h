@@ -5,12 +5,13 @@
 #include <QPoint>
 
 /// The hand: pans the scroll view around the canvas by a tenth of the way from the press, again with every
-/// move. It never touches the picture.
+/// move. It never touches the picture. Without a scroll view it does nothing.
 class KORVA_EXPORT KORVA_Drag : public KORVA_Tool
 {
     Q_OBJECT
 
 public:
+    /// `name` is KORVA_Tool::name().
     explicit KORVA_Drag(const QString& name);
 
     void mousePressEvent(QMouseEvent* event) override;

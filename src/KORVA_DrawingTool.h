@@ -14,14 +14,19 @@ protected:
 
     /// The button of the press that began the gesture; it decides the pens until the next press.
     void setButton(Qt::MouseButton button) { m_button = button; }
+    /// The button last set; Qt::NoButton before the first press.
     [[nodiscard]] Qt::MouseButton button() const { return m_button; }
 
+    /// The left pen for the left button, the right one for any other; its width is in picture pixels.
     [[nodiscard]] QPen picturePen() const;
-    /// The same pen with its width times the zoom, truncated; a width of 0 is the thin line.
+    /// The same pen with its width times the zoom, truncated; a width of 0 is the thin line. Only on an
+    /// active tool.
     [[nodiscard]] QPen screenPen() const;
+    /// The left brush for the left button, the right one for any other.
     [[nodiscard]] QBrush brush() const;
 
-    /// Takes the undo snapshot and marks the picture modified.
+    /// Takes the undo snapshot and marks the picture modified: before the first pixel of a gesture, on an
+    /// active tool.
     void beginChange();
 
 private:

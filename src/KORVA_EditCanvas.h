@@ -20,127 +20,203 @@ class QPushButton;
 /// The one widget that a host embeds to have a picture edited: tool, option, zoom and colour controls above
 /// the canvas, 240 × 225 pixels. The host wires its own commands to the operations and slots and enables
 /// them from the signals. GUI thread only.
+///
+/// What asks or tells the user something runs UTIL_Platform's boxes and dialogs and returns after them.
+/// `action` and `flag` mean: 0 open, 1 choose a canvas, 2 save, 3 insert a stamp, 4 create.
 class KORVA_EXPORT KORVA_EditCanvas : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// An empty canvas. The owner window is kept for the host; the editor does not use it.
+    /// A white canvas of 200 × 170 pixels at 100 %, not modified, with the pencil in red. `ownerWindow` is
+    /// not used.
     explicit KORVA_EditCanvas(KORVA_COLORTYPE colorType, QWidget* parent = nullptr,
                               const char* name = nullptr, Qt::WindowFlags flags = {},
                               QWidget* ownerWindow = nullptr);
-    /// Opens a picture at once; one that cannot be opened is reported and leaves an unnamed, empty canvas.
+    /// Opens a picture at once, without canDelete(); one that cannot be opened is reported before the
+    /// constructor returns and leaves the white canvas, unnamed.
     KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colorType, QWidget* parent = nullptr,
                      const char* name = nullptr, Qt::WindowFlags flags = {},
                      QWidget* ownerWindow = nullptr);
     ~KORVA_EditCanvas() override;
 
+    /// The frame around the canvas. The editor owns it.
     [[nodiscard]] KORVA_MainView* mainView() const { return m_mainView; }
+    /// The canvas, the same one for the editor's life. The main view owns it.
     [[nodiscard]] KORVA_Canvas* canvas() const;
+    /// The tools. The editor owns it.
     [[nodiscard]] KORVA_Manager* manager() const { return m_manager.get(); }
+    /// What the colour button's picker offers: from the constructor, then from chooseCanvas().
     [[nodiscard]] KORVA_COLORTYPE colorType() const { return m_colorType; }
     /// The drawing colour.
     [[nodiscard]] QColor color() const { return m_color; }
-    /// Takes a drawing colour as if it had been picked.
+    /// Takes a drawing colour as if it had been picked. No signal.
     void setColor(const QColor& color);
     /// The picture file being edited; empty for a drawing that was never saved.
     [[nodiscard]] QString fileName() const;
 
     // --- Editing: handed on to the canvas or the manager ---
+    /// See KORVA_Canvas::undo().
     void undo();
+    /// See KORVA_Canvas::redo().
     void redo();
+    /// See KORVA_Canvas::cut().
     void cut();
+    /// See KORVA_Canvas::copy().
     void copy();
+    /// As KORVA_Canvas::paste(): the clipboard's picture as a floating piece.
     void paste();
+    /// The clipboard's picture into the picture at (x, y), in picture coordinates.
     void paste(int x, int y);
-    /// Always to white.
+    /// As KORVA_Canvas::clearCanvas(), always to white. The file name stays.
     void clearCanvas();
-    /// Merges a floating piece, makes the selection tool current and selects the whole canvas.
+    /// Commits typed text, merges a floating piece, makes the selection tool current and selects the whole
+    /// canvas.
     void selectAll();
-    /// The picture, with typed text and a floating piece in it.
+    /// As KORVA_Canvas::pixmap(), with typed text in it: while the text tool is current this is a
+    /// modification.
     QPixmap* pixmap();
-    /// Takes a picture over; nothing can be undone or redone then.
+    /// Emits canUndo(false) and canRedo(false), then takes a copy of the picture in as
+    /// KORVA_Canvas::setPixmap() does. File name and modified flag stay.
     void setPixmap(QPixmap* picture);
+    /// See KORVA_Canvas::getDepth().
     [[nodiscard]] int getDepth() const;
+    /// As KORVA_Canvas::setDepth(); aborts for a depth that does not exist.
     void setDepth(int depth);
+    /// As KORVA_Canvas::resizeImage(); pixels.
     void resizeImage(int w, int h);
+    /// As KORVA_Canvas::load(), which takes nothing in while a tool is active, and here one always is:
+    /// changes nothing and returns false. openNewFilePrivate() opens a file.
     bool load(const QString& fileName, const char* format);
+    /// Whether there are changes to save.
     [[nodiscard]] bool isModified() const;
+    /// The drawing as it is counts as saved; undo is still possible.
     void clearModified();
+    /// See KORVA_Canvas::insertStamp().
     void insertStamp(QPixmap& stamp);
-    /// Scales the picture to a new size.
+    /// Scales the picture to `w` × `h` pixels, as KORVA_Canvas::resizeImage() does, and centres the canvas.
     void setCanvasSize(int w, int h);
-    /// Percent.
+    /// As KORVA_Canvas::setZoom(), in percent; the zoom box keeps what it shows. Typed text is not
+    /// committed.
     void setZoom(int rate);
-    /// A new white canvas of a kind and size, at the zoom now chosen. It counts as modified.
+    /// A new white canvas of `w` × `h` pixels, at the zoom chosen in the box, with nothing to undo. An
+    /// unknown kind has 16 bits and leaves the colour type. Emits canvasChanged() and, last,
+    /// canRedo(false), canUndo(false). Where the size is another or the text tool is current it counts as
+    /// modified, and the file name stays: clearModified() and setFileName() make it a new drawing.
     void chooseCanvas(KORVA_CANVASTYPE type, int w, int h);
 
-    /// Typed text that is still pending goes into the picture; nothing when another tool is current.
+    /// Typed text that is still pending goes into the picture. While the text tool is current this is a
+    /// modification even of an empty text; nothing when another tool is current.
     void commitText();
     /// The text tool while it is current; null otherwise.
     [[nodiscard]] KORVA_Text* currentText() const;
 
     // --- The controls ---
-    /// Fills the colour button.
+    /// Shows a colour on the colour button; the drawing colour stays.
     void fillColorButton(const QColor& color);
-    /// Fills the option pop-up with a tool's options; empty for tools without.
+    /// Fills the option pop-up with the options of a tool by its KORVA_Tool::id(); empty for tools without.
+    /// Chooses none.
     void loadToolOptions(int tool);
-    /// The eraser's cursor: a white square in a black frame, its top left the hot spot.
+    /// The eraser's cursor: a white square of `width` picture pixels at `rate` percent in a black frame,
+    /// its top left the hot spot. The editor sets it anew with every change of eraser and zoom.
     void setRubberCursor(int width, int rate);
 
-    // --- Documents. `action`: 0 open, 1 choose canvas, 2 save, 3 insert stamp, 4 create ---
-    /// Asks whether changes are to be saved before the action, saves them and goes on.
+    // --- Documents ---
+    /// Merges a floating piece, asks before 0, 1 and 4 whether changes are to be saved, saves them with
+    /// savePic() and goes on: 0 and 3 let the user pick a picture. "No" opens without saving, and ends 1
+    /// and 4. 2 saves unasked, 3 saves nothing. Without changes 0 and 3 pick at once; 2 saves only a
+    /// picture of the host's hand-over file "/tmp/korva.tmp" that has no name yet.
     void saveChangePic(int action);
-    /// Opens (0) or stamps (3) a picture; a null name lets the user pick one. True when it is there.
+    /// Opens (0) or stamps (3) a picture and tells whether it is there; a null name lets the user pick one.
+    /// With another number the file's name is all that is taken. What has more pixels than 352 × 288 comes
+    /// scaled to fit within; what is transparent comes out white.
+    ///
+    /// Opened, it is unmodified, has the file's name and offers no undo; canDelete(true) comes last. A
+    /// failure is told to the user and leaves the picture, but with 0 not the name: it is the new one where
+    /// the file failed isPicSizeNotOver(), empty, with canDelete(true), where it failed later.
+    ///
+    /// Each call writes a line to standard error, a second one where a name is given.
     bool openNewFilePrivate(int flag, const QString& openDocFile);
-    /// The format name to read a file by, from its extension.
+    /// The format to read a file by, from its last extension in any case: "BMP", "JPEG" (jpg, jpe, jpeg),
+    /// "GIF", "WBMP", "PNG" for any other.
     void getFileFormat(const QString& name, QString& format) const;
-    /// Whether the picture can be read; tells the user when not.
+    /// Whether the picture can be read as `format`, or as what it is where that is null, and has no more
+    /// than UTIL_Platform::pixelLimit() pixels; tells the user when not.
     bool isPicSizeNotOver(const QString& name, const char* format);
+    /// Reads a picture at its own size; false, and a null image, when it cannot be read. Shows nothing.
     bool getImage(QImage* image, const QString& name);
-    /// Brings an image to the working size and depth.
+    /// Brings an image in place to what the canvas works on, and gives it as a pixmap: fitting within 352 ×
+    /// 288 where it had more pixels than that, white where it was transparent, in 16 bits; an 8-bit image
+    /// that keeps its size stays one. False when it is null.
     bool convertScaleImage(QImage* image, QPixmap* pixmap);
-    /// Takes an encoded picture in memory over as the drawing.
+    /// Takes an encoded picture in memory over as setPixmap() does, scaled as an opened one. One that
+    /// cannot be decoded is reported and changes nothing.
     void setBuffer(const QByteArray& encoded);
-    /// Encodes and moves into place; shows nothing.
+    /// Encodes the picture into "appwrite/korva.temp" under the folder in the environment variable
+    /// KIV_LOCAL_DOWNLOAD_PATH, where "appwrite" must exist, moves that to `name` and tells whether both
+    /// went well; until then a file of that name stays as it was. A floating piece is merged, typed text is
+    /// not. `format` is "PNG", "JPEG" or "BMP", never null. Fails for a name with a single quote, for a
+    /// folder and where writing is not permitted. Shows nothing; fileName() stays, and the modified flag is
+    /// not cleared.
     bool save(const QString& name, const char* format);
-    /// Saves under the drawing's name and tells how it went.
+    /// Saves under fileName(), in the format of its extension, tells how it went and emits canDelete(true).
+    /// Saved, the drawing is unmodified; a failure takes its name away. A GIF cannot be written: it fails
+    /// and keeps the name. Without a name nothing is saved, and canDelete(false) is emitted.
     void saveFilePrivate();
-    /// Names the drawing if it has no name, saves it and goes on with the action.
+    /// Lets the user name the drawing if it has no name, saves it as saveFilePrivate() does and, for 0,
+    /// lets a picture be picked. 3 saves nothing and lets a stamp be picked.
     void savePic(int action);
-    /// An empty name, or that of the host's hand-over file, leaves the drawing unnamed.
+    /// An empty name, or that of the host's hand-over file "/tmp/korva.tmp", leaves the drawing unnamed and
+    /// emits canDelete(false). Nothing is read or written.
     void setFileName(const QString& name);
 
 public slots:
-    /// The pop-ups' and the zoom box's handlers. An unknown tool identifier means the line, an unknown
-    /// option the last one of the tool, an unknown zoom index 100 %.
+    /// An entry of the tool button's menu, by its QAction::data(); an unknown one means the line. Commits
+    /// typed text, merges a floating piece, brings the option back that was last chosen, and emits
+    /// signalTextTool().
     void slotSelChangeTool(int menuId);
+    /// An entry of the option button's menu, by its QAction::data(); an unknown one means the last option
+    /// of the tool.
     void slotSelChangeToolOptions(int menuId);
+    /// Commits typed text and zooms: 0 50 %, 1 100 %, 2 150 %, 3 200 %, 4 what fits the picture into 222 ×
+    /// 186 pixels; 100 % for other numbers, and for 2 and 3 where the picture is not below 640 × 480.
     void slotSelZoomRate(int index);
+    /// Lets the user pick the drawing colour.
     void slotColor();
+    /// saveChangePic(0); nothing while a picture is being picked.
     void slotOpen();
+    /// Commits typed text, then saveChangePic(2).
     void slotSave();
-    /// Asks, wipes the drawing and removes the file behind it.
+    /// Asks, clears the canvas and the modified flag, removes the file and forgets its name. A file that
+    /// cannot be removed is not reported, and canDelete() is not emitted.
     void slotDelete();
+    /// Does nothing: a stamp comes in by saveChangePic(3).
     void slotInsertStamp();
-    /// The save dialog was accepted with this name.
+    /// The save dialog was accepted with this name: saves as saveFilePrivate() does and goes on with the
+    /// action last given to saveChangePic().
     void slotSaveDlgCloseBeforeOpen(const QString& name);
 
 signals:
-    /// The canvas's own signals of the same names.
+    /// See KORVA_Canvas::sizeChanged().
     void sizeChanged();
     /// By chooseCanvas(), with the index in the zoom box.
     void canvasChanged(int zoomIndex);
+    /// See KORVA_Canvas::pixmapChanged().
     void pixmapChanged(QPixmap* picture);
+    /// See KORVA_Canvas::modified().
     void modified();
+    /// As KORVA_Canvas::selection(): whether cut and copy are to be offered.
     void selection(bool exists);
+    /// Whether undo is to be offered: KORVA_Canvas::canUndo(), and false from setPixmap().
     void canUndo(bool possible);
+    /// Whether redo is to be offered: KORVA_Canvas::canRedo(), and false from setPixmap().
     void canRedo(bool possible);
-    /// Whether a file stands behind the drawing; true also after an open or a save that failed.
+    /// Whether a file stands behind the drawing; true also after an open or a save that failed. Not emitted
+    /// at construction nor by slotDelete().
     void canDelete(bool possible);
     /// A tool was chosen: true for text.
     void signalTextTool(bool chosen);
-    /// The text tool was tapped.
+    /// The stylus was lifted from the canvas while the text tool is current: a host may show its keyboard.
     void TextToolClicked();
 
 private:

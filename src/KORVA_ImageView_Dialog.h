@@ -8,15 +8,16 @@
 class IMV_UI_PhotoDisplay;
 class UTIL_PushButton;
 
-/// Shows a picture, which the user confirms or cancels; exec() tells which.
+/// Shows a picture, which the user confirms or cancels; exec() is 1 or 0. KorvaPreview() runs it.
 class KORVA_EXPORT KORVA_ImageView_Dialog : public UTIL_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Checks the file at once: when it cannot be read the constructor returns only after the user was told
-    /// why, and the picture cannot be confirmed. It is shown 50 ms later, from the event loop, and an
-    /// animated GIF plays.
+    /// Checks the file at once: when it cannot be read, or has more than UTIL_Platform::pixelLimit()
+    /// pixels, the constructor returns only after the user was told why, and the picture cannot be
+    /// confirmed. It is shown 50 ms later, from the event loop, and an animated GIF plays; a failure then
+    /// is told, too.
     explicit KORVA_ImageView_Dialog(const QString& file);
     /// Shows the image. What is checked, and decides whether the image is shown and can be confirmed, is a
     /// file named "image.jpg" in the working folder; hosts rely on it.

@@ -2,12 +2,14 @@
 
 #include "KORVA_TwoPointTool.h"
 
-/// A straight line. It ends where it was last shown, not where the stylus is lifted.
+/// A straight line, both end pixels included. It ends where it was last shown, not where the stylus is
+/// lifted.
 class KORVA_EXPORT KORVA_Line : public KORVA_TwoPointTool
 {
     Q_OBJECT
 
 public:
+    /// `name` is KORVA_Tool::name().
     explicit KORVA_Line(const QString& name);
 
 protected:

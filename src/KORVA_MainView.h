@@ -9,16 +9,19 @@ class KORVA_ScrollView;
 
 /// The frame around the canvas: a scroll view that shows it, centred where it is smaller than the view.
 ///
-/// Meant to be created by the editor: an editor given as parent becomes the canvas's editor. The keyboard
-/// focus given to the view goes to the canvas.
+/// Meant to be created by the editor: an editor given as parent becomes the canvas's editor. The canvas has
+/// 200 × 170 pixels at first. The keyboard focus given to the view goes to the canvas.
 class KORVA_EXPORT KORVA_MainView : public QWidget
 {
     Q_OBJECT
 
 public:
+    /// `parent` may be any widget; only a KORVA_EditCanvas hears of the canvas.
     explicit KORVA_MainView(QWidget* parent = nullptr, const char* name = nullptr);
 
+    /// The canvas, the same one for the view's life. The scroll view owns it.
     [[nodiscard]] KORVA_Canvas* canvas() const { return m_canvas; }
+    /// The scroll view, whose contents have the size of the canvas. The main view owns it.
     [[nodiscard]] KORVA_ScrollView* scrollView() const { return m_scrollView; }
 
 public slots:

@@ -15,39 +15,48 @@ class KORVA_Tool;
 
 /// Owns the eight tools, knows the current one and hands it pens and brushes of the two colours and the
 /// width that the editor sets. From construction on exactly one tool is active on the canvas, at first the
-/// pencil.
+/// pencil, with red pens of one pixel.
+///
+/// Tools by identifier: 0 KORVA_Pen, 1 KORVA_AreaSelect, 2 KORVA_Line, 3 KORVA_Text, 4 KORVA_Rectangle, 5
+/// KORVA_Ellipse, 6 KORVA_Rubber, 7 KORVA_Drag. No property touches the picture.
 class KORVA_EXPORT KORVA_Manager : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Aborts when the canvas is null or already has an active tool.
+    /// Works on the canvas, which it does not own. Aborts when the canvas is null or already has an active
+    /// tool.
     explicit KORVA_Manager(KORVA_Canvas* c);
     ~KORVA_Manager() override;
 
+    /// The tool that is active on the canvas. The manager owns it.
     [[nodiscard]] KORVA_Tool* currentTool() const { return tool(m_current); }
+    /// Its identifier.
     [[nodiscard]] int currentToolID() const { return m_current; }
     /// The tool of an identifier, 0 to 7; null for any other.
     [[nodiscard]] KORVA_Tool* tool(int id) const;
 
 public slots:
-    /// Merges a floating piece and changes tools; nothing at all when the tool is already current.
-    /// Identifiers outside 0 to 7 select the pencil.
+    /// Merges a floating piece and changes tools: the text tool commits then, the select tool drops its
+    /// selection. Nothing at all when the tool is already current. Identifiers outside 0 to 7 select the
+    /// pencil.
     void setCurrentTool(int id);
     /// Hands colours and width to the current tool; the others get them when they become current.
     void updateProperties();
-    /// Colour and width are replaced by the ones set here; style, cap and join count.
+    /// Style, cap and join of the pens; their colour and width are the ones set below.
     void setPen(QPen pen);
-    /// In picture pixels.
+    /// The width of the pens in picture pixels; 0 is the thin line.
     void setPenWidth(int width);
-    /// The colour is replaced; the pattern counts.
+    /// The pattern of the brushes; their colour is the one set below. Qt::NoBrush leaves shapes unfilled.
     void setBrush(QBrush brush);
-    /// The colours of the left and the right mouse button.
+    /// The colour of the left mouse button: pen and brush.
     void setLMBColor(const QColor& color);
+    /// The colour of the right mouse button: pen and brush.
     void setRMBColor(const QColor& color);
 
 signals:
-    /// For callers that change the picture through the manager; marks the canvas modified.
+    /// For callers that change the picture through the manager; marks the canvas modified. The library does
+    /// not emit it.
     void modified();
 
 private:

@@ -18,40 +18,54 @@ class KORVA_EXPORT KORVA_PasteLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// Shows nothing until setImage().
     explicit KORVA_PasteLabel(QWidget* parent = nullptr, const char* name = nullptr,
                               Qt::WindowFlags flags = {});
 
-    /// Takes a picture at real size and shows it at the zoom last set; a file that cannot be read gives
-    /// none.
+    /// Takes the picture of a file in, as the other overload does; none when it cannot be read. `fileName`
+    /// is UTF-8.
     void setImage(const char* fileName);
+    /// Takes a picture at real size and shows it at the zoom last set; the item takes its size.
     void setImage(const QPixmap& pixmap);
     /// The picture at real size, with every finished stretch and turn in it.
     [[nodiscard]] QPixmap getImage() const { return m_pixmap; }
 
-    /// Shows the picture anew at these percentages; the horizontal one is remembered as the zoom.
+    /// Shows the picture anew at these percentages, without what was stretched or turned since the last
+    /// release; the horizontal one is remembered as the zoom. The item takes the new size.
     void setZoom(int horizontal, int vertical);
-    /// Scales what is shown by these percentages; calls add up and the zoom stays.
+    /// Scales what is shown by these percentages; calls multiply and the zoom stays. getImage() follows
+    /// with the next release.
     void setResizeZoom(int horizontal, int vertical);
-    /// Turns what is shown, clockwise for a positive angle.
+    /// Turns what is shown, clockwise for a positive angle. getImage() follows with the next release.
     void rotate(int degrees);
-    /// Enables the menu's Paste.
+    /// Enables or disables the menu's Paste; disabled at first.
     void setPasteItem(bool enabled);
-    /// Copy (0), Cut (1), Paste (2).
+    /// The menu of the right button, with the actions Copy (0), Cut (1), Paste (2). The item owns it.
     [[nodiscard]] QMenu* menu() const { return m_menu; }
 
-    // Positions are the item's own; the canvas hands on what reaches it instead.
+    /// Begins a drag of the zone that the pointer hovered over last; the right button opens the menu. The
+    /// position is the item's own; the canvas hands on what reaches it instead.
     void mousePressEvent(QMouseEvent* event) override;
+    /// Ends a drag: stretches or turns, and folds the change into getImage().
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// Moves the item while its inside is dragged, its top left not beyond the parent's right and lower
+    /// edge; without a button, looks which zone is under the pointer.
     void mouseMoveEvent(QMouseEvent* event) override;
 
 signals:
+    /// Cut was chosen in the menu.
     void signalCut();
+    /// Copy was chosen in the menu.
     void signalCopy();
+    /// Paste was chosen in the menu.
     void signalPaste();
 
 public slots:
+    /// Emits signalCut().
     void slotCut();
+    /// Emits signalCopy().
     void slotCopy();
+    /// Emits signalPaste().
     void slotPaste();
 
 protected:

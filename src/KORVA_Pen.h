@@ -5,12 +5,14 @@
 #include <QPoint>
 #include <QRect>
 
-/// The pencil: a dot where the stylus goes down and a line along every move. One press is one undo step.
+/// The pencil: a dot where the stylus goes down and a line along every move. One press is one undo step; a
+/// release of another button does not end the stroke.
 class KORVA_EXPORT KORVA_Pen : public KORVA_DrawingTool
 {
     Q_OBJECT
 
 public:
+    /// `name` is KORVA_Tool::name().
     explicit KORVA_Pen(const QString& name);
 
     void mousePressEvent(QMouseEvent* event) override;

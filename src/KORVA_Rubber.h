@@ -10,6 +10,7 @@ class KORVA_EXPORT KORVA_Rubber : public KORVA_DrawingTool
     Q_OBJECT
 
 public:
+    /// `name` is KORVA_Tool::name().
     explicit KORVA_Rubber(const QString& name);
 
     void mousePressEvent(QMouseEvent* event) override;

@@ -13,8 +13,8 @@
 class KORVA_ClassicPainter;
 
 /// Text at a tapped point. What is typed is shown inverted in the zoomed picture beside a blinking I-beam
-/// and painted into the picture when it is committed: by the next press, by leaving the tool, by a change
-/// of size.
+/// and painted into the picture when it is committed: by the next press, by leaving the tool, by
+/// paintProportionBuffer().
 ///
 /// The left pen gives the colour and, by its width, the size: 1, 3 and 5 mean 12, 16 and 20 points.
 /// Positions are widget coordinates, y is the baseline.
@@ -23,6 +23,7 @@ class KORVA_EXPORT KORVA_Text : public KORVA_Tool
     Q_OBJECT
 
 public:
+    /// `name` is KORVA_Tool::name(). Turns the platform's hiding of the on-screen keyboard off.
     explicit KORVA_Text(const QString& name);
     ~KORVA_Text() override;
 
@@ -40,8 +41,10 @@ public:
     void paintBuffer();
     /// Commits and empties the text; what is typed next goes on at the cursor.
     void paintProportionBuffer();
+    /// Takes the I-beam off the screen; it comes back with its next blink.
     void clearOldCursor();
-    /// Shows the typed text again in the font of the pen that is now set.
+    /// Shows the typed text again in the font of the pen that is now set. Takes a snapshot and counts as a
+    /// modification, though the picture stays.
     void penChanged();
 
     void mousePressEvent(QMouseEvent* event) override;

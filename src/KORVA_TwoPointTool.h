@@ -15,8 +15,9 @@ class KORVA_EXPORT KORVA_TwoPointTool : public KORVA_DrawingTool
     Q_OBJECT
 
 public:
-    /// A drag is kept over a change of tools; its preview is hidden meanwhile.
+    /// A drag is kept over a change of tools; its preview comes back.
     void activating() override;
+    /// Hides the preview; nothing is painted.
     void deactivating() override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -26,12 +27,12 @@ public:
 protected:
     using KORVA_DrawingTool::KORVA_DrawingTool;
 
-    /// Paints the shape between two points in the coordinates of the painter's target: preview, its removal
-    /// and commit alike.
+    /// Paints the shape between two points in the coordinates of the painter's target, widget's or
+    /// picture's: preview, its removal and commit alike. Pen and brush are set.
     virtual void drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const = 0;
-    /// Removes the preview that a move leaves behind.
+    /// Removes the preview that a move leaves behind; drawShape() unless overridden.
     virtual void drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const;
-    /// Where the shape ends for good.
+    /// Where the shape ends for good, in widget coordinates as its arguments.
     [[nodiscard]] virtual QPoint commitPoint(QPoint lastMove, QPoint release) const = 0;
 
 private:

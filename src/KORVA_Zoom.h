@@ -10,37 +10,45 @@
 class KORVA_Zoom
 {
 public:
+    /// 100 %: real size.
     constexpr KORVA_Zoom() = default;
+    /// `percent` is 1 or more; nothing checks it, and 0 is divided by.
     explicit constexpr KORVA_Zoom(int percent) : m_percent(percent) {}
 
+    /// The zoom in percent.
     [[nodiscard]] constexpr int percent() const { return m_percent; }
 
+    /// The picture coordinate under a widget coordinate.
     [[nodiscard]] constexpr int toPicture(int c) const { return c * 100 / m_percent; }
+    /// The picture's pixel under a point of the widget.
     [[nodiscard]] constexpr QPoint toPicture(QPoint p) const
     {
         return {toPicture(p.x()), toPicture(p.y())};
     }
-    /// Position and size each on its own, so that the rectangle may end one pixel before its corner's
-    /// place.
+    /// A widget rectangle in the picture: position and size each on its own, so that it may end one pixel
+    /// before its corner's place.
     [[nodiscard]] constexpr QRect toPicture(const QRect& r) const
     {
         return {toPicture(r.left()), toPicture(r.top()), toPicture(r.width()), toPicture(r.height())};
     }
 
-    /// The size on screen of a picture of this size.
+    /// The size on screen, in pixels, of a picture of this size.
     [[nodiscard]] QSize zoomed(QSize picture) const
     {
         return {static_cast<int>(static_cast<float>(picture.width()) * factor()),
                 static_cast<int>(static_cast<float>(picture.height()) * factor())};
     }
 
-    /// The width on screen of a pen; 0 is the thin pen of one pixel.
+    /// The width on screen of a pen that is `width` picture pixels wide, 0 or more; 0 is the thin pen of
+    /// one pixel.
     [[nodiscard]] int penWidth(int width) const
     {
         return static_cast<int>(static_cast<unsigned>(width) * static_cast<unsigned>(m_percent) / 100U);
     }
 
+    /// Maps picture coordinates to widget coordinates.
     [[nodiscard]] QTransform toWidgetMatrix() const { return scale(factor()); }
+    /// Maps widget coordinates to picture coordinates, without truncating them.
     [[nodiscard]] QTransform toPictureMatrix() const
     {
         return scale(static_cast<float>(100.0 / m_percent));

@@ -13,21 +13,26 @@ class KORVA_EXPORT KORVA_ScrollView : public QAbstractScrollArea
     Q_OBJECT
 
 public:
+    /// Contents of 0 × 0 pixels.
     explicit KORVA_ScrollView(QWidget* parent = nullptr);
 
     /// The contents' position at the top left of the visible area.
     [[nodiscard]] int contentsX() const;
+    /// See contentsX().
     [[nodiscard]] int contentsY() const;
     /// Scrolls at once; positions beyond the range are limited to it.
     void setContentsPos(int x, int y);
 
+    /// The width of the contents.
     [[nodiscard]] int contentsWidth() const { return m_contents.width(); }
+    /// The height of the contents.
     [[nodiscard]] int contentsHeight() const { return m_contents.height(); }
     /// Sets the size of the contents; the position is limited to the new range.
     void resizeContents(int w, int h);
 
-    /// Takes the widget into the viewport at (x, y) of the contents.
+    /// Takes the widget into the viewport, which owns it then, at (x, y) of the contents.
     void addChild(QWidget* child, int x, int y);
+    /// Moves the widget to (x, y) of the contents.
     void moveChild(QWidget* child, int x, int y);
 
 protected:
