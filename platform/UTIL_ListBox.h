@@ -15,8 +15,8 @@ class KORVA_EXPORT UTIL_ListBox : public QListWidget
 
 public:
     /// `layout` divides the rows into fields from left to right, each a letter and its width in pixels:
-    /// `%T5` a text, `%R20` the mark, as in `%T5%R20%T5%T189`. It is read up to the first thing that is
-    /// none.
+    /// `%T5` a text, `%R20` the mark, as in `%T5%R20%T5%T189`. Reading ends at the first thing that is not
+    /// such a field.
     explicit UTIL_ListBox(const QString& layout, QWidget* parent = nullptr, const char* name = nullptr);
 
     /// Takes the item over; a negative position, or one past the end, appends it.

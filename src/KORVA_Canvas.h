@@ -32,8 +32,7 @@ public:
     /// A white picture of `width` × `height` pixels at 100 %; empty where a side is not positive. It counts
     /// as modified and has nothing to undo.
     ///
-    /// `editor` has signals of the names of this class's; all but clipboard() are handed on to it. Null: to
-    /// nobody. Not owned.
+    /// `editor`, which is not owned, hands every signal but clipboard() on to the host; null: nobody does.
     KORVA_Canvas(KORVA_EditCanvas* editor, int width, int height, QWidget* parent = nullptr,
                  const char* name = nullptr);
     /// The same in the size of the picture in the file, whose contents load() or setPixmap() bring in;
@@ -82,8 +81,8 @@ public:
     /// Fills the picture; typed text and a floating piece are dropped, without selection(false).
     void clearCanvas(const QColor& color);
     /// Scales the picture to `w` × `h` pixels; nothing where that is its size, empty where a side is not
-    /// positive. Emits sizeChanged(), pixmapChanged(), modified(). A floating piece is merged into the new
-    /// picture, and the old size cannot be had back then.
+    /// positive. Emits sizeChanged() where the size on screen is another, pixmapChanged(), modified(). A
+    /// floating piece is merged into the new picture, and undo does not bring the old one back then.
     void resizeImage(int w, int h);
     /// Takes the picture of a file in, as setPixmap() does, while no tool is active, and tells whether that
     /// was so: in an editor it never is. What cannot be read gives an empty picture. `format` names the one

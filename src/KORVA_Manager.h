@@ -17,8 +17,8 @@ class KORVA_Tool;
 /// width that the editor sets. From construction on exactly one tool is active on the canvas, at first the
 /// pencil, with red pens of one pixel.
 ///
-/// Tools by identifier: 0 KORVA_Pen, 1 KORVA_AreaSelect, 2 KORVA_Line, 3 KORVA_Text, 4 KORVA_Rectangle, 5
-/// KORVA_Ellipse, 6 KORVA_Rubber, 7 KORVA_Drag. No property touches the picture.
+/// The tools by identifier, from 0: KORVA_Pen, KORVA_AreaSelect, KORVA_Line, KORVA_Text, KORVA_Rectangle,
+/// KORVA_Ellipse, KORVA_Rubber, KORVA_Drag. No property touches the picture.
 class KORVA_EXPORT KORVA_Manager : public QObject
 {
     Q_OBJECT
