@@ -22,8 +22,8 @@ class QMenu;
 /// of the zoomed picture, "picture coordinates" of the real one.
 ///
 /// Every operation that changes the picture takes the snapshot before and calls markModified() after, which
-/// emits modified(), canUndo(true), canRedo(false); what does otherwise says so. undo(), redo() and a
-/// picture taken in leave the modified flag as it is.
+/// makes undo possible; what does otherwise says so. undo(), redo() and a picture taken in leave the
+/// modified flag as it is.
 class KORVA_EXPORT KORVA_Canvas : public QWidget
 {
     Q_OBJECT
@@ -166,7 +166,7 @@ public:
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 public slots:
-    /// The picture was changed: sets the modified flag and emits modified(), canUndo(true), canRedo(false).
+    /// The picture was changed: sets the modified flag and emits modified(), on which record() follows.
     void markModified();
     /// As undo(), but emits canUndo(true), canRedo(false).
     void redo();
@@ -194,7 +194,8 @@ signals:
     /// Another picture was taken in, or the picture was scaled. Painting, undo and redo do not emit it.
     /// `picture` stays the canvas's.
     void pixmapChanged(QPixmap* picture);
-    /// From markModified(), before the signals on undo and redo.
+    /// From markModified(). The editor's listeners hear it before canUndo(true) and canRedo(false),
+    /// listeners to the canvas itself after them: record() is connected before them.
     void modified();
     /// True when a rectangle was lifted; false when it was forgotten and whenever a piece was merged.
     void selection(bool exists);

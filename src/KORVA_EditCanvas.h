@@ -95,6 +95,7 @@ public:
     /// See KORVA_Canvas::insertStamp().
     void insertStamp(QPixmap& stamp);
     /// Scales the picture to `w` × `h` pixels, as KORVA_Canvas::resizeImage() does, and centres the canvas.
+    /// At 100 % sizeChanged() is not emitted.
     void setCanvasSize(int w, int h);
     /// As KORVA_Canvas::setZoom(), in percent; the zoom box keeps what it shows. Typed text is not
     /// committed.
@@ -203,7 +204,7 @@ signals:
     void canvasChanged(int zoomIndex);
     /// See KORVA_Canvas::pixmapChanged().
     void pixmapChanged(QPixmap* picture);
-    /// See KORVA_Canvas::modified().
+    /// See KORVA_Canvas::modified(). Followed by canUndo(true), canRedo(false).
     void modified();
     /// As KORVA_Canvas::selection(): whether cut and copy are to be offered.
     void selection(bool exists);
