@@ -47,7 +47,7 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     m_position = addField(tr("Position", "status line"), Qt::AlignRight, 3);
 
     m_timer.setSingleShot(true);
-    m_timer.setInterval(60ms);
+    m_timer.setInterval(100ms);
     connect(&m_timer, &QTimer::timeout, this, &StatusLine::refresh);
     connect(&editor, &KORVA_EditCanvas::signalTextTool, this, &StatusLine::refreshSoon);
     connect(&editor, &KORVA_EditCanvas::sizeChanged, this, &StatusLine::refreshSoon);
