@@ -1,16 +1,4 @@
-#include "support/TestCase.h"
-#include "support/XServer.h"
-
-using support::XServer;
-
-namespace {
-
-constexpr int patience = 20'000; // ms
-constexpr QSize window(240, 280);
-constexpr QPoint undoButton(120, 253);
-constexpr QPoint onCanvas(60, 80);
-
-} // namespace
+#include "Example.h"
 
 /// The example that shows how to embed the editor, as a person uses it.
 class tst_Minimal : public support::TestCase
@@ -35,31 +23,17 @@ void tst_Minimal::isShort()
 
 void tst_Minimal::drawsAndUndoes()
 {
-    XServer server;
-    QVERIFY(server.isReady());
-    QProcess example;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", server.display());
-    environment.insert("QT_QPA_PLATFORM", "xcb");
-    example.setProcessEnvironment(environment);
-    example.start(KORVA_MINIMAL, {});
-    const auto end = qScopeGuard([&example] {
-        example.terminate();
-        example.waitForFinished(patience);
-    });
-    const QRect place = server.waitForWindow(window);
-    QCOMPARE(place.size(), window);
-    const auto pixel = [&] { return server.screenshot().pixelColor(place.topLeft() + onCanvas); };
-    QTRY_COMPARE_WITH_TIMEOUT(pixel(), QColor(Qt::white), patience);
-
-    server.moveTo(place.topLeft() + onCanvas - QPoint(20, 0));
-    server.press();
-    server.moveTo(place.topLeft() + onCanvas + QPoint(20, 0));
-    server.release();
-    QTRY_COMPARE_WITH_TIMEOUT(pixel(), QColor(Qt::red), patience);
-    server.click(place.topLeft() + undoButton);
-    QTRY_COMPARE_WITH_TIMEOUT(pixel(), QColor(Qt::white), patience);
-    QCOMPARE(example.state(), QProcess::Running);
+    constexpr QSize window(240, 280);
+    constexpr QPoint undoKey(120, 253);
+    constexpr QPoint onCanvas(60, 80);
+    Example example(window);
+    QCOMPARE(example.place().size(), window);
+    QVERIFY(example.shows(onCanvas, Qt::white));
+    example.drag(onCanvas - QPoint(20, 0), onCanvas + QPoint(20, 0));
+    QVERIFY(example.shows(onCanvas, Qt::red));
+    example.click(undoKey);
+    QVERIFY(example.shows(onCanvas, Qt::white));
+    QVERIFY(example.isRunning());
 }
 
 int main(int argc, char** argv)
