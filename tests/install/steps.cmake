@@ -11,9 +11,21 @@ function(step)
     set(step_output "${output}" PARENT_SCOPE)
 endfunction()
 
-# configure(source build...): a project outside the tree.
-function(configure project)
-    step(${CMAKE_COMMAND} -S ${here}/${project} -B ${work}/build -G ${generator}
+# compose(block checks): a stranger's project, in which the block of the documents says how Korva comes in.
+function(compose block checks)
+    file(READ ${blocks}/${block} text)
+    file(WRITE ${work}/source/CMakeLists.txt "cmake_minimum_required(VERSION 3.25)
+project(stranger LANGUAGES CXX)
+${text}
+target_compile_options(app PRIVATE -Wall -Wextra -Werror)
+include(${here}/${checks})
+")
+    file(COPY ${here}/main.cpp DESTINATION ${work}/source)
+endfunction()
+
+# configure(definitions...): that project.
+function(configure)
+    step(${CMAKE_COMMAND} -S ${work}/source -B ${work}/build -G ${generator}
         -D CMAKE_CXX_COMPILER=${compiler} -D CMAKE_CXX_FLAGS=${flags} ${ARGN})
 endfunction()
 

@@ -1,9 +1,4 @@
-cmake_minimum_required(VERSION 3.25)
-project(consumer LANGUAGES CXX)
-
-find_package(Korva 1 REQUIRED CONFIG)
-
-# Every installed header is the only one that some source includes.
+# Every installed header is the only one that some source of the app includes.
 get_target_property(include_folders Korva::Korva INTERFACE_INCLUDE_DIRECTORIES)
 foreach(folder IN LISTS include_folders)
     file(GLOB headers RELATIVE ${folder} ${folder}/*.h)
@@ -16,7 +11,4 @@ endforeach()
 if(NOT sources)
     message(FATAL_ERROR "there are no public headers")
 endif()
-
-add_executable(consumer main.cpp ${sources})
-target_link_libraries(consumer PRIVATE Korva::Korva)
-target_compile_options(consumer PRIVATE -Wall -Wextra -Werror)
+target_sources(app PRIVATE ${sources})

@@ -1,0 +1,300 @@
+#include "support/Gestures.h"
+#include "support/Images.h"
+#include "support/Modal.h"
+#include "support/TestCase.h"
+
+#include <UTIL_Platform.h>
+
+namespace {
+
+/// What the guides leave to the reader of "Services of the platform": it writes down what it is asked for.
+class Device : public UTIL_Platform
+{
+public:
+    QStringList log;
+
+protected:
+    int askOnOwnPanel(const QString& text, const QStringList& buttons)
+    {
+        log << text + ": " + buttons.join(" or ");
+        return 1;
+    }
+    void showBanner(const QString& text, int milliseconds)
+    {
+        log << QString("%1 for %2 ms").arg(text).arg(milliseconds);
+    }
+    void deliverTouchAsMouse(const QWidget* widget) { log << widget->metaObject()->className(); }
+
+    bool m_keyboardHidesItself = true;
+};
+
+} // namespace
+
+// Every block is called below: one that is not stops the compiler.
+#pragma GCC diagnostic ignored "-Wunused-parameter"
+#include "cpp.inc"
+
+namespace {
+
+void drawOn(KORVA_EditCanvas* editor)
+{
+    support::Gestures(*editor->canvas()).drag({{20, 30}, {60, 30}});
+}
+
+QAction* action(const QMenu& menu, const QString& text)
+{
+    for (QAction* each : menu.actions())
+        if (each->text() == text)
+            return each;
+    return nullptr;
+}
+
+} // namespace
+
+/// The blocks of C++ in the documents do what their text says.
+class tst_CppBlocks : public support::TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup() { UTIL_Platform::install(nullptr); }
+
+    void readmeEmbeds();
+    void everyCommandIsWired();
+    void aNewDrawing_data();
+    void aNewDrawing();
+    void closingAsks_data();
+    void closingAsks();
+    void thePreviewTells_data();
+    void thePreviewTells();
+    void servicesAreInstalled();
+    void servicesAreReplaced();
+    void languages();
+    void everyPointIsDrawn();
+    void aScaleIsSet();
+    void aSoftKeyIsAdded();
+
+private:
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    QTemporaryDir m_folder;
+};
+
+/// Also what "Documents" says about saving.
+void tst_CppBlocks::initTestCase()
+{
+    qunsetenv("KIV_LOCAL_DOWNLOAD_PATH");
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    drawOn(&editor);
+    QVERIFY(!editor.save(path("early.png"), "PNG"));
+    embedding::prepareSaving(path("downloads"));
+    QVERIFY(editor.save(path("drawing.png"), "PNG"));
+    QVERIFY(support::inkCount(QImage(path("drawing.png"))) >= 40);
+}
+
+void tst_CppBlocks::readmeEmbeds()
+{
+    QWidget window;
+    QAction undo;
+    QAction save;
+    undo.setEnabled(false);
+    readme::embed(&window, &undo, &save);
+    auto* editor = window.findChild<KORVA_EditCanvas*>();
+    drawOn(editor);
+    QVERIFY(undo.isEnabled());
+    editor->setFileName(path("readme.png"));
+    support::whenOpen([](QDialog& told) { QTest::mouseClick(&told, Qt::LeftButton); });
+    save.trigger();
+    QVERIFY(support::inkCount(QImage(path("readme.png"))) >= 40);
+    undo.trigger();
+    QVERIFY(!undo.isEnabled());
+    QCOMPARE(support::inkCount(editor->pixmap()->toImage()), 0);
+}
+
+void tst_CppBlocks::everyCommandIsWired()
+{
+    QWidget window;
+    QMenu menu;
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT, &window);
+    embedding::wire(&editor, &menu, &window);
+    const auto enabled = [&menu] {
+        QStringList texts;
+        for (const QAction* each : menu.actions())
+            if (each->isEnabled())
+                texts << each->text();
+        return texts.join(' ');
+    };
+    const QString always = "Open Save %1Paste Select all Clear";
+    QCOMPARE(enabled(), always.arg(""));
+    drawOn(&editor);
+    QCOMPARE(enabled(), always.arg("Undo "));
+    QVERIFY(window.isWindowModified());
+    action(menu, "Undo")->trigger();
+    QCOMPARE(enabled(), always.arg("Redo "));
+    action(menu, "Redo")->trigger();
+    action(menu, "Select all")->trigger();
+    QCOMPARE(enabled(), always.arg("Undo Cut Copy "));
+    action(menu, "Copy")->trigger();
+    action(menu, "Cut")->trigger();
+    QCOMPARE(support::inkCount(editor.pixmap()->toImage()), 0);
+    action(menu, "Paste")->trigger();
+    QVERIFY(support::inkCount(editor.pixmap()->toImage()) >= 40);
+
+    editor.setFileName(path("wired.png"));
+    support::whenOpen([](QDialog& told) { QTest::mouseClick(&told, Qt::LeftButton); });
+    action(menu, "Save")->trigger();
+    QVERIFY(!window.isWindowModified());
+    QCOMPARE(window.windowTitle(), "wired.png[*]");
+    QVERIFY(action(menu, "Delete")->isEnabled());
+    support::whenOpen([](QDialog& asked) { support::button(asked, "OK")->click(); });
+    action(menu, "Delete")->trigger();
+    QVERIFY(!QFile::exists(path("wired.png")));
+
+    drawOn(&editor);
+    action(menu, "Clear")->trigger();
+    QCOMPARE(support::inkCount(editor.pixmap()->toImage()), 0);
+    editor.clearModified();
+    support::whenOpen([](QDialog& picking) { picking.reject(); });
+    action(menu, "Open")->trigger();
+}
+
+void tst_CppBlocks::aNewDrawing_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("OK") << "OK" << QSize(200, 170);
+    QTest::newRow("Cancel") << "Cancel" << QSize(10, 10);
+}
+
+void tst_CppBlocks::aNewDrawing()
+{
+    QFETCH(const QString, key);
+    QFETCH(const QSize, size);
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    editor.setCanvasSize(10, 10);
+    editor.clearModified();
+    editor.setFileName(path("old.png"));
+    support::whenOpen([&key](QDialog& sizes) { support::press(sizes, key, false); });
+    embedding::newDrawing(&editor);
+    QCOMPARE(editor.pixmap()->size(), size);
+    QCOMPARE(editor.fileName().isEmpty(), key == "OK");
+    QVERIFY(!editor.isModified());
+}
+
+void tst_CppBlocks::closingAsks_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("may");
+    QTest::newRow("Yes") << "Yes" << true;
+    QTest::newRow("No") << "No" << true;
+    QTest::newRow("Cancel") << "Cancel" << false;
+}
+
+void tst_CppBlocks::closingAsks()
+{
+    QFETCH(const QString, key);
+    QFETCH(const bool, may);
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    QVERIFY(embedding::mayClose(&editor));
+    editor.setFileName(path(key + ".png"));
+    editor.selectAll(); // what floats counts
+    support::whenOpen([&key](QDialog& asked) {
+        if (key == "Yes")
+            support::whenOpen([](QDialog& told) { QTest::mouseClick(&told, Qt::LeftButton); });
+        support::button(asked, key)->click();
+    });
+    QCOMPARE(embedding::mayClose(&editor), may);
+    QCOMPARE(QFile::exists(path(key + ".png")), key == "Yes");
+}
+
+void tst_CppBlocks::thePreviewTells_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("confirmed") << "Confirm";
+    QTest::newRow("cancelled") << "Cancel";
+}
+
+void tst_CppBlocks::thePreviewTells()
+{
+    QFETCH(const QString, key);
+    support::whenOpen([&key](QDialog& preview) { support::button(preview, key)->click(); });
+    QCOMPARE(embedding::isWanted(path("drawing.png")), key == "Confirm");
+}
+
+void tst_CppBlocks::servicesAreInstalled()
+{
+    embedding::installServices();
+    QCOMPARE(UTIL_Platform::instance()->photoFolder(), "/media/pictures");
+    UTIL_Platform::install(nullptr);
+    QVERIFY(UTIL_Platform::instance()->photoFolder() != "/media/pictures");
+}
+
+void tst_CppBlocks::servicesAreReplaced()
+{
+    auto* services = new embedding::Services;
+    UTIL_Platform::install(std::unique_ptr<UTIL_Platform>(services));
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    QCOMPARE(services->log, QStringList({"KORVA_Canvas", "KORVA_PasteLabel"}));
+    services->log.clear();
+    drawOn(&editor);
+    editor.slotDelete();
+    editor.setFileName(path("services.png"));
+    editor.slotSave();
+    QCOMPARE(services->log,
+             QStringList({"Delete drawing?: OK or Cancel", "Saved Successfully for 2000 ms"}));
+
+    QCOMPARE(services->iconFolder(), "/usr/share/kiosk/icons");
+    QCOMPARE(services->photoFolder(), "/media/card/DCIM");
+    QCOMPARE(services->pixelLimit(), 12'000'000);
+    const QDir folder(m_folder.path());
+    const std::unique_ptr<UTIL_PictureDialog> pick(
+        services->createPickDialog(&editor, folder.path(), {"drawing.*"}));
+    QCOMPARE(pick->exec(), 1);
+    QCOMPARE(pick->fileName(), path("drawing.png"));
+    const std::unique_ptr<UTIL_PictureDialog> none(
+        services->createPickDialog(&editor, folder.path(), {"*.none"}));
+    QCOMPARE(none->exec(), 0);
+    const std::unique_ptr<UTIL_PictureDialog> save(services->createSaveDialog(&editor, folder.path(), {}));
+    QCOMPARE(save->fileName(), path("drawing.png"));
+}
+
+void tst_CppBlocks::languages()
+{
+    QVERIFY(embedding::speak(QLocale(QLocale::German)));
+    const KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    QCOMPARE(editor.findChild<QPushButton*>("colorButton")->toolTip(), "Farbe");
+    QVERIFY(!embedding::speak(QLocale(QLocale::Finnish)));
+    KORVA_Translations::unload();
+}
+
+void tst_CppBlocks::everyPointIsDrawn()
+{
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents); // as on X11
+    embedding::drawEveryPoint();
+    QVERIFY(!QCoreApplication::testAttribute(Qt::AA_CompressHighFrequencyEvents));
+}
+
+void tst_CppBlocks::aScaleIsSet()
+{
+    porting::scaleBy(3);
+    QCOMPARE(qgetenv("QT_SCALE_FACTOR"), "3");
+    QCOMPARE(qgetenv("QT_ENABLE_HIGHDPI_SCALING"), "0");
+    qunsetenv("QT_SCALE_FACTOR");
+    qunsetenv("QT_ENABLE_HIGHDPI_SCALING");
+}
+
+void tst_CppBlocks::aSoftKeyIsAdded()
+{
+    QWidget window;
+    const QPushButton* key = porting::addSoftKey(&window);
+    QCOMPARE(key->parentWidget(), &window);
+    QCOMPARE(key->text(), "Menu");
+}
+
+int main(int argc, char** argv)
+{
+    return support::run<tst_CppBlocks>(argc, argv);
+}
+
+#include "tst_CppBlocks.moc"
