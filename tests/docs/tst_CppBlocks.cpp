@@ -12,6 +12,7 @@ class Device : public UTIL_Platform
 {
 public:
     QStringList log;
+    bool m_keyboardHidesItself = true;
 
 protected:
     int askOnOwnPanel(const QString& text, const QStringList& buttons)
@@ -24,8 +25,6 @@ protected:
         log << QString("%1 for %2 ms").arg(text).arg(milliseconds);
     }
     void deliverTouchAsMouse(const QWidget* widget) { log << widget->metaObject()->className(); }
-
-    bool m_keyboardHidesItself = true;
 };
 
 } // namespace
@@ -236,6 +235,7 @@ void tst_CppBlocks::servicesAreReplaced()
     UTIL_Platform::install(std::unique_ptr<UTIL_Platform>(services));
     KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
     QCOMPARE(services->log, QStringList({"KORVA_Canvas", "KORVA_PasteLabel"}));
+    QVERIFY(!services->m_keyboardHidesItself);
     services->log.clear();
     drawOn(&editor);
     editor.slotDelete();

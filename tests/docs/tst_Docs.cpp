@@ -77,6 +77,7 @@ private slots:
     void signalsAndSlotsAreComplete();
     void servicesAreComplete();
     void everyCommandHasAnExample();
+    void expectationsNameTests();
     void blocksRun_data();
     void blocksRun();
 
@@ -218,6 +219,39 @@ void tst_Docs::everyCommandHasAnExample()
     for (const QString& cell : firstColumn("docs/recording.md", "The language"))
         described << cell.section(' ', 0, 0);
     QCOMPARE(QSet<QString>(described.begin(), described.end()), QSet<QString>(words.begin(), words.end()));
+}
+
+/// The rows of expectations.md name tests that there are, functions included, and each row names one.
+void tst_Docs::expectationsNameTests()
+{
+    int exitCode = 0;
+    const QString listed = ran(KORVA_BUILD_DIR, KORVA_CTEST, {"--show-only=json-v1"}, &exitCode);
+    QHash<QString, QString> programs;
+    for (const QJsonValue test : QJsonDocument::fromJson(listed.toUtf8())["tests"].toArray())
+        programs.insert(test["name"].toString(), test["command"][0].toString());
+    QVERIFY(programs.size() > 70);
+
+    QHash<QString, QString> functions;
+    int rows = 0;
+    for (const QString& line : docs::contents("docs/expectations.md").split('\n')) {
+        if (!line.startsWith("| ") || line.startsWith("| an embedder expects |"))
+            continue;
+        ++rows;
+        const QStringList named = captured(line.section('|', 3, 3), "`([^`]+)`");
+        QVERIFY2(!named.isEmpty(), qPrintable(line));
+        for (const QString& name : named) {
+            const QString test = name.section("::", 0, 0);
+            const QString function = name.section("::", 1);
+            QVERIFY2(programs.contains(test), qPrintable(name));
+            if (function.isEmpty())
+                continue;
+            if (!functions.contains(test))
+                functions.insert(test,
+                                 '\n' + ran(KORVA_BUILD_DIR, programs[test], {"-functions"}, &exitCode));
+            QVERIFY2(functions[test].contains('\n' + function + "()\n"), qPrintable(name));
+        }
+    }
+    QVERIFY(rows > 30);
 }
 
 /// What the blocks of a document find in their folder.

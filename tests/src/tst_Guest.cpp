@@ -114,6 +114,7 @@ private slots:
     void aThousandEditorsLeaveNothingBehind();
     void globalsStayAsTheyAre();
     void noKeyIsTakenFromTheProgram();
+    void typedLettersRunNoCommand();
 
 private:
     QTemporaryDir m_home;
@@ -233,6 +234,39 @@ void tst_Guest::noKeyIsTakenFromTheProgram()
         QVERIFY2(action->shortcuts().isEmpty(), qPrintable(action->text()));
     for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
         QVERIFY2(button->shortcut().isEmpty(), qPrintable(button->objectName()));
+}
+
+void tst_Guest::typedLettersRunNoCommand()
+{
+    constexpr int pencil = 103;
+    constexpr int text = 104;
+    QWidget window;
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT, &window);
+    QStringList run;
+    for (const char* keys : {"L", "Ctrl+L", "F5", "Backspace"}) {
+        auto* command = new QAction(&window);
+        command->setShortcut(QKeySequence(keys));
+        connect(command, &QAction::triggered, &window, [&run, keys] { run << keys; });
+        window.addAction(command);
+    }
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto pressAll = [&] {
+        run.clear();
+        QTest::keyClick(editor.canvas(), Qt::Key_L);
+        // With the text that a window system gives it.
+        QTest::sendKeyEvent(QTest::Click, editor.canvas(), Qt::Key_L, QString("\f"), Qt::ControlModifier);
+        QTest::keyClick(editor.canvas(), Qt::Key_F5);
+        QTest::keyClick(editor.canvas(), Qt::Key_Backspace);
+        return run;
+    };
+    editor.slotSelChangeTool(pencil);
+    QCOMPARE(pressAll(), QStringList({"L", "Ctrl+L", "F5", "Backspace"}));
+    editor.slotSelChangeTool(text);
+    QCOMPARE(pressAll(), QStringList({"L", "Ctrl+L", "F5", "Backspace"})); // no text is open yet
+    support::Gestures(*editor.canvas()).click({20, 50});
+    QCOMPARE(pressAll().join(' '), "Ctrl+L F5");
 }
 
 int main(int argc, char** argv)
