@@ -206,8 +206,12 @@ void tst_Docs::everyCommandHasAnExample()
     };
     const QStringList words = captured(docs::contents("host/Recording.cpp"), "\\{\"(\\w+)\", Verb::");
     QVERIFY(words.size() >= 22);
-    for (const QString& word : words)
+    const QStringList inManual =
+        captured(docs::contents("docs/man/korva-pad.1").section(".SH RECORDINGS", 1), "([a-z]+)");
+    for (const QString& word : words) {
         QVERIFY2(hasLine(word), qPrintable(word));
+        QVERIFY2(inManual.contains(word), qPrintable("the manual page lacks " + word));
+    }
     for (const char* name : pad::toolNames)
         QVERIFY2(hasLine(QString("tool %1").arg(name)), name);
     for (const char* name : pad::zoomNames)
