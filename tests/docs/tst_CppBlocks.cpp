@@ -149,6 +149,8 @@ void tst_CppBlocks::everyCommandIsWired()
     support::whenOpen([](QDialog& asked) { support::button(asked, "OK")->click(); });
     action(menu, "Delete")->trigger();
     QVERIFY(!QFile::exists(path("wired.png")));
+    QVERIFY(!action(menu, "Delete")->isEnabled());
+    QCOMPARE(window.windowTitle(), "[*]");
 
     drawOn(&editor);
     action(menu, "Clear")->trigger();

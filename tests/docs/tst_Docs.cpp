@@ -186,7 +186,8 @@ void tst_Docs::servicesAreComplete()
     for (const Block& block : docs::blocksIn("docs/embedding.md"))
         if (block.rule == "member")
             replaced << captured(block.text, "(\\w+)\\([^;]*(?:const )?override");
-    QStringList services = captured(docs::contents("platform/UTIL_Platform.h"), "virtual [^~;]*?(\\w+)\\(");
+    QStringList services = captured(docs::contents("platform/UTIL_Platform.h"),
+                                    "^ +(?:\\[\\[nodiscard\\]\\] )?virtual [^~;]*?(\\w+)\\(");
     QVERIFY(services.size() >= 11);
     services.sort();
     replaced.sort();
