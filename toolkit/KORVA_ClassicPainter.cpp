@@ -29,6 +29,29 @@ QRect withOutline(const QRect& box, int width)
     return box.adjusted(-before, -before, after, after);
 }
 
+/// The toolkit shares out what it inverts among threads from about a hundred runs of pixels on, and waking
+/// those takes many times as long as the painting. So it is given fewer at a time.
+constexpr int mostRuns = 90;
+
+QList<QRect> inRows(const QRect& box, int rows)
+{
+    QList<QRect> parts;
+    for (int top = box.top(); top <= box.bottom(); top += rows)
+        parts.append(QRect(box.left(), top, box.width(), rows) & box);
+    return parts;
+}
+
+/// A line's run is one pixel long, even where the line lies flat.
+QList<QRect> alongTheLongerSide(const QRect& box)
+{
+    if (box.height() >= box.width())
+        return inRows(box, mostRuns);
+    QList<QRect> parts;
+    for (int left = box.left(); left <= box.right(); left += mostRuns)
+        parts.append(QRect(left, box.top(), mostRuns, box.height()) & box);
+    return parts;
+}
+
 void mirrorAboutAnchor(int& origin, int& length)
 {
     if (length < 0) {
@@ -67,6 +90,7 @@ void KORVA_ClassicPainter::setFont(const QFont& font)
 
 void KORVA_ClassicPainter::setRasterOp(RasterOp op)
 {
+    m_op = op;
     m_painter.setCompositionMode(op == NotROP ? QPainter::RasterOp_NotDestination
                                               : QPainter::CompositionMode_SourceOver);
 }
@@ -99,8 +123,11 @@ void KORVA_ClassicPainter::drawLine(int x1, int y1, int x2, int y2)
         drawPoint(x1, y1);
         return;
     }
-    m_painter.drawLine(x1, y1, x2, y2);
-    touch(classic::normalized(QRect(QPoint(x1, y1), QPoint(x2, y2))), outlineWidth());
+    const int width = outlineWidth();
+    const QRect box = classic::normalized(QRect(QPoint(x1, y1), QPoint(x2, y2)));
+    touch(box, width);
+    draw(alongTheLongerSide(visible(box.adjusted(-width, -width, width, width))),
+         [&] { m_painter.drawLine(x1, y1, x2, y2); });
 }
 
 void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
@@ -111,17 +138,23 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
     mirrorAboutAnchor(y, h);
     const int width = outlineWidth();
     touch(QRect(x, y, w, h), width);
+    const QRect outer = withOutline(QRect(x, y, w, h), width);
+    const QRect hole = outer.adjusted(width, width, -width, -width);
+    const QRegion bars = QRegion(outer) - hole;
+    QList<QRect> parts;
+    for (const QRect& bar : bars)
+        parts += alongTheLongerSide(visible(bar));
     if (m_painter.pen().style() > Qt::SolidLine) {
         const double centre = penCentre(width);
-        m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1));
+        draw(parts, [&] { m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1)); });
         return;
     }
     // Bars that share no pixel: today's own outline would invert the pixels of a narrow frame twice and let
     // the corners of a wide one grow spikes.
-    const QRect outer = withOutline(QRect(x, y, w, h), width);
-    const QRect hole = outer.adjusted(width, width, -width, -width);
-    for (const QRect& bar : QRegion(outer) - hole)
-        m_painter.fillRect(bar, m_painter.pen().brush());
+    draw(parts, [&] {
+        for (const QRect& bar : bars)
+            m_painter.fillRect(bar, m_painter.pen().brush());
+    });
     if (!hole.isEmpty())
         m_painter.fillRect(hole, m_painter.brush());
 }
@@ -135,10 +168,30 @@ void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
     const int width = outlineWidth();
     touch(QRect(x, y, w, h), width);
     const double centre = penCentre(width);
-    m_painter.save();
-    m_painter.setClipRect(withOutline(QRect(x, y, w, h), width));
-    m_painter.drawEllipse(QRectF(x + centre, y + centre, w - 1, h - 1));
-    m_painter.restore();
+    const QRectF path(x + centre, y + centre, w - 1, h - 1);
+    const QRect box = withOutline(QRect(x, y, w, h), width);
+    m_painter.setClipRect(box);
+    draw(width > 1 ? inRows(visible(box), mostRuns / 2) : QList{box}, [&] { m_painter.drawEllipse(path); });
+    m_painter.setClipping(false);
+}
+
+template <typename Draw>
+void KORVA_ClassicPainter::draw(const QList<QRect>& parts, const Draw& drawAll)
+{
+    if (m_op == CopyROP) {
+        drawAll();
+        return;
+    }
+    for (const QRect& part : parts) {
+        m_painter.setClipRect(part);
+        drawAll();
+    }
+    m_painter.setClipping(false);
+}
+
+QRect KORVA_ClassicPainter::visible(const QRect& rect) const
+{
+    return rect & QRect(0, 0, m_painter.device()->width(), m_painter.device()->height());
 }
 
 void KORVA_ClassicPainter::fillRect(const QRect& rect, const QColor& color)
@@ -157,7 +210,7 @@ QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString&
 {
     const int margin = m_painter.fontMetrics().height(); // letters may reach out of their box
     QRect used;
-    if (m_painter.compositionMode() == QPainter::RasterOp_NotDestination) {
+    if (m_op == NotROP) {
         used = m_painter.boundingRect(box, flags, text);
         invertText(used.adjusted(-margin, -margin, margin, margin), box, flags, text);
     } else {

@@ -46,10 +46,15 @@ public:
 private:
     void touch(const QRect& rect, int margin = 0);
     [[nodiscard]] int outlineWidth() const;
+    [[nodiscard]] QRect visible(const QRect& rect) const;
+    /// Paints a shape; where it inverts, part by part, which together hold all of it and share no pixel.
+    template <typename Draw>
+    void draw(const QList<QRect>& parts, const Draw& drawAll);
     void invertText(const QRect& area, const QRect& box, int flags, const QString& text);
 
     QPixmap m_nothing; ///< stands in for a null target, on which Qt refuses to open a painter
     QPainter m_painter;
+    RasterOp m_op = CopyROP;
     QRect m_touched;
 };
 
