@@ -33,22 +33,15 @@ QRect withOutline(const QRect& box, int width)
 /// those takes many times as long as the painting. So it is given fewer at a time.
 constexpr int mostRuns = 90;
 
-QList<QRect> inRows(const QRect& box, int rows)
-{
-    QList<QRect> parts;
-    for (int top = box.top(); top <= box.bottom(); top += rows)
-        parts.append(QRect(box.left(), top, box.width(), rows) & box);
-    return parts;
-}
-
-/// A line's run is one pixel long, even where the line lies flat.
+/// A thin line's run is one pixel long, even where the line lies flat.
 QList<QRect> alongTheLongerSide(const QRect& box)
 {
-    if (box.height() >= box.width())
-        return inRows(box, mostRuns);
+    const bool isFlat = box.width() > box.height();
+    const QPoint step = isFlat ? QPoint(mostRuns, 0) : QPoint(0, mostRuns);
+    const QSize size = isFlat ? QSize(mostRuns, box.height()) : QSize(box.width(), mostRuns);
     QList<QRect> parts;
-    for (int left = box.left(); left <= box.right(); left += mostRuns)
-        parts.append(QRect(left, box.top(), mostRuns, box.height()) & box);
+    for (QRect part(box.topLeft(), size); part.intersects(box); part.translate(step))
+        parts.append(part & box);
     return parts;
 }
 
@@ -100,6 +93,11 @@ void KORVA_ClassicPainter::setWorldMatrix(const QTransform& matrix)
     m_painter.setWorldTransform(matrix);
 }
 
+QRect KORVA_ClassicPainter::targetRect() const
+{
+    return {0, 0, m_painter.device()->width(), m_painter.device()->height()};
+}
+
 int KORVA_ClassicPainter::outlineWidth() const
 {
     return m_painter.pen().style() == Qt::NoPen ? 0 : qMax(1, m_painter.pen().width());
@@ -126,8 +124,7 @@ void KORVA_ClassicPainter::drawLine(int x1, int y1, int x2, int y2)
     const int width = outlineWidth();
     const QRect box = classic::normalized(QRect(QPoint(x1, y1), QPoint(x2, y2)));
     touch(box, width);
-    draw(alongTheLongerSide(visible(box.adjusted(-width, -width, width, width))),
-         [&] { m_painter.drawLine(x1, y1, x2, y2); });
+    drawInParts(QRegion(box), [&] { m_painter.drawLine(x1, y1, x2, y2); });
 }
 
 void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
@@ -140,21 +137,18 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
     touch(QRect(x, y, w, h), width);
     const QRect outer = withOutline(QRect(x, y, w, h), width);
     const QRect hole = outer.adjusted(width, width, -width, -width);
-    const QRegion bars = QRegion(outer) - hole;
-    QList<QRect> parts;
-    for (const QRect& bar : bars)
-        parts += alongTheLongerSide(visible(bar));
+    const QRegion bars = (QRegion(outer) - hole) & targetRect();
     if (m_painter.pen().style() > Qt::SolidLine) {
         const double centre = penCentre(width);
-        draw(parts, [&] { m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1)); });
+        drawInParts(bars, [&] { m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1)); });
         return;
     }
     // Bars that share no pixel: today's own outline would invert the pixels of a narrow frame twice and let
     // the corners of a wide one grow spikes.
-    draw(parts, [&] {
-        for (const QRect& bar : bars)
-            m_painter.fillRect(bar, m_painter.pen().brush());
-    });
+    for (const QRect& bar : bars) {
+        for (const QRect& part : alongTheLongerSide(bar))
+            m_painter.fillRect(part, m_painter.pen().brush());
+    }
     if (!hole.isEmpty())
         m_painter.fillRect(hole, m_painter.brush());
 }
@@ -168,30 +162,28 @@ void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
     const int width = outlineWidth();
     touch(QRect(x, y, w, h), width);
     const double centre = penCentre(width);
-    const QRectF path(x + centre, y + centre, w - 1, h - 1);
-    const QRect box = withOutline(QRect(x, y, w, h), width);
-    m_painter.setClipRect(box);
-    draw(width > 1 ? inRows(visible(box), mostRuns / 2) : QList{box}, [&] { m_painter.drawEllipse(path); });
-    m_painter.setClipping(false);
+    m_painter.save();
+    m_painter.setClipRect(withOutline(QRect(x, y, w, h), width));
+    m_painter.drawEllipse(QRectF(x + centre, y + centre, w - 1, h - 1));
+    m_painter.restore();
 }
 
 template <typename Draw>
-void KORVA_ClassicPainter::draw(const QList<QRect>& parts, const Draw& drawAll)
+void KORVA_ClassicPainter::drawInParts(const QRegion& area, const Draw& drawAll)
 {
-    if (m_op == CopyROP) {
+    // A wide line is another one at the edges of a clip.
+    if (m_op == CopyROP || outlineWidth() > 1) {
         drawAll();
         return;
     }
-    for (const QRect& part : parts) {
-        m_painter.setClipRect(part);
-        drawAll();
+    const QRect target(0, 0, m_painter.device()->width(), m_painter.device()->height());
+    for (const QRect& box : area& target) {
+        for (const QRect& part : alongTheLongerSide(box)) {
+            m_painter.setClipRect(part);
+            drawAll();
+        }
     }
     m_painter.setClipping(false);
-}
-
-QRect KORVA_ClassicPainter::visible(const QRect& rect) const
-{
-    return rect & QRect(0, 0, m_painter.device()->width(), m_painter.device()->height());
 }
 
 void KORVA_ClassicPainter::fillRect(const QRect& rect, const QColor& color)
@@ -223,7 +215,7 @@ QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString&
 // By way of a mask: where two letters share a pixel it is inverted once all the same.
 void KORVA_ClassicPainter::invertText(const QRect& area, const QRect& box, int flags, const QString& text)
 {
-    const QRect visible = area & QRect(0, 0, m_painter.device()->width(), m_painter.device()->height());
+    const QRect visible = area & targetRect();
     if (visible.isEmpty())
         return;
     QImage mask(visible.size(), QImage::Format_RGB32);

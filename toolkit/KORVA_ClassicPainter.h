@@ -45,11 +45,11 @@ public:
 
 private:
     void touch(const QRect& rect, int margin = 0);
+    [[nodiscard]] QRect targetRect() const;
     [[nodiscard]] int outlineWidth() const;
-    [[nodiscard]] QRect visible(const QRect& rect) const;
-    /// Paints a shape; where it inverts, part by part, which together hold all of it and share no pixel.
+    /// Paints a shape that lies within `area`; where it inverts, one part of that after the other.
     template <typename Draw>
-    void draw(const QList<QRect>& parts, const Draw& drawAll);
+    void drawInParts(const QRegion& area, const Draw& drawAll);
     void invertText(const QRect& area, const QRect& box, int flags, const QString& text);
 
     QPixmap m_nothing; ///< stands in for a null target, on which Qt refuses to open a painter

@@ -281,6 +281,7 @@ void tst_Docs::prepare(const QDir& folder, const QList<Block>& blocks)
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     };
     standIn("run", "exec korva-pad --screenshot run.png \"$@\"");
+    standIn("bench", "exec python3 " KORVA_SOURCE_DIR "/benchmarks/bench.py --help");
     standIn("test", QString("'%1' --test-dir '%2' -N \"$@\" | grep '^Total Tests: [1-9]'")
                         .arg(KORVA_CTEST, KORVA_BUILD_DIR));
 }

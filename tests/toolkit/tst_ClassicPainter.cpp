@@ -116,6 +116,9 @@ private slots:
     void invertingTwiceRestores();
     void invertedShapeIsThePaintedShape_data() { addPenRows(); }
     void invertedShapeIsThePaintedShape();
+    void invertedGreatShapeIsThePaintedShape_data() { addPenRows(); }
+    void invertedGreatShapeIsThePaintedShape();
+    void invertedGreatDashesAreTheToolkits();
     void todaysThinRectangleInvertsPixelsTwice();
 
     void transparencyComesOutWhite();
@@ -407,6 +410,49 @@ void tst_ClassicPainter::invertedShapeIsThePaintedShape()
         }
         QVERIFY2(sameImage(images[KORVA_ClassicPainter::NotROP], images[KORVA_ClassicPainter::CopyROP]),
                  shape.name);
+    }
+}
+
+// Large enough to be inverted in many parts; some reach out of the sheet.
+void tst_ClassicPainter::invertedGreatShapeIsThePaintedShape()
+{
+    QFETCH(const int, width);
+    constexpr QSize great(400, 300);
+    QRandomGenerator random(1);
+    for (int i = 0; i < 16; ++i) {
+        const QPoint from(random.bounded(-50, 450), random.bounded(-50, 350));
+        const QPoint to(random.bounded(-50, 450), random.bounded(-50, 350));
+        const QPoint span = to - from;
+        QImage images[] = {sheet(great), sheet(great)};
+        for (const auto op : {KORVA_ClassicPainter::CopyROP, KORVA_ClassicPainter::NotROP}) {
+            KORVA_ClassicPainter painter(&images[op], op);
+            painter.setPen(QPen(Qt::black, width));
+            if (i % 2 == 0)
+                painter.drawRect(from.x(), from.y(), span.x(), span.y());
+            else
+                painter.drawLine(from.x(), from.y(), to.x(), to.y());
+        }
+        QVERIFY(sameImage(images[KORVA_ClassicPainter::NotROP], images[KORVA_ClassicPainter::CopyROP]));
+    }
+}
+
+void tst_ClassicPainter::invertedGreatDashesAreTheToolkits()
+{
+    constexpr QSize great(400, 300);
+    const QPen pen(Qt::green, 0, Qt::DashLine);
+    for (const QRect& frame : {QRect(3, 4, 380, 290), QRect(200, 150, 300, 3), QRect(-20, -30, 300, 200)}) {
+        QImage parts = sheet(great);
+        {
+            KORVA_ClassicPainter painter(&parts, KORVA_ClassicPainter::NotROP);
+            painter.setPen(pen);
+            painter.drawRect(frame.x(), frame.y(), frame.width(), frame.height());
+        }
+        const QImage whole = sheet(great, Qt::white, [&](QPainter& painter) {
+            painter.setCompositionMode(QPainter::RasterOp_NotDestination);
+            painter.setPen(QPen(Qt::green, 0, Qt::DashLine, Qt::SquareCap, Qt::MiterJoin));
+            painter.drawRect(frame.adjusted(0, 0, -1, -1));
+        });
+        QVERIFY(sameImage(parts, whole));
     }
 }
 
