@@ -1,13 +1,18 @@
 #include "inside.h"
 
+#include <KORVA_ToolTable.h>
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QRandomGenerator>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+
+namespace tables = KORVA_ToolTable;
 
 namespace bench {
 
@@ -18,7 +23,9 @@ Editor::Editor(QSize picture, int zoomPercent, Tool tool) : m_editor(KORVA_COLOR
     QPixmap content = QPixmap::fromImage(noise(picture));
     m_editor.setPixmap(&content);
     m_editor.setZoom(zoomPercent);
-    m_editor.slotSelChangeTool(tool);
+    const auto* row = std::find_if(std::begin(tables::tools), std::end(tables::tools),
+                                   [tool](const tables::ToolRow& r) { return r.tool == tool; });
+    m_editor.slotSelChangeTool(tables::toolMenuBase + int(row - std::begin(tables::tools)));
     QCoreApplication::processEvents();
 }
 

@@ -18,6 +18,7 @@
 /// the name of its operation with "/limit" behind it; the report prints the two as a ratio.
 namespace bench {
 
+/// By the tool's number in the manager.
 enum Tool { Pencil, Select, Line, Text, Rectangle, Ellipse, Eraser };
 
 /// An editor in a window of 240 × 320, with a picture of noise.

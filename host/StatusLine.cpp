@@ -5,11 +5,11 @@
 #include <KORVA_Zoom.h>
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 
 #include <chrono>
+#include <numeric>
 
 namespace pad {
 
@@ -33,21 +33,22 @@ constexpr struct
     QT_TRANSLATE_NOOP3("pad::StatusLine", "Hand", "tool"),
 };
 
+constexpr int margin = 8;
+constexpr int spacing = 4;
+constexpr int shares[] = {58, 59, 40, 55}; // of the room, a field each
+
 } // namespace
 
 StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     : QWidget(parent), m_editor(editor), m_picture(editor.canvas()->size())
 {
-    auto* fields = new QHBoxLayout(this);
-    fields->setContentsMargins(10, 0, 10, 0);
-    fields->setSpacing(6);
-    m_tool = addField(tr("Tool", "status line"), Qt::AlignLeft, 3);
-    m_size = addField(tr("Picture size", "status line"), Qt::AlignHCenter, 3);
-    m_zoom = addField(tr("Zoom", "status line"), Qt::AlignHCenter, 2);
-    m_position = addField(tr("Position", "status line"), Qt::AlignRight, 3);
+    m_tool = addField(tr("Tool", "status line"), Qt::AlignLeft);
+    m_size = addField(tr("Picture size", "status line"), Qt::AlignHCenter);
+    m_zoom = addField(tr("Zoom", "status line"), Qt::AlignHCenter);
+    m_position = addField(tr("Position", "status line"), Qt::AlignRight);
 
     m_timer.setSingleShot(true);
-    m_timer.setInterval(100ms);
+    m_timer.setInterval(200ms);
     connect(&m_timer, &QTimer::timeout, this, &StatusLine::refresh);
     connect(&editor, &KORVA_EditCanvas::signalTextTool, this, &StatusLine::refreshSoon);
     connect(&editor, &KORVA_EditCanvas::sizeChanged, this, &StatusLine::refreshSoon);
@@ -60,14 +61,27 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     refresh();
 }
 
-QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment, int stretch)
+QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment)
 {
     auto* field = new QLabel(this);
     field->setAccessibleName(meaning);
     field->setToolTip(meaning);
     field->setAlignment(alignment | Qt::AlignVCenter);
-    static_cast<QHBoxLayout*>(layout())->addWidget(field, stretch);
     return field;
+}
+
+// Not a layout: it would measure all texts anew whenever the pointer has moved.
+void StatusLine::resizeEvent(QResizeEvent*)
+{
+    const int room = width() - 2 * margin - (int(std::size(shares)) - 1) * spacing;
+    const int shared = std::accumulate(std::begin(shares), std::end(shares), 0);
+    int left = margin;
+    const int* share = shares;
+    for (QLabel* field : {m_tool, m_size, m_zoom, m_position}) {
+        const int extent = room * *share++ / shared;
+        field->setGeometry(left, 0, extent, height());
+        left += extent + spacing;
+    }
 }
 
 QSize StatusLine::pictureSize() const

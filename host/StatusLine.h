@@ -25,8 +25,11 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
-    QLabel* addField(const QString& meaning, Qt::Alignment alignment, int stretch);
+    QLabel* addField(const QString& meaning, Qt::Alignment alignment);
     void refreshSoon();
     [[nodiscard]] QSize pictureSize() const;
 

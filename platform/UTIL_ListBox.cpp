@@ -2,6 +2,7 @@
 
 #include "UTIL_ListBoxDelegate.h"
 #include "UTIL_ListBoxItem.h"
+#include "UTIL_ScrollBar.h"
 #include "UTIL_Skin.h"
 
 #include <QMouseEvent>
@@ -13,6 +14,7 @@ UTIL_ListBox::UTIL_ListBox(const QString& layout, QWidget* parent, const char* n
     setItemDelegate(m_delegate);
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, this));
     setVerticalScrollMode(ScrollPerPixel);
     setAttribute(Qt::WA_Hover);
     viewport()->setAttribute(Qt::WA_Hover);

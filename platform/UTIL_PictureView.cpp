@@ -1,13 +1,13 @@
 #include "UTIL_PictureView.h"
 
 #include "UTIL_PictureFolder.h"
+#include "UTIL_ScrollBar.h"
 #include "UTIL_Skin.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -87,6 +87,7 @@ UTIL_PictureView::UTIL_PictureView(QWidget* parent) : QListView(parent)
     setResizeMode(Adjust);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, this));
     setEditTriggers(NoEditTriggers);
     setDragEnabled(false);
     setFrameShape(NoFrame);

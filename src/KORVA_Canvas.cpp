@@ -289,8 +289,7 @@ void KORVA_Canvas::clearCanvas(const QColor& color)
 {
     saveOldPix();
     m_picture->fill(color);
-    m_zoomed->fill(color);
-    tellZoomedRebuilt();
+    paintZoomed();
     markModified();
     refresh();
     if (auto* text = qobject_cast<KORVA_Text*>(m_tool))

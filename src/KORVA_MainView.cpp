@@ -3,6 +3,7 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_ScrollView.h"
+#include "UTIL_ScrollBar.h"
 #include "UTIL_Skin.h"
 
 #include <QVBoxLayout>
@@ -34,6 +35,8 @@ KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_scrollView);
+    m_scrollView->setHorizontalScrollBar(new UTIL_ScrollBar(Qt::Horizontal, m_scrollView));
+    m_scrollView->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, m_scrollView));
     m_scrollView->setFocusPolicy(Qt::NoFocus); // Shift+Tab would come back to the canvas for ever
     m_scrollView->resize(normalCanvas);
     setFocusProxy(m_canvas);

@@ -37,6 +37,8 @@ class tst_RealWindow : public support::TestCase
 private slots:
     void init();
     void showsThePicture();
+    void startBringsInNoUnneededPictureFormat();
+    void pasteWithoutAPictureKeepsTheWayBack();
     void strokeUndoneAndRedoneFromTheMenu();
     void softKeyUndoes();
     void shortcuts();
@@ -116,6 +118,28 @@ void tst_RealWindow::showsThePicture()
     const QImage shown = m_server->screenshot().copy(m_picture).convertToFormat(QImage::Format_RGB32);
     const QImage file = QImage(m_folder->filePath("frame.png")).convertToFormat(QImage::Format_RGB32);
     QVERIFY(support::sameImage(shown, file));
+}
+
+void tst_RealWindow::startBringsInNoUnneededPictureFormat()
+{
+    QVERIFY(start());
+    QTest::qWait(200); // what is put off until after the start would come in now
+    QFile maps(QStringLiteral("/proc/%1/maps").arg(m_pad->processId()));
+    QVERIFY(maps.open(QIODevice::ReadOnly));
+    const QByteArray libraries = maps.readAll();
+    QVERIFY(libraries.contains("libkorva.so"));
+    for (const char* plugin : {"libqjpeg", "libqwbmp", "libqwebp", "libqtiff", "libqsvg"})
+        QVERIFY2(!libraries.contains(plugin), plugin);
+}
+
+void tst_RealWindow::pasteWithoutAPictureKeepsTheWayBack()
+{
+    QVERIFY(start());
+    strokeTo({20, 20}, {60, 20});
+    QTRY_VERIFY(isRed({40, 20}));
+    m_server->key("v", {"Control_L"});
+    m_server->key("z", {"Control_L"});
+    QTRY_VERIFY(isWhite({40, 20}));
 }
 
 void tst_RealWindow::strokeUndoneAndRedoneFromTheMenu()

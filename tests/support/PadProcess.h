@@ -19,6 +19,7 @@ public:
     [[nodiscard]] bool waitForEnd();
     [[nodiscard]] bool isRunning() const;
     [[nodiscard]] int exitCode() const;
+    [[nodiscard]] qint64 processId() const { return m_process.processId(); }
     [[nodiscard]] QString output();
     [[nodiscard]] QString errors();
 
