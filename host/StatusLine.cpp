@@ -8,12 +8,9 @@
 #include <QLabel>
 #include <QMouseEvent>
 
-#include <chrono>
 #include <numeric>
 
 namespace pad {
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -33,6 +30,7 @@ constexpr struct
     QT_TRANSLATE_NOOP3("pad::StatusLine", "Hand", "tool"),
 };
 
+constexpr int pace = 200; // ms
 constexpr int margin = 8;
 constexpr int spacing = 4;
 constexpr int shares[] = {58, 59, 40, 55}; // of the room, a field each
@@ -48,7 +46,7 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     m_position = addField(tr("Position", "status line"), Qt::AlignRight);
 
     m_timer.setSingleShot(true);
-    m_timer.setInterval(200ms);
+    m_timer.setInterval(pace);
     connect(&m_timer, &QTimer::timeout, this, &StatusLine::refresh);
     connect(&editor, &KORVA_EditCanvas::signalTextTool, this, &StatusLine::refreshSoon);
     connect(&editor, &KORVA_EditCanvas::sizeChanged, this, &StatusLine::refreshSoon);
@@ -96,6 +94,7 @@ QSize StatusLine::pictureSize() const
 
 void StatusLine::refresh()
 {
+    m_sinceRefresh.start();
     const KORVA_Zoom zoom(m_editor.canvas()->zoom());
     const QSize size = pictureSize();
     const QPoint at = zoom.toPicture(m_pointer);
@@ -114,14 +113,18 @@ void StatusLine::refreshSoon()
 
 bool StatusLine::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::MouseMove && event->type() != QEvent::Leave)
+    const QEvent::Type type = event->type();
+    if (type != QEvent::MouseMove && type != QEvent::MouseButtonRelease && type != QEvent::Leave)
         return false;
-    if (watched == m_editor.canvas()) {
-        m_isOver = event->type() == QEvent::MouseMove;
-        if (m_isOver)
-            m_pointer = static_cast<const QMouseEvent*>(event)->position().toPoint();
+    if (watched != m_editor.canvas())
+        return false;
+    m_isOver = type != QEvent::Leave;
+    if (m_isOver)
+        m_pointer = static_cast<const QMouseEvent*>(event)->position().toPoint();
+    if (type != QEvent::MouseMove || !static_cast<const QMouseEvent*>(event)->buttons())
         refreshSoon();
-    }
+    else if (m_sinceRefresh.hasExpired(pace)) // a timer running would cost every event of a stroke
+        refresh();
     return false;
 }
 

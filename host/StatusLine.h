@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPoint>
 #include <QSize>
 #include <QTimer>
@@ -42,6 +43,7 @@ private:
     QPoint m_pointer; ///< canvas widget coordinates
     bool m_isOver = false;
     QTimer m_timer;
+    QElapsedTimer m_sinceRefresh;
 };
 
 } // namespace pad
