@@ -420,6 +420,7 @@ void KORVA_Canvas::updateZoomed()
 
 void KORVA_Canvas::rebuildZoomed()
 {
+    m_zoomed.reset(); // the new one may take its place in memory
     m_zoomed = std::make_unique<QPixmap>(m_zoom.zoomed(m_picture->size()));
     paintZoomed();
 }

@@ -162,10 +162,15 @@ void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
     const int width = outlineWidth();
     touch(QRect(x, y, w, h), width);
     const double centre = penCentre(width);
-    m_painter.save();
-    m_painter.setClipRect(withOutline(QRect(x, y, w, h), width));
-    m_painter.drawEllipse(QRectF(x + centre, y + centre, w - 1, h - 1));
-    m_painter.restore();
+    const QRectF path(x + centre, y + centre, w - 1, h - 1);
+    const QRect box = withOutline(QRect(x, y, w, h), width) & targetRect();
+    // Two runs a row; a thin one is painted point by point anyway.
+    const int rows = m_op == NotROP && width > 1 ? mostRuns / 2 : qMax(1, box.height());
+    for (int top = box.top(); top <= box.bottom(); top += rows) {
+        m_painter.setClipRect(QRect(box.left(), top, box.width(), rows) & box);
+        m_painter.drawEllipse(path);
+    }
+    m_painter.setClipping(false);
 }
 
 template <typename Draw>

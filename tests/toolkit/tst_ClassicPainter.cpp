@@ -419,7 +419,7 @@ void tst_ClassicPainter::invertedGreatShapeIsThePaintedShape()
     QFETCH(const int, width);
     constexpr QSize great(400, 300);
     QRandomGenerator random(1);
-    for (int i = 0; i < 16; ++i) {
+    for (int i = 0; i < 24; ++i) {
         const QPoint from(random.bounded(-50, 450), random.bounded(-50, 350));
         const QPoint to(random.bounded(-50, 450), random.bounded(-50, 350));
         const QPoint span = to - from;
@@ -427,10 +427,12 @@ void tst_ClassicPainter::invertedGreatShapeIsThePaintedShape()
         for (const auto op : {KORVA_ClassicPainter::CopyROP, KORVA_ClassicPainter::NotROP}) {
             KORVA_ClassicPainter painter(&images[op], op);
             painter.setPen(QPen(Qt::black, width));
-            if (i % 2 == 0)
+            if (i % 3 == 0)
                 painter.drawRect(from.x(), from.y(), span.x(), span.y());
-            else
+            else if (i % 3 == 1)
                 painter.drawLine(from.x(), from.y(), to.x(), to.y());
+            else
+                painter.drawEllipse(from.x(), from.y(), qAbs(span.x()) + 2, qAbs(span.y()) + 2);
         }
         QVERIFY(sameImage(images[KORVA_ClassicPainter::NotROP], images[KORVA_ClassicPainter::CopyROP]));
     }
