@@ -29,14 +29,17 @@ def series(inside, pattern, key):
 
 
 def draw(axes, title, label, curves, limit):
+    """With a limit on logarithmic scales, without one from 0."""
     for name, (x, cost, floor) in curves:
         (line,) = axes.plot(x, cost, marker="o", label=name)
         if limit:
             axes.plot(x, floor, color=line.get_color(), linestyle=":", linewidth=1)
     axes.set_title(title)
     axes.set_xlabel(label)
-    axes.set_xscale("log")
-    axes.set_yscale("log")
+    axes.set_xscale("linear" if "zoom" in label else "log")
+    axes.set_yscale("log" if limit else "linear")
+    if not limit:
+        axes.set_ylim(bottom=0)
     axes.set_ylabel("µs of CPU")
     axes.grid(True, which="major", alpha=0.3)
     axes.legend()
