@@ -95,7 +95,8 @@ void KORVA_ClassicPainter::setWorldMatrix(const QTransform& matrix)
 
 QRect KORVA_ClassicPainter::targetRect() const
 {
-    return {0, 0, m_painter.device()->width(), m_painter.device()->height()};
+    const QRectF target(0, 0, m_painter.device()->width(), m_painter.device()->height());
+    return m_painter.worldTransform().inverted().mapRect(target).toAlignedRect();
 }
 
 int KORVA_ClassicPainter::outlineWidth() const

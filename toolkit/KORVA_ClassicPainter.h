@@ -45,7 +45,7 @@ public:
 
 private:
     void touch(const QRect& rect, int margin = 0);
-    [[nodiscard]] QRect targetRect() const;
+    [[nodiscard]] QRect targetRect() const; ///< in the coordinates that shapes are given in
     [[nodiscard]] int outlineWidth() const;
     /// Paints a shape that lies within `area`; where it inverts, one part of that after the other.
     template <typename Draw>

@@ -110,6 +110,7 @@ private slots:
     void dotIsAsWideAsThePen_data() { addPenRows(); }
     void dotIsAsWideAsThePen();
     void todaysDotIsNot();
+    void aMatrixMapsWhatLiesFarOutside();
     void lineEndsAreIncluded();
 
     void invertingTwiceRestores_data() { addPenRows(); }
@@ -361,6 +362,21 @@ void tst_ClassicPainter::todaysDotIsNot()
         painter.drawPoint(40, 40);
     });
     QCOMPARE(inkBounds(underAMatrix).size(), QSize(4, 3));
+}
+
+void tst_ClassicPainter::aMatrixMapsWhatLiesFarOutside()
+{
+    for (const bool isEllipse : {false, true}) {
+        QImage image = sheet(size);
+        KORVA_ClassicPainter painter(&image);
+        painter.setPen(QPen(Qt::black, 1));
+        painter.setWorldMatrix(QTransform::fromTranslate(-1000, -2000));
+        if (isEllipse)
+            painter.drawEllipse(1010, 2010, 20, 15);
+        else
+            painter.drawRect(1010, 2010, 20, 15);
+        QCOMPARE(inkBounds(image), QRect(10, 10, 20, 15));
+    }
 }
 
 void tst_ClassicPainter::lineEndsAreIncluded()
