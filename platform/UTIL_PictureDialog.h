@@ -20,6 +20,13 @@ public:
     /// Before the dialog opens: what it proposes. From the derived class: what was chosen.
     void setFileName(const QString& name) { m_fileName = name; }
 
+    /// Whether a name may be chosen that KORVA_EditCanvas::save() cannot save under: one with a single
+    /// quote. For a host that writes the file itself; false unless set.
+    [[nodiscard]] bool takesAnyName() const { return m_takesAnyName; }
+    /// See takesAnyName(). Before the dialog opens.
+    void setTakesAnyName(bool any) { m_takesAnyName = any; }
+
 private:
     QString m_fileName;
+    bool m_takesAnyName = false;
 };

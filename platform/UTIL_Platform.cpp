@@ -4,6 +4,7 @@
 #include "UTIL_PickDialog.h"
 #include "UTIL_SaveDialog.h"
 
+#include <QFile>
 #include <QStandardPaths>
 
 namespace {
@@ -79,6 +80,11 @@ QString UTIL_Platform::iconFolder() const
 qint64 UTIL_Platform::pixelLimit() const
 {
     return 64 * megapixel;
+}
+
+bool UTIL_Platform::removePicture(const QString& name)
+{
+    return QFile::remove(name);
 }
 
 void UTIL_Platform::setMouseMode(QWidget*, int) {}

@@ -33,8 +33,9 @@ public:
     static void install(std::unique_ptr<UTIL_Platform> platform);
 
     /// Asks and returns the index of the button pressed, 0 the first: to the library that is the yes, and
-    /// every other number the no. Only the buttons answer; Escape and closing mean the button named
-    /// "Cancel" where there is one.
+    /// every other number the no. (The desktop's own dialog for saving asks the other way round: "Cancel"
+    /// and "Replace".) Only the buttons answer; Escape and closing mean the button named "Cancel" where
+    /// there is one.
     virtual int question(QWidget* parent, const QString& icon, const QString& text,
                          const QStringList& buttons);
     /// Tells something until its button or a tap takes it away, at most `timeout` seconds.
@@ -62,6 +63,10 @@ public:
     [[nodiscard]] virtual QString iconFolder() const;
     /// The most pixels (width × height) a picture file may have to be decoded: 64 000 000.
     [[nodiscard]] virtual qint64 pixelLimit() const;
+
+    /// Removes a picture file for KORVA_EditCanvas::slotDelete(), which has asked before; false when it is
+    /// still there. The desktop's is QFile::remove(); a host with a trash overrides it.
+    virtual bool removePicture(const QString& name);
 
     /// How a touch screen reports to a widget that is being made; 1, the one mode in use, asks for mouse
     /// events. Nothing on a desktop.

@@ -18,9 +18,6 @@ UTIL_SaveDialog::UTIL_SaveDialog(QWidget* parent, const QString& path, const QSt
 {
     for (const QString& pattern : patterns)
         m_extensions.append(pattern.sliced(pattern.lastIndexOf(QLatin1Char('.'))));
-    // A slash would lead to another folder, and no file can be saved under a name with a quote.
-    static const QRegularExpression fitting("[^/'\\n]*");
-    m_edit->setValidator(new QRegularExpressionValidator(fitting, m_edit));
     m_edit->setMinimumHeight(UTIL_Skin::Size::keyHeight);
     m_edit->setAccessibleName(tr("File name", "SAVE_DIALOG;CONTEXT"));
     addBelowFolder(m_edit);
@@ -33,6 +30,9 @@ UTIL_SaveDialog::UTIL_SaveDialog(QWidget* parent, const QString& path, const QSt
 void UTIL_SaveDialog::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
+        // A slash would lead to another folder, and not every host can save under a name with a quote.
+        const QRegularExpression fitting(takesAnyName() ? "[^/\\n]*" : "[^/'\\n]*");
+        m_edit->setValidator(new QRegularExpressionValidator(fitting, m_edit));
         if (!fileName().isEmpty())
             m_edit->setText(QFileInfo(fileName()).fileName());
         m_edit->setSelection(0, int(QFileInfo(m_edit->text()).completeBaseName().size()));
@@ -59,16 +59,21 @@ void UTIL_SaveDialog::confirm()
     if (name().isEmpty())
         return;
     const QString path = QDir(folder().folder()).filePath(name());
-    const QStringList answers{tr("Yes", "SAVE_DIALOG;SOFTKEY_2BUTTON"),
-                              tr("No", "SAVE_DIALOG;SOFTKEY_2BUTTON")};
-    if (QFileInfo::exists(path) &&
-        UTIL_Platform::instance()->question(
-            this, "Dialog_Exclamatory_Mark.gif",
-            tr("Replace %1?", "SAVE_DIALOG;DIALOG_ICON_50_WARP").arg(name()), answers) != 0)
+    if (QFileInfo::exists(path) && !mayReplace())
         return;
     QDir().mkpath(folder().folder()); // the user's photo folder may never have been used
     setFileName(path);
     accept();
+}
+
+bool UTIL_SaveDialog::mayReplace()
+{
+    constexpr int replace = 1; // the default is the first button, which loses nothing
+    return UTIL_Platform::instance()->question(
+               this, "Dialog_Exclamatory_Mark.gif",
+               tr("Replace %1?", "SAVE_DIALOG;DIALOG_ICON_50_WARP").arg(name()),
+               {tr("Cancel", "SAVE_DIALOG;SOFTKEY_2BUTTON"),
+                tr("Replace", "SAVE_DIALOG;SOFTKEY_2BUTTON")}) == replace;
 }
 
 QString UTIL_SaveDialog::freeName() const
@@ -85,7 +90,7 @@ QString UTIL_SaveDialog::name() const
     QString typed = m_edit->text().trimmed();
     const QFileInfo file(typed);
     const QString extension = QLatin1Char('.') + file.suffix();
-    if (file.completeBaseName().isEmpty() || typed.contains(QLatin1Char('\'')))
+    if (file.completeBaseName().isEmpty() || (typed.contains(QLatin1Char('\'')) && !takesAnyName()))
         return {};
     if (m_extensions.contains(extension, Qt::CaseInsensitive))
         return typed;

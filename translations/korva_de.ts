@@ -387,14 +387,14 @@
         <translation>Dateiname</translation>
     </message>
     <message>
-        <source>Yes</source>
+        <source>Cancel</source>
         <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
-        <translation>Ja</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>No</source>
+        <source>Replace</source>
         <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
-        <translation>Nein</translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Replace %1?</source>

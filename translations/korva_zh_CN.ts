@@ -387,14 +387,14 @@
         <translation>文件名</translation>
     </message>
     <message>
-        <source>Yes</source>
+        <source>Cancel</source>
         <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
-        <translation>是</translation>
+        <translation>取消</translation>
     </message>
     <message>
-        <source>No</source>
+        <source>Replace</source>
         <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
-        <translation>否</translation>
+        <translation>替换</translation>
     </message>
     <message>
         <source>Replace %1?</source>

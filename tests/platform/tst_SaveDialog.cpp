@@ -203,9 +203,9 @@ void tst_SaveDialog::existingFileIsAskedFor_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("answer"); // -1: none is asked for
-    QTest::addRow("yes") << "a.bmp" << 0;
-    QTest::addRow("no") << "a.bmp" << 1;
-    QTest::addRow("yes, with the extension added") << "b10" << 0;
+    QTest::addRow("cancel") << "a.bmp" << 0;
+    QTest::addRow("replace") << "a.bmp" << 1;
+    QTest::addRow("replace, with the extension added") << "b10" << 1;
     QTest::addRow("a new one") << "new" << -1;
 }
 
@@ -219,15 +219,15 @@ void tst_SaveDialog::existingFileIsAskedFor()
     Stage stage(photos.path());
     stage.type(typed);
     stage.press("OK");
-    QCOMPARE(stage.dialog.isVisible(), answer == 1);
-    if (answer == 1)
+    QCOMPARE(stage.dialog.isVisible(), answer == 0);
+    if (answer == 0)
         QVERIFY(stage.dialog.fileName().isEmpty());
     if (answer < 0)
         QCOMPARE(asked, QStringList());
     else
         QCOMPARE(asked, QStringList({"Dialog_Exclamatory_Mark.gif",
-                                     answer == 0 && typed == "b10" ? "Replace b10.png?" : "Replace a.bmp?",
-                                     "Yes", "No"}));
+                                     typed == "b10" ? "Replace b10.png?" : "Replace a.bmp?", "Cancel",
+                                     "Replace"}));
 }
 
 void tst_SaveDialog::tappedPictureGivesItsName()
