@@ -13,6 +13,7 @@
 #include <QMutex>
 
 #include <atomic>
+#include <utility>
 
 namespace {
 
@@ -112,6 +113,21 @@ QPixmap UTIL_ImageReader::pixmap(const QString& fileName, const char* format)
     return reader.read() ? QPixmap::fromImage(reader.image()) : QPixmap();
 }
 
+bool UTIL_ImageReader::isSame(const QImage& left, const QImage& right)
+{
+    if (left.size() != right.size())
+        return false;
+    // Row by row: whole copies in a format that holds every colour would be great.
+    const auto row = [](const QImage& image, int y) {
+        return image.copy(0, y, image.width(), 1).convertToFormat(QImage::Format_RGBA64);
+    };
+    for (int y = 0; y < left.height(); ++y) {
+        if (row(left, y) != row(right, y))
+            return false;
+    }
+    return true;
+}
+
 void UTIL_ImageReader::setReduction(const Reduction& reduction, QRgb background)
 {
     m_reduction = reduction;
@@ -121,6 +137,8 @@ void UTIL_ImageReader::setReduction(const Reduction& reduction, QRgb background)
 bool UTIL_ImageReader::read()
 {
     m_image = {};
+    m_sourceSize = {};
+    m_isWhole = false;
     m_status = Failed;
     if (m_isInMemory) {
         QBuffer buffer(&m_data);
@@ -134,7 +152,9 @@ bool UTIL_ImageReader::read()
     if (m_status != Ok) {
         m_image = {};
     } else if (m_parameters == "16") {
-        m_image.convertTo(QImage::Format_RGB16, Qt::AvoidDither);
+        const QImage full =
+            std::exchange(m_image, m_image.convertToFormat(QImage::Format_RGB16, Qt::AvoidDither));
+        m_isWhole = m_isWhole && isSame(full, m_image);
     }
     return m_status == Ok;
 }
@@ -165,6 +185,7 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
     const bool isTurned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     const QSize upright = isTurned ? stored.transposed() : stored;
     const QSize wanted = m_reduction && upright.isValid() ? m_reduction(upright) : upright;
+    m_sourceSize = upright;
     const bool isReduced = wanted != upright;
     if (isReduced && probe.format == "JPEG")
         reader.setScaledSize(isTurned ? wanted.transposed() : wanted);
@@ -179,5 +200,8 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
         return TooLarge;
     if (isReduced && m_image.size() == upright && area(upright) > mostPixelsAtOnce)
         m_image = UTIL_Reducer::reduced(m_image, wanted, m_background);
+    if (!m_sourceSize.isValid()) // some formats tell it only with the pixels
+        m_sourceSize = m_image.size();
+    m_isWhole = m_image.size() == m_sourceSize && reader.imageCount() <= 1;
     return Ok;
 }

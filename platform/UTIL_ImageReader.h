@@ -33,6 +33,9 @@ public:
     /// The picture of a file in one call; null when it cannot be read.
     [[nodiscard]] static QPixmap pixmap(const QString& fileName, const char* format = nullptr);
 
+    /// Whether two pictures have the same pixels, in all of their colour, whatever their formats.
+    [[nodiscard]] static bool isSame(const QImage& left, const QImage& right);
+
     /// What holds instead of the platform's limit.
     void setPixelLimit(qint64 pixels) { m_pixelLimit = pixels; }
     /// "16" asks for a picture of 16 bits a pixel; anything else asks for nothing.
@@ -46,6 +49,10 @@ public:
     [[nodiscard]] int status() const { return m_status; }
     /// The picture read last; null after a failure.
     [[nodiscard]] const QImage& image() const { return m_image; }
+    /// The size of the picture in the file, upright; invalid when it was not found.
+    [[nodiscard]] QSize sourceSize() const { return m_sourceSize; }
+    /// Whether image() is all that the file holds: its only frame, not scaled, in no fewer colours.
+    [[nodiscard]] bool isWhole() const { return m_isWhole; }
 
 private:
     [[nodiscard]] Status readFrom(QIODevice& device);
@@ -60,4 +67,6 @@ private:
     QRgb m_background = 0xffffffff;
     Status m_status = Failed;
     QImage m_image;
+    QSize m_sourceSize;
+    bool m_isWhole = false;
 };

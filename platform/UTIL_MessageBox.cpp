@@ -46,6 +46,9 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
         column->addLayout(createButtons(buttons));
     }
 
+    if (m_cancel >= 0)
+        m_answer = m_cancel;
+
     label->setFixedSize(innerWidth, 0);
     const int room = Size::screenHeight - column->sizeHint().height();
     label->setMaximumLines(room / label->fontMetrics().lineSpacing());

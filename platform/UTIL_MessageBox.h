@@ -24,7 +24,7 @@ public:
                     std::optional<int> timeout = {});
 
     /// Runs a question and returns the index of the button pressed. Where the program ends before an
-    /// answer, it is the last button's.
+    /// answer, it is "Cancel", else the last button.
     [[nodiscard]] static int ask(QWidget* parent, const QString& icon, const QString& text,
                                  const QStringList& buttons);
 

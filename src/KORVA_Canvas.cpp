@@ -257,6 +257,16 @@ QPixmap* KORVA_Canvas::pixmap()
     return m_picture.get();
 }
 
+QPixmap KORVA_Canvas::snapshot() const
+{
+    QPixmap picture = *m_picture;
+    if (isFloating())
+        paintPiece(&picture);
+    if (m_tool)
+        m_tool->paintPending(&picture);
+    return picture;
+}
+
 void KORVA_Canvas::setPixmap(QPixmap* picture)
 {
     if (!picture)
@@ -517,6 +527,18 @@ void KORVA_Canvas::cut()
     emit clipboard(true);
 }
 
+void KORVA_Canvas::deleteSelection()
+{
+    if (!isFloating())
+        return;
+    saveOldPix();
+    paintPiece(&m_previous);
+    m_pasteLabel->hide();
+    clearSelection();
+    markModified();
+    updateZoomed();
+}
+
 void KORVA_Canvas::paste()
 {
     saveOldPix();
@@ -573,12 +595,17 @@ void KORVA_Canvas::mergePastePixmap()
     if (!isFloating())
         return;
     m_pasteLabel->hide();
-    const QPoint place = m_zoom.toPicture(m_pasteLabel->pos());
-    classic::bitBlt(m_picture.get(), place.x(), place.y(), m_pasteLabel->getImage());
+    paintPiece(m_picture.get());
     saveOldPix();
     markModified();
     updateZoomed();
     emit selection(false);
+}
+
+void KORVA_Canvas::paintPiece(QPixmap* picture) const
+{
+    const QPoint place = m_zoom.toPicture(m_pasteLabel->pos());
+    classic::bitBlt(picture, place.x(), place.y(), m_pasteLabel->getImage());
 }
 
 bool KORVA_Canvas::ptInPasteLabel(const QPoint& p) const

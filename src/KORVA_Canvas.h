@@ -65,6 +65,10 @@ public:
     /// painter calls saveOldPix() before, markModified() and updateZoomed() after. The canvas's own; valid
     /// until the next undo, redo, resize or load.
     QPixmap* pixmap();
+    /// The picture as a save would write it now: a floating piece where it lies and what the tool still
+    /// holds back, such as open text, are in it. Nothing is merged, committed, emitted or otherwise
+    /// touched.
+    [[nodiscard]] QPixmap snapshot() const;
     /// The picture on screen, for feedback, in widget coordinates; nothing is merged. refresh() shows what
     /// was painted on it. The canvas's own; valid until the zoom or the picture's size changes.
     QPixmap* zoomedPixmap() { return m_zoomed.get(); }
@@ -130,6 +134,10 @@ public:
     /// clipboard(true), selection(false), modified(), clipboard(true). Where nothing floats, the last piece
     /// and the last selection are taken: a host offers it by selection(bool).
     void cut();
+    /// Drops the floating piece for good: where it was lifted from stays white. The snapshot is the picture
+    /// with the piece in it, so that undo brings it back, merged where it lay. Emits selection(false),
+    /// modified(); nothing at all when nothing floats.
+    void deleteSelection();
     /// Puts the floating piece, or the last one, on the clipboard. The picture is not touched. Emits
     /// clipboard(true).
     void copy();
@@ -241,6 +249,7 @@ private:
     void fillSelection();
     void floatPiece(const QPoint& at, const QPixmap& piece);
     void floatAtOrigin(const QPixmap& piece);
+    void paintPiece(QPixmap* picture) const;
     [[nodiscard]] bool isFloating() const;
 
     KORVA_Zoom m_zoom;

@@ -53,6 +53,12 @@ void KORVA_Documents::setFileName(const QString& name)
         emit m_editor.canDelete(false);
 }
 
+void KORVA_Documents::noteSaved(const QString& name)
+{
+    if (name == m_opened.name)
+        m_opened.isReduced = false;
+}
+
 // --- Opening
 // ---------------------------------------------------------------------------------------------------
 
@@ -124,8 +130,10 @@ bool KORVA_Documents::open(int action, const QString& name)
         return false;
 
     QPixmap picture;
-    const bool opened = read(file, &picture);
+    Opened source;
+    const bool opened = read(file, &picture, &source);
     if (opened && action == Open) {
+        m_opened = source;
         m_editor.setPixmap(&picture);
         m_editor.clearModified();
         m_editor.mainView()->scrollView()->setContentsPos(0, 0);
@@ -145,9 +153,11 @@ void KORVA_Documents::openAtConstruction(const QString& name)
     const bool isHandedOver = name == QLatin1String(handedOver) || name == QLatin1String(handedOverFile);
     KORVA_PictureFile file(name);
     QPixmap picture;
-    if (check(file, isHandedOver ? QByteArray() : picturefile::readFormat(name)) && read(file, &picture)) {
+    if (check(file, isHandedOver ? QByteArray() : picturefile::readFormat(name)) &&
+        read(file, &picture, &m_opened)) {
         m_fileName = name;
         m_editor.setPixmap(&picture);
+        m_editor.clearModified();
     }
 }
 
@@ -171,7 +181,7 @@ bool KORVA_Documents::check(KORVA_PictureFile& file, const QByteArray& format)
     }
 }
 
-bool KORVA_Documents::read(KORVA_PictureFile& file, QPixmap* picture)
+bool KORVA_Documents::read(KORVA_PictureFile& file, QPixmap* picture, Opened* opened)
 {
     const QImage image = file.take();
     if (image.isNull()) {
@@ -181,16 +191,26 @@ bool KORVA_Documents::read(KORVA_PictureFile& file, QPixmap* picture)
             KORVA_EditCanvas::tr("OK", "4.4.4.2;SOFTKEY_1BUTTON"), longTime);
         return false;
     }
-    return picturefile::convert(image, picture);
+    if (!picturefile::convert(image, picture))
+        return false;
+    const picturefile::Origin& origin = file.origin();
+    *opened = {file.name(), origin.size,
+               !origin.isWhole || !UTIL_ImageReader::isSame(image, picture->toImage())};
+    return true;
 }
 
 void KORVA_Documents::setBuffer(const QByteArray& data)
 {
     QPixmap picture;
-    if (picturefile::convert(picturefile::decoded(data), &picture))
+    picturefile::Origin origin;
+    const QImage image = picturefile::decoded(data, &origin);
+    if (picturefile::convert(image, &picture)) {
+        m_opened = {m_fileName, origin.size,
+                    !origin.isWhole || !UTIL_ImageReader::isSame(image, picture.toImage())};
         m_editor.setPixmap(&picture);
-    else
+    } else {
         tell(errorIcon, KORVA_EditCanvas::tr("open buffer fail!", "2.11.2.9;DIALOG_ICON_50"));
+    }
 }
 
 // --- Saving
@@ -267,10 +287,11 @@ void KORVA_Documents::askAndDelete()
         return;
     m_editor.clearCanvas();
     m_editor.clearModified();
+    forgetOpened();
     resetTypedText();
     if (m_fileName.isEmpty())
         return;
-    QFile::remove(m_fileName); // one that cannot be removed is not reported
+    UTIL_Platform::instance()->removePicture(m_fileName); // one that cannot be removed is not reported
     m_fileName.clear();
 }
 

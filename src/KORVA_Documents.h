@@ -24,6 +24,15 @@ public:
     [[nodiscard]] QString fileName() const { return m_fileName; }
     void setFileName(const QString& name);
 
+    /// Of the picture last opened; empty for a new drawing.
+    [[nodiscard]] QSize sourceSize() const { return m_opened.size; }
+    /// Whether a save under fileName() would lose what opening took away.
+    [[nodiscard]] bool isReduced() const { return m_opened.isReduced && m_opened.name == m_fileName; }
+    /// A file of this name now holds the drawing.
+    void noteSaved(const QString& name);
+    /// The drawing is no longer the opened one.
+    void forgetOpened() { m_opened = {}; }
+
     void openAtConstruction(const QString& name);
     /// Nothing while a pick dialog is open.
     void startOpen();
@@ -41,14 +50,23 @@ public:
     void askAndDelete();
 
 private:
+    /// The picture last opened, as it was before.
+    struct Opened
+    {
+        QString name;
+        QSize size;
+        bool isReduced = false;
+    };
+
     bool check(KORVA_PictureFile& file, const QByteArray& format);
-    bool read(KORVA_PictureFile& file, QPixmap* picture);
+    bool read(KORVA_PictureFile& file, QPixmap* picture, Opened* opened);
     void askForName();
     void resetTypedText();
     void tell(const char* icon, const QString& text);
 
     KORVA_EditCanvas& m_editor;
     QString m_fileName;
+    Opened m_opened;
     int m_pendingAction = NoAction;
     QPointer<UTIL_PictureDialog> m_saveDialog; ///< while one is open; a child of the editor
     QPointer<UTIL_PictureDialog> m_pickDialog; ///< until the open is finished; a child of the editor

@@ -7,6 +7,7 @@
 #include "KORVA_Documents.h"
 #include "KORVA_MainView.h"
 #include "KORVA_Manager.h"
+#include "KORVA_PasteLabel.h"
 #include "KORVA_PictureFile.h"
 #include "KORVA_PictureSave.h"
 #include "KORVA_Text.h"
@@ -198,6 +199,11 @@ void KORVA_EditCanvas::paste(int x, int y)
     canvas()->paste(x, y);
 }
 
+void KORVA_EditCanvas::deleteSelection()
+{
+    canvas()->deleteSelection();
+}
+
 void KORVA_EditCanvas::clearCanvas()
 {
     canvas()->clearCanvas(Qt::white);
@@ -253,6 +259,14 @@ bool KORVA_EditCanvas::isModified() const
 void KORVA_EditCanvas::clearModified()
 {
     canvas()->clearModified();
+    m_saved = classic::hash(snapshot());
+}
+
+bool KORVA_EditCanvas::hasChanges() const
+{
+    const KORVA_Text* text = currentText();
+    const bool isPending = !canvas()->pasteLabel()->isHidden() || (text && text->takesText());
+    return isModified() || (isPending && classic::hash(snapshot()) != m_saved);
 }
 
 void KORVA_EditCanvas::insertStamp(QPixmap& stamp)
@@ -280,6 +294,7 @@ void KORVA_EditCanvas::chooseCanvas(KORVA_CANVASTYPE type, int w, int h)
         depth = canvasTypes[type].depth;
         m_colorType = canvasTypes[type].colors;
     }
+    m_documents->forgetOpened();
     clearCanvas();
     setDepth(depth);
     clearModified();
@@ -456,6 +471,37 @@ QString KORVA_EditCanvas::fileName() const
     return m_documents->fileName();
 }
 
+QSize KORVA_EditCanvas::sourceSize() const
+{
+    return m_documents->sourceSize();
+}
+
+bool KORVA_EditCanvas::isReduced() const
+{
+    return m_documents->isReduced();
+}
+
+QImage KORVA_EditCanvas::snapshot() const
+{
+    return canvas()->snapshot().toImage();
+}
+
+QByteArray KORVA_EditCanvas::encoded(const char* format, qsizetype mostBytes) const
+{
+    return picturesave::encodedWithin(
+        snapshot(), format ? QByteArray(format) : picturefile::writeFormat(fileName()), mostBytes);
+}
+
+QStringList KORVA_EditCanvas::openPatterns()
+{
+    return picturefile::openPatterns();
+}
+
+QStringList KORVA_EditCanvas::savePatterns()
+{
+    return picturefile::savePatterns();
+}
+
 void KORVA_EditCanvas::saveChangePic(int action)
 {
     m_documents->saveChanges(action);
@@ -507,8 +553,11 @@ void KORVA_EditCanvas::setBuffer(const QByteArray& encoded)
 
 bool KORVA_EditCanvas::save(const QString& name, const char* format)
 {
-    return picturesave::replace(
-        name, [&](const QString& temporary) { return canvas()->save(temporary, format); });
+    const bool isSaved = picturesave::replace(
+        name, [&] { return picturesave::encoded(canvas()->pixmap()->toImage(), format); });
+    if (isSaved)
+        m_documents->noteSaved(name);
+    return isSaved;
 }
 
 void KORVA_EditCanvas::saveFilePrivate()

@@ -68,6 +68,8 @@ public:
     void paste();
     /// The clipboard's picture into the picture at (x, y), in picture coordinates.
     void paste(int x, int y);
+    /// See KORVA_Canvas::deleteSelection().
+    void deleteSelection();
     /// As KORVA_Canvas::clearCanvas(), always to white. The file name stays.
     void clearCanvas();
     /// Commits typed text, merges a floating piece, makes the selection tool current and selects the whole
@@ -88,7 +90,8 @@ public:
     /// As KORVA_Canvas::load(), which takes nothing in while a tool is active, and here one always is:
     /// changes nothing and returns false. openNewFilePrivate() opens a file.
     bool load(const QString& fileName, const char* format);
-    /// Whether there are changes to save.
+    /// Whether markModified() came after the last clearModified(). A selection that is only moved does not
+    /// count until it is merged: hasChanges() tells.
     [[nodiscard]] bool isModified() const;
     /// The drawing as it is counts as saved; undo is still possible.
     void clearModified();
@@ -121,6 +124,29 @@ public:
     /// The eraser's cursor: a white square of `width` picture pixels at `rate` percent in a black frame,
     /// its top left the hot spot. The editor sets it anew with every change of eraser and zoom.
     void setRubberCursor(int width, int rate);
+
+    // --- What a host must know ---
+    /// Whether there is anything to lose: isModified(), or a floating piece or open text that makes the
+    /// drawing another one than clearModified() found.
+    [[nodiscard]] bool hasChanges() const;
+    /// The drawing as a save would write it now, with a floating piece and open text in place. Merges,
+    /// commits, emits and changes nothing.
+    [[nodiscard]] QImage snapshot() const;
+    /// The snapshot as the bytes of a picture file. `format` is "PNG", "JPEG" or "BMP"; null follows
+    /// fileName()'s extension. With `mostBytes` above 0 it is no longer than that: a JPEG gives up quality
+    /// first, then size. Empty when it can't be done or does not fit.
+    [[nodiscard]] QByteArray encoded(const char* format, qsizetype mostBytes = 0) const;
+    /// The size of the picture last opened, in pixels, upright, before it was fitted; empty for a new
+    /// drawing.
+    [[nodiscard]] QSize sourceSize() const;
+    /// Whether opening took something away that a save under fileName() would lose for good: pixels,
+    /// colours, transparency, further frames. False after a save() under that name, which lost it, and
+    /// while the drawing has another name.
+    [[nodiscard]] bool isReduced() const;
+    /// What pick dialogs offer for opening: "*.png" and the like, in the order of the dialogs.
+    [[nodiscard]] static QStringList openPatterns();
+    /// What save dialogs offer; only formats that can be written.
+    [[nodiscard]] static QStringList savePatterns();
 
     // --- Documents ---
     /// Merges a floating piece, asks before 0, 1 and 4 whether changes are to be saved, saves them with
@@ -155,10 +181,10 @@ public:
     void setBuffer(const QByteArray& encoded);
     /// Encodes the picture into "appwrite/korva.temp" under the folder in the environment variable
     /// KIV_LOCAL_DOWNLOAD_PATH, where "appwrite" must exist, moves that to `name` and tells whether both
-    /// went well; until then a file of that name stays as it was. A floating piece is merged, typed text is
-    /// not. `format` is "PNG", "JPEG" or "BMP", never null. Fails for a name with a single quote, for a
-    /// folder and where writing is not permitted. Shows nothing; fileName() stays, and the modified flag is
-    /// not cleared.
+    /// went well; until then a file of that name stays as it was. Its mode is kept, and a link stays one. A
+    /// floating piece is merged, typed text is not. `format` is "PNG", "JPEG" or "BMP", never null. Fails
+    /// for a name with a single quote, for a folder and where writing is not permitted. Shows nothing;
+    /// fileName() stays, and the modified flag is not cleared.
     bool save(const QString& name, const char* format);
     /// Saves under fileName(), in the format of its extension, tells how it went and emits canDelete(true).
     /// Saved, the drawing is unmodified; a failure takes its name away. A GIF cannot be written: it fails
@@ -246,6 +272,7 @@ private:
     QWidget* m_ownerWindow;
     int m_tool = 0; ///< the identifier in the manager; 7 while select is in hand mode
     QColor m_color{255, 0, 0};
+    size_t m_saved = 0; ///< a hash of the drawing that counts as saved
     KORVA_COLORTYPE m_colorType;
     Remembered m_remembered;
     std::unique_ptr<KORVA_Documents> m_documents;

@@ -79,6 +79,11 @@ QString versionOf(const QString& fileName)
     return QString("%1 %2").arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
 }
 
+picturefile::Origin originOf(const UTIL_ImageReader& reader)
+{
+    return {reader.sourceSize(), reader.isWhole()};
+}
+
 QImage inWorkingDepth(const QImage& image)
 {
     return image.depth() > workingDepth || image.depth() == 1
@@ -138,11 +143,13 @@ bool picturefile::convert(const QImage& image, QPixmap* pixmap)
     return !working.isNull() && pixmap->convertFromImage(working, Qt::AvoidDither);
 }
 
-QImage picturefile::decoded(const QByteArray& data)
+QImage picturefile::decoded(const QByteArray& data, Origin* origin)
 {
     UTIL_ImageReader reader = UTIL_ImageReader::fromData(data);
     reader.setReduction(workingSize);
     reader.read();
+    if (origin)
+        *origin = originOf(reader);
     return reader.image();
 }
 
@@ -159,6 +166,7 @@ int KORVA_PictureFile::check(const char* format)
     UTIL_ImageReader reader = this->reader(format);
     reader.read();
     m_checked = isWhatTakeReads ? reader.image() : QImage();
+    m_origin = originOf(reader);
     return reader.status();
 }
 
@@ -176,8 +184,11 @@ QImage KORVA_PictureFile::take()
         UTIL_ImageReader reader = this->reader(kind.opening == Opening::AsJpeg ? kind.readFormat : nullptr);
         reader.read();
         image = reader.image();
+        m_origin = originOf(reader);
     }
-    return m_transparentColor ? laidOn(image, *m_transparentColor) : image;
+    const QImage opaque = m_transparentColor ? laidOn(image, *m_transparentColor) : image;
+    m_origin.isWhole = m_origin.isWhole && UTIL_ImageReader::isSame(image, opaque);
+    return opaque;
 }
 
 void KORVA_PictureFile::examine()

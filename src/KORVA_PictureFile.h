@@ -30,9 +30,16 @@ namespace picturefile {
 /// The same as a pixmap; false when the picture is null or cannot be converted.
 [[nodiscard]] bool convert(const QImage& image, QPixmap* pixmap);
 
+/// What a picture was before it was decoded and made fit.
+struct Origin
+{
+    QSize size;           ///< upright, in pixels
+    bool isWhole = false; ///< every pixel of every frame came through in its colour
+};
+
 /// A picture in memory, recognised by its content; null when it cannot be decoded. A great one comes in its
 /// working size.
-[[nodiscard]] QImage decoded(const QByteArray& data);
+[[nodiscard]] QImage decoded(const QByteArray& data, Origin* origin = nullptr);
 
 } // namespace picturefile
 
@@ -58,6 +65,8 @@ public:
     /// colour shown as any other, a JPEG in 16 bits, anything else by its content. Null when it cannot be
     /// read.
     [[nodiscard]] QImage take();
+    /// What the picture that take() gave was in the file.
+    [[nodiscard]] const picturefile::Origin& origin() const { return m_origin; }
 
 private:
     void examine();
@@ -70,4 +79,5 @@ private:
     bool m_isDamaged = false;               ///< a GIF that is not sound to its end
     bool m_isTrap = false;                  ///< and whose screen it would be a waste to decode
     std::optional<QRgb> m_transparentColor; ///< a GIF's
+    picturefile::Origin m_origin;
 };

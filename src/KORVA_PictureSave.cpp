@@ -1,5 +1,6 @@
 #include "KORVA_PictureSave.h"
 
+#include "UTIL_FileLock.h"
 #include "UTIL_Png.h"
 
 #include <QBuffer>
@@ -7,7 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryFile>
+#include <QUuid>
+
+#include <algorithm>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,33 +19,9 @@
 namespace {
 
 constexpr int jpegQuality = 96;
+constexpr int leastQuality = 30;   // below, a smaller picture looks better
 constexpr int defaultQuality = -1; // for other writers the number would mean something else
-
-/// Removes the file, whatever is still there, when it goes.
-class Remover
-{
-public:
-    explicit Remover(const QString& fileName) : m_fileName(fileName) {}
-    ~Remover() { QFile::remove(m_fileName); }
-    Remover(const Remover&) = delete;
-    Remover& operator=(const Remover&) = delete;
-
-private:
-    QString m_fileName;
-};
-
-QByteArray encoded(const QImage& image, const QString& format)
-{
-    if (format == "PNG")
-        return png::encoded(image);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    const bool isJpeg = format == "JPEG" || format == "JPG";
-    return image.save(&buffer, format.toLatin1().constData(), isJpeg ? jpegQuality : defaultQuality)
-               ? bytes
-               : QByteArray();
-}
+constexpr int lockTime = 5000;     // milliseconds; a save takes far less
 
 /// Everything written, and on the disk: the move that follows must not be there before the data is.
 bool writeAll(QFile& file, const QByteArray& bytes)
@@ -98,16 +77,156 @@ bool moveByShell(const QString& from, const QString& to)
     return shell.waitForFinished(-1) && shell.exitStatus() == QProcess::NormalExit && shell.exitCode() == 0;
 }
 
-/// Between file systems a move destroys the old file before the new one is there. So the new one first goes
-/// beside it, under a name of its own.
-bool moveAcross(const QString& from, const QString& to)
+/// What a new file takes over from the one that it replaces.
+struct Ownership
 {
-    QFile source(from);
-    QTemporaryFile beside(QFileInfo(to).dir().filePath(".korva.XXXXXX")); // removes itself unless moved
-    if (!source.open(QIODevice::ReadOnly) || !beside.open() || !writeAll(beside, source.readAll()))
+    bool exists = false;
+    mode_t mode = 0;
+    uid_t user = 0;
+    gid_t group = 0;
+
+    [[nodiscard]] static Ownership of(const QString& fileName)
+    {
+        struct stat status = {};
+        if (stat(QFile::encodeName(fileName).constData(), &status) != 0)
+            return {};
+        constexpr mode_t permissions = 07777;
+        return {true, status.st_mode & permissions, status.st_uid, status.st_gid};
+    }
+
+    /// The mode always, the owner as far as the system lets us.
+    void giveTo(int handle) const
+    {
+        if (!exists)
+            return;
+        [[maybe_unused]] const int mayFail = fchown(handle, user, group);
+        fchmod(handle, mode);
+    }
+};
+
+/// A file that was not there before, complete and on the disk. It goes with the object unless it was moved.
+class NewFile
+{
+public:
+    explicit NewFile(const QString& name) : m_name(name), m_path(QFile::encodeName(name)) {}
+    ~NewFile()
+    {
+        if (isOurs())
+            unlink(m_path.constData());
+    }
+    NewFile(const NewFile&) = delete;
+    NewFile& operator=(const NewFile&) = delete;
+
+    [[nodiscard]] bool write(const QByteArray& bytes, const Ownership& ownership)
+    {
+        constexpr mode_t anyone = 0666;
+        const int handle =
+            open(m_path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, anyone);
+        if (handle < 0 ||
+            !m_file.open(handle, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle))
+            return false;
+        ownership.giveTo(handle);
+        return writeAll(m_file, bytes);
+    }
+    [[nodiscard]] bool moveTo(const QString& target) const
+    {
+        return isOurs() && moveByShell(m_name, target);
+    }
+
+private:
+    /// Whether the name still leads to the file that was written.
+    [[nodiscard]] bool isOurs() const
+    {
+        struct stat named = {};
+        struct stat opened = {};
+        return m_file.isOpen() && lstat(m_path.constData(), &named) == 0 &&
+               fstat(m_file.handle(), &opened) == 0 && named.st_dev == opened.st_dev &&
+               named.st_ino == opened.st_ino;
+    }
+
+    QString m_name;
+    QByteArray m_path;
+    QFile m_file;
+};
+
+/// The file behind a name: where a link, or a row of them, leads, there or not.
+QString behindLinks(const QString& name)
+{
+    constexpr int mostLinks = 40; // as many as the system follows
+    QString at = name;
+    for (int i = 0; i < mostLinks; ++i) {
+        const QFileInfo file(at);
+        if (!file.isSymLink())
+            return at;
+        at = file.symLinkTarget();
+    }
+    return {};
+}
+
+struct Format
+{
+    const char* name;
+    QByteArray (*encode)(const QImage& image, int quality);
+};
+
+QByteArray writtenAs(const char* format, const QImage& image, int quality)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    return image.save(&buffer, format, quality) ? bytes : QByteArray();
+}
+
+constexpr Format formats[] = {
+    {"PNG", [](const QImage& image, int) { return png::encoded(image); }},
+    {"JPEG", [](const QImage& image, int quality) { return writtenAs("JPEG", image, quality); }},
+    {"JPG", [](const QImage& image, int quality) { return writtenAs("JPEG", image, quality); }},
+    {"BMP", [](const QImage& image, int) { return writtenAs("BMP", image, defaultQuality); }},
+};
+
+const Format* formatOf(const QByteArray& name)
+{
+    const auto* const found =
+        std::find_if(std::begin(formats), std::end(formats), [&name](const Format& each) {
+            return name.compare(each.name, Qt::CaseInsensitive) == 0;
+        });
+    return found == std::end(formats) ? nullptr : found;
+}
+
+/// The greatest number of a range for which `attempt` gives bytes; its bytes. It gives none for all above
+/// that.
+template <typename Attempt>
+QByteArray bestWithin(int lowest, int highest, const Attempt& attempt)
+{
+    QByteArray best;
+    while (lowest <= highest) {
+        const int middle = (lowest + highest + 1) / 2;
+        if (const QByteArray bytes = attempt(middle); !bytes.isEmpty()) {
+            best = bytes;
+            lowest = middle + 1;
+        } else {
+            highest = middle - 1;
+        }
+    }
+    return best;
+}
+
+bool saveUnder(const QString& target, const QByteArray& bytes)
+{
+    if (bytes.isEmpty())
         return false;
-    beside.setPermissions(source.permissions()); // a temporary file is its owner's alone
-    return moveByShell(beside.fileName(), to);
+    QFile::remove(picturesave::temporaryPath()); // what an earlier run left, or someone planted
+    const Ownership before = Ownership::of(target);
+    NewFile temporary(picturesave::temporaryPath());
+    if (!temporary.write(bytes, before))
+        return false;
+    const QDir folder = QFileInfo(target).dir();
+    if (placeOf(QFileInfo(picturesave::temporaryPath()).path()) == placeOf(folder.path()))
+        return temporary.moveTo(target);
+    // Between file systems a move destroys the old file before the new one is there. So the new one first
+    // goes beside it.
+    NewFile beside(folder.filePath(".korva." + QUuid::createUuid().toString(QUuid::Id128)));
+    return beside.write(bytes, before) && beside.moveTo(target);
 }
 
 } // namespace
@@ -118,10 +237,39 @@ QString picturesave::temporaryPath()
     return folder + (folder.endsWith(QLatin1Char('/')) ? "appwrite/korva.temp" : "/appwrite/korva.temp");
 }
 
+QByteArray picturesave::encoded(const QImage& image, const QByteArray& format)
+{
+    const Format* writer = formatOf(format);
+    return writer && !image.isNull() ? writer->encode(image, jpegQuality) : QByteArray();
+}
+
+QByteArray picturesave::encodedWithin(const QImage& image, const QByteArray& format, qsizetype mostBytes)
+{
+    const QByteArray best = encoded(image, format);
+    if (mostBytes <= 0 || best.size() <= mostBytes)
+        return best;
+    const Format* writer = formatOf(format);
+    if (writer->encode != formatOf("JPEG")->encode)
+        return {}; // bit for bit or not at all
+    const auto within = [mostBytes](const QByteArray& bytes) {
+        return bytes.size() <= mostBytes ? bytes : QByteArray();
+    };
+    const QByteArray plainer = bestWithin(
+        leastQuality, jpegQuality, [&](int quality) { return within(writer->encode(image, quality)); });
+    if (!plainer.isEmpty())
+        return plainer;
+    return bestWithin(1, qMax(image.width(), image.height()), [&](int longSide) {
+        const QImage smaller = image.scaled(
+            image.size().scaled(longSide, longSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)),
+            Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        return within(writer->encode(smaller, leastQuality));
+    });
+}
+
 bool picturesave::write(const QImage& image, const QString& fileName, const char* format)
 {
-    const QString type = (format ? QString::fromLatin1(format) : QFileInfo(fileName).suffix()).toUpper();
-    const QByteArray bytes = encoded(image, type);
+    const QByteArray bytes =
+        encoded(image, format ? QByteArray(format) : QFileInfo(fileName).suffix().toLatin1());
     if (bytes.isEmpty())
         return false;
     QFile file(fileName);
@@ -134,21 +282,19 @@ bool picturesave::write(const QImage& image, const QString& fileName, const char
     return complete;
 }
 
-bool picturesave::replace(const QString& name,
-                          const std::function<bool(const QString& temporaryPath)>& encode)
+bool picturesave::replace(const QString& name, const std::function<QByteArray()>& encode)
 {
-    const QFileInfo target(name);
-    const QString folder = target.path();
-    const QString temporary = temporaryPath();
-    if (!isQuotable(name) || !isQuotable(temporary) || target.isDir() || isWriteProtected(name) ||
-        isWriteProtected(folder))
+    if (!isQuotable(name))
+        return false;
+    const QString target = behindLinks(name);
+    const QString folder = QFileInfo(target).path();
+    if (!isQuotable(target) || !isQuotable(temporaryPath()) || QFileInfo(target).isDir() ||
+        isWriteProtected(target) || isWriteProtected(folder))
         return false;
 
-    // What an earlier run left, or someone planted, is not written through.
-    QFile::remove(temporary);
-    const Remover remover(temporary);
-    if (!encode(temporary))
-        return false;
-    return placeOf(temporary) == placeOf(folder) ? moveByShell(temporary, name)
-                                                 : moveAcross(temporary, name);
+    // Another program may share the download folder.
+    UTIL_FileLock lock(temporaryPath() + ".lock");
+    const bool isSaved = lock.lock(lockTime) && saveUnder(target, encode());
+    lock.remove();
+    return isSaved;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -14,14 +15,22 @@ namespace picturesave {
 /// that the environment names.
 [[nodiscard]] QString temporaryPath();
 
-/// Writes a file that was not there before, or replaces it; false leaves none. `format` is "PNG", "JPEG",
-/// "BMP" or what else the toolkit writes; null goes by the extension. PNGs are made small, JPEGs good.
+/// The picture as the bytes of a file; empty when it is null or `format`, in any case, is not "PNG",
+/// "JPEG", "JPG" or "BMP". PNGs are made small, JPEGs good.
+[[nodiscard]] QByteArray encoded(const QImage& image, const QByteArray& format);
+/// The same in no more bytes than told (0 or less: any number). A JPEG gives up quality first, then size;
+/// what still does not fit is empty.
+[[nodiscard]] QByteArray encodedWithin(const QImage& image, const QByteArray& format, qsizetype mostBytes);
+
+/// Writes a file that was not there before, or replaces it; false leaves none. A null format goes by the
+/// extension.
 [[nodiscard]] bool write(const QImage& image, const QString& fileName, const char* format);
 
-/// Has `encode` write the temporary file (true when it did) and moves that to `name`. False when anything
-/// failed: the target is then as it was. No temporary file is left in either case. A name that holds a
-/// single quote cannot be saved.
-[[nodiscard]] bool replace(const QString& name,
-                           const std::function<bool(const QString& temporaryPath)>& encode);
+/// Brings what `encode` gives into the temporary file and moves that to `name`; false when anything failed,
+/// or `encode` gave nothing: the target is then as it was. Afterwards there is no temporary file. The
+/// target keeps its mode, and its owner where the system permits; a link stays, and what it leads to is
+/// replaced. Other programs that save through the same folder wait. A name, or a link's target, that holds
+/// a single quote cannot be saved.
+[[nodiscard]] bool replace(const QString& name, const std::function<QByteArray()>& encode);
 
 } // namespace picturesave

@@ -126,13 +126,16 @@ void KORVA_Text::paintBuffer()
     if (!canvas())
         return;
     canvas()->saveOldPix();
-    {
-        KORVA_ClassicPainter painter(canvas()->pixmap());
-        drawText(painter, zoom().toPicture(m_lineStart), m_text);
-    }
+    paintPending(canvas()->pixmap());
     canvas()->updateZoomed();
     zoomedRebuilt(); // a tool that is being left is no longer told
     canvas()->markModified();
+}
+
+void KORVA_Text::paintPending(QPixmap* picture) const
+{
+    KORVA_ClassicPainter painter(picture);
+    drawText(painter, zoom().toPicture(m_lineStart), m_text);
 }
 
 void KORVA_Text::paintProportionBuffer()

@@ -59,6 +59,7 @@ public:
     void inputMethodEvent(QInputMethodEvent* event) override;
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void zoomedRebuilt() override;
+    void paintPending(QPixmap* picture) const override;
 
 protected:
     void timerEvent(QTimerEvent* event) override;

@@ -58,6 +58,7 @@ void KORVA_Tool::leaveEvent(QEvent*) {}
 void KORVA_Tool::activating() {}
 void KORVA_Tool::deactivating() {}
 void KORVA_Tool::zoomedRebuilt() {}
+void KORVA_Tool::paintPending(QPixmap*) const {}
 
 void KORVA_Tool::inputMethodEvent(QInputMethodEvent* event)
 {

@@ -102,6 +102,9 @@ public:
     [[nodiscard]] virtual QVariant inputMethodQuery(Qt::InputMethodQuery query) const;
     /// The zoomed picture was drawn anew: feedback that the tool had painted into it is gone.
     virtual void zoomedRebuilt();
+    /// Paints what the tool still holds back, as committing it would, into a copy of the picture: for
+    /// KORVA_Canvas::snapshot(). The base class holds nothing back.
+    virtual void paintPending(QPixmap* picture) const;
 
 signals:
     /// For tools of a host's own; the library neither emits nor hears it.

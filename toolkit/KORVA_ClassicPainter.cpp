@@ -1,5 +1,6 @@
 #include "KORVA_ClassicPainter.h"
 
+#include <QHash>
 #include <QtMath>
 
 #include <algorithm>
@@ -269,6 +270,12 @@ QPixmap filled(const QSize& size, const QColor& color)
     QPixmap pixmap(size.expandedTo(QSize(0, 0)));
     pixmap.fill(color);
     return pixmap;
+}
+
+size_t hash(const QImage& image)
+{
+    return qHashBits(image.constBits(), size_t(image.sizeInBytes()),
+                     qHashMulti(0, image.width(), image.height()));
 }
 
 void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source)

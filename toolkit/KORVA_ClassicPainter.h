@@ -70,6 +70,9 @@ namespace classic {
 /// A picture of this size filled with one colour; null when a side is not positive.
 [[nodiscard]] QPixmap filled(const QSize& size, const QColor& color);
 
+/// A number that equal pictures of the same format share and others almost never do.
+[[nodiscard]] size_t hash(const QImage& image);
+
 /// Copies a whole picture into another or onto a widget at (x, y); what falls outside is left away, masks
 /// are respected.
 void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source);

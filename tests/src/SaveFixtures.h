@@ -13,8 +13,7 @@ constexpr const char* variable = "KIV_LOCAL_DOWNLOAD_PATH";
 
 inline bool saved(const QString& name, const QImage& image, const char* format = "PNG")
 {
-    return picturesave::replace(
-        name, [&](const QString& temporary) { return picturesave::write(image, temporary, format); });
+    return picturesave::replace(name, [&] { return picturesave::encoded(image, format); });
 }
 
 inline QImage red()
