@@ -51,6 +51,8 @@ constexpr Option options[] = {
     {"record", 0, "FILE", setFile<&CommandLine::record>, "write a recording of what is drawn"},
     {"save", 0, "FILE", setFile<&CommandLine::save>, "save the drawing after the replay, then exit"},
     {"screenshot", 0, "FILE", setFile<&CommandLine::screenshot>, "write the window as PNG, then exit"},
+    {"no-recovery", 0, nullptr, setFlag<&CommandLine::noRecovery>,
+     "keep no copy of what is not saved, and offer none"},
     {"help", 'h', nullptr, setFlag<&CommandLine::help>, "show this text"},
     {"version", 'v', nullptr, setFlag<&CommandLine::version>, "show the version"},
 };

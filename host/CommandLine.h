@@ -16,6 +16,7 @@ struct CommandLine
     QString record;
     QString save;
     QString screenshot;
+    bool noRecovery = false;
     bool help = false;
     bool version = false;
     QString picture;

@@ -1,12 +1,10 @@
 #include "Commands.h"
 
-#include "DocumentAction.h"
+#include "Documents.h"
 #include "EditCommand.h"
-#include "Platform.h"
-#include "Theme.h"
+#include "Recovery.h"
 
 #include <KORVA_Canvas.h>
-#include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_PasteLabel.h>
 #include <UTIL_PopupMenu.h>
@@ -29,20 +27,6 @@ struct Label
 };
 
 constexpr int textTool = 3;
-constexpr int normalCanvas = 3;
-
-constexpr struct
-{
-    Label label;
-    KORVA_CANVASTYPE type;
-} canvasTypes[] = {
-    {QT_TRANSLATE_NOOP3("pad::Commands", "65,536 colors", "canvas type"), KORVA_CANVAS_16BIT},
-    {QT_TRANSLATE_NOOP3("pad::Commands", "256 colors", "canvas type"), KORVA_CANVAS_8BIT},
-    {QT_TRANSLATE_NOOP3("pad::Commands", "16 colors", "canvas type"), KORVA_CANVAS_4BIT},
-    {QT_TRANSLATE_NOOP3("pad::Commands", "Black and white", "canvas type"), KORVA_CANVAS_1BIT},
-};
-
-constexpr auto warningIcon = "Dialog_Exclamatory_Mark.gif";
 
 } // namespace
 
@@ -55,10 +39,10 @@ struct Commands::Entry
     bool endsGroup = false;
 };
 
-Commands::Commands(KORVA_EditCanvas& editor, Platform& platform, QWidget* window)
+Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* window)
     : QObject(window),
       m_editor(editor),
-      m_platform(platform),
+      m_documents(documents),
       m_window(window),
       m_menu(new UTIL_PopupMenu(window))
 {
@@ -71,15 +55,19 @@ void Commands::addEntries()
 {
     static constexpr Entry entries[] = {
         {QT_TRANSLATE_NOOP3("pad::Commands", "&New ...", "menu"), "Ctrl+N", Needs::Nothing,
-         [](Commands& c) { c.newDrawing(); }},
+         [](Commands& c) { c.m_documents.newDrawing(); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Open ...", "menu"), "Ctrl+O", Needs::Nothing,
-         [](Commands& c) { c.open(); }},
+         [](Commands& c) { c.m_documents.open(); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Save", "menu"), "Ctrl+S", Needs::Nothing,
-         [](Commands& c) { c.save(); }},
+         [](Commands& c) { c.m_documents.save(); }},
+        {QT_TRANSLATE_NOOP3("pad::Commands", "Sa&ve as ...", "menu"), "Ctrl+Shift+S", Needs::Nothing,
+         [](Commands& c) { c.m_documents.saveAs(); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I", Needs::Nothing,
-         [](Commands& c) { c.stamp(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Delete ...", "menu"), "Delete", Needs::File,
-         [](Commands& c) { c.remove(); }, true},
+         [](Commands& c) { c.m_documents.stamp(); }},
+        {QT_TRANSLATE_NOOP3("pad::Commands", "Earlier dra&wings ...", "menu"), "Ctrl+E", Needs::Recovery,
+         [](Commands& c) { c.m_recovery->showEarlier(); }},
+        {QT_TRANSLATE_NOOP3("pad::Commands", "D&elete picture ...", "menu"), "Ctrl+Delete", Needs::File,
+         [](Commands& c) { c.m_documents.deletePicture(); }, true},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Undo", "menu"), "Ctrl+Z", Needs::Undo,
          [](Commands& c) { c.perform(Verb::Undo); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Redo", "menu"), "Ctrl+Y; Ctrl+Shift+Z", Needs::Redo,
@@ -90,10 +78,12 @@ void Commands::addEntries()
          [](Commands& c) { c.perform(Verb::Copy); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Paste", "menu"), "Ctrl+V", Needs::Clipboard,
          [](Commands& c) { c.paste(); }},
+        {QT_TRANSLATE_NOOP3("pad::Commands", "&Delete", "menu"), "Delete", Needs::Nothing,
+         [](Commands& c) { c.removeSelection(); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "Select &all", "menu"), "Ctrl+A", Needs::Nothing,
          [](Commands& c) { c.perform(Verb::SelectAll); }},
         {QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
-         [](Commands& c) { c.perform(Verb::Clear); }, true},
+         [](Commands& c) { c.m_documents.clear(); }, true},
         {QT_TRANSLATE_NOOP3("pad::Commands", "&Quit", "menu"), "Ctrl+Q", Needs::Nothing,
          [](Commands& c) { c.m_window->close(); }},
     };
@@ -124,7 +114,11 @@ void Commands::follow()
 {
     for (const Needs needs : {Needs::Undo, Needs::Redo, Needs::Selection})
         setAvailable(needs, false);
-    setAvailable(Needs::File, !m_editor.fileName().isEmpty());
+    setAvailable(Needs::Recovery, false);
+    const auto followFile = [this] { setAvailable(Needs::File, !m_editor.fileName().isEmpty()); };
+    followFile();
+    connect(&m_documents, &Documents::changed, this, followFile);
+    connect(&m_documents, &Documents::performed, this, &Commands::performed);
 
     const auto let = [this](void (KORVA_EditCanvas::*signal)(bool), Needs needs) {
         connect(&m_editor, signal, this, [this, needs](bool possible) { setAvailable(needs, possible); });
@@ -132,8 +126,6 @@ void Commands::follow()
     let(&KORVA_EditCanvas::canUndo, Needs::Undo);
     let(&KORVA_EditCanvas::canRedo, Needs::Redo);
     let(&KORVA_EditCanvas::selection, Needs::Selection);
-    let(&KORVA_EditCanvas::canDelete, Needs::File);
-    connect(&m_editor, &KORVA_EditCanvas::canDelete, this, &Commands::documentChanged);
 
     // What is on the clipboard is found out when it matters: asking another program takes time and brings
     // in every picture format that the toolkit knows.
@@ -159,6 +151,12 @@ bool Commands::updateClipboard()
     const bool hasPicture = data && data->hasImage();
     setAvailable(Needs::Clipboard, hasPicture);
     return hasPicture;
+}
+
+void Commands::setRecovery(Recovery* recovery)
+{
+    m_recovery = recovery;
+    setAvailable(Needs::Recovery, recovery != nullptr);
 }
 
 QAction* Commands::contextAction() const
@@ -191,80 +189,10 @@ void Commands::paste()
         perform(Verb::Paste);
 }
 
-void Commands::newDrawing()
+void Commands::removeSelection()
 {
-    if (!mayReplaceDrawing(m_editor, m_platform))
-        return;
-    KORVA_ChooseCanvasDlg sizes(m_window, normalCanvas);
-    if (sizes.exec() != QDialog::Accepted)
-        return;
-    const int type = askCanvasType();
-    if (type < 0)
-        return;
-    newCanvas(m_editor, type, sizes.canvasSize());
-    m_editor.setFileName(QString());
-    emit performed(Command{.verb = Verb::Answer, .number = 1});
-    emit performed(Command{.verb = Verb::Canvas, .number = type, .size = sizes.canvasSize()});
-}
-
-int Commands::askCanvasType()
-{
-    QStringList buttons;
-    for (const auto& row : canvasTypes)
-        buttons.append(tr(row.label.text, row.label.comment));
-    buttons.append(tr("Cancel", "canvas type"));
-    const int answer =
-        m_platform.question(m_window, QString(), tr("How many colors?", "canvas type"), buttons);
-    return answer < int(std::size(canvasTypes)) ? int(canvasTypes[answer].type) : -1;
-}
-
-void Commands::open()
-{
-    bool opened = false;
-    const QMetaObject::Connection watch =
-        connect(&m_editor, &KORVA_EditCanvas::pixmapChanged, this, [&opened] { opened = true; });
-    m_editor.slotOpen();
-    disconnect(watch);
-    if (!opened)
-        return;
-    emit performed(Command{.verb = Verb::Answer, .number = 1});
-    emit performed(Command{.verb = Verb::Open, .text = m_editor.fileName()});
-}
-
-void Commands::save()
-{
-    m_editor.slotSave();
-}
-
-void Commands::stamp()
-{
-    m_editor.saveChangePic(InsertStamp);
     if (!m_editor.canvas()->pasteLabel()->isHidden())
-        emit performed(Command{.verb = Verb::Stamp, .text = m_platform.lastPicked()});
-}
-
-void Commands::remove()
-{
-    m_platform.takeAnswer();
-    m_editor.slotDelete();
-    if (m_platform.takeAnswer() != 0)
-        return;
-    emit documentChanged();
-    emit performed(Command{.verb = Verb::Clear});
-}
-
-bool Commands::mayClose()
-{
-    const bool isFloating = !m_editor.canvas()->pasteLabel()->isHidden();
-    if (!m_editor.isModified() && !isFloating)
-        return true;
-    enum Answer : int { Yes, No };
-    const int answer = m_platform.question(
-        m_window, QLatin1String(warningIcon), tr("Save changes to drawing before closing?", "closing"),
-        {tr("Yes", "closing"), tr("No", "closing"), tr("Cancel", "closing")});
-    if (answer == Yes)
-        m_editor.slotSave();
-    return answer == No || (answer == Yes && !m_editor.isModified());
+        perform(Verb::Delete);
 }
 
 } // namespace pad

@@ -12,7 +12,8 @@ class QMenu;
 
 namespace pad {
 
-class Platform;
+class Documents;
+class Recovery;
 
 /// The commands behind the menu, the keys and the right soft key, enabled as the editor says.
 class Commands : public QObject
@@ -20,13 +21,14 @@ class Commands : public QObject
     Q_OBJECT
 
 public:
-    Commands(KORVA_EditCanvas& editor, Platform& platform, QWidget* window);
+    Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* window);
+
+    /// Lets the person see the earlier drawings; null: there are none. Not owned.
+    void setRecovery(Recovery* recovery);
 
     [[nodiscard]] QMenu* menu() const { return m_menu; }
     /// What the right soft key offers: the way back or, after an undo, forward again.
     [[nodiscard]] QAction* contextAction() const;
-    /// Asks about unsaved changes before the window goes; false when it must stay.
-    [[nodiscard]] bool mayClose();
 
     /// Leaves plain keys to the text tool.
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -35,8 +37,6 @@ signals:
     /// A person chose something that a recording can hold; it is carried out already.
     void performed(const pad::Command& command);
     void contextActionChanged();
-    /// The drawing became another one, or the file behind it changed.
-    void documentChanged();
 
 private:
     struct Entry;
@@ -44,6 +44,7 @@ private:
     enum class Needs {
         Nothing,
         File,      ///< one behind the drawing
+        Recovery,  ///< a folder of earlier drawings
         Undo,      ///< a change to take back
         Redo,      ///< a change taken back
         Selection, ///< a floating piece
@@ -61,17 +62,13 @@ private:
     void setAvailable(Needs what, bool available);
     bool updateClipboard();
 
-    void newDrawing();
-    void open();
-    void save();
-    void stamp();
-    void remove();
     void perform(Verb verb);
+    void removeSelection();
     void paste();
-    [[nodiscard]] int askCanvasType();
 
     KORVA_EditCanvas& m_editor;
-    Platform& m_platform;
+    Documents& m_documents;
+    Recovery* m_recovery = nullptr;
     QWidget* m_window; // the parent
     QMenu* m_menu;
     std::vector<Dependent> m_dependents;

@@ -20,6 +20,7 @@ constexpr struct
     {Verb::Paste, qOverload<>(&KORVA_EditCanvas::paste)},
     {Verb::SelectAll, &KORVA_EditCanvas::selectAll},
     {Verb::Clear, &KORVA_EditCanvas::clearCanvas},
+    {Verb::Delete, &KORVA_EditCanvas::deleteSelection},
 };
 
 } // namespace

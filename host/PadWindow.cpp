@@ -1,6 +1,7 @@
 #include "PadWindow.h"
 
 #include "Commands.h"
+#include "Documents.h"
 #include "PopupFence.h"
 #include "StatusLine.h"
 #include "Theme.h"
@@ -9,21 +10,27 @@
 #include <UTIL_PushButton.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QMenu>
+#include <QMimeData>
 #include <QPixmap>
+#include <QUrl>
 
 namespace pad {
 
 PadWindow::PadWindow(Platform& platform, const QString& picture)
     : m_editor(new KORVA_EditCanvas(picture, KORVA_COLOR_16BIT, this, nullptr, {}, this)),
-      m_commands(new Commands(*m_editor, platform, this)),
+      m_documents(new Documents(*m_editor, platform, this)),
+      m_commands(new Commands(*m_editor, *m_documents, this)),
       m_status(new StatusLine(*m_editor, this)),
       m_menuKey(addKey(tr("Menu", "soft key"), theme::leftKey)),
       m_contextKey(addKey(QString(), theme::rightKey))
 {
     setFixedSize(theme::window.size());
+    setAcceptDrops(true);
     m_editor->setGeometry(theme::editor);
     m_status->setGeometry(theme::status);
     new PopupFence(*this);
@@ -32,7 +39,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     connect(m_menuKey, &QPushButton::clicked, this, &PadWindow::openMenu);
     connect(m_contextKey, &QPushButton::clicked, this, [this] { m_commands->contextAction()->trigger(); });
     connect(m_commands, &Commands::contextActionChanged, this, &PadWindow::updateContextKey);
-    connect(m_commands, &Commands::documentChanged, this, &PadWindow::updateTitle);
+    connect(m_documents, &Documents::changed, this, &PadWindow::updateTitle);
     connect(m_editor, &KORVA_EditCanvas::modified, this, [this] { setWindowModified(true); });
     updateContextKey();
     updateTitle();
@@ -61,7 +68,7 @@ void PadWindow::updateContextKey()
 
 void PadWindow::updateTitle()
 {
-    const QString name = QFileInfo(m_editor->fileName()).fileName();
+    const QString name = QFileInfo(m_documents->name()).fileName();
     setWindowTitle(name.isEmpty() ? tr("Drawing[*] - Korva", "window title")
                                   : tr("%1[*] - Korva", "window title").arg(name));
     setWindowModified(m_editor->isModified());
@@ -69,7 +76,37 @@ void PadWindow::updateTitle()
 
 void PadWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(m_commands->mayClose());
+    event->setAccepted(m_documents->mayClose());
+}
+
+namespace {
+
+/// The first picture file among what is dragged; empty when there is none.
+QString draggedPicture(const QMimeData* data)
+{
+    for (const QUrl& url : data->urls()) {
+        const QString file = url.toLocalFile();
+        if (QDir::match(KORVA_EditCanvas::openPatterns(), QFileInfo(file).fileName()))
+            return file;
+    }
+    return {};
+}
+
+} // namespace
+
+void PadWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!draggedPicture(event->mimeData()).isEmpty() && !QApplication::activeModalWidget())
+        event->acceptProposedAction();
+}
+
+void PadWindow::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    // After the drop: whoever drags waits for it to end, and there may be a question.
+    QMetaObject::invokeMethod(
+        m_documents, [this, name = draggedPicture(event->mimeData())] { m_documents->openNamed(name); },
+        Qt::QueuedConnection);
 }
 
 QImage PadWindow::screenshot()

@@ -8,6 +8,7 @@ class UTIL_PushButton;
 namespace pad {
 
 class Commands;
+class Documents;
 class Platform;
 class StatusLine;
 
@@ -23,12 +24,16 @@ public:
 
     [[nodiscard]] KORVA_EditCanvas& editor() const { return *m_editor; }
     [[nodiscard]] Commands& commands() const { return *m_commands; }
+    [[nodiscard]] Documents& documents() const { return *m_documents; }
 
     /// The window as it is on screen, at its scale.
     [[nodiscard]] QImage screenshot();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /// A picture file that is dropped is opened.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     UTIL_PushButton* addKey(const QString& text, const QRect& place);
@@ -37,6 +42,7 @@ private:
     void updateTitle();
 
     KORVA_EditCanvas* m_editor;
+    Documents* m_documents;
     Commands* m_commands;
     StatusLine* m_status;
     UTIL_PushButton* m_menuKey;

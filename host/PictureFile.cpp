@@ -1,57 +1,130 @@
 #include "PictureFile.h"
 
+#include <KORVA_EditCanvas.h>
+
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
+
+#include <cerrno>
+#include <cstring>
+
+#include <unistd.h>
 
 namespace pad {
 
 namespace {
 
-struct Format
+struct Reason
 {
-    const char* extension;
-    const char* name; ///< null: can be read, but not written
-    int quality;
+    int code;
+    struct
+    {
+        const char* text; ///< %1 is the folder
+        const char* comment;
+    } label;
 };
 
-constexpr Format formats[] = {
-    {"bmp", "BMP", -1},   {"jpg", "JPEG", 96},  {"jpe", "JPEG", 96},
-    {"jpeg", "JPEG", 96}, {"gif", nullptr, -1},
+constexpr Reason reasons[] = {
+    {ENOSPC, QT_TRANSLATE_NOOP3("pad::PictureFile", "The disk is full.", "saving")},
+    {EDQUOT, QT_TRANSLATE_NOOP3("pad::PictureFile", "The disk is full.", "saving")},
+    {EACCES, QT_TRANSLATE_NOOP3("pad::PictureFile", "No permission to write in %1.", "saving")},
+    {EPERM, QT_TRANSLATE_NOOP3("pad::PictureFile", "No permission to write in %1.", "saving")},
+    {EROFS, QT_TRANSLATE_NOOP3("pad::PictureFile", "%1 is on a disk that can only be read.", "saving")},
+    {ENOENT, QT_TRANSLATE_NOOP3("pad::PictureFile", "The folder %1 is not there.", "saving")},
+    {ENOTDIR, QT_TRANSLATE_NOOP3("pad::PictureFile", "The folder %1 is not there.", "saving")},
+    {ENAMETOOLONG, QT_TRANSLATE_NOOP3("pad::PictureFile", "The name is too long.", "saving")},
 };
-constexpr Format png{"png", "PNG", -1};
 
-Format formatOf(const QString& fileName)
+/// Protected against writing, be it only from others: even who may do anything respects that.
+bool isProtected(const QFileInfo& file)
 {
-    const QString extension = QFileInfo(fileName).suffix().toLower();
-    for (const Format& format : formats) {
-        if (extension == QLatin1String(format.extension))
-            return format;
-    }
-    return png;
+    constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return file.exists() && (!file.isWritable() || !(file.permissions() & anyWrite));
 }
 
-std::optional<Failure> write(const QImage& picture, const QString& fileName, const Format& format)
+WriteError systemError(int code, const QString& fileName)
 {
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || !picture.save(&file, format.name, format.quality) ||
-        !file.commit())
-        return Failure{QStringLiteral("cannot write '%1': %2").arg(fileName, file.errorString())};
-    return {};
+    return {code, QString::fromLocal8Bit(std::strerror(code)), fileName};
+}
+
+WriteError errorOf(const QSaveFile& file, const QString& fileName)
+{
+    return {file.error() == QFile::PermissionsError ? EACCES : errno, file.errorString(), fileName};
 }
 
 } // namespace
 
-std::optional<Failure> writePicture(const QImage& picture, const QString& fileName)
+QString WriteError::sentence() const
 {
-    const Format format = formatOf(fileName);
-    if (!format.name)
-        return Failure{QStringLiteral("cannot write '%1': GIF pictures are only read").arg(fileName)};
-    return write(picture, fileName, format);
+    const QString folder = QFileInfo(fileName).absoluteDir().dirName();
+    for (const Reason& reason : reasons) {
+        if (reason.code != code)
+            continue;
+        const QString text =
+            QCoreApplication::translate("pad::PictureFile", reason.label.text, reason.label.comment);
+        return text.contains(QLatin1String("%1")) ? text.arg(folder) : text;
+    }
+    return detail;
 }
 
-std::optional<Failure> writePng(const QImage& picture, const QString& fileName)
+QString WriteError::line() const
 {
-    return write(picture, fileName, png);
+    return QStringLiteral("cannot write '%1': %2").arg(fileName, detail);
+}
+
+bool canBeWritten(const QString& fileName)
+{
+    const QString name = QFileInfo(fileName).fileName();
+    return !QDir::match(KORVA_EditCanvas::openPatterns(), name) ||
+           QDir::match(KORVA_EditCanvas::savePatterns(), name);
+}
+
+QString freeNameBeside(const QString& fileName)
+{
+    static const QRegularExpression number(QStringLiteral(" \\d+$"));
+    const QFileInfo file(fileName);
+    const QString base = file.completeBaseName().remove(number);
+    const QString extension = canBeWritten(fileName) && !file.suffix().isEmpty() ? file.suffix() : "png";
+    QString name = file.dir().filePath(base + '.' + extension);
+    for (int i = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++i)
+        name = file.dir().filePath(QStringLiteral("%1 %2.%3").arg(base).arg(i).arg(extension));
+    return name;
+}
+
+std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName)
+{
+    QString format;
+    editor.getFileFormat(fileName, format);
+    if (format == QLatin1String("GIF"))
+        return WriteError{0, QStringLiteral("GIF pictures are only read"), fileName};
+    if (format == QLatin1String("WBMP"))
+        format = QStringLiteral("PNG"); // as the editor writes it: nobody who is asked gets here
+    const QByteArray bytes = editor.encoded(format.toLatin1().constData());
+    if (bytes.isEmpty())
+        return systemError(ENOMEM, fileName);
+    return writeFile(bytes, fileName);
+}
+
+std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName)
+{
+    // A row of links is followed to its end; the file class follows one.
+    const QFileInfo named(fileName);
+    const QString target = named.exists() ? named.canonicalFilePath() : fileName;
+    if (isProtected(QFileInfo(target)) || isProtected(QFileInfo(QFileInfo(target).path())))
+        return systemError(EACCES, fileName);
+    QSaveFile file(target);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+        return errorOf(file, fileName);
+    if (fsync(file.handle()) != 0)
+        return systemError(errno, fileName);
+    errno = 0;
+    if (!file.commit())
+        return errorOf(file, fileName);
+    return {};
 }
 
 } // namespace pad

@@ -2,6 +2,8 @@
 
 #include <UTIL_PictureDialog.h>
 
+#include <QFile>
+
 namespace pad {
 
 namespace {
@@ -10,9 +12,16 @@ namespace {
 class ScriptedDialog : public UTIL_PictureDialog
 {
 public:
-    ScriptedDialog(QWidget* parent, const QString& name) : UTIL_PictureDialog(parent) { setFileName(name); }
+    ScriptedDialog(QWidget* parent, const QString& name) : UTIL_PictureDialog(parent), m_name(name) {}
 
-    int exec() override { return fileName().isEmpty() ? Rejected : Accepted; }
+    int exec() override
+    {
+        setFileName(m_name); // whatever was proposed
+        return m_name.isEmpty() ? Rejected : Accepted;
+    }
+
+private:
+    QString m_name;
 };
 
 } // namespace
@@ -59,6 +68,11 @@ void Platform::timedMessage(QWidget* parent, const QString& icon, const QString&
         m_script->told = text;
     else
         UTIL_Platform::timedMessage(parent, icon, text, timeout);
+}
+
+bool Platform::removePicture(const QString& name)
+{
+    return QFile::moveToTrash(name);
 }
 
 UTIL_PictureDialog* Platform::createPickDialog(QWidget* parent, const QString& folder,

@@ -2,6 +2,7 @@
 
 #include "DocumentAction.h"
 #include "EditCommand.h"
+#include "PictureFile.h"
 
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
@@ -137,11 +138,13 @@ void Player::stamp(const QString& fileName)
 
 void Player::save(const QString& fileName)
 {
-    m_editor.commitText();
+    m_editor.pixmap(); // what is pending goes in, as it does whenever the editor saves
+    if (const auto error = saveDrawing(m_editor, fileName)) {
+        stop(error->line());
+        return;
+    }
     m_editor.setFileName(fileName);
-    m_editor.saveFilePrivate();
-    if (m_editor.fileName() != fileName || m_editor.isModified())
-        stopAt(QStringLiteral("write"), fileName);
+    m_editor.clearModified();
 }
 
 void Player::wait(int milliseconds)

@@ -178,6 +178,7 @@ constexpr Rule grammar[] = {
     {"paste", Verb::Paste},
     {"selectall", Verb::SelectAll},
     {"clear", Verb::Clear},
+    {"delete", Verb::Delete},
     {"canvas", Verb::Canvas, {&canvasType, &width, &height}},
     {"open", Verb::Open, {&fileName}},
     {"stamp", Verb::Stamp, {&fileName}},

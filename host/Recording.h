@@ -29,6 +29,7 @@ enum class Verb {
     Paste,
     SelectAll,
     Clear,
+    Delete, ///< the floating piece
     Canvas,
     Open,
     Stamp, ///< lays a picture file over the drawing

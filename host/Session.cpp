@@ -1,12 +1,15 @@
 #include "Session.h"
 
 #include "Commands.h"
+#include "Documents.h"
 #include "PictureFile.h"
 #include "Player.h"
+#include "Recovery.h"
 
 #include <KORVA_EditCanvas.h>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFileInfo>
 
 #include <cstdio>
@@ -40,6 +43,8 @@ int Session::run()
             result = complain(*failure);
         if (result != 0 || endsNow())
             QCoreApplication::exit();
+        else
+            startRecovery();
     };
     QMetaObject::invokeMethod(this, workNow, Qt::QueuedConnection);
     QApplication::exec();
@@ -92,13 +97,28 @@ std::optional<Failure> Session::work()
 
 std::optional<Failure> Session::writeResults()
 {
+    const auto outcome = [](const std::optional<WriteError>& error) {
+        return error ? std::optional(Failure{error->line()}) : std::nullopt;
+    };
     if (!m_line.screenshot.isEmpty()) {
-        if (auto failure = writePng(m_window->screenshot(), m_line.screenshot))
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        m_window->screenshot().save(&buffer, "PNG");
+        if (auto failure = outcome(writeFile(bytes, m_line.screenshot)))
             return failure;
     }
-    if (!m_line.save.isEmpty())
-        return writePicture(m_window->editor().pixmap()->toImage(), m_line.save);
-    return {};
+    return m_line.save.isEmpty() ? std::nullopt : outcome(saveDrawing(m_window->editor(), m_line.save));
+}
+
+/// Only where a person draws: a replay leaves nothing behind, and is offered nothing.
+void Session::startRecovery()
+{
+    if (m_line.noRecovery)
+        return;
+    auto* recovery = new Recovery(m_window->editor(), m_window->documents(), m_platform, m_window.get());
+    m_window->commands().setRecovery(recovery);
+    if (m_line.replay.isEmpty())
+        recovery->offer();
 }
 
 bool Session::endsNow() const

@@ -29,6 +29,7 @@ private:
     std::optional<Failure> startRecorder();
     std::optional<Failure> work();
     std::optional<Failure> writeResults();
+    void startRecovery();
     [[nodiscard]] bool endsNow() const;
 
     CommandLine m_line;

@@ -83,8 +83,8 @@ void tst_CommandLine::help()
     QCOMPARE(pad.exitCode(), 0);
     QCOMPARE(pad.errors(), "");
     const QString text = pad.output();
-    for (const char* name :
-         {"--scale", "--replay", "--record", "--save", "--screenshot", "--help", "--version"})
+    for (const char* name : {"--scale", "--replay", "--record", "--save", "--screenshot", "--no-recovery",
+                             "--help", "--version"})
         QVERIFY2(text.contains(name), name);
 }
 

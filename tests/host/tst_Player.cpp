@@ -424,8 +424,10 @@ void tst_Player::stopsAtTheFirstFailure_data()
         "cannot open '/nowhere.png': Failed to open file");
     row("a stamp that is not there", "stamp /nowhere.png",
         "cannot open '/nowhere.png': Failed to open file");
-    row("a folder that is not there", "save /nowhere/a.png", "cannot write '/nowhere/a.png': Saved Failed");
-    row("a format that is only read", "save /tmp/a.gif", "cannot write '/tmp/a.gif': Saved Failed");
+    row("a folder that is not there", "save /nowhere/a.png",
+        "cannot write '/nowhere/a.png': No such file or directory");
+    row("a format that is only read", "save /tmp/a.gif",
+        "cannot write '/tmp/a.gif': GIF pictures are only read");
 }
 
 void tst_Player::stopsAtTheFirstFailure()

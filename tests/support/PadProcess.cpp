@@ -8,13 +8,17 @@ constexpr int patience = 20'000; // ms; the sanitizers are slow to start
 
 } // namespace
 
-PadProcess::PadProcess(const QStringList& arguments, const QString& display, const QString& folder)
+PadProcess::PadProcess(const QStringList& arguments, const QString& display, const QString& folder,
+                       const QString& home)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     if (!display.isEmpty()) {
         environment.insert("DISPLAY", display);
         environment.insert("QT_QPA_PLATFORM", "xcb");
     }
+    const QString user = home.isEmpty() ? m_ownHome.path() : home;
+    for (const char* variable : {"XDG_STATE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        environment.insert(variable, user + '/' + variable);
     m_process.setProcessEnvironment(environment);
     m_process.setWorkingDirectory(folder);
     m_process.start(KORVA_PAD, arguments);
@@ -26,6 +30,12 @@ PadProcess::~PadProcess()
     if (!isRunning())
         return;
     m_process.terminate();
+    m_process.waitForFinished(patience);
+}
+
+void PadProcess::kill()
+{
+    m_process.kill();
     m_process.waitForFinished(patience);
 }
 

@@ -10,20 +10,24 @@ namespace support {
 class PadProcess
 {
 public:
-    /// Starts it in the folder given. Without a display it works off screen.
+    /// Starts it in the folder given. Without a display it works off screen. What it remembers goes below
+    /// `home`, the user's folder; without one it remembers nothing of others.
     explicit PadProcess(const QStringList& arguments, const QString& display = {},
-                        const QString& folder = {});
+                        const QString& folder = {}, const QString& home = {});
     /// Ends it if it still runs.
     ~PadProcess();
 
     [[nodiscard]] bool waitForEnd();
     [[nodiscard]] bool isRunning() const;
     [[nodiscard]] int exitCode() const;
+    /// Ends it at once, as a crash does.
+    void kill();
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
     [[nodiscard]] QString output();
     [[nodiscard]] QString errors();
 
 private:
+    QTemporaryDir m_ownHome;
     QProcess m_process;
 };
 

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "Recording.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QPointer>
+
+class KORVA_EditCanvas;
+class KORVA_Journal;
+
+namespace pad {
+
+class Platform;
+struct WriteError;
+
+/// The drawing as a document: made new, opened, saved and deleted, and what is asked before anything could
+/// be lost. In every question Return loses nothing and Escape changes nothing. Whatever fails leaves the
+/// drawing, its name and its changes as they were, and nothing follows it.
+class Documents : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All of them outlive the documents; the window is the parent.
+    Documents(KORVA_EditCanvas& editor, Platform& platform, QWidget* window);
+
+    /// Where what is given up is kept; null: nowhere. Not owned.
+    void setJournal(KORVA_Journal* journal) { m_journal = journal; }
+
+    void newDrawing();
+    /// Lets the person pick.
+    void open();
+    /// A picture by its name, after the question about changes.
+    void openNamed(const QString& fileName);
+    /// Under the drawing's name; asks for one where it has none, and first where the name's file would lose
+    /// something. False when the drawing is not saved.
+    bool save();
+    /// Under a name that the person chooses.
+    bool saveAs();
+    void stamp();
+    /// The file behind the drawing goes to the trash.
+    void deletePicture();
+    void clear();
+    /// Whether the window may go.
+    [[nodiscard]] bool mayClose();
+
+    /// Asks about changes and saves them if so answered. False when the drawing must stay; otherwise keep()
+    /// comes right before it goes.
+    [[nodiscard]] bool mayReplace(const QString& question);
+    /// Puts a copy of a drawing with changes where it can be found again.
+    void keep();
+    /// The drawing is now one that was brought back; the picture that it was drawn on is the name to
+    /// propose.
+    void takeBroughtBack(const QString& pictureName);
+
+    /// What the drawing is called: its file's name, or what is proposed; empty for none.
+    [[nodiscard]] QString name() const;
+
+signals:
+    /// A person did something that a recording can hold.
+    void performed(const pad::Command& command);
+    /// The drawing became another one, or the file behind it changed.
+    void changed();
+
+private:
+    /// A file as it was when the drawing was last the same.
+    struct Version
+    {
+        QDateTime time;
+        qint64 size = -1;
+        bool operator==(const Version& other) const = default;
+        [[nodiscard]] static Version of(const QString& fileName);
+    };
+
+    bool openFile(const QString& fileName);
+    [[nodiscard]] QString whatReplacingLoses() const;
+    bool askAndSave(const QString& loss);
+    bool saveUnder(const QString& fileName);
+    [[nodiscard]] int askCanvasType();
+    void beginDocument();
+    void settle();
+    void tell(const WriteError& error);
+
+    KORVA_EditCanvas& m_editor;
+    Platform& m_platform;
+    QWidget* m_window;
+    KORVA_Journal* m_journal = nullptr;
+    QString m_proposal;        ///< of a drawing without a name
+    bool m_mayReplace = false; ///< the person has agreed to lose what opening took away
+    Version m_version;
+};
+
+} // namespace pad

@@ -1,0 +1,111 @@
+#include "EarlierDialog.h"
+
+#include <UTIL_PushButton.h>
+#include <UTIL_Skin.h>
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QLocale>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace pad {
+
+namespace {
+
+using Size = UTIL_Skin::Size;
+
+constexpr QSize thumbnailSize(Size::thumbnailWidth, Size::thumbnailHeight);
+
+} // namespace
+
+EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>& entries)
+    : UTIL_Dialog(FreeDialog, true, parent), m_entries(entries), m_list(new QListWidget(this))
+{
+    const QString title = tr("Earlier drawings", "earlier drawings");
+    setWindowTitle(title);
+    setFixedSize(Size::screenWidth, Size::screenHeight);
+    auto* heading = new QLabel(title, this);
+    heading->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
+    auto* empty = new QLabel(tr("None was kept so far.", "earlier drawings"), this);
+    empty->setAlignment(Qt::AlignCenter);
+    auto* accept = new UTIL_PushButton(QString(), tr("Bring it back", "earlier drawings"), this);
+    accept->setFlags(UTIL_PushButton::FirstSoftKey | UTIL_PushButton::Outlined);
+    auto* cancel = new UTIL_PushButton(QString(), tr("Cancel", "earlier drawings"), this);
+    cancel->setFlags(UTIL_PushButton::SecondSoftKey | UTIL_PushButton::Outlined);
+    cancel->setAutoDefault(false);
+
+    m_list->setAccessibleName(title);
+    m_list->setIconSize(thumbnailSize);
+    m_list->setSpacing(Size::rowInset);
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setWordWrap(true);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    for (const KORVA_Journal::Entry& entry : m_entries) {
+        const QString name = QFileInfo(entry.pictureName).fileName();
+        const QString size = QStringLiteral("%1 × %2").arg(entry.size.width()).arg(entry.size.height());
+        m_list->addItem(new QListWidgetItem(thumbnail(entry),
+                                            timeText(entry.time) + '\n' + (name.isEmpty() ? size : name)));
+    }
+    m_list->setCurrentRow(0);
+    m_list->setVisible(!m_entries.isEmpty());
+    empty->setVisible(m_entries.isEmpty());
+    accept->setEnabled(!m_entries.isEmpty());
+
+    auto* keys = new QHBoxLayout;
+    keys->setSpacing(Size::spacing);
+    keys->addWidget(accept, 1);
+    keys->addWidget(cancel, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Size::spacing, Size::spacing, Size::spacing, Size::spacing);
+    column->setSpacing(Size::spacing);
+    column->addWidget(heading);
+    column->addWidget(m_list, 1);
+    column->addWidget(empty, 1);
+    column->addLayout(keys);
+
+    connect(accept, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_list, &QListWidget::itemActivated, this, &QDialog::accept);
+    m_list->setFocus();
+}
+
+KORVA_Journal::Entry EarlierDialog::chosen() const
+{
+    return m_entries.value(m_list->currentRow());
+}
+
+QString EarlierDialog::timeText(const QDateTime& time)
+{
+    const QLocale locale;
+    const QString clock = locale.toString(time.time(), QLocale::ShortFormat);
+    const qint64 days = time.date().daysTo(QDate::currentDate());
+    if (days == 0)
+        return tr("today at %1", "time").arg(clock);
+    if (days == 1)
+        return tr("yesterday at %1", "time").arg(clock);
+    return tr("%1 at %2", "time").arg(locale.toString(time.date(), QLocale::ShortFormat), clock);
+}
+
+QPixmap EarlierDialog::thumbnail(const KORVA_Journal::Entry& entry)
+{
+    const qreal ratio = 3; // sharp at every scale
+    QPixmap paper(thumbnailSize * ratio);
+    paper.fill(Qt::transparent);
+    const QImage picture = KORVA_Journal::picture(entry);
+    if (!picture.isNull()) {
+        const QImage small = picture.scaled(paper.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        QRect place(QPoint(), small.size());
+        place.moveCenter(paper.rect().center());
+        QPainter painter(&paper);
+        painter.drawImage(place, small);
+        painter.setPen(QPen(UTIL_Skin::color(UTIL_Skin::Color::Border), ratio));
+        painter.drawRect(place.adjusted(1, 1, -2, -2));
+    }
+    paper.setDevicePixelRatio(ratio);
+    return paper;
+}
+
+} // namespace pad

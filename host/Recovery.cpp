@@ -1,0 +1,73 @@
+#include "Recovery.h"
+
+#include "Documents.h"
+#include "EarlierDialog.h"
+#include "Folders.h"
+#include "Platform.h"
+#include "TerminationSignal.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+namespace pad {
+
+Recovery::Recovery(KORVA_EditCanvas& editor, Documents& documents, Platform& platform, QWidget* window)
+    : QObject(window),
+      m_journal(&editor, recoveryFolder()),
+      m_documents(documents),
+      m_platform(platform),
+      m_window(window)
+{
+    documents.setJournal(&m_journal);
+    connect(&m_journal, &KORVA_Journal::failed, this, &Recovery::tellFailure, Qt::QueuedConnection);
+    connect(new TerminationSignal(this), &TerminationSignal::received, this, [this] {
+        m_journal.flush();
+        QCoreApplication::exit();
+    });
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_journal.flush(); });
+}
+
+void Recovery::offer()
+{
+    const auto left = m_journal.adopt();
+    if (!left)
+        return;
+    const QString time = EarlierDialog::timeText(left->time);
+    const QString name = QFileInfo(left->pictureName).fileName();
+    const QString text = name.isEmpty()
+                             ? tr("A drawing of %1 was not saved.", "recovery").arg(time)
+                             : tr("A drawing of %1 on %2 was not saved.", "recovery").arg(time, name);
+    const int answer = m_platform.question(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"), text,
+                                           {tr("Bring it back", "recovery"), tr("Not now", "recovery")});
+    if (answer == 0)
+        bringBack(*left);
+    else
+        m_journal.shelve();
+}
+
+void Recovery::showEarlier()
+{
+    EarlierDialog dialog(m_window, m_journal.earlier());
+    if (dialog.exec() != QDialog::Accepted ||
+        !m_documents.mayReplace(
+            tr("Save changes to drawing before bringing another one back?", "recovery")))
+        return;
+    m_documents.keep();
+    bringBack(dialog.chosen());
+}
+
+void Recovery::bringBack(const KORVA_Journal::Entry& entry)
+{
+    if (m_journal.bringBack(entry))
+        m_documents.takeBroughtBack(entry.pictureName);
+}
+
+void Recovery::tellFailure(const QString& reason)
+{
+    m_platform.timedInformation(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"),
+                                tr("No copy of the drawing can be kept: %1", "recovery").arg(reason),
+                                tr("OK", "recovery"), 10);
+}
+
+} // namespace pad
