@@ -50,6 +50,7 @@ public:
     /// settles before.
     ~KORVA_Journal() override;
 
+    /// The folder's absolute path.
     [[nodiscard]] QString folder() const { return m_folder; }
 
     /// The newest drawing that a program left behind, which is this journal's own from now on, so that no

@@ -3,6 +3,8 @@
 #include "support/Modal.h"
 #include "support/TestCase.h"
 
+#include <KORVA_Canvas.h>
+#include <KORVA_PasteLabel.h>
 #include <UTIL_Platform.h>
 
 namespace {
@@ -65,6 +67,9 @@ private slots:
     void aNewDrawing();
     void closingAsks_data();
     void closingAsks();
+    void savesItsOwnWay();
+    void theJournalBringsBack_data();
+    void theJournalBringsBack();
     void thePreviewTells_data();
     void thePreviewTells();
     void servicesAreInstalled();
@@ -199,7 +204,11 @@ void tst_CppBlocks::closingAsks()
     KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
     QVERIFY(embedding::mayClose(&editor));
     editor.setFileName(path(key + ".png"));
-    editor.selectAll(); // what floats counts
+    drawOn(&editor);
+    editor.clearModified();
+    editor.selectAll();
+    QVERIFY(embedding::mayClose(&editor)); // the drawing is still the same
+    editor.canvas()->pasteLabel()->move(5, 5);
     support::whenOpen([&key](QDialog& asked) {
         if (key == "Yes")
             support::whenOpen([](QDialog& told) { QTest::mouseClick(&told, Qt::LeftButton); });
@@ -207,6 +216,56 @@ void tst_CppBlocks::closingAsks()
     });
     QCOMPARE(embedding::mayClose(&editor), may);
     QCOMPARE(QFile::exists(path(key + ".png")), key == "Yes");
+}
+
+void tst_CppBlocks::savesItsOwnWay()
+{
+    const QString name = path("it's large.png");
+    QVERIFY(support::mosaic(QSize(400, 300)).save(name));
+    QVERIFY(QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner));
+    KORVA_EditCanvas editor(name, KORVA_COLOR_16BIT);
+    drawOn(&editor);
+    QVERIFY(!embedding::saveOwnWay(&editor, name, false));
+    QCOMPARE(QImage(name).size(), QSize(400, 300));
+    QVERIFY(editor.isModified());
+    QVERIFY(embedding::saveOwnWay(&editor, name, true));
+    QCOMPARE(QImage(name).size(), QSize(352, 264));
+    QVERIFY(!editor.isModified());
+    constexpr auto everybodyElse = QFile::ReadGroup | QFile::ReadOther;
+    QVERIFY(!(QFile::permissions(name) & everybodyElse));
+}
+
+void tst_CppBlocks::theJournalBringsBack_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("isBack");
+    QTest::addRow("bring it back") << "Bring it back" << true;
+    QTest::addRow("not now") << "Not now" << false;
+}
+
+void tst_CppBlocks::theJournalBringsBack()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, isBack);
+    const QString folder = path(button);
+    {
+        KORVA_EditCanvas lost(KORVA_COLOR_16BIT);
+        embedding::protect(&lost, folder);
+        drawOn(&lost);
+        lost.findChild<KORVA_Journal*>()->flush();
+        // What a crash leaves is there while nobody holds its lock.
+    }
+    QCOMPARE(QDir(folder).entryList({"living-*.png"}).size(), 1);
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    support::whenOpen([&](QDialog& asked) {
+        for (auto* key : asked.findChildren<QAbstractButton*>())
+            if (key->text() == button)
+                key->click();
+    });
+    embedding::protect(&editor, folder);
+    QCOMPARE(support::inkCount(editor.snapshot()) >= 40, isBack);
+    QCOMPARE(editor.isModified(), isBack);
+    QCOMPARE(editor.findChild<KORVA_Journal*>()->earlier().size(), isBack ? 0 : 1);
 }
 
 void tst_CppBlocks::thePreviewTells_data()
