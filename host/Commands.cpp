@@ -2,6 +2,8 @@
 
 #include "Documents.h"
 #include "EditCommand.h"
+#include "KeysDialog.h"
+#include "MenuStyle.h"
 #include "Recovery.h"
 
 #include <KORVA_Canvas.h>
@@ -12,9 +14,11 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QMimeData>
 #include <QWidget>
+
+#include <algorithm>
+#include <map>
 
 namespace pad {
 
@@ -26,17 +30,24 @@ struct Label
     const char* comment;
 };
 
-constexpr int textTool = 3;
+constexpr int realSize = 1; // as fitToPage, an index in the zoom box
+constexpr int largest = 3;
+constexpr int fitToPage = 4;
 
 } // namespace
 
+/// One page of the menu. On a screen of 240 × 320 no page has more rows than fit.
+enum class Commands::Page { None, Main, Picture, Edit, Tool, View };
+
 struct Commands::Entry
 {
+    Page page;
     Label label;
     const char* keys; ///< separated by "; "
     Needs needs;
-    void (*choose)(Commands& commands);
-    bool endsGroup = false;
+    void (*choose)(Commands& commands, int number);
+    int number = 0;
+    std::optional<Page> opens = {}; ///< instead of being a command
 };
 
 Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* window)
@@ -44,51 +55,110 @@ Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* wind
       m_editor(editor),
       m_documents(documents),
       m_window(window),
+      m_controls(editor),
       m_menu(new UTIL_PopupMenu(window))
 {
     addEntries();
     follow();
-    editor.canvas()->installEventFilter(this);
 }
 
 void Commands::addEntries()
 {
+    using C = Commands;
+    static constexpr auto doing = [](C& c, int verb) { c.perform(Verb(verb)); };
+    static constexpr auto tool = [](C& c, int number) { c.chooseTool(number); };
+    static constexpr auto zoom = [](C& c, int number) { c.chooseZoom(number); };
+    static constexpr auto option = [](C& c, int number) { c.m_controls.chooseOption(number); };
     static constexpr Entry entries[] = {
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&New ...", "menu"), "Ctrl+N", Needs::Nothing,
-         [](Commands& c) { c.m_documents.newDrawing(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Open ...", "menu"), "Ctrl+O", Needs::Nothing,
-         [](Commands& c) { c.m_documents.open(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Save", "menu"), "Ctrl+S", Needs::Nothing,
-         [](Commands& c) { c.m_documents.save(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "Sa&ve as ...", "menu"), "Ctrl+Shift+S", Needs::Nothing,
-         [](Commands& c) { c.m_documents.saveAs(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I", Needs::Nothing,
-         [](Commands& c) { c.m_documents.stamp(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "Earlier dra&wings ...", "menu"), "Ctrl+E", Needs::Recovery,
-         [](Commands& c) { c.m_recovery->showEarlier(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "D&elete picture ...", "menu"), "Ctrl+Delete", Needs::File,
-         [](Commands& c) { c.m_documents.deletePicture(); }, true},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Undo", "menu"), "Ctrl+Z", Needs::Undo,
-         [](Commands& c) { c.perform(Verb::Undo); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Redo", "menu"), "Ctrl+Y; Ctrl+Shift+Z", Needs::Redo,
-         [](Commands& c) { c.perform(Verb::Redo); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "Cu&t", "menu"), "Ctrl+X", Needs::Selection,
-         [](Commands& c) { c.perform(Verb::Cut); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Copy", "menu"), "Ctrl+C", Needs::Selection,
-         [](Commands& c) { c.perform(Verb::Copy); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Paste", "menu"), "Ctrl+V", Needs::Clipboard,
-         [](Commands& c) { c.paste(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Delete", "menu"), "Delete", Needs::Nothing,
-         [](Commands& c) { c.removeSelection(); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "Select &all", "menu"), "Ctrl+A", Needs::Nothing,
-         [](Commands& c) { c.perform(Verb::SelectAll); }},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
-         [](Commands& c) { c.m_documents.clear(); }, true},
-        {QT_TRANSLATE_NOOP3("pad::Commands", "&Quit", "menu"), "Ctrl+Q", Needs::Nothing,
-         [](Commands& c) { c.m_window->close(); }},
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&New ...", "menu"), "Ctrl+N", Needs::Nothing,
+         [](C& c, int) { c.m_documents.newDrawing(); }},
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Open ...", "menu"), "Ctrl+O", Needs::Nothing,
+         [](C& c, int) { c.m_documents.open(); }},
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Save", "menu"), "Ctrl+S", Needs::Nothing,
+         [](C& c, int) { c.m_documents.save(); }},
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "Save &as ...", "menu"), "Ctrl+Shift+S",
+         Needs::Nothing, [](C& c, int) { c.m_documents.saveAs(); }},
+
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Picture", "menu"), "", Needs::Nothing, nullptr,
+         0, Page::Picture},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I",
+         Needs::Nothing, [](C& c, int) { c.m_documents.stamp(); }},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
+         [](C& c, int) { c.m_documents.clear(); }},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Earlier drawings ...", "menu"), "Ctrl+E",
+         Needs::Recovery, [](C& c, int) { c.m_recovery->showEarlier(); }},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Delete picture ...", "menu"), "Ctrl+Del",
+         Needs::File, [](C& c, int) { c.m_documents.deletePicture(); }},
+
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Edit", "menu"), "", Needs::Nothing, nullptr, 0,
+         Page::Edit},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "&Undo", "menu"), "Ctrl+Z", Needs::Undo, doing,
+         int(Verb::Undo)},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "&Redo", "menu"), "Ctrl+Y; Ctrl+Shift+Z",
+         Needs::Redo, doing, int(Verb::Redo)},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "Cu&t", "menu"), "Ctrl+X", Needs::Selection, doing,
+         int(Verb::Cut)},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "&Copy", "menu"), "Ctrl+C", Needs::Selection,
+         doing, int(Verb::Copy)},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "&Paste", "menu"), "Ctrl+V", Needs::Clipboard,
+         [](C& c, int) { c.paste(); }},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "&Delete", "menu"), "Del", Needs::Nothing,
+         [](C& c, int) { c.removeSelection(); }},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "Select &all", "menu"), "Ctrl+A", Needs::Nothing,
+         doing, int(Verb::SelectAll)},
+
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Tool", "menu"), "", Needs::Nothing, nullptr, 0,
+         Page::Tool},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "Pe&ncil", "menu"), "P", Needs::Nothing, tool, 0},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Line", "menu"), "L", Needs::Nothing, tool, 2},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Rectangle", "menu"), "R", Needs::Nothing, tool,
+         4},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Ellipse", "menu"), "O", Needs::Nothing, tool, 5},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "E&raser", "menu"), "E", Needs::Nothing, tool, 6},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Text", "menu"), "T", Needs::Nothing, tool, 3},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Select", "menu"), "S", Needs::Nothing, tool, 1},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Hand", "menu"), "H", Needs::Nothing, tool, 7},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Color ...", "menu"), "C", Needs::Nothing,
+         [](C& c, int) { c.m_controls.pickColor(); }},
+
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&View", "menu"), "", Needs::Nothing, nullptr, 0,
+         Page::View},
+        {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Larger", "menu"),
+         "Ctrl++; Ctrl+=", Needs::Nothing,
+         [](C& c, int) { c.chooseZoom(std::min(c.m_controls.zoom() % fitToPage + 1, largest)); }},
+        {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Smaller", "menu"), "Ctrl+-", Needs::Nothing,
+         [](C& c, int) { c.chooseZoom(std::max(c.m_controls.zoom() % fitToPage - 1, 0)); }},
+        {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Real size", "menu"), "Ctrl+0", Needs::Nothing,
+         zoom, realSize},
+        {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Fit to page", "menu"), "Ctrl+9", Needs::Nothing,
+         zoom, fitToPage},
+
+        // Their names differ from tool to tool, and stand in the editor's own menu.
+        {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "First option", "menu"), "1", Needs::Nothing,
+         option, 0},
+        {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "Second option", "menu"), "2", Needs::Nothing,
+         option, 1},
+        {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "Third option", "menu"), "3", Needs::Nothing,
+         option, 2},
+
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Keys ...", "menu"), "F1", Needs::Nothing,
+         [](C& c, int) { c.showKeys(); }},
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Quit", "menu"), "Ctrl+Q", Needs::Nothing,
+         [](C& c, int) { c.m_window->close(); }},
     };
+    m_menu->setStyle(new MenuStyle(m_menu));
+    std::map<Page, QMenu*> pages{{Page::Main, m_menu}};
     for (const Entry& entry : entries) {
-        QAction* action = add(entry);
+        const QString text = tr(entry.label.text, entry.label.comment);
+        if (entry.opens) {
+            auto* page = new UTIL_PopupMenu(m_menu);
+            page->setStyle(m_menu->style());
+            page->setTitle(text);
+            m_menu->addMenu(page);
+            pages[*entry.opens] = page;
+            continue;
+        }
+        QAction* action = add(entry, text, pages[entry.page]);
         m_dependents.push_back({entry.needs, action});
         if (entry.needs == Needs::Undo)
             m_undo = action;
@@ -97,14 +167,16 @@ void Commands::addEntries()
     }
 }
 
-QAction* Commands::add(const Entry& entry)
+QAction* Commands::add(const Entry& entry, const QString& text, QMenu* page)
 {
-    QAction* action = m_menu->addAction(tr(entry.label.text, entry.label.comment));
+    auto* action = new QAction(text, this);
+    if (page)
+        page->addAction(action);
     action->setShortcuts(QKeySequence::listFromString(QLatin1String(entry.keys)));
+    action->setShortcutVisibleInContextMenu(true);
     m_window->addAction(action); // for its keys while the menu is closed
-    connect(action, &QAction::triggered, this, [this, choose = entry.choose] { choose(*this); });
-    if (entry.endsGroup)
-        m_menu->addSeparator();
+    connect(action, &QAction::triggered, this,
+            [this, choose = entry.choose, number = entry.number] { choose(*this, number); });
     return action;
 }
 
@@ -164,23 +236,31 @@ QAction* Commands::contextAction() const
     return m_redo->isEnabled() && !m_undo->isEnabled() ? m_redo : m_undo;
 }
 
-bool Commands::eventFilter(QObject*, QEvent* event)
-{
-    if (event->type() != QEvent::ShortcutOverride || m_editor.canvas()->getCurrentToolID() != textTool)
-        return false;
-    constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    const bool plain = !(static_cast<QKeyEvent*>(event)->modifiers() & commands);
-    if (plain)
-        event->accept();
-    return plain;
-}
-
 // --- What is done --------------------------------------------------------------------------------------
 
 void Commands::perform(Verb verb)
 {
     performOn(m_editor, verb);
     emit performed(Command{.verb = verb});
+}
+
+void Commands::chooseTool(int tool)
+{
+    m_controls.chooseTool(tool);
+}
+
+void Commands::chooseZoom(int index)
+{
+    m_controls.chooseZoom(index);
+}
+
+void Commands::showKeys()
+{
+    QList<KeysDialog::Row> rows;
+    for (const QAction* action : m_window->actions())
+        rows.append({action->shortcut().toString(QKeySequence::NativeText), action->iconText()});
+    rows.append({QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText), tr("Menu", "keys")});
+    KeysDialog(m_window, rows).exec();
 }
 
 void Commands::paste()

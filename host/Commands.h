@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EditorControls.h"
 #include "Recording.h"
 
 #include <QObject>
@@ -30,15 +31,13 @@ public:
     /// What the right soft key offers: the way back or, after an undo, forward again.
     [[nodiscard]] QAction* contextAction() const;
 
-    /// Leaves plain keys to the text tool.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 signals:
     /// A person chose something that a recording can hold; it is carried out already.
     void performed(const pad::Command& command);
     void contextActionChanged();
 
 private:
+    enum class Page;
     struct Entry;
     /// What must be there for a command to make sense.
     enum class Needs {
@@ -57,7 +56,7 @@ private:
     };
 
     void addEntries();
-    QAction* add(const Entry& entry);
+    QAction* add(const Entry& entry, const QString& text, QMenu* page);
     void follow();
     void setAvailable(Needs what, bool available);
     bool updateClipboard();
@@ -65,11 +64,15 @@ private:
     void perform(Verb verb);
     void removeSelection();
     void paste();
+    void chooseTool(int tool);
+    void chooseZoom(int index);
+    void showKeys();
 
     KORVA_EditCanvas& m_editor;
     Documents& m_documents;
     Recovery* m_recovery = nullptr;
     QWidget* m_window; // the parent
+    EditorControls m_controls;
     QMenu* m_menu;
     std::vector<Dependent> m_dependents;
     QAction* m_undo = nullptr;

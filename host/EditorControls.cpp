@@ -33,7 +33,8 @@ EditorControls::EditorControls(KORVA_EditCanvas& editor, QObject* parent)
       m_editor(editor),
       m_tools(menuOf(editor, "toolButton")),
       m_options(menuOf(editor, "optionButton")),
-      m_zooms(editor.findChild<QComboBox*>(QStringLiteral("zoomBox")))
+      m_zooms(editor.findChild<QComboBox*>(QStringLiteral("zoomBox"))),
+      m_color(editor.findChild<QPushButton*>(QStringLiteral("colorButton")))
 {
     watch();
 }
@@ -59,6 +60,16 @@ void EditorControls::chooseZoom(int index)
     emit m_zooms->activated(index);
 }
 
+int EditorControls::zoom() const
+{
+    return m_zooms->currentIndex();
+}
+
+void EditorControls::pickColor()
+{
+    m_color->click();
+}
+
 void EditorControls::watch()
 {
     connect(m_tools, &QMenu::triggered, this, &EditorControls::announceTool);
@@ -71,7 +82,7 @@ void EditorControls::watch()
     });
     connect(m_zooms, &QComboBox::activated, this,
             [this](int index) { emit chosen(Command{.verb = Verb::Zoom, .number = index}); });
-    connect(m_editor.findChild<QPushButton*>(QStringLiteral("colorButton")), &QPushButton::clicked, this,
+    connect(m_color, &QAbstractButton::clicked, this,
             [this] { emit chosen(Command{.verb = Verb::Color, .color = m_editor.color()}); });
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 
 class KORVA_EditCanvas;
+class QAbstractButton;
 class QComboBox;
 class QMenu;
 
@@ -25,6 +26,11 @@ public:
     /// `index` counts in the zoom box.
     void chooseZoom(int index);
 
+    /// The index in the zoom box.
+    [[nodiscard]] int zoom() const;
+    /// Lets the person pick a colour.
+    void pickColor();
+
 signals:
     /// Something was chosen, by whomever; it is in force already.
     void chosen(const pad::Command& command);
@@ -37,6 +43,7 @@ private:
     QMenu* m_tools; // the editor's own, as the others
     QMenu* m_options;
     QComboBox* m_zooms;
+    QAbstractButton* m_color;
 };
 
 } // namespace pad

@@ -62,6 +62,7 @@ private:
         return m_server->screenshot().pixelColor(onPicture(at)) == QColor(Qt::white);
     }
     void strokeTo(QPoint from, QPoint to);
+    /// A command of the menu's page for editing, by its letter.
     void choose(const char* mnemonic);
 
     std::unique_ptr<XServer> m_server;
@@ -109,6 +110,7 @@ void tst_RealWindow::choose(const char* mnemonic)
     const QImage before = m_server->screenshot();
     m_server->click(m_window.topLeft() + menuKey);
     QTRY_VERIFY(m_server->screenshot().copy(m_picture) != before.copy(m_picture)); // the menu lies over it
+    m_server->key("e");
     m_server->key(mnemonic);
 }
 

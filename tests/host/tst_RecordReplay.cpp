@@ -86,7 +86,7 @@ private:
         static constexpr const char* commands[] = {"Undo", "Redo", "Paste", "Cut", "Copy", "Select all"};
         switch (m_random.bounded(10)) {
         case 0:
-            return pick(m_window.commands().menu(), commands[m_random.bounded(6)]);
+            return pick(&m_window, commands[m_random.bounded(6)]);
         case 1:
             return pickAny("toolButton");
         case 2:
@@ -104,9 +104,9 @@ private:
         }
     }
 
-    static void pick(const QMenu* menu, const QString& text)
+    static void pick(const QWidget* from, const QString& text)
     {
-        for (QAction* action : menu->actions()) {
+        for (QAction* action : from->actions()) {
             if (action->text().remove('&') == text)
                 action->trigger();
         }
@@ -290,7 +290,7 @@ void tst_RecordReplay::documents()
     window.show();
     QVERIFY(!recorder.start(recordingFile));
     const auto choose = [&window](const char* text) {
-        for (QAction* action : window.commands().menu()->actions()) {
+        for (QAction* action : window.actions()) {
             if (action->text().remove('&') == text)
                 action->trigger();
         }

@@ -1,0 +1,56 @@
+#include "KeysDialog.h"
+
+#include <UTIL_PushButton.h>
+#include <UTIL_Skin.h>
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QScroller>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace pad {
+
+namespace {
+
+using Size = UTIL_Skin::Size;
+
+constexpr int keyWidth = 96;
+
+} // namespace
+
+KeysDialog::KeysDialog(QWidget* parent, const QList<Row>& rows) : UTIL_Dialog(FreeDialog, true, parent)
+{
+    const QString title = tr("Keys", "keys");
+    setWindowTitle(title);
+    setFixedSize(Size::screenWidth, Size::screenHeight);
+    auto* heading = new QLabel(title, this);
+    heading->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
+    auto* list = new QTreeWidget(this);
+    list->setAccessibleName(title);
+    list->setColumnCount(2);
+    list->setHeaderHidden(true);
+    list->setRootIsDecorated(false);
+    list->setUniformRowHeights(true);
+    list->setFrameShape(QFrame::NoFrame);
+    list->setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    QScroller::grabGesture(list->viewport(), QScroller::TouchGesture);
+    for (const Row& row : rows)
+        list->addTopLevelItem(new QTreeWidgetItem({row.key, row.text}));
+    list->header()->resizeSection(0, keyWidth);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    auto* close = new UTIL_PushButton(QString(), tr("Close", "keys"), this);
+    close->setFlags(UTIL_PushButton::FirstSoftKey | UTIL_PushButton::Outlined);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(Size::spacing, Size::spacing, Size::spacing, Size::spacing);
+    column->setSpacing(Size::spacing);
+    column->addWidget(heading);
+    column->addWidget(list, 1);
+    column->addWidget(close);
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    list->setFocus();
+}
+
+} // namespace pad

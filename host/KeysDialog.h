@@ -1,0 +1,24 @@
+#pragma once
+
+#include <UTIL_Dialog.h>
+
+#include <QList>
+
+namespace pad {
+
+/// All keys on one page.
+class KeysDialog : public UTIL_Dialog
+{
+    Q_OBJECT
+
+public:
+    struct Row
+    {
+        QString key;
+        QString text;
+    };
+
+    KeysDialog(QWidget* parent, const QList<Row>& rows);
+};
+
+} // namespace pad

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace pad {
+
+/// Rows of menus without icons, narrow enough that a text and its key stand beside each other on a small
+/// screen.
+class MenuStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    explicit MenuStyle(QObject* owner);
+
+    [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                         const QSize& contents, const QWidget* widget) const override;
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                  const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+};
+
+} // namespace pad
