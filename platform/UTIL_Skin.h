@@ -89,7 +89,6 @@ public:
         static constexpr int messageMargin = 18;   ///< above a message's icon, and below its text
         static constexpr int thumbnailWidth = 60;  ///< the most that a thumbnail has
         static constexpr int thumbnailHeight = 45; ///< the most that a thumbnail has
-        static constexpr int captionHeight = 18;   ///< of a thumbnail's name
     };
 
     /// What a picture of a disabled control is painted with.
