@@ -6,10 +6,16 @@
 #include "UTIL_Skin.h"
 #include "UTIL_WrapLabel.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QTimer>
+#include <QWindow>
+
+#include <utility>
 
 namespace {
 
@@ -28,6 +34,10 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
 {
     setAccessibleName(text);
     setWindowTitle(text);
+    if (timeout && buttons.isEmpty()) { // a modal dialog never hears of a tap beside it
+        setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
+        setAttribute(Qt::WA_NoMouseReplay); // it does that itself, and when exec() is over
+    }
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Size::margin, Size::messageMargin, Size::margin,
@@ -118,12 +128,82 @@ void UTIL_MessageBox::keyPressEvent(QKeyEvent* event)
         accept();
         return;
     }
+    const bool isModifier = event->key() >= Qt::Key_Shift && event->key() <= Qt::Key_ScrollLock;
+    if (windowType() == Qt::Popup && event->key() != Qt::Key_Escape && !isModifier) {
+        accept();
+        m_key.reset(event->clone());
+        return;
+    }
     UTIL_Dialog::keyPressEvent(event);
+}
+
+int UTIL_MessageBox::exec()
+{
+    const QPointer<UTIL_MessageBox> self = this;
+    const int result = UTIL_Dialog::exec();
+    if (self)
+        passOn();
+    return result;
 }
 
 void UTIL_MessageBox::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
+    if (windowType() != Qt::Popup || rect().contains(event->position().toPoint()))
+        return;
+    accept();
+    const QWidget* const behind = QApplication::widgetAt(event->globalPosition().toPoint());
+    if (!behind || !behind->window()->windowHandle())
+        return;
+    keep(*behind->window()->windowHandle(), *event);
+    qApp->installEventFilter(this); // a release must not overtake its press
+}
+
+bool UTIL_MessageBox::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+        if (!watched->isWindowType())
+            return false;
+        keep(static_cast<QWindow&>(*watched), static_cast<QMouseEvent&>(*event));
+        return true;
+    default:
+        return UTIL_Dialog::eventFilter(watched, event);
+    }
+}
+
+// The events themselves can't be kept: those of one pointer share their positions.
+void UTIL_MessageBox::keep(QWindow& window, const QMouseEvent& event)
+{
+    m_meantElsewhere.push_back({&window, event.type(), event.globalPosition(), event.button(),
+                                event.buttons(), event.modifiers()});
+}
+
+void UTIL_MessageBox::passOn()
+{
+    qApp->removeEventFilter(this);
+    for (const Meant& each : std::exchange(m_meantElsewhere, {})) {
+        if (each.window)
+            QCoreApplication::postEvent(
+                each.window, new QMouseEvent(each.type, each.window->mapFromGlobal(each.position),
+                                             each.position, each.button, each.buttons, each.modifiers));
+    }
+    QWidget* const window = parentWidget() ? parentWidget()->window() : nullptr;
+    const auto key = std::exchange(m_key, {});
+    if (!key || !window)
+        return;
+    const QKeySequence keys(key->keyCombination());
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->shortcuts().contains(keys)) {
+            QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+            return;
+        }
+    }
+    QWidget* const focused = window->focusWidget();
+    QCoreApplication::postEvent(focused ? focused : window, key->clone());
 }
 
 void UTIL_MessageBox::mouseReleaseEvent(QMouseEvent* event)

@@ -2,15 +2,23 @@
 
 #include "UTIL_Dialog.h"
 
+#include <QKeyEvent>
+#include <QPointer>
 #include <QStringList>
+#include <QWindow>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 /// A message with a picture above its text, and buttons below: a question that waits for one of its
 /// buttons, or a timed message that closes by itself.
 ///
 /// Escape and closing press the button named "Cancel", in English or in the user's language, and do nothing
 /// in a box without one. A timed box is also tapped away, by a tap anywhere on it, Return or Space.
+///
+/// A timed box without a button is in nobody's way: a tap beside it takes it away and is then made on what
+/// lies there, and so is any other key in the window behind. Both come when exec() has returned.
 class UTIL_MessageBox : public UTIL_Dialog
 {
     Q_OBJECT
@@ -34,6 +42,8 @@ public:
     [[nodiscard]] int answer() const { return m_answer; }
 
     void reject() override;
+    int exec() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -43,11 +53,26 @@ protected:
     [[nodiscard]] bool isVeiling() const override { return !m_timeout; }
 
 private:
+    /// What a pointer did beside the box.
+    struct Meant
+    {
+        QPointer<QWindow> window;
+        QEvent::Type type;
+        QPointF position; ///< global
+        Qt::MouseButton button;
+        Qt::MouseButtons buttons;
+        Qt::KeyboardModifiers modifiers;
+    };
+
+    void keep(QWindow& window, const QMouseEvent& event);
+    void passOn();
     [[nodiscard]] QLayout* createButtons(const QStringList& texts);
     void finish(int answer);
 
     QString m_iconName;
     std::optional<int> m_timeout;
     int m_answer;
-    int m_cancel = -1; // the index of the button named "Cancel"
+    std::vector<Meant> m_meantElsewhere; // not sent yet
+    std::unique_ptr<QKeyEvent> m_key;    // nor this one
+    int m_cancel = -1;                   // the index of the button named "Cancel"
 };
