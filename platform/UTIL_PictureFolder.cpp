@@ -117,6 +117,8 @@ QVariant UTIL_PictureFolder::data(const QModelIndex& index, int role) const
         return m_names[index.row()];
     case Qt::DecorationRole:
         return isFolder(index) ? QVariant() : m_thumbnails.wanted(path(index));
+    case IsMadeRole:
+        return m_thumbnails.isMade(path(index));
     case IsFolderRole:
         return isFolder(index);
     default:

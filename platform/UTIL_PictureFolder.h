@@ -12,7 +12,10 @@ class UTIL_PictureFolder : public QAbstractListModel
     Q_OBJECT
 
 public:
-    enum Role : int { IsFolderRole = Qt::UserRole };
+    enum Role : int {
+        IsFolderRole = Qt::UserRole,
+        IsMadeRole, ///< whether the decoration is what it will be; without one the file is no picture then
+    };
 
     explicit UTIL_PictureFolder(const QStringList& patterns, QObject* parent = nullptr);
 

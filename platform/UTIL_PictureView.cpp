@@ -78,6 +78,26 @@ void paintFolder(QPainter& painter, const QRect& box)
     painter.fillPath(path.simplified(), UTIL_Skin::color(Color::Edge));
 }
 
+/// What cannot be read is struck out; what is still being read has three dots.
+void paintNoPicture(QPainter& painter, const QRect& box, bool isRead)
+{
+    const QRect frame = box.adjusted(0, 0, -Size::hairline, -Size::hairline);
+    painter.save();
+    painter.setPen(UTIL_Skin::color(Color::Border));
+    painter.drawRect(frame);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isRead) {
+        painter.drawLine(QLineF(frame.bottomLeft(), frame.topRight()));
+    } else {
+        painter.setBrush(UTIL_Skin::color(Color::QuietInk));
+        painter.setPen(Qt::NoPen);
+        for (const int dot : {-1, 0, 1})
+            painter.drawEllipse(QRectF(box).center() + QPointF(dot * Size::spacing, 0), Size::rowInset,
+                                Size::rowInset);
+    }
+    painter.restore();
+}
+
 class Delegate : public QStyledItemDelegate
 {
 public:
@@ -100,8 +120,7 @@ public:
         if (index.data(UTIL_PictureFolder::IsFolderRole).toBool()) {
             paintFolder(*painter, picture);
         } else if (pixmap.isNull()) {
-            painter->setPen(UTIL_Skin::color(Color::Border));
-            painter->drawRect(picture.adjusted(0, 0, -Size::hairline, -Size::hairline));
+            paintNoPicture(*painter, picture, index.data(UTIL_PictureFolder::IsMadeRole).toBool());
         } else {
             QRect shown(QPoint(), pixmap.size());
             shown.moveCenter(picture.center());

@@ -437,4 +437,12 @@
         <translation>Zeichnung %1</translation>
     </message>
 </context>
+<context>
+    <name>UTIL_WaitBox</name>
+    <message>
+        <source>Cancel</source>
+        <comment>WAIT_BOX;SOFTKEY_1BUTTON</comment>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
 </TS>

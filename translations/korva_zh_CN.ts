@@ -437,4 +437,12 @@
         <translation>绘图 %1</translation>
     </message>
 </context>
+<context>
+    <name>UTIL_WaitBox</name>
+    <message>
+        <source>Cancel</source>
+        <comment>WAIT_BOX;SOFTKEY_1BUTTON</comment>
+        <translation>取消</translation>
+    </message>
+</context>
 </TS>
