@@ -12,10 +12,12 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -24,6 +26,57 @@ using Size = UTIL_Skin::Size;
 constexpr int innerWidth = Size::dialogWidth - 2 * Size::margin;
 
 } // namespace
+
+/// What a pointer does beside a box, from the press that takes the box away until all of it can be done
+/// again there: a release must not overtake its press. The events themselves can't be kept, those of one
+/// pointer share their positions.
+class UTIL_Elsewhere : public QObject
+{
+public:
+    UTIL_Elsewhere() { qApp->installEventFilter(this); }
+
+    void keep(QWindow& window, const QMouseEvent& event)
+    {
+        m_kept.push_back({&window, event.type(), event.globalPosition(), event.button(), event.buttons(),
+                          event.modifiers()});
+    }
+
+    void deliver()
+    {
+        qApp->removeEventFilter(this);
+        for (const Kept& each : std::exchange(m_kept, {})) {
+            if (!each.window)
+                continue;
+            QMouseEvent event(each.type, each.window->mapFromGlobal(each.position), each.position,
+                              each.button, each.buttons, each.modifiers);
+            QCoreApplication::sendEvent(each.window, &event);
+        }
+        deleteLater();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isPointers =
+            event->type() >= QEvent::MouseButtonPress && event->type() <= QEvent::MouseMove;
+        if (!isPointers || !watched->isWindowType())
+            return false;
+        keep(static_cast<QWindow&>(*watched), static_cast<QMouseEvent&>(*event));
+        return true;
+    }
+
+private:
+    struct Kept
+    {
+        QPointer<QWindow> window;
+        QEvent::Type type;
+        QPointF position; ///< global
+        Qt::MouseButton button;
+        Qt::MouseButtons buttons;
+        Qt::KeyboardModifiers modifiers;
+    };
+
+    std::vector<Kept> m_kept;
+};
 
 UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QString& text,
                                  const QStringList& buttons, std::optional<int> timeout)
@@ -64,6 +117,11 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
     label->setMaximumLines(room / label->fontMetrics().lineSpacing());
     label->setFixedHeight(label->heightForWidth(innerWidth));
     setFixedSize(Size::dialogWidth, column->sizeHint().height());
+}
+
+UTIL_MessageBox::~UTIL_MessageBox()
+{
+    delete m_elsewhere;
 }
 
 QLayout* UTIL_MessageBox::createButtons(const QStringList& texts)
@@ -151,46 +209,20 @@ void UTIL_MessageBox::mousePressEvent(QMouseEvent* event)
     event->accept();
     if (windowType() != Qt::Popup || rect().contains(event->position().toPoint()))
         return;
-    accept();
+    // Asked while the box is there: just after it, a window system may not know yet.
     const QWidget* const behind = QApplication::widgetAt(event->globalPosition().toPoint());
+    accept();
     if (!behind || !behind->window()->windowHandle())
         return;
-    keep(*behind->window()->windowHandle(), *event);
-    qApp->installEventFilter(this); // a release must not overtake its press
-}
-
-bool UTIL_MessageBox::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-        if (!watched->isWindowType())
-            return false;
-        keep(static_cast<QWindow&>(*watched), static_cast<QMouseEvent&>(*event));
-        return true;
-    default:
-        return UTIL_Dialog::eventFilter(watched, event);
-    }
-}
-
-// The events themselves can't be kept: those of one pointer share their positions.
-void UTIL_MessageBox::keep(QWindow& window, const QMouseEvent& event)
-{
-    m_meantElsewhere.push_back({&window, event.type(), event.globalPosition(), event.button(),
-                                event.buttons(), event.modifiers()});
+    m_elsewhere = new UTIL_Elsewhere;
+    m_elsewhere->keep(*behind->window()->windowHandle(), *event);
 }
 
 void UTIL_MessageBox::passOn()
 {
-    qApp->removeEventFilter(this);
-    for (const Meant& each : std::exchange(m_meantElsewhere, {})) {
-        if (each.window)
-            QCoreApplication::postEvent(
-                each.window, new QMouseEvent(each.type, each.window->mapFromGlobal(each.position),
-                                             each.position, each.button, each.buttons, each.modifiers));
-    }
+    if (m_elsewhere)
+        QMetaObject::invokeMethod(m_elsewhere, &UTIL_Elsewhere::deliver, Qt::QueuedConnection);
+    m_elsewhere = nullptr;
     QWidget* const window = parentWidget() ? parentWidget()->window() : nullptr;
     const auto key = std::exchange(m_key, {});
     if (!key || !window)

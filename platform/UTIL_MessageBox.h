@@ -3,13 +3,12 @@
 #include "UTIL_Dialog.h"
 
 #include <QKeyEvent>
-#include <QPointer>
 #include <QStringList>
-#include <QWindow>
 
 #include <memory>
 #include <optional>
-#include <vector>
+
+class UTIL_Elsewhere;
 
 /// A message with a picture above its text, and buttons below: a question that waits for one of its
 /// buttons, or a timed message that closes by itself.
@@ -31,6 +30,8 @@ public:
     UTIL_MessageBox(QWidget* parent, const QString& icon, const QString& text, const QStringList& buttons,
                     std::optional<int> timeout = {});
 
+    ~UTIL_MessageBox() override;
+
     /// Runs a question and returns the index of the button pressed. Where the program ends before an
     /// answer, it is "Cancel", else the last button.
     [[nodiscard]] static int ask(QWidget* parent, const QString& icon, const QString& text,
@@ -43,7 +44,6 @@ public:
 
     void reject() override;
     int exec() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -53,18 +53,6 @@ protected:
     [[nodiscard]] bool isVeiling() const override { return !m_timeout; }
 
 private:
-    /// What a pointer did beside the box.
-    struct Meant
-    {
-        QPointer<QWindow> window;
-        QEvent::Type type;
-        QPointF position; ///< global
-        Qt::MouseButton button;
-        Qt::MouseButtons buttons;
-        Qt::KeyboardModifiers modifiers;
-    };
-
-    void keep(QWindow& window, const QMouseEvent& event);
     void passOn();
     [[nodiscard]] QLayout* createButtons(const QStringList& texts);
     void finish(int answer);
@@ -72,7 +60,7 @@ private:
     QString m_iconName;
     std::optional<int> m_timeout;
     int m_answer;
-    std::vector<Meant> m_meantElsewhere; // not sent yet
-    std::unique_ptr<QKeyEvent> m_key;    // nor this one
-    int m_cancel = -1;                   // the index of the button named "Cancel"
+    UTIL_Elsewhere* m_elsewhere = nullptr; // owned until it delivers
+    std::unique_ptr<QKeyEvent> m_key;      // nor this one
+    int m_cancel = -1;                     // the index of the button named "Cancel"
 };

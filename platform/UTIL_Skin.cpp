@@ -161,13 +161,13 @@ Scheme schemeFrom(const QPalette& desktop)
     const QRgb quiet = readableOn({ground, surface}, isStark ? ink : mixed(ink, ground, 0.35));
     const QRgb pale = readableOn({ground, surface, mixed(ground, ink, 0.12)}, mixed(ink, ground, 0.5),
                                  readableWhenDisabled);
-    const QRgb border = isStark ? ink : mixed(ground, ink, 0.28);
+    const QRgb border = mixed(ground, ink, isStark ? 0.5 : 0.28);
     const QRgb edge = isStark ? ink : mixed(ground, ink, 0.5);
     constexpr QRgb veil = 0x80000000;
 
     const auto key = [&](double part, QRgb outline) {
         const QRgb fill = mixed(ground, ink, part);
-        return LookRow{fill, outline, readableOn({fill}, ink)};
+        return LookRow{fill, isStark ? edge : outline, readableOn({fill}, ink)};
     };
     const auto primary = [&](double part) {
         const QRgb fill = mixed(accent, ink, part);
