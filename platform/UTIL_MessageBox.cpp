@@ -27,57 +27,6 @@ constexpr int innerWidth = Size::dialogWidth - 2 * Size::margin;
 
 } // namespace
 
-/// What a pointer does beside a box, from the press that takes the box away until all of it can be done
-/// again there: a release must not overtake its press. The events themselves can't be kept, those of one
-/// pointer share their positions.
-class UTIL_Elsewhere : public QObject
-{
-public:
-    UTIL_Elsewhere() { qApp->installEventFilter(this); }
-
-    void keep(QWindow& window, const QMouseEvent& event)
-    {
-        m_kept.push_back({&window, event.type(), event.globalPosition(), event.button(), event.buttons(),
-                          event.modifiers()});
-    }
-
-    void deliver()
-    {
-        qApp->removeEventFilter(this);
-        for (const Kept& each : std::exchange(m_kept, {})) {
-            if (!each.window)
-                continue;
-            QMouseEvent event(each.type, each.window->mapFromGlobal(each.position), each.position,
-                              each.button, each.buttons, each.modifiers);
-            QCoreApplication::sendEvent(each.window, &event);
-        }
-        deleteLater();
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        const bool isPointers =
-            event->type() >= QEvent::MouseButtonPress && event->type() <= QEvent::MouseMove;
-        if (!isPointers || !watched->isWindowType())
-            return false;
-        keep(static_cast<QWindow&>(*watched), static_cast<QMouseEvent&>(*event));
-        return true;
-    }
-
-private:
-    struct Kept
-    {
-        QPointer<QWindow> window;
-        QEvent::Type type;
-        QPointF position; ///< global
-        Qt::MouseButton button;
-        Qt::MouseButtons buttons;
-        Qt::KeyboardModifiers modifiers;
-    };
-
-    std::vector<Kept> m_kept;
-};
-
 UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QString& text,
                                  const QStringList& buttons, std::optional<int> timeout)
     : UTIL_Dialog(FreeDialog, true, parent),
@@ -117,11 +66,6 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
     label->setMaximumLines(room / label->fontMetrics().lineSpacing());
     label->setFixedHeight(label->heightForWidth(innerWidth));
     setFixedSize(Size::dialogWidth, column->sizeHint().height());
-}
-
-UTIL_MessageBox::~UTIL_MessageBox()
-{
-    delete m_elsewhere;
 }
 
 QLayout* UTIL_MessageBox::createButtons(const QStringList& texts)
@@ -174,7 +118,10 @@ void UTIL_MessageBox::showEvent(QShowEvent* event)
     UTIL_Dialog::showEvent(event);
     if (m_timeout) {
         const int second = UTIL_Platform::instance()->timeoutSecond();
-        QTimer::singleShot(std::max(0, *m_timeout * second), this, &QDialog::accept);
+        QTimer::singleShot(std::max(0, *m_timeout * second), this, [this] {
+            if (!m_elsewhere) // the release ends it then
+                accept();
+        });
     }
 }
 
@@ -207,22 +154,44 @@ int UTIL_MessageBox::exec()
 void UTIL_MessageBox::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
-    if (windowType() != Qt::Popup || rect().contains(event->position().toPoint()))
+    if (m_elsewhere)
+        keep(*event);
+    if (m_elsewhere || windowType() != Qt::Popup || rect().contains(event->position().toPoint()))
         return;
-    // Asked while the box is there: just after it, a window system may not know yet.
     const QWidget* const behind = QApplication::widgetAt(event->globalPosition().toPoint());
-    accept();
-    if (!behind || !behind->window()->windowHandle())
-        return;
-    m_elsewhere = new UTIL_Elsewhere;
-    m_elsewhere->keep(*behind->window()->windowHandle(), *event);
+    m_elsewhere = behind ? behind->window()->windowHandle() : nullptr;
+    if (m_elsewhere)
+        keep(*event);
+    else
+        accept(); // on another program's window
+}
+
+void UTIL_MessageBox::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_elsewhere)
+        keep(*event);
+    else
+        UTIL_Dialog::mouseMoveEvent(event);
+}
+
+// The events themselves can't be kept: those of one pointer share their positions.
+void UTIL_MessageBox::keep(const QMouseEvent& event)
+{
+    m_kept.push_back(
+        {event.type(), event.globalPosition(), event.button(), event.buttons(), event.modifiers()});
 }
 
 void UTIL_MessageBox::passOn()
 {
-    if (m_elsewhere)
-        QMetaObject::invokeMethod(m_elsewhere, &UTIL_Elsewhere::deliver, Qt::QueuedConnection);
-    m_elsewhere = nullptr;
+    for (const Kept& each : std::exchange(m_kept, {})) {
+        const auto repeat = [each, window = m_elsewhere.data()] {
+            QMouseEvent event(each.type, window->mapFromGlobal(each.position), each.position, each.button,
+                              each.buttons, each.modifiers);
+            QCoreApplication::sendEvent(window, &event);
+        };
+        if (m_elsewhere)
+            QMetaObject::invokeMethod(m_elsewhere, repeat, Qt::QueuedConnection);
+    }
     QWidget* const window = parentWidget() ? parentWidget()->window() : nullptr;
     const auto key = std::exchange(m_key, {});
     if (!key || !window)
@@ -241,6 +210,8 @@ void UTIL_MessageBox::passOn()
 void UTIL_MessageBox::mouseReleaseEvent(QMouseEvent* event)
 {
     event->accept();
-    if (m_timeout)
+    if (m_elsewhere)
+        keep(*event);
+    if (m_timeout && !event->buttons())
         accept();
 }

@@ -3,12 +3,13 @@
 #include "UTIL_Dialog.h"
 
 #include <QKeyEvent>
+#include <QPointer>
 #include <QStringList>
+#include <QWindow>
 
 #include <memory>
 #include <optional>
-
-class UTIL_Elsewhere;
+#include <vector>
 
 /// A message with a picture above its text, and buttons below: a question that waits for one of its
 /// buttons, or a timed message that closes by itself.
@@ -16,8 +17,9 @@ class UTIL_Elsewhere;
 /// Escape and closing press the button named "Cancel", in English or in the user's language, and do nothing
 /// in a box without one. A timed box is also tapped away, by a tap anywhere on it, Return or Space.
 ///
-/// A timed box without a button is in nobody's way: a tap beside it takes it away and is then made on what
-/// lies there, and so is any other key in the window behind. Both come when exec() has returned.
+/// A timed box without a button is in nobody's way: a tap or stroke beside it takes it away when it ends,
+/// and is then made on what lies there, and so is any other key in the window behind. Both come when exec()
+/// has returned.
 class UTIL_MessageBox : public UTIL_Dialog
 {
     Q_OBJECT
@@ -29,8 +31,6 @@ public:
     /// box is a question and stays.
     UTIL_MessageBox(QWidget* parent, const QString& icon, const QString& text, const QStringList& buttons,
                     std::optional<int> timeout = {});
-
-    ~UTIL_MessageBox() override;
 
     /// Runs a question and returns the index of the button pressed. Where the program ends before an
     /// answer, it is "Cancel", else the last button.
@@ -49,10 +49,21 @@ protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     [[nodiscard]] bool isVeiling() const override { return !m_timeout; }
 
 private:
+    struct Kept
+    {
+        QEvent::Type type;
+        QPointF position; ///< global
+        Qt::MouseButton button;
+        Qt::MouseButtons buttons;
+        Qt::KeyboardModifiers modifiers;
+    };
+
+    void keep(const QMouseEvent& event);
     void passOn();
     [[nodiscard]] QLayout* createButtons(const QStringList& texts);
     void finish(int answer);
@@ -60,7 +71,8 @@ private:
     QString m_iconName;
     std::optional<int> m_timeout;
     int m_answer;
-    UTIL_Elsewhere* m_elsewhere = nullptr; // owned until it delivers
-    std::unique_ptr<QKeyEvent> m_key;      // nor this one
-    int m_cancel = -1;                     // the index of the button named "Cancel"
+    QPointer<QWindow> m_elsewhere;    // where a pointer is down beside the box
+    std::vector<Kept> m_kept;         // what it has done there since
+    std::unique_ptr<QKeyEvent> m_key; // nor this one
+    int m_cancel = -1;                // the index of the button named "Cancel"
 };
