@@ -20,11 +20,14 @@ QSize fitted(QSize picture, QSize frame)
     return picture.scaled(frame, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
-QPixmap emptyPixmap(QSize size, qreal ratio, UTIL_Skin::Color color)
+/// What shows through a picture, whatever the skin.
+constexpr QRgb paper = 0xFFFFFFFF;
+
+QPixmap emptyPixmap(QSize size, qreal ratio, const QColor& color)
 {
     QPixmap pixmap(size);
     pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(UTIL_Skin::color(color));
+    pixmap.fill(color);
     return pixmap;
 }
 
@@ -33,7 +36,7 @@ QPixmap unreadableMark(qreal ratio)
 {
     using Size = UTIL_Skin::Size;
     constexpr QSize size(3 * Size::iconWidth, 3 * Size::iconHeight);
-    QPixmap pixmap = emptyPixmap(size * ratio, ratio, UTIL_Skin::Color::Ground);
+    QPixmap pixmap = emptyPixmap(size * ratio, ratio, UTIL_Skin::color(UTIL_Skin::Color::Ground));
     const auto inside = [](const QRectF& box, int edge) { return box.adjusted(edge, edge, -edge, -edge); };
     const QRectF strike = inside(QRectF({}, size), Size::focusWidth);
     QPainter painter(&pixmap);
@@ -129,7 +132,7 @@ void IMV_UI_PhotoDisplay::readFile()
     if (m_content != Content::UnreadFile)
         return;
     UTIL_ImageReader reader(m_fileName);
-    reader.setReduction(reductionTo(size()), UTIL_Skin::color(UTIL_Skin::Color::Surface).rgb());
+    reader.setReduction(reductionTo(size()), paper);
     m_content = reader.read() ? Content::Image : Content::Unreadable;
     m_image = reader.image();
     render();
@@ -149,7 +152,7 @@ void IMV_UI_PhotoDisplay::render()
     const QSize shown = fitted(m_image.size() * ratio, size() * ratio);
     QImage scaled = m_image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(ratio);
-    QPixmap pixmap = emptyPixmap(shown, ratio, UTIL_Skin::Color::Surface);
+    QPixmap pixmap = emptyPixmap(shown, ratio, QColor(paper));
     QPainter(&pixmap).drawImage(0, 0, scaled);
     setPixmap(pixmap);
 }

@@ -1,6 +1,7 @@
 #include "RES_ICON_Reader.h"
 
 #include "UTIL_Platform.h"
+#include "UTIL_Skin.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -33,6 +34,13 @@ QPixmap sharpestOf(const QDir& folder, const QString& name)
     return {};
 }
 
+/// The tools and options; what else there is has colors of its own.
+bool isLineDrawing(const QString& name)
+{
+    return name.startsWith(QLatin1String("DaApV_")) &&
+           !name.startsWith(QLatin1String("DaApV_Color_Picker_"));
+}
+
 } // namespace
 
 QPixmap RES_ICON_Reader::getIcon(const QString& name)
@@ -42,5 +50,8 @@ QPixmap RES_ICON_Reader::getIcon(const QString& name)
     registerIcons();
     const QString replaced = UTIL_Platform::instance()->iconFolder();
     const QPixmap icon = replaced.isEmpty() ? QPixmap() : sharpestOf(QDir(replaced), name);
-    return icon.isNull() ? sharpestOf(QDir(QStringLiteral(":/korva/icons")), name) : icon;
+    if (!icon.isNull())
+        return icon;
+    const QPixmap builtIn = sharpestOf(QDir(QStringLiteral(":/korva/icons")), name);
+    return isLineDrawing(name) ? UTIL_Skin::recolored(builtIn) : builtIn;
 }

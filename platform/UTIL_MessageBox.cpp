@@ -6,10 +6,18 @@
 #include "UTIL_Skin.h"
 #include "UTIL_WrapLabel.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QTimer>
+#include <QWindow>
+
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -28,6 +36,10 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
 {
     setAccessibleName(text);
     setWindowTitle(text);
+    if (timeout && buttons.isEmpty()) { // a modal dialog never hears of a tap beside it
+        setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
+        setAttribute(Qt::WA_NoMouseReplay); // it does that itself, and when exec() is over
+    }
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Size::margin, Size::messageMargin, Size::margin,
@@ -106,7 +118,10 @@ void UTIL_MessageBox::showEvent(QShowEvent* event)
     UTIL_Dialog::showEvent(event);
     if (m_timeout) {
         const int second = UTIL_Platform::instance()->timeoutSecond();
-        QTimer::singleShot(std::max(0, *m_timeout * second), this, &QDialog::accept);
+        QTimer::singleShot(std::max(0, *m_timeout * second), this, [this] {
+            if (!m_elsewhere) // the release ends it then
+                accept();
+        });
     }
 }
 
@@ -118,17 +133,85 @@ void UTIL_MessageBox::keyPressEvent(QKeyEvent* event)
         accept();
         return;
     }
+    const bool isModifier = event->key() >= Qt::Key_Shift && event->key() <= Qt::Key_ScrollLock;
+    if (windowType() == Qt::Popup && event->key() != Qt::Key_Escape && !isModifier) {
+        accept();
+        m_key.reset(event->clone());
+        return;
+    }
     UTIL_Dialog::keyPressEvent(event);
+}
+
+int UTIL_MessageBox::exec()
+{
+    const QPointer<UTIL_MessageBox> self = this;
+    const int result = UTIL_Dialog::exec();
+    if (self)
+        passOn();
+    return result;
 }
 
 void UTIL_MessageBox::mousePressEvent(QMouseEvent* event)
 {
     event->accept();
+    if (m_elsewhere)
+        keep(*event);
+    if (m_elsewhere || windowType() != Qt::Popup || rect().contains(event->position().toPoint()))
+        return;
+    const QWidget* const behind = QApplication::widgetAt(event->globalPosition().toPoint());
+    m_elsewhere = behind ? behind->window()->windowHandle() : nullptr;
+    if (m_elsewhere)
+        keep(*event);
+    else
+        accept(); // on another program's window
+}
+
+void UTIL_MessageBox::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_elsewhere)
+        keep(*event);
+    else
+        UTIL_Dialog::mouseMoveEvent(event);
+}
+
+// The events themselves can't be kept: those of one pointer share their positions.
+void UTIL_MessageBox::keep(const QMouseEvent& event)
+{
+    m_kept.push_back(
+        {event.type(), event.globalPosition(), event.button(), event.buttons(), event.modifiers()});
+}
+
+void UTIL_MessageBox::passOn()
+{
+    for (const Kept& each : std::exchange(m_kept, {})) {
+        const auto repeat = [each, window = m_elsewhere.data()] {
+            QMouseEvent event(each.type, window->mapFromGlobal(each.position), each.position, each.button,
+                              each.buttons, each.modifiers);
+            QCoreApplication::sendEvent(window, &event);
+        };
+        if (m_elsewhere)
+            QMetaObject::invokeMethod(m_elsewhere, repeat, Qt::QueuedConnection);
+    }
+    QWidget* const window = parentWidget() ? parentWidget()->window() : nullptr;
+    const auto key = std::exchange(m_key, {});
+    if (!key || !window)
+        return;
+    const QKeySequence keys(key->keyCombination());
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->shortcuts().contains(keys)) {
+            QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+            return;
+        }
+    }
+    QWidget* const focused = window->focusWidget();
+    QCoreApplication::postEvent(focused ? focused : window, key->clone());
 }
 
 void UTIL_MessageBox::mouseReleaseEvent(QMouseEvent* event)
 {
     event->accept();
-    if (m_timeout)
+    if (m_elsewhere)
+        keep(*event);
+    if (m_timeout && !event->buttons())
         accept();
 }

@@ -2,15 +2,24 @@
 
 #include "UTIL_Dialog.h"
 
+#include <QKeyEvent>
+#include <QPointer>
 #include <QStringList>
+#include <QWindow>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 /// A message with a picture above its text, and buttons below: a question that waits for one of its
 /// buttons, or a timed message that closes by itself.
 ///
 /// Escape and closing press the button named "Cancel", in English or in the user's language, and do nothing
 /// in a box without one. A timed box is also tapped away, by a tap anywhere on it, Return or Space.
+///
+/// A timed box without a button is in nobody's way: a tap or stroke beside it takes it away when it ends,
+/// and is then made on what lies there, and so is any other key in the window behind. Both come when exec()
+/// has returned.
 class UTIL_MessageBox : public UTIL_Dialog
 {
     Q_OBJECT
@@ -34,20 +43,36 @@ public:
     [[nodiscard]] int answer() const { return m_answer; }
 
     void reject() override;
+    int exec() override;
 
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     [[nodiscard]] bool isVeiling() const override { return !m_timeout; }
 
 private:
+    struct Kept
+    {
+        QEvent::Type type;
+        QPointF position; ///< global
+        Qt::MouseButton button;
+        Qt::MouseButtons buttons;
+        Qt::KeyboardModifiers modifiers;
+    };
+
+    void keep(const QMouseEvent& event);
+    void passOn();
     [[nodiscard]] QLayout* createButtons(const QStringList& texts);
     void finish(int answer);
 
     QString m_iconName;
     std::optional<int> m_timeout;
     int m_answer;
-    int m_cancel = -1; // the index of the button named "Cancel"
+    QPointer<QWindow> m_elsewhere;    // where a pointer is down beside the box
+    std::vector<Kept> m_kept;         // what it has done there since
+    std::unique_ptr<QKeyEvent> m_key; // nor this one
+    int m_cancel = -1;                // the index of the button named "Cancel"
 };

@@ -5,7 +5,8 @@
 #include "UTIL_PushButton.h"
 
 UTIL_PickDialog::UTIL_PickDialog(QWidget* parent, const QString& path, const QStringList& patterns)
-    : UTIL_FolderDialog(parent, tr("Open picture", "PICK_DIALOG;TITLE"), patterns)
+    : UTIL_FolderDialog(parent, tr("Open picture", "PICK_DIALOG;TITLE"),
+                        tr("Open", "PICK_DIALOG;SOFTKEY_2BUTTON"), patterns)
 {
     enter(path);
 }

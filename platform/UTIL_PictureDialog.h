@@ -26,6 +26,19 @@ public:
     /// See takesAnyName(). Before the dialog opens.
     void setTakesAnyName(bool any) { m_takesAnyName = any; }
 
+    /// In what order the desktop's dialogs show the pictures of a folder; its sub-folders come first, by
+    /// name.
+    enum Order : int {
+        ByName = 0,      ///< as people sort: whatever the case, and 9 before 10
+        NewestFirst = 1, ///< by the time of their last change
+    };
+
+    /// The order that the user chose last, ByName at first. It lasts while the program runs: a host that
+    /// wants more asks for it when a dialog is finished and sets it when the program starts.
+    [[nodiscard]] static Order order();
+    /// For the dialogs that are made from now on.
+    static void setOrder(Order order);
+
 private:
     QString m_fileName;
     bool m_takesAnyName = false;

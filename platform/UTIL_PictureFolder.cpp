@@ -1,11 +1,14 @@
 #include "UTIL_PictureFolder.h"
 
 #include <QCollator>
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QLocale>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -30,6 +33,22 @@ QStringList sorted(const QStringList& names)
     return result;
 }
 
+/// Of the same moment by name.
+QStringList newestFirst(const QFileInfoList& files)
+{
+    QHash<QString, qint64> times;
+    QStringList names;
+    for (const QFileInfo& file : files) {
+        times.insert(file.fileName(), file.lastModified().toMSecsSinceEpoch());
+        names.append(file.fileName());
+    }
+    names = sorted(names);
+    std::stable_sort(names.begin(), names.end(), [&times](const QString& left, const QString& right) {
+        return times.value(left) > times.value(right);
+    });
+    return names;
+}
+
 } // namespace
 
 UTIL_PictureFolder::UTIL_PictureFolder(const QStringList& patterns, QObject* parent)
@@ -40,13 +59,30 @@ UTIL_PictureFolder::UTIL_PictureFolder(const QStringList& patterns, QObject* par
 
 void UTIL_PictureFolder::setFolder(const QString& folder)
 {
+    m_folder = QDir::cleanPath(QDir(folder).absolutePath());
+    list();
+}
+
+void UTIL_PictureFolder::setOrder(UTIL_PictureDialog::Order order)
+{
+    if (order == std::exchange(m_order, order) || m_folder.isEmpty())
+        return;
+    list();
+}
+
+void UTIL_PictureFolder::list()
+{
     beginResetModel();
     m_thumbnails.clear();
-    const QDir dir(folder);
-    m_folder = QDir::cleanPath(dir.absolutePath());
+    const QDir dir(m_folder);
+    const QFileInfo place(m_folder);
+    m_isReadable = !place.exists() || (place.isDir() && place.isReadable() && place.isExecutable());
     const QStringList folders = dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     m_folderCount = int(folders.size());
-    m_names = sorted(folders) + sorted(dir.entryList(m_patterns, QDir::Files, QDir::Unsorted));
+    m_names =
+        sorted(folders) + (m_order == UTIL_PictureDialog::NewestFirst
+                               ? newestFirst(dir.entryInfoList(m_patterns, QDir::Files, QDir::Unsorted))
+                               : sorted(dir.entryList(m_patterns, QDir::Files, QDir::Unsorted)));
     endResetModel();
 }
 
@@ -77,9 +113,12 @@ QVariant UTIL_PictureFolder::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
+    case Qt::ToolTipRole:
         return m_names[index.row()];
     case Qt::DecorationRole:
         return isFolder(index) ? QVariant() : m_thumbnails.wanted(path(index));
+    case IsMadeRole:
+        return m_thumbnails.isMade(path(index));
     case IsFolderRole:
         return isFolder(index);
     default:

@@ -1,23 +1,30 @@
 #pragma once
 
+#include "UTIL_PictureDialog.h"
 #include "UTIL_Thumbnails.h"
 
 #include <QAbstractListModel>
 
-/// A folder as a model: its sub-folders, then those of its files that match the patterns, each by name.
-/// Texts are the names, decorations the thumbnails.
+/// A folder as a model: its sub-folders by name, then those of its files that match the patterns, by name
+/// or the newest first. Texts are the names, decorations the thumbnails.
 class UTIL_PictureFolder : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    enum Role : int { IsFolderRole = Qt::UserRole };
+    enum Role : int {
+        IsFolderRole = Qt::UserRole,
+        IsMadeRole, ///< whether the decoration is what it will be; without one the file is no picture then
+    };
 
     explicit UTIL_PictureFolder(const QStringList& patterns, QObject* parent = nullptr);
 
     void setFolder(const QString& folder);
+    void setOrder(UTIL_PictureDialog::Order order);
     /// An absolute path.
     [[nodiscard]] QString folder() const { return m_folder; }
+    /// False for one that is there and does not let itself be looked into.
+    [[nodiscard]] bool isReadable() const { return m_isReadable; }
     [[nodiscard]] QString path(const QModelIndex& index) const;
     [[nodiscard]] bool isFolder(const QModelIndex& index) const;
     /// The row of an entry; invalid when there is none of this name.
@@ -27,10 +34,13 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
 private:
+    void list();
     void tellReady(const QString& fileName);
 
     QStringList m_patterns;
+    UTIL_PictureDialog::Order m_order = UTIL_PictureDialog::ByName;
     QString m_folder;
+    bool m_isReadable = true;
     QStringList m_names; ///< the folders first
     int m_folderCount = 0;
     mutable UTIL_Thumbnails m_thumbnails; ///< begins to make what is asked for

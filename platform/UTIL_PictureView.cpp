@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyledItemDelegate>
+#include <QTextLayout>
 
 namespace {
 
@@ -16,8 +17,55 @@ using Size = UTIL_Skin::Size;
 using Color = UTIL_Skin::Color;
 
 constexpr QSize thumbnail(Size::thumbnailWidth, Size::thumbnailHeight);
-constexpr QSize cell(Size::thumbnailWidth + Size::spacing,
-                     Size::thumbnailHeight + Size::captionHeight + Size::spacing);
+constexpr int captionLines = 2;
+constexpr int leastWidth = 74;    ///< of a cell: three of them on the device, and two lines of ten letters
+constexpr int typingPause = 1000; ///< what is typed after so many milliseconds is a new word
+
+/// A name in the lines of a caption. It is broken anywhere: names have no words. Of one that is too long
+/// the middle is left out, for names of the same camera differ at their ends.
+QStringList broken(const QString& name, const QFont& font, int width)
+{
+    QTextLayout layout(name, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        const QString rest = name.mid(line.textStart());
+        if (lines.size() == captionLines - 1) {
+            lines += QFontMetrics(font).elidedText(rest, Qt::ElideLeft, width);
+            break;
+        }
+        lines += rest.left(line.textLength());
+    }
+    layout.endLayout();
+    return lines;
+}
+
+void paintName(QPainter& painter, const QRect& area, const QString& name)
+{
+    QStringList lines = broken(name, painter.font(), area.width());
+    QFont smaller = painter.font();
+    smaller.setPixelSize(smaller.pixelSize() - 1);
+    if (const QStringList whole = broken(name, smaller, area.width());
+        lines.join(QString()) != name && whole.join(QString()) == name) {
+        lines = whole;
+        painter.setFont(smaller);
+    }
+    painter.setLayoutDirection(name.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    QRect line(area.topLeft(), QSize(area.width(), area.height() / captionLines));
+    for (const QString& text : lines) {
+        painter.drawText(line, Qt::AlignCenter, text);
+        line.translate(0, line.height());
+    }
+}
+
+int cellHeight(const QFontMetrics& metrics)
+{
+    return Size::thumbnailHeight + captionLines * metrics.lineSpacing() + Size::spacing;
+}
 
 void paintFolder(QPainter& painter, const QRect& box)
 {
@@ -28,6 +76,26 @@ void paintFolder(QPainter& painter, const QRect& box)
     path.addRect(
         QRectF(body.left(), body.top() - Size::focusWidth * 2, body.width() / 2, Size::focusWidth * 2));
     painter.fillPath(path.simplified(), UTIL_Skin::color(Color::Edge));
+}
+
+/// What cannot be read is struck out; what is still being read has three dots.
+void paintNoPicture(QPainter& painter, const QRect& box, bool isRead)
+{
+    const QRect frame = box.adjusted(0, 0, -Size::hairline, -Size::hairline);
+    painter.save();
+    painter.setPen(UTIL_Skin::color(Color::Border));
+    painter.drawRect(frame);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isRead) {
+        painter.drawLine(QLineF(frame.bottomLeft(), frame.topRight()));
+    } else {
+        painter.setBrush(UTIL_Skin::color(Color::QuietInk));
+        painter.setPen(Qt::NoPen);
+        for (const int dot : {-1, 0, 1})
+            painter.drawEllipse(QRectF(box).center() + QPointF(dot * Size::spacing, 0), Size::rowInset,
+                                Size::rowInset);
+    }
+    painter.restore();
 }
 
 class Delegate : public QStyledItemDelegate
@@ -52,8 +120,7 @@ public:
         if (index.data(UTIL_PictureFolder::IsFolderRole).toBool()) {
             paintFolder(*painter, picture);
         } else if (pixmap.isNull()) {
-            painter->setPen(UTIL_Skin::color(Color::Border));
-            painter->drawRect(picture.adjusted(0, 0, -Size::hairline, -Size::hairline));
+            paintNoPicture(*painter, picture, index.data(UTIL_PictureFolder::IsMadeRole).toBool());
         } else {
             QRect shown(QPoint(), pixmap.size());
             shown.moveCenter(picture.center());
@@ -62,16 +129,15 @@ public:
 
         painter->setFont(option.font);
         painter->setPen(look.ink);
-        const QRect caption(option.rect.left() + Size::rowInset, picture.bottom(),
-                            option.rect.width() - 2 * Size::rowInset, Size::captionHeight);
-        painter->drawText(
-            caption, Qt::AlignCenter,
-            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideMiddle, caption.width()));
+        const int height = captionLines * option.fontMetrics.lineSpacing();
+        const int top = picture.bottom() + Size::rowInset;
+        paintName(*painter, QRect(option.rect.left() + 1, top, option.rect.width() - 2, height),
+                  index.data().toString());
     }
 
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
     {
-        return cell;
+        return static_cast<const QListView*>(option.widget)->gridSize();
     }
 };
 
@@ -81,7 +147,6 @@ UTIL_PictureView::UTIL_PictureView(QWidget* parent) : QListView(parent)
 {
     setItemDelegate(new Delegate(this));
     setViewMode(IconMode);
-    setGridSize(cell);
     setUniformItemSizes(true);
     setMovement(Static);
     setResizeMode(Adjust);
@@ -92,6 +157,7 @@ UTIL_PictureView::UTIL_PictureView(QWidget* parent) : QListView(parent)
     setDragEnabled(false);
     setFrameShape(NoFrame);
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Caption));
+    setGridSize(QSize(leastWidth, cellHeight(fontMetrics())));
 }
 
 void UTIL_PictureView::mousePressEvent(QMouseEvent* event)
@@ -136,11 +202,59 @@ void UTIL_PictureView::keyPressEvent(QKeyEvent* event)
             emit opened(currentIndex());
         return;
     case Qt::Key_Backspace:
-        emit left();
+        if (!isSearching()) {
+            emit left();
+            return;
+        }
+        m_sought.chop(1);
+        m_typing.start();
         return;
+    case Qt::Key_Space:
+        if (isSearching()) { // names have blanks
+            keyboardSearch(event->text());
+            return;
+        }
+        [[fallthrough]];
     default:
         QListView::keyPressEvent(event);
     }
+}
+
+bool UTIL_PictureView::isSearching() const
+{
+    return !m_sought.isEmpty() && !m_typing.hasExpired(typingPause);
+}
+
+void UTIL_PictureView::keyboardSearch(const QString& typed)
+{
+    m_sought = isSearching() ? m_sought + typed : typed;
+    m_typing.start();
+    seek();
+}
+
+void UTIL_PictureView::seek()
+{
+    const bool isRepeated = m_sought.count(m_sought.front(), Qt::CaseInsensitive) == m_sought.size();
+    const int first = currentIndex().isValid() ? currentIndex().row() + (isRepeated ? 1 : 0) : 0;
+    const QModelIndex start = model()->index(first < model()->rowCount() ? first : 0, 0);
+    const auto found = [&](const QString& text, Qt::MatchFlags how) {
+        return model()->match(start, Qt::DisplayRole, text, 1, how | Qt::MatchWrap).value(0);
+    };
+    QModelIndex hit = found(m_sought, Qt::MatchStartsWith);
+    if (!hit.isValid() && isRepeated)
+        hit = found(m_sought.first(1), Qt::MatchStartsWith);
+    if (!hit.isValid() && m_sought.size() > 1)
+        hit = found(m_sought, Qt::MatchContains);
+    if (hit.isValid())
+        setCurrentIndex(hit);
+}
+
+/// As many columns as fit, and no room left over: names need it.
+void UTIL_PictureView::resizeEvent(QResizeEvent* event)
+{
+    const int room = width() - verticalScrollBar()->sizeHint().width(); // whether or not it is there
+    setGridSize(QSize(room / qMax(1, room / leastWidth), gridSize().height()));
+    QListView::resizeEvent(event);
 }
 
 /// The toolkit makes the first entry the current one without showing it.
@@ -160,6 +274,10 @@ void UTIL_PictureView::paintEvent(QPaintEvent* event)
     if (model()->rowCount() > 0)
         return;
     painter.setPen(UTIL_Skin::color(Color::QuietInk));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                     tr("There are no pictures here.", "FOLDER_DIALOG;CONTEXT"));
+    const auto* folder = qobject_cast<const UTIL_PictureFolder*>(model());
+    const QString text = folder && !folder->isReadable()
+                             ? tr("This folder cannot be read", "FOLDER_DIALOG;CONTEXT")
+                             : tr("No pictures here", "FOLDER_DIALOG;CONTEXT");
+    painter.setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, text);
 }

@@ -3,6 +3,7 @@
 #include "UTIL_MessageBox.h"
 #include "UTIL_PickDialog.h"
 #include "UTIL_SaveDialog.h"
+#include "UTIL_WaitBox.h"
 
 #include <QFile>
 #include <QStandardPaths>
@@ -48,6 +49,11 @@ void UTIL_Platform::timedInformation(QWidget* parent, const QString& icon, const
 void UTIL_Platform::timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout)
 {
     UTIL_MessageBox(parent, icon, text, {}, timeout).exec();
+}
+
+bool UTIL_Platform::waitFor(QWidget* parent, const QString& text, const QFuture<void>& work)
+{
+    return UTIL_WaitBox::run(parent, text, work);
 }
 
 int UTIL_Platform::timeoutSecond() const

@@ -2,6 +2,7 @@
 
 #include "KORVA_Export.h"
 
+#include <QFuture>
 #include <QString>
 #include <QStringList>
 
@@ -43,6 +44,10 @@ public:
                                   const QString& button, int timeout);
     /// As timedInformation(), without a button.
     virtual void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout);
+    /// Lets the user wait for work that goes on in another thread, and cancel it: true when it is done,
+    /// false when it was cancelled, which the work is told by its future. In the first 300 ms the desktop
+    /// shows nothing and handles no event, then a box.
+    virtual bool waitFor(QWidget* parent, const QString& text, const QFuture<void>& work);
     /// How many milliseconds a second of a time-out lasts in the desktop's boxes: 1000. 0 or less closes
     /// them at once.
     [[nodiscard]] virtual int timeoutSecond() const;

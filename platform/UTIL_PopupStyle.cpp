@@ -2,7 +2,9 @@
 
 #include "UTIL_Skin.h"
 
+#include <QPainter>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace {
 
@@ -27,6 +29,20 @@ int UTIL_PopupStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+/// The toolkit's frame is darker than what it frames, and not seen on dark ground.
+void UTIL_PopupStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const QColor ground = UTIL_Skin::color(UTIL_Skin::Color::Ground);
+    if (element != PE_FrameMenu ||
+        ground.lightness() >= UTIL_Skin::color(UTIL_Skin::Color::Ink).lightness())
+        return;
+    painter->setPen(UTIL_Skin::color(UTIL_Skin::Color::Edge));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(option->rect.adjusted(0, 0, -Size::hairline, -Size::hairline));
 }
 
 QSize UTIL_PopupStyle::sizeFromContents(ContentsType type, const QStyleOption* option,

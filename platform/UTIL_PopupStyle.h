@@ -12,6 +12,8 @@ public:
 
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
                                   const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
     [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
                                          const QSize& contents, const QWidget* widget) const override;
 };

@@ -13,7 +13,8 @@
 #include <QRegularExpressionValidator>
 
 UTIL_SaveDialog::UTIL_SaveDialog(QWidget* parent, const QString& path, const QStringList& patterns)
-    : UTIL_FolderDialog(parent, tr("Save picture", "SAVE_DIALOG;TITLE"), patterns),
+    : UTIL_FolderDialog(parent, tr("Save picture as", "SAVE_DIALOG;TITLE"),
+                        tr("Save", "SAVE_DIALOG;SOFTKEY_2BUTTON"), patterns),
       m_edit(new QLineEdit(this))
 {
     for (const QString& pattern : patterns)

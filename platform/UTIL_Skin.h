@@ -13,7 +13,13 @@ class QRectF;
 
 /// The one place that knows colours, sizes and fonts; widgets ask here and hold no literal of their own.
 ///
-/// All sizes are logical pixels. Every ink stands at 4.5 : 1 or better on the fill it is meant for.
+/// Its colours are its own where the application's palette (QGuiApplication::palette(), the desktop's
+/// unless a program sets another) is a light one. Where that is dark or of high contrast they are made of
+/// its window, base, text and highlight colours. What lies on a drawing, and the drawing itself, has
+/// nothing to do with the skin: paper is white.
+///
+/// All sizes are logical pixels. Every ink stands at 4.5 : 1 or better on the fill it is meant for; that of
+/// a disabled control, where colours are the desktop's, at 3 : 1.
 class KORVA_EXPORT UTIL_Skin
 {
 public:
@@ -89,7 +95,6 @@ public:
         static constexpr int messageMargin = 18;   ///< above a message's icon, and below its text
         static constexpr int thumbnailWidth = 60;  ///< the most that a thumbnail has
         static constexpr int thumbnailHeight = 45; ///< the most that a thumbnail has
-        static constexpr int captionHeight = 18;   ///< of a thumbnail's name
     };
 
     /// What a picture of a disabled control is painted with.
@@ -114,6 +119,8 @@ public:
     /// The mark of a control that opens a list, pointing down, around `centre`.
     static void paintChevron(QPainter& painter, const QPoint& centre, const Look& look);
 
+    /// A picture drawn in the light skin's ground, ink and accent, in those of the skin in force.
+    [[nodiscard]] static QPixmap recolored(const QPixmap& drawing);
     /// The file that holds a skin picture ("Dialog_Error" is in "Dialog_Error.gif").
     [[nodiscard]] static QString pictureFile(const QString& name);
     /// A skin picture by its name, without extension; null when there is none.

@@ -19,6 +19,8 @@ public:
     /// The file's thumbnail; null while it is being made (ready() tells when it is) and for a file that is
     /// no picture.
     [[nodiscard]] QPixmap wanted(const QString& fileName);
+    /// Whether wanted() gives all that it ever will.
+    [[nodiscard]] bool isMade(const QString& fileName) const { return m_made.contains(fileName); }
     /// Forgets what is wanted and not begun.
     void clear() { m_wanted.clear(); }
 

@@ -41,6 +41,9 @@ KORVA_PasteLabel::KORVA_PasteLabel(QWidget* parent, const char* name, Qt::Window
     m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotPaste);
     setPasteItem(false);
     setMouseTracking(true);
+    QPalette paper; // what a growing piece gets is white, whatever the skin
+    paper.setColor(QPalette::Base, Qt::white);
+    setPalette(paper);
 }
 
 void KORVA_PasteLabel::setImage(const char* fileName)

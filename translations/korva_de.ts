@@ -340,9 +340,19 @@
         <translation>Hoch</translation>
     </message>
     <message>
-        <source>OK</source>
-        <comment>FOLDER_DIALOG;SOFTKEY_2BUTTON</comment>
-        <translation>OK</translation>
+        <source>Order</source>
+        <comment>FOLDER_DIALOG;BUTTON</comment>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <comment>FOLDER_DIALOG;LIST</comment>
+        <translation>Nach Name</translation>
+    </message>
+    <message>
+        <source>Newest first</source>
+        <comment>FOLDER_DIALOG;LIST</comment>
+        <translation>Neueste zuerst</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -365,21 +375,36 @@
         <comment>PICK_DIALOG;TITLE</comment>
         <translation>Bild öffnen</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <comment>PICK_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>Öffnen</translation>
+    </message>
 </context>
 <context>
     <name>UTIL_PictureView</name>
     <message>
-        <source>There are no pictures here.</source>
+        <source>No pictures here</source>
         <comment>FOLDER_DIALOG;CONTEXT</comment>
-        <translation>Hier sind keine Bilder.</translation>
+        <translation>Hier sind keine Bilder</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read</source>
+        <comment>FOLDER_DIALOG;CONTEXT</comment>
+        <translation>Dieser Ordner ist nicht lesbar</translation>
     </message>
 </context>
 <context>
     <name>UTIL_SaveDialog</name>
     <message>
-        <source>Save picture</source>
+        <source>Save picture as</source>
         <comment>SAVE_DIALOG;TITLE</comment>
-        <translation>Bild speichern</translation>
+        <translation>Bild speichern als</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>File name</source>
@@ -410,6 +435,14 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>Zeichnung %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_WaitBox</name>
+    <message>
+        <source>Cancel</source>
+        <comment>WAIT_BOX;SOFTKEY_1BUTTON</comment>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 </TS>

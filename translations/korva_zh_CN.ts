@@ -340,9 +340,19 @@
         <translation>向上</translation>
     </message>
     <message>
-        <source>OK</source>
-        <comment>FOLDER_DIALOG;SOFTKEY_2BUTTON</comment>
-        <translation>确定</translation>
+        <source>Order</source>
+        <comment>FOLDER_DIALOG;BUTTON</comment>
+        <translation>排序</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <comment>FOLDER_DIALOG;LIST</comment>
+        <translation>按名称</translation>
+    </message>
+    <message>
+        <source>Newest first</source>
+        <comment>FOLDER_DIALOG;LIST</comment>
+        <translation>最新的在前</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -365,21 +375,36 @@
         <comment>PICK_DIALOG;TITLE</comment>
         <translation>打开图片</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <comment>PICK_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>打开</translation>
+    </message>
 </context>
 <context>
     <name>UTIL_PictureView</name>
     <message>
-        <source>There are no pictures here.</source>
+        <source>No pictures here</source>
         <comment>FOLDER_DIALOG;CONTEXT</comment>
-        <translation>这里没有图片。</translation>
+        <translation>这里没有图片</translation>
+    </message>
+    <message>
+        <source>This folder cannot be read</source>
+        <comment>FOLDER_DIALOG;CONTEXT</comment>
+        <translation>无法读取此文件夹</translation>
     </message>
 </context>
 <context>
     <name>UTIL_SaveDialog</name>
     <message>
-        <source>Save picture</source>
+        <source>Save picture as</source>
         <comment>SAVE_DIALOG;TITLE</comment>
-        <translation>保存图片</translation>
+        <translation>图片另存为</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <comment>SAVE_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>保存</translation>
     </message>
     <message>
         <source>File name</source>
@@ -410,6 +435,14 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>绘图 %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_WaitBox</name>
+    <message>
+        <source>Cancel</source>
+        <comment>WAIT_BOX;SOFTKEY_1BUTTON</comment>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>

@@ -42,6 +42,7 @@ private slots:
     void strokeUndoneAndRedoneFromTheMenu();
     void softKeyUndoes();
     void shortcuts();
+    void aMessageSwallowsNoStroke();
     void menuStaysInsideTheWindow();
     void everyPointOfAFloodIsDrawn();
     void theClipboardBothWays();
@@ -182,6 +183,23 @@ void tst_RealWindow::shortcuts()
     QTRY_VERIFY(isRed({50, 30}));
     m_server->key("s", {"Control_L"});
     QTRY_COMPARE(QImage(m_folder->filePath("frame.png")).pixelColor(50, 30), QColor(Qt::red));
+}
+
+void tst_RealWindow::aMessageSwallowsNoStroke()
+{
+    QVERIFY(start());
+    strokeTo({20, 30}, {80, 30});
+    QTRY_VERIFY(isRed({80, 30}));
+    m_server->key("s", {"Control_L"}); // a second long a box says that it went well
+    QTRY_VERIFY(!isWhite({80, 100}));
+    strokeTo({20, 10}, {80, 10}); // beside the box
+    QElapsedTimer timer;
+    timer.start();
+    QTRY_VERIFY(isRed({80, 10}));
+    QVERIFY(isRed({25, 10})); // from its press on
+    QVERIFY(timer.elapsed() < 900);
+    QTRY_VERIFY(isWhite({80, 100}));
+    QCOMPARE(QImage(m_folder->filePath("frame.png")).pixelColor(80, 10), QColor(Qt::white));
 }
 
 void tst_RealWindow::menuStaysInsideTheWindow()

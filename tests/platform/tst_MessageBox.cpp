@@ -214,6 +214,90 @@ private slots:
         });
     }
 
+    void aTapBesideAMessageIsMadeOnWhatLiesThere_data()
+    {
+        QTest::addColumn<bool>("withButton");
+        QTest::addColumn<bool>("isSlow");
+        QTest::newRow("information") << true << false;
+        QTest::newRow("message") << false << false;
+        QTest::newRow("message, a slow tap") << false << true;
+    }
+
+    void aTapBesideAMessageIsMadeOnWhatLiesThere()
+    {
+        QFETCH(bool, withButton);
+        QFETCH(bool, isSlow);
+        QWidget window;
+        window.resize(240, 320);
+        QPushButton behind("behind", &window);
+        behind.setGeometry(100, 10, 40, 30);
+        QPushButton covered("covered", &window);
+        covered.setGeometry(100, 140, 40, 40);
+        QStringList log;
+        connect(&behind, &QPushButton::pressed, [&] { log << "pressed"; });
+        connect(&behind, &QPushButton::clicked, [&] { log << "clicked"; });
+        connect(&covered, &QPushButton::pressed, [&] { log << "covered"; });
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        if (isSlow)
+            UTIL_Platform::install(std::make_unique<Hurried>(1)); // 60 ms in all
+        const auto run = [&](QPoint tap, bool closes) {
+            support::whenOpen([&](QDialog& box) {
+                QVERIFY(!box.geometry().contains(behind.mapToGlobal(behind.rect().center())));
+                QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, tap);
+                if (isSlow)
+                    QTest::qWait(100); // longer than the box would last
+                QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, tap);
+                QCOMPARE(box.isVisible(), !closes);
+                box.done(0);
+            });
+            if (withButton)
+                UTIL_Platform::instance()->timedInformation(&window, icon, text, "OK", 60);
+            else
+                UTIL_Platform::instance()->timedMessage(&window, icon, text, 60);
+            log << "returned";
+            QCoreApplication::processEvents();
+        };
+        run(behind.geometry().center(), !withButton);
+        const QStringList passed =
+            QStringList{"returned", "pressed", "clicked"}; // all after the call, not within it
+        QCOMPARE(log, withButton ? QStringList{"returned"} : passed);
+        log.clear();
+        run(covered.geometry().center(), !withButton); // on the box: its alone
+        QVERIFY(!log.contains("covered"));
+    }
+
+    void aKeyBesideAMessageReachesTheWindowBehind()
+    {
+        QWidget window;
+        window.resize(240, 320);
+        QLineEdit edit(&window);
+        QAction undo(&window);
+        undo.setShortcut(QKeySequence("Ctrl+Z"));
+        int undone = 0;
+        connect(&undo, &QAction::triggered, [&] { ++undone; });
+        window.show();
+        edit.setFocus();
+        const auto run = [&](Qt::Key key, Qt::KeyboardModifiers modifiers, bool closes) {
+            support::whenOpen([&](QDialog& box) {
+                QTest::keyClick(&box, key, modifiers);
+                QCOMPARE(box.isVisible(), !closes);
+                QVERIFY(edit.text().isEmpty() && undone == 0); // not yet
+                box.done(0);
+            });
+            UTIL_Platform::instance()->timedMessage(&window, icon, text, 60);
+            QCoreApplication::processEvents();
+        };
+        run(Qt::Key_Shift, {}, false);
+        run(Qt::Key_Return, {}, true);
+        QVERIFY(edit.text().isEmpty());
+        run(Qt::Key_A, {}, true);
+        QCOMPARE(edit.text(), "a");
+        edit.clear();
+        run(Qt::Key_Z, Qt::ControlModifier, true);
+        QCOMPARE(undone, 1);
+    }
+
     void escapeLeavesATimedBoxAlone_data() { addTimedKinds(); }
 
     void escapeLeavesATimedBoxAlone()

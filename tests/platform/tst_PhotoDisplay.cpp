@@ -169,6 +169,26 @@ private slots:
         QCOMPARE(grab.pixelColor(81, 65), ground);
     }
 
+    void paperIsWhiteOnADarkDesktop()
+    {
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30), QColor(0x30, 0x30, 0x30)));
+        QVERIFY(UTIL_Skin::color(UTIL_Skin::Color::Surface) != QColor(Qt::white));
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("clear.png");
+        QImage picture(40, 40, QImage::Format_ARGB32);
+        picture.fill(Qt::transparent);
+        QVERIFY(picture.save(file));
+        IMV_UI_PhotoDisplay fromImage(picture);
+        IMV_UI_PhotoDisplay fromFile(file);
+        for (IMV_UI_PhotoDisplay* display : {&fromImage, &fromFile}) {
+            display->resize(80, 80);
+            display->show();
+            QTRY_COMPARE(display->grab().toImage().pixelColor(40, 40), QColor(Qt::white));
+        }
+        QApplication::setPalette(before);
+    }
+
     void aNullImageLeavesTheDisplayEmpty()
     {
         Shown shown(support::sheet(QSize(9, 9), Qt::red));

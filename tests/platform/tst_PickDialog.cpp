@@ -29,6 +29,8 @@ class tst_PickDialog : public support::TestCase
     Q_OBJECT
 
 private slots:
+    void cleanup() { UTIL_PictureDialog::setOrder(UTIL_PictureDialog::ByName); }
+
     void platformMakesIt();
     void fitsTheScreen();
     void showsFoldersAndWhatMatches();
@@ -47,6 +49,16 @@ private slots:
     void emptyOrMissingFolderSaysSo();
     void thousandsOfPicturesDoNotStall();
     void mayGoAwayWhileThumbnailsAreMade();
+    void itsKeysSayWhatItIsFor();
+    void everyLetterOfANameIsSeen_data();
+    void everyLetterOfANameIsSeen();
+    void longNamesShowBothEnds();
+    void typingFinds();
+    void newestComesFirstWhereThatIsWanted();
+    void theOrderIsChosenInAMenu();
+    void samePlaceTheSecondTime();
+    void fillsItsWindow_data();
+    void fillsItsWindow();
 
 private:
     Photos m_photos;
@@ -62,7 +74,7 @@ void tst_PickDialog::platformMakesIt()
     support::whenOpen([&](QDialog& open) {
         auto* view = open.findChild<UTIL_PictureView*>();
         view->setCurrentIndex(view->model()->index(1, 0));
-        QTest::mouseClick(support::button(open, "OK"), Qt::LeftButton);
+        QTest::mouseClick(support::button(open, "Open"), Qt::LeftButton);
     });
     QCOMPARE(dialog->exec(), 1);
     QCOMPARE(dialog->fileName(), m_photos.path("a.bmp"));
@@ -91,7 +103,7 @@ void tst_PickDialog::nothingIsChosenAtFirst()
 {
     Stage stage(m_photos.path());
     QVERIFY(stage.dialog.fileName().isEmpty());
-    QVERIFY(!stage.isEnabled("OK"));
+    QVERIFY(!stage.isEnabled("Open"));
     QTest::keyClick(&stage.view(), Qt::Key_Return);
     QVERIFY(stage.dialog.isVisible());
     QVERIFY(stage.names() == shown);
@@ -103,7 +115,7 @@ void tst_PickDialog::tapChoosesAndOkReturnsIt()
     stage.tap("B9.jpg");
     QVERIFY(stage.dialog.isVisible());
     stage.tap("b10.png");
-    stage.press("OK");
+    stage.press("Open");
     QCOMPARE(stage.dialog.result(), 1);
     QCOMPARE(stage.dialog.fileName(), m_photos.path("b10.png"));
 }
@@ -179,11 +191,11 @@ void tst_PickDialog::okOnAFolderGoesThere()
 {
     Stage stage(m_photos.path());
     stage.view().setCurrentIndex(stage.view().model()->index(0, 0));
-    stage.press("OK");
+    stage.press("Open");
     QVERIFY(stage.dialog.isVisible());
     QCOMPARE(stage.names(), QStringList({"deeper", "inside.png"}));
     stage.tap("inside.png");
-    stage.press("OK");
+    stage.press("Open");
     QCOMPARE(stage.dialog.fileName(), m_photos.path("sub/inside.png"));
 }
 
@@ -227,6 +239,15 @@ void tst_PickDialog::thumbnailsAppear()
     QTRY_COMPARE(colorOf("b10.png"), QColor(Qt::red));
     QTRY_COMPARE(colorOf("a.bmp"), QColor(Qt::red));
     QVERIFY(colorOf("bad.png") != QColor(Qt::red));
+
+    const auto shot = [&](Stage& shown) {
+        const QModelIndex bad = shown.view().model()->index(int(shown.names().indexOf("bad.png")), 0);
+        return shown.view().viewport()->grab(shown.view().visualRect(bad)).toImage();
+    };
+    Stage fresh(m_photos.path());
+    const QImage reading = shot(fresh);
+    QTRY_VERIFY(shot(fresh) == shot(stage)); // struck out
+    QVERIFY(shot(stage) != reading);
 }
 
 void tst_PickDialog::emptyOrMissingFolderSaysSo_data()
@@ -234,6 +255,7 @@ void tst_PickDialog::emptyOrMissingFolderSaysSo_data()
     QTest::addColumn<QString>("folder");
     QTest::addRow("empty") << m_photos.path("sub/deeper");
     QTest::addRow("missing") << m_photos.path("missing");
+    QTest::addRow("not to be looked into") << m_photos.path("notes.txt");
 }
 
 void tst_PickDialog::emptyOrMissingFolderSaysSo()
@@ -241,10 +263,14 @@ void tst_PickDialog::emptyOrMissingFolderSaysSo()
     QFETCH(QString, folder);
     Stage stage(folder);
     QCOMPARE(stage.names(), QStringList());
-    QVERIFY(!stage.isEnabled("OK"));
+    QVERIFY(!stage.isEnabled("Open"));
     const QImage image = stage.view().viewport()->grab().toImage();
     const QRect ink = support::inkBounds(image.copy(image.rect().adjusted(8, 8, -8, -8)));
     QVERIFY(ink.width() > 50 && ink.height() < 40);
+    if (folder.endsWith("notes.txt")) {
+        Stage empty(m_photos.path("sub/deeper"));
+        QVERIFY(empty.view().viewport()->grab().toImage() != image); // something else is said
+    }
     stage.press("Up");
     QVERIFY(stage.names() != QStringList());
 }
@@ -287,6 +313,185 @@ void tst_PickDialog::mayGoAwayWhileThumbnailsAreMade()
         Stage stage(m_photos.path());
         QCoreApplication::processEvents();
     }
+}
+
+void tst_PickDialog::itsKeysSayWhatItIsFor()
+{
+    Stage stage(m_photos.path());
+    QCOMPARE(support::labels(stage.dialog).value(0), "Open picture");
+    QVERIFY(stage.isEnabled("Cancel"));
+    for (const QLabel* label : stage.dialog.findChildren<QLabel*>())
+        QVERIFY2(label->sizeHint().width() <= label->width(), qPrintable(label->text()));
+}
+
+void tst_PickDialog::everyLetterOfANameIsSeen_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"Zeichnung im Juni.png", "holiday_mountain.png", "IMG_20240315_12.png",
+                             "summer_holiday_1.jpg", "2024-03-15 12-33.png"})
+        QTest::newRow(name) << QString(name);
+}
+
+void tst_PickDialog::everyLetterOfANameIsSeen()
+{
+    QFETCH(QString, name);
+    const auto shot = [&](const QString& shown) {
+        const QTemporaryDir folder;
+        for (int i = 0; i < 20; ++i) // enough for a scroll bar
+            QFile(folder.filePath(QString("z%1.png").arg(i))).open(QIODevice::WriteOnly);
+        QFile(folder.filePath(shown)).open(QIODevice::WriteOnly);
+        Stage stage(folder.path());
+        const QModelIndex index = stage.view().model()->index(int(stage.names().indexOf(shown)), 0);
+        stage.view().setCurrentIndex(index);
+        return stage.view().viewport()->grab(stage.view().visualRect(index)).toImage();
+    };
+    const QImage whole = shot(name);
+    for (int letter = 0; letter < name.size() - 4; ++letter) {
+        QString other = name;
+        other[letter] = name[letter] == 'o' ? 'e' : 'o';
+        QVERIFY2(shot(other) != whole, qPrintable(other));
+    }
+}
+
+void tst_PickDialog::longNamesShowBothEnds()
+{
+    const QTemporaryDir folder;
+    const QString stem = QString("Screenshot from 2024-03-15 12-33-").repeated(2);
+    const QStringList names = {stem + "44.png", stem + "45.png"};
+    for (const QString& name : names)
+        QFile(folder.filePath(name)).open(QIODevice::WriteOnly);
+    Stage stage(folder.path());
+    QList<QImage> shots;
+    for (const QString& name : names) {
+        const QModelIndex index = stage.view().model()->index(int(stage.names().indexOf(name)), 0);
+        stage.view().setCurrentIndex(index);
+        shots << stage.view().viewport()->grab(stage.view().visualRect(index)).toImage();
+        QCOMPARE(index.data(Qt::ToolTipRole).toString(), name);
+    }
+    QVERIFY(shots[0] != shots[1]);
+}
+
+void tst_PickDialog::typingFinds()
+{
+    const Photos photos;
+    for (const char* name : {"Sea 1.png", "Sea 2.png", "south.png", "at the sea.png"})
+        photos.add(name);
+    Stage stage(photos.path());
+    const auto type = [&](const char* text) {
+        QTest::keyClicks(&stage.view(), text);
+        return stage.view().currentIndex().data().toString();
+    };
+    const auto pause = [&] { QTest::qWait(1100); };
+    QCOMPARE(type("so"), "south.png");
+    QTest::keyClick(&stage.view(), Qt::Key_Backspace); // takes a letter back, and does not leave the folder
+    QCOMPARE(type("ea 2"), "Sea 2.png");
+    pause();
+    QCOMPARE(type("THE"), "at the sea.png"); // inside a name, when none begins so
+    pause();
+    QCOMPARE(type("b"), "B9.jpg");
+    QCOMPARE(type("b"), "b10.png");
+    QCOMPARE(type("b"), "bad.png");
+    QCOMPARE(stage.dialog.fileName(), photos.path("bad.png"));
+    pause();
+    QCOMPARE(type("nothing"), "bad.png");
+    pause();
+    QTest::keyClick(&stage.view(), Qt::Key_Backspace);
+    QVERIFY(!stage.names().contains("B9.jpg"));
+}
+
+void tst_PickDialog::newestComesFirstWhereThatIsWanted()
+{
+    const Photos photos;
+    const auto age = [&](const char* name, int days) {
+        QFile file(photos.path(name));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-days), QFile::FileModificationTime));
+    };
+    age("a.bmp", 3);
+    age("B9.jpg", 1);
+    age("b10.png", 2);
+    age("bad.png", 9);
+    UTIL_PictureDialog::setOrder(UTIL_PictureDialog::NewestFirst);
+    QCOMPARE(Stage(photos.path()).names(), QStringList({"sub", "B9.jpg", "b10.png", "a.bmp", "bad.png"}));
+}
+
+void tst_PickDialog::theOrderIsChosenInAMenu()
+{
+    const auto entry = [](Stage& stage, const QString& name) {
+        for (QAction* action : stage.dialog.findChild<QMenu*>()->actions())
+            if (action->text() == name)
+                return action;
+        return static_cast<QAction*>(nullptr);
+    };
+    Stage stage(m_photos.path());
+    stage.tap("a.bmp");
+    QVERIFY(entry(stage, "By name")->isChecked());
+    stage.press(QString());
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions()[1]).center());
+    QCOMPARE(UTIL_PictureDialog::order(), UTIL_PictureDialog::NewestFirst);
+    QCOMPARE(stage.dialog.fileName(), m_photos.path("a.bmp")); // what was chosen stays so
+    QCOMPARE(stage.view().currentIndex().data().toString(), "a.bmp");
+    QVERIFY(stage.isEnabled("Open"));
+
+    Stage second(m_photos.path());
+    QVERIFY(entry(second, "Newest first")->isChecked());
+    entry(second, "By name")->trigger();
+    QCOMPARE(second.names(), shown);
+    QCOMPARE(UTIL_PictureDialog::order(), UTIL_PictureDialog::ByName);
+}
+
+void tst_PickDialog::samePlaceTheSecondTime()
+{
+    const QTemporaryDir folder;
+    for (int i = 0; i < 60; ++i)
+        QVERIFY(support::sheet(QSize(4, 4), Qt::red).save(folder.filePath(QString("%1.png").arg(i))));
+    int place = 0;
+    {
+        Stage stage(folder.path());
+        stage.view().scrollTo(stage.view().model()->index(30, 0), QAbstractItemView::PositionAtTop);
+        place = stage.view().verticalScrollBar()->value();
+        QVERIFY(place > 0);
+        stage.press("Cancel");
+    }
+    Stage second(folder.path());
+    QCOMPARE(second.view().verticalScrollBar()->value(), place);
+    QVERIFY(second.dialog.fileName().isEmpty());
+    QVERIFY(!second.isEnabled("Open"));
+    second.dialog.reject();
+    Stage other(m_photos.path());
+    QCOMPARE(other.view().verticalScrollBar()->value(), 0);
+    other.dialog.reject();
+    QCOMPARE(Stage(folder.path()).view().verticalScrollBar()->value(), 0); // only the last place
+}
+
+void tst_PickDialog::fillsItsWindow_data()
+{
+    QTest::addColumn<QSize>("window");
+    QTest::addColumn<QSize>("dialog");
+    QTest::newRow("the device's") << QSize(240, 320) << QSize(240, 320);
+    QTest::newRow("lower") << QSize(240, 200) << QSize(240, 200);
+    QTest::newRow("larger") << QSize(480, 400) << QSize(480, 400);
+    QTest::newRow("too small") << QSize(100, 100) << QSize(240, 200);
+    QTest::newRow("as large as a desk") << QSize(1000, 700) << QSize(560, 480);
+}
+
+void tst_PickDialog::fillsItsWindow()
+{
+    QFETCH(QSize, window);
+    QWidget owner;
+    owner.resize(window);
+    owner.show();
+    UTIL_PickDialog dialog(&owner, m_photos.path(), patterns);
+    dialog.show();
+    QTEST(dialog.size(), "dialog");
+    for (const char* key : {"Open", "Cancel", "Up"})
+        QVERIFY(dialog.rect().contains(support::button(dialog, key)->geometry()));
+    QCOMPARE(support::labels(dialog).value(0), "Open picture");
+    auto* view = dialog.findChild<UTIL_PictureView*>();
+    const int columns = view->viewport()->width() / view->gridSize().width();
+    QCOMPARE(columns, dialog.width() / 74);
 }
 
 int main(int argc, char** argv)

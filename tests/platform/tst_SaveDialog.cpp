@@ -77,7 +77,7 @@ void tst_SaveDialog::platformMakesIt()
     QVERIFY(qobject_cast<UTIL_SaveDialog*>(dialog));
     QCOMPARE(dialog->parentWidget(), &window);
     support::whenOpen(
-        [](QDialog& open) { QTest::mouseClick(support::button(open, "OK"), Qt::LeftButton); });
+        [](QDialog& open) { QTest::mouseClick(support::button(open, "Save"), Qt::LeftButton); });
     QCOMPARE(dialog->exec(), 1);
     QCOMPARE(dialog->fileName(), photos.path("Drawing.png"));
     QVERIFY(!QFile::exists(photos.path("Drawing.png"))); // it only names it
@@ -91,6 +91,7 @@ void tst_SaveDialog::fitsTheScreen()
     QVERIFY(stage.edit().height() >= UTIL_Skin::Size::keyHeight);
     QVERIFY(stage.dialog.rect().contains(stage.edit().geometry()));
     QVERIFY(stage.view().height() > stage.view().gridSize().height());
+    QCOMPARE(support::labels(stage.dialog).value(0), "Save picture as");
 }
 
 void tst_SaveDialog::proposesAFreeName()
@@ -131,7 +132,7 @@ void tst_SaveDialog::proposalMovesAlongToAnotherFolder()
     stage.press("Up");
     QCOMPARE(stage.edit().text(), "mine");
     stage.tap("sub");
-    stage.press("OK");
+    stage.press("Save");
     QCOMPARE(stage.dialog.fileName(), photos.path("sub/mine.png"));
 }
 
@@ -166,7 +167,7 @@ void tst_SaveDialog::typedNameGetsAnExtension()
     const Photos photos;
     Stage stage(photos.path());
     stage.type(typed);
-    stage.press("OK");
+    stage.press("Save");
     QCOMPARE(stage.dialog.result(), 1);
     QCOMPARE(stage.dialog.fileName(), photos.path(name));
 }
@@ -194,7 +195,7 @@ void tst_SaveDialog::noNameIsNotConfirmed()
     Stage stage(photos.path());
     stage.type(typed);
     QTEST(stage.edit().text(), "taken");
-    QVERIFY(!stage.isEnabled("OK"));
+    QVERIFY(!stage.isEnabled("Save"));
     QTest::keyClick(&stage.edit(), Qt::Key_Return);
     QVERIFY(stage.dialog.isVisible());
 }
@@ -218,7 +219,7 @@ void tst_SaveDialog::existingFileIsAskedFor()
     const Photos photos;
     Stage stage(photos.path());
     stage.type(typed);
-    stage.press("OK");
+    stage.press("Save");
     QCOMPARE(stage.dialog.isVisible(), answer == 0);
     if (answer == 0)
         QVERIFY(stage.dialog.fileName().isEmpty());
@@ -267,7 +268,7 @@ void tst_SaveDialog::missingFolderIsMade()
 {
     const Photos photos;
     Stage stage(photos.path("never/used"));
-    stage.press("OK");
+    stage.press("Save");
     QCOMPARE(stage.dialog.fileName(), photos.path("never/used/Drawing.png"));
     QVERIFY(QFileInfo(photos.path("never/used")).isDir());
 }

@@ -18,6 +18,7 @@ private slots:
     void imageOfAFile();
     void imageOfAMissingFileIsNone();
     void growingFillsWithTheBaseColour();
+    void growingFillsWithWhiteOnADarkDesktop();
     void shrinkingKeepsThePicture();
     void menuHasCopyCutPaste();
     void rightClickOpensTheMenu();
@@ -92,6 +93,19 @@ void tst_PasteLabelPicture::growingFillsWithTheBaseColour()
     item.drag({50, 40}, {0, 0}); // folds it into the picture
     QVERIFY(sameImage(item.label.getImage(),
                       support::overlaid(support::sheet(QSize(110, 85), Qt::yellow), {0, 0}, item.picture)));
+}
+
+void tst_PasteLabelPicture::growingFillsWithWhiteOnADarkDesktop()
+{
+    PasteItem item;
+    QPalette dark;
+    dark.setColor(QPalette::Base, Qt::black);
+    item.parent.setPalette(dark);
+    item.parent.show();
+    item.label.resize(110, 85);
+    item.drag({50, 40}, {0, 0});
+    QVERIFY(sameImage(item.label.getImage(),
+                      support::overlaid(support::sheet(QSize(110, 85), Qt::white), {0, 0}, item.picture)));
 }
 
 void tst_PasteLabelPicture::shrinkingKeepsThePicture()

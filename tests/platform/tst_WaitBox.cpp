@@ -1,0 +1,132 @@
+#include "UTIL_Platform.h"
+#include "UTIL_Wait.h"
+#include "support/Modal.h"
+#include "support/TestCase.h"
+
+#include <atomic>
+
+namespace {
+
+constexpr auto text = "Opening picture";
+
+/// Works for some milliseconds, or until it is cancelled.
+auto working(int milliseconds, std::shared_ptr<std::atomic<int>> ended)
+{
+    return [milliseconds, ended](const util::IsCancelled& isCancelled) {
+        QElapsedTimer timer;
+        timer.start();
+        while (!timer.hasExpired(milliseconds) && !isCancelled())
+            QThread::msleep(1);
+        *ended = int(timer.elapsed()) + 1;
+        return QThread::currentThread() != QCoreApplication::instance()->thread() ? 42 : 0;
+    };
+}
+
+} // namespace
+
+class tst_WaitBox : public support::TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        UTIL_Platform::install(nullptr);
+        QThreadPool::globalInstance()->waitForDone();
+    }
+
+    void shortWorkShowsNothingAndHandlesNoEvent()
+    {
+        int events = 0;
+        QTimer::singleShot(0, this, [&] { ++events; });
+        const auto ended = std::make_shared<std::atomic<int>>(0);
+        QCOMPARE(util::waitFor(nullptr, text, working(150, ended)), std::optional(42));
+        QCOMPARE(events, 0);
+        QVERIFY(*ended >= 150);
+    }
+
+    void longWorkShowsABoxUntilItIsDone()
+    {
+        QWidget window;
+        window.resize(240, 320);
+        window.show();
+        QElapsedTimer timer;
+        timer.start();
+        qint64 shownAfter = 0;
+        QImage first;
+        QImage second;
+        support::whenOpen([&](QDialog& box) {
+            shownAfter = timer.elapsed();
+            QVERIFY(box.isModal());
+            QCOMPARE(support::labels(box), QStringList(text));
+            QVERIFY(window.geometry().contains(box.geometry()));
+            QVERIFY(support::button(box, "Cancel"));
+            first = box.grab().toImage();
+            QTest::qWait(200);
+            second = box.grab().toImage();
+        });
+        const auto ended = std::make_shared<std::atomic<int>>(0);
+        QCOMPARE(util::waitFor(&window, text, working(900, ended)), std::optional(42));
+        QVERIFY2(shownAfter >= 300 && shownAfter < 800, qPrintable(QString::number(shownAfter)));
+        QVERIFY(first != second); // something moves
+        QVERIFY(timer.elapsed() >= 900 && timer.elapsed() < 2500);
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void itIsCancelled_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("by pointer") << 0;
+        QTest::newRow("Escape") << 1;
+        QTest::newRow("Return") << 2;
+        QTest::newRow("closing") << 3;
+    }
+
+    void itIsCancelled()
+    {
+        QFETCH(int, way);
+        support::whenOpen([&](QDialog& box) {
+            QAbstractButton* key = support::button(box, "Cancel");
+            if (way == 0)
+                QTest::mouseClick(key, Qt::LeftButton);
+            else if (way == 3)
+                box.close();
+            else
+                QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box,
+                                way == 1 ? Qt::Key_Escape : Qt::Key_Return);
+        });
+        QElapsedTimer timer;
+        timer.start();
+        const auto ended = std::make_shared<std::atomic<int>>(0);
+        QCOMPARE(util::waitFor(nullptr, text, working(8000, ended)), std::optional<int>());
+        QVERIFY(timer.elapsed() < 4000);
+        QTRY_VERIFY(*ended > 0 && *ended < 8000); // the work heard of it
+    }
+
+    void aHostMayHaveItsOwn()
+    {
+        class Host : public UTIL_Platform
+        {
+            bool waitFor(QWidget*, const QString& shown, const QFuture<void>& work) override
+            {
+                QFuture<void> mine = work;
+                if (shown == "no")
+                    mine.cancel();
+                else
+                    mine.waitForFinished();
+                return shown != "no";
+            }
+        };
+        UTIL_Platform::install(std::make_unique<Host>());
+        const auto ended = std::make_shared<std::atomic<int>>(0);
+        QCOMPARE(util::waitFor(nullptr, "yes", working(10, ended)), std::optional(42));
+        QCOMPARE(util::waitFor(nullptr, "no", working(5000, ended)), std::optional<int>());
+    }
+};
+
+int main(int argc, char** argv)
+{
+    return support::run<tst_WaitBox>(argc, argv);
+}
+
+#include "tst_WaitBox.moc"
