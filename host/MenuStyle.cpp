@@ -46,6 +46,13 @@ int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
                                     : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
+int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* data) const
+{
+    // Rather than in columns beside the screen.
+    return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const
 {

@@ -45,6 +45,13 @@ void UTIL_PopupStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
     painter->drawRect(option->rect.adjusted(0, 0, -Size::hairline, -Size::hairline));
 }
 
+int UTIL_PopupStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                               QStyleHintReturn* data) const
+{
+    // Rather than in columns beside the screen.
+    return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
+}
+
 QSize UTIL_PopupStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                         const QSize& contents, const QWidget* widget) const
 {
