@@ -37,7 +37,7 @@ void UTIL_PopupStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const QColor ground = UTIL_Skin::color(UTIL_Skin::Color::Ground);
-    if (element != PE_FrameMenu ||
+    if (element != PE_PanelMenu ||
         ground.lightness() >= UTIL_Skin::color(UTIL_Skin::Color::Ink).lightness())
         return;
     painter->setPen(UTIL_Skin::color(UTIL_Skin::Color::Edge));
