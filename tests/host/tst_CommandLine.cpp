@@ -303,12 +303,15 @@ void tst_CommandLine::aPlatformThatCannotWork()
     QFETCH(QByteArray, platform);
     const QByteArray old = qgetenv("QT_QPA_PLATFORM");
     const QByteArray sanitizer = qgetenv("ASAN_OPTIONS");
-    const auto restore = qScopeGuard([old, sanitizer] {
+    const QByteArray fatal = qgetenv("QT_FATAL_CRITICALS");
+    const auto restore = qScopeGuard([old, sanitizer, fatal] {
+        qputenv("QT_FATAL_CRITICALS", fatal);
         qputenv("QT_QPA_PLATFORM", old);
         qputenv("ASAN_OPTIONS", sanitizer);
     });
     qputenv("QT_QPA_PLATFORM", platform);
     qputenv("ASAN_OPTIONS", "detect_leaks=0"); // a plugin that fails leaks what it began with
+    qunsetenv("QT_FATAL_CRITICALS");           // and it tells so
     PadProcess pad({});
     QVERIFY(pad.waitForEnd());
     QCOMPARE(pad.exitCode(), 1);
