@@ -246,7 +246,15 @@ void tst_Wayland::theWindowComesBackAsItWas()
     m_server->key("F11");
     QVERIFY(!m_server->waitForWindow(window).isEmpty());
     QVERIFY(quit());
+
+    constexpr QSize larger(400, 450);
     QVERIFY(start());
+    m_server->resizeWindow(larger);
+    QVERIFY(!m_server->waitForWindow(larger).isEmpty());
+    QTest::qWait(300);
+    QVERIFY(quit());
+    m_pad = std::make_unique<PadProcess>(QStringList());
+    QVERIFY(!m_server->waitForWindow(larger).isEmpty());
 }
 
 void tst_Wayland::aDeadDisplayDoesNotStopALivingOne_data()

@@ -266,6 +266,12 @@ QList<QRect> WaylandServer::windows() const
     return found;
 }
 
+void WaylandServer::resizeWindow(QSize size)
+{
+    (void)run("swaymsg",
+              {QString("resize set width %1 px height %2 px").arg(size.width()).arg(size.height())});
+}
+
 QRect WaylandServer::waitForWindow(QSize size) const
 {
     QElapsedTimer timer;

@@ -32,6 +32,8 @@ public:
     [[nodiscard]] QImage screenshot() const;
     /// The windows of the programs, pop-ups not counted.
     [[nodiscard]] QList<QRect> windows() const;
+    /// Drags the window that has the keyboard to another size, of the compositor's pixels.
+    void resizeWindow(QSize size);
     /// Waits until there is a window of this size; empty when none comes.
     [[nodiscard]] QRect waitForWindow(QSize size) const;
 
