@@ -56,7 +56,7 @@ int Session::run()
     };
     QMetaObject::invokeMethod(this, workNow, Qt::QueuedConnection);
     QApplication::exec();
-    if (m_place)
+    if (m_place && m_window->isHidden()) // closed by the person
         m_place->save(*m_window);
     if (m_recorder) {
         if (const auto failure = m_recorder->finish())

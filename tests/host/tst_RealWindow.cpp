@@ -86,13 +86,12 @@ void tst_RealWindow::init()
     m_server = std::make_unique<XServer>();
     QVERIFY(m_server->isReady());
     m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_CONFIG_HOME", m_folder->path().toUtf8());
 }
 
 void tst_RealWindow::writeSettings(const QByteArray& text) const
 {
-    QVERIFY(QDir(m_folder->path()).mkpath("korva"));
-    QFile file(m_folder->filePath("korva/pad.conf"));
+    QVERIFY(QDir(m_folder->path()).mkpath("XDG_CONFIG_HOME/korva"));
+    QFile file(m_folder->filePath("XDG_CONFIG_HOME/korva/pad.conf"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
 }
@@ -326,7 +325,7 @@ void tst_RealWindow::sizeAndScaleAreRemembered()
 {
     m_server = std::make_unique<XServer>(QSize(1000, 1000));
     const auto starts = [this](const QStringList& arguments, QSize size) {
-        m_pad = std::make_unique<PadProcess>(arguments, m_server->display());
+        m_pad = std::make_unique<PadProcess>(arguments, m_server->display(), QString(), m_folder->path());
         const QRect place = m_server->waitForWindow(size);
         m_server->moveTo(place.center());
         QTest::qWait(300);
@@ -347,7 +346,7 @@ void tst_RealWindow::sizeAndScaleAreRemembered()
 void tst_RealWindow::aLargerWindowIsUsed()
 {
     writeSettings("[window-800x600]\nsize=@Size(500 420)\n");
-    m_pad = std::make_unique<PadProcess>(QStringList(), m_server->display());
+    m_pad = std::make_unique<PadProcess>(QStringList(), m_server->display(), QString(), m_folder->path());
     const QRect place = m_server->waitForWindow(QSize(500, 420));
     QVERIFY(!place.isEmpty());
     QTest::qWait(500);
@@ -373,11 +372,11 @@ void tst_RealWindow::scriptedRunsRememberNothing()
     QVERIFY(recording.open(QIODevice::WriteOnly));
     recording.close();
     const auto end = [&](const QStringList& more) {
-        PadProcess pad(arguments + more, m_server->display(), m_folder->path());
+        PadProcess pad(arguments + more, m_server->display(), m_folder->path(), m_folder->path());
         return pad.waitForEnd() && pad.errors().isEmpty() && pad.exitCode() == 0;
     };
     QVERIFY(end({"--scale", "2"}));
-    QVERIFY(!QFile::exists(m_folder->filePath("korva")));
+    QVERIFY(!QFile::exists(m_folder->filePath("XDG_CONFIG_HOME")));
 
     const QByteArray kept = "[window-800x600]\nscale=1\nsize=@Size(500 420)\n";
     writeSettings(kept);
@@ -385,7 +384,7 @@ void tst_RealWindow::scriptedRunsRememberNothing()
     QVERIFY(end(arguments.contains("--screenshot") ? QStringList() : QStringList{"--screenshot", shot}));
     QCOMPARE(QImage(arguments.contains("--screenshot") ? m_folder->filePath("a.png") : shot).size(),
              window);
-    QFile settings(m_folder->filePath("korva/pad.conf"));
+    QFile settings(m_folder->filePath("XDG_CONFIG_HOME/korva/pad.conf"));
     QVERIFY(settings.open(QIODevice::ReadOnly));
     QCOMPARE(settings.readAll(), kept);
 }

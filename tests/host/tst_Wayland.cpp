@@ -75,7 +75,6 @@ void tst_Wayland::init()
     m_server = std::make_unique<WaylandServer>();
     QVERIFY(m_server->isReady());
     m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("XDG_CONFIG_HOME", m_folder->path().toUtf8());
     qputenv("ASAN_OPTIONS", "detect_leaks=0"); // no name is known of the plugin that leaks
     qputenv("QT_QPA_PLATFORM", "");
     qputenv("DISPLAY", "");
@@ -84,7 +83,7 @@ void tst_Wayland::init()
 
 bool tst_Wayland::start(const QStringList& arguments, QSize size)
 {
-    m_pad = std::make_unique<PadProcess>(arguments);
+    m_pad = std::make_unique<PadProcess>(arguments, QString(), QString(), m_folder->path());
     m_server->moveTo(QPoint());
     m_place = m_server->waitForWindow(size);
     // Painted, too: the pixel is the page's.
@@ -240,7 +239,7 @@ void tst_Wayland::theWindowComesBackAsItWas()
     m_server->key("F11");
     QVERIFY(!m_server->waitForWindow(QSize(800, 600)).isEmpty());
     QVERIFY(quit());
-    m_pad = std::make_unique<PadProcess>(QStringList());
+    m_pad = std::make_unique<PadProcess>(QStringList(), QString(), QString(), m_folder->path());
     QVERIFY(!m_server->waitForWindow(QSize(800, 600)).isEmpty());
     QTest::qWait(300);
     m_server->key("F11");
@@ -253,7 +252,7 @@ void tst_Wayland::theWindowComesBackAsItWas()
     QVERIFY(!m_server->waitForWindow(larger).isEmpty());
     QTest::qWait(300);
     QVERIFY(quit());
-    m_pad = std::make_unique<PadProcess>(QStringList());
+    m_pad = std::make_unique<PadProcess>(QStringList(), QString(), QString(), m_folder->path());
     QVERIFY(!m_server->waitForWindow(larger).isEmpty());
 }
 
