@@ -22,16 +22,18 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 
-# korva_package(component name section [DEPENDS package...] [DESCRIPTION line...])
+# korva_package(component name section [DEPENDS package...] [RECOMMENDS package...] [DESCRIPTION line...])
 function(korva_package component name section)
-    cmake_parse_arguments(PARSE_ARGV 3 arg "" "" "COMPONENTS;DEPENDS;DESCRIPTION")
+    cmake_parse_arguments(PARSE_ARGV 3 arg "" "" "COMPONENTS;DEPENDS;RECOMMENDS;DESCRIPTION")
     list(JOIN arg_DEPENDS ", " depends)
+    list(JOIN arg_RECOMMENDS ", " recommends)
     list(JOIN arg_DESCRIPTION "\n" description)
     string(TOUPPER ${component} upper)
     foreach(variable IN ITEMS
             "DEBIAN_${upper}_PACKAGE_NAME;${name}"
             "DEBIAN_${upper}_PACKAGE_SECTION;${section}"
             "DEBIAN_${upper}_PACKAGE_DEPENDS;${depends}"
+            "DEBIAN_${upper}_PACKAGE_RECOMMENDS;${recommends}"
             "COMPONENT_${upper}_DESCRIPTION;${description}")
         list(POP_FRONT variable suffix)
         set(CPACK_${suffix} "${variable}" PARENT_SCOPE)
@@ -56,6 +58,7 @@ korva_package(development libkorva-dev libdevel
         "and turned.\n\nThis package holds the headers and the files for CMake and pkg-config.")
 korva_package(pad korva-pad graphics
     COMPONENTS runtime
+    RECOMMENDS qt6-wayland # shows it on Wayland; X11 needs nothing more
     DESCRIPTION
         "drawing pad for small pictures"
         "Draws and edits small pictures on a touch screen of 240 x 320 pixels or more,"

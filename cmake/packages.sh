@@ -14,5 +14,5 @@ need_packages() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 }
 
-build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-dev qt6-tools-dev qt6-l10n-tools
-    qt6-image-formats-plugins libgif-dev libpng-dev fonts-dejavu-core)
+build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-dev libxcb-randr0-dev qt6-tools-dev qt6-l10n-tools
+    qt6-image-formats-plugins qt6-wayland libgif-dev libpng-dev fonts-dejavu-core)

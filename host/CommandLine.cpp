@@ -45,8 +45,7 @@ struct Option
 };
 
 constexpr Option options[] = {
-    {"scale", 0, "N", setScale,
-     "show every pixel N x N (default: 1, or 2 on a screen of 900 pixels height)"},
+    {"scale", 0, "N", setScale, "show every pixel N x N (default: as last time, or what suits the screen)"},
     {"replay", 0, "FILE", setFile<&CommandLine::replay>, "play a recording; no pointer is needed"},
     {"record", 0, "FILE", setFile<&CommandLine::record>, "write a recording of what is drawn"},
     {"save", 0, "FILE", setFile<&CommandLine::save>, "save the drawing after the replay, then exit"},

@@ -28,6 +28,12 @@ struct CommandLine
 
     /// Whether the program writes its results and ends by itself, with nobody at the window.
     [[nodiscard]] bool endsByItself() const { return !save.isEmpty() || !screenshot.isEmpty(); }
+    /// Whether its outcome is to be the same anywhere: the window has its plain size then, and nothing is
+    /// remembered.
+    [[nodiscard]] bool isScripted() const
+    {
+        return endsByItself() || !replay.isEmpty() || !record.isEmpty();
+    }
 };
 
 } // namespace pad

@@ -1,69 +1,220 @@
 #include "Display.h"
 
+#include "StartMessages.h"
+
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QScreen>
 
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <xcb/randr.h>
 #include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
 
 namespace pad {
 
 namespace {
 
-constexpr int tallScreen = 900;
+enum class Kind { X, Wayland, Other };
+
+template <typename Reply>
+using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
 
 bool isSet(const char* variable)
 {
     return !qEnvironmentVariableIsEmpty(variable);
 }
 
-/// The height of the X screen, asked for directly because that takes less than a millisecond; 0 without
-/// one. The connection stays: many a server starts anew when its last client leaves, and would turn away
-/// the program that comes right after.
-int xScreenHeight()
+Kind kindOf(const QByteArray& platform)
+{
+    return platform.startsWith("xcb")       ? Kind::X
+           : platform.startsWith("wayland") ? Kind::Wayland
+                                            : Kind::Other;
+}
+
+// --- X -------------------------------------------------------------------------------------------------
+
+/// Asked directly because that takes less than a millisecond. The connection stays: many a server starts
+/// anew when its last client leaves, and would turn away the program that comes right after.
+xcb_connection_t* xConnection()
 {
     static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
         xcb_connect(nullptr, nullptr), &xcb_disconnect);
-    if (xcb_connection_has_error(connection.get()))
-        return 0;
-    const auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
-    return screen.rem ? screen.data->height_in_pixels : 0;
+    return xcb_connection_has_error(connection.get()) ? nullptr : connection.get();
 }
 
-int anyScreenHeight()
+Screen monitorOf(const xcb_randr_monitor_info_t& monitor)
+{
+    Screen screen{QSize(monitor.width, monitor.height)};
+    screen.setMillimetres(QSize(int(monitor.width_in_millimeters), int(monitor.height_in_millimeters)));
+    return screen;
+}
+
+Screen xScreen()
+{
+    xcb_connection_t* connection = xConnection();
+    const xcb_screen_t& root = *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    Screen screen{QSize(root.width_in_pixels, root.height_in_pixels)};
+    const xcb_query_extension_reply_t* randr = xcb_get_extension_data(connection, &xcb_randr_id);
+    if (!randr || !randr->present)
+        return screen;
+    const Owned<xcb_randr_get_monitors_reply_t> monitors(
+        xcb_randr_get_monitors_reply(connection, xcb_randr_get_monitors(connection, root.root, true),
+                                     nullptr),
+        &std::free);
+    if (!monitors)
+        return screen;
+    auto monitor = xcb_randr_get_monitors_monitors_iterator(monitors.get());
+    if (monitor.rem)
+        screen = monitorOf(*monitor.data);
+    for (; monitor.rem; xcb_randr_monitor_info_next(&monitor)) {
+        if (monitor.data->primary)
+            screen = monitorOf(*monitor.data);
+    }
+    return screen;
+}
+
+// --- Wayland -------------------------------------------------------------------------------------------
+
+QString waylandName()
+{
+    return isSet("WAYLAND_DISPLAY") ? qEnvironmentVariable("WAYLAND_DISPLAY") : QStringLiteral("wayland-0");
+}
+
+bool waylandAnswers()
+{
+    if (isSet("WAYLAND_SOCKET"))
+        return true;
+    const QByteArray path =
+        QFile::encodeName(QDir(qEnvironmentVariable("XDG_RUNTIME_DIR")).absoluteFilePath(waylandName()));
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= qsizetype(sizeof address.sun_path))
+        return false;
+    std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool answers =
+        ::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    ::close(socket);
+    return answers;
+}
+
+bool waylandPluginIsThere()
+{
+    QStringList folders = QCoreApplication::libraryPaths();
+    folders.append(QLibraryInfo::path(QLibraryInfo::PluginsPath));
+    for (QString& folder : folders)
+        folder += QLatin1String("/platforms");
+    folders.prepend(qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH"));
+    for (const QString& folder : std::as_const(folders)) {
+        if (!QDir(folder).entryList({QStringLiteral("libqwayland-*.so")}).isEmpty())
+            return true;
+    }
+    return false;
+}
+
+// --- Which ---------------------------------------------------------------------------------------------
+
+/// Why the platform can't be used, as the end of a sentence that says what can't be done; none: it can.
+std::optional<QString> objection(const QByteArray& platform)
+{
+    const QString display = QStringLiteral("'%1'");
+    switch (kindOf(platform)) {
+    case Kind::X:
+        if (!xConnection())
+            return display.arg(qEnvironmentVariable("DISPLAY"));
+        break;
+    case Kind::Wayland:
+        if (!waylandAnswers())
+            return display.arg(waylandName());
+        if (!waylandPluginIsThere())
+            return display.arg(waylandName()) +
+                   QStringLiteral(": the toolkit's plugin for Wayland (qt6-wayland) is not installed");
+        break;
+    case Kind::Other:
+        break;
+    }
+    return {};
+}
+
+QList<QByteArray> candidates(bool needsNobody)
+{
+    if (isSet("QT_QPA_PLATFORM"))
+        return qgetenv("QT_QPA_PLATFORM").split(';');
+    QList<QByteArray> list;
+    if (isSet("DISPLAY"))
+        list.append("xcb");
+    if (isSet("WAYLAND_DISPLAY") || isSet("WAYLAND_SOCKET"))
+        list.insert(qgetenv("XDG_SESSION_TYPE") == "wayland" ? 0 : list.size(), "wayland");
+    if (list.isEmpty() && needsNobody)
+        list.append("offscreen");
+    return list;
+}
+
+std::optional<Screen> anyScreen()
 {
     int argc = 1;
-    char name[] = "korva-pad";
+    char name[] = "korva";
     char* argv[] = {name, nullptr};
     const QGuiApplication probe(argc, argv);
-    return QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->size().height() : 0;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return {};
+    const double ratio = screen->devicePixelRatio();
+    Screen result{(QSizeF(screen->size()) * ratio).toSize()};
+    result.toolkitsOwnRatio = ratio;
+    result.setMillimetres(screen->physicalSize().toSize());
+    return result;
 }
 
 } // namespace
 
-std::optional<Failure> prepareDisplay(const CommandLine& line)
+Expected<Display> Display::find(bool needsNobody)
 {
-    QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    if (platform.isEmpty() && !isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY")) {
-        if (!line.endsByItself() && line.replay.isEmpty())
-            return Failure{QStringLiteral("there is no display")};
-        platform = "offscreen";
-        qputenv("QT_QPA_PLATFORM", platform);
+    QStringList objections;
+    Display display;
+    for (const QByteArray& platform : candidates(needsNobody)) {
+        const auto reason = objection(platform);
+        if (!reason) {
+            display.platform = platform;
+            break;
+        }
+        objections.append(*reason);
     }
+    if (display.platform.isEmpty())
+        return Failure{objections.isEmpty()
+                           ? QStringLiteral("there is no display")
+                           : QStringLiteral("cannot open display ") + objections.join(" or ")};
+    if (display.platform == "minimal")
+        display.platform += ":enable_fonts"; // without it there are no letters
+    qputenv("QT_QPA_PLATFORM", display.platform);
 
-    const bool isX = platform.startsWith("xcb") || (platform.isEmpty() && isSet("DISPLAY"));
-    const int xHeight = isX ? xScreenHeight() : 0;
-    if (isX && xHeight == 0)
-        return Failure{QStringLiteral("cannot open display '%1'").arg(qEnvironmentVariable("DISPLAY"))};
-
-    int scale = line.scale.value_or(0);
-    if (!scale) {
-        const bool hasScreen = platform != "offscreen" && platform != "minimal";
-        const int height = isX ? xHeight : hasScreen ? anyScreenHeight() : 0;
-        scale = height >= tallScreen ? 2 : 1;
+    if (display.platform == "offscreen" || display.platform.startsWith("minimal"))
+        return display;
+    display.screen = kindOf(display.platform) == Kind::X ? xScreen() : anyScreen();
+    if (!display.screen) {
+        const QString reason = startmessages::reason();
+        return Failure{QStringLiteral("cannot show anything on '%1': %2")
+                           .arg(QString::fromLatin1(display.platform),
+                                reason.isEmpty() ? QStringLiteral("there is no screen") : reason)};
     }
-    qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+    startmessages::forget(); // will be said again
+    return display;
+}
+
+void Display::setScale(int scale) const
+{
+    const double factor = scale / (screen ? screen->toolkitsOwnRatio : 1);
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(factor));
     qputenv("QT_ENABLE_HIGHDPI_SCALING", "0"); // the screen's own density must not multiply it
-    return {};
 }
 
 } // namespace pad

@@ -1,13 +1,28 @@
 #pragma once
 
-#include "CommandLine.h"
+#include "Failure.h"
+#include "Screen.h"
+
+#include <QByteArray>
 
 #include <optional>
 
 namespace pad {
 
-/// Chooses where and how large the program shows itself; must run before the application object exists.
-/// Without any display, what ends by itself works off screen.
-std::optional<Failure> prepareDisplay(const CommandLine& line);
+/// Where the program shows itself.
+struct Display
+{
+    QByteArray platform;          ///< as in QT_QPA_PLATFORM
+    std::optional<Screen> screen; ///< none where nobody looks
+
+    /// The first that answers: of what QT_QPA_PLATFORM lists or, without it, the session's Wayland and X
+    /// displays. Without any, what `needsNobody` works off screen. Before the application object exists;
+    /// sets the variable.
+    [[nodiscard]] static Expected<Display> find(bool needsNobody);
+
+    /// Shows every pixel scale × scale, whatever the toolkit's own ratio for the screen; before the
+    /// application object exists.
+    void setScale(int scale) const;
+};
 
 } // namespace pad

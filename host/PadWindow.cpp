@@ -26,13 +26,14 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
       m_documents(new Documents(*m_editor, platform, this)),
       m_commands(new Commands(*m_editor, *m_documents, this)),
       m_status(new StatusLine(*m_editor, this)),
-      m_menuKey(addKey(tr("Menu", "soft key"), theme::leftKey)),
-      m_contextKey(addKey(QString(), theme::rightKey))
+      m_menuKey(addKey(tr("Menu", "soft key"))),
+      m_contextKey(addKey(QString())),
+      m_fullScreen(new QAction(tr("&Full screen", "menu"), this))
 {
-    setFixedSize(theme::window.size());
+    setMinimumSize(theme::window.size());
+    resize(theme::window.size());
+    arrange();
     setAcceptDrops(true);
-    m_editor->setGeometry(theme::editor);
-    m_status->setGeometry(theme::status);
     new PopupFence(*this);
 
     m_menuKey->setShortcut(Qt::Key_F10);
@@ -41,14 +42,33 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     connect(m_commands, &Commands::contextActionChanged, this, &PadWindow::updateContextKey);
     connect(m_documents, &Documents::changed, this, &PadWindow::updateTitle);
     connect(m_editor, &KORVA_EditCanvas::modified, this, [this] { setWindowModified(true); });
+    m_fullScreen->setShortcut(Qt::Key_F11);
+    addAction(m_fullScreen);
+    connect(m_fullScreen, &QAction::triggered, this,
+            [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
     updateContextKey();
     updateTitle();
 }
 
-UTIL_PushButton* PadWindow::addKey(const QString& text, const QRect& place)
+void PadWindow::arrange()
+{
+    const QSize more = size() - theme::window.size();
+    const int half = more.width() / 2;
+    m_editor->setGeometry(theme::editor.adjusted(0, 0, more.width(), more.height()));
+    m_status->setGeometry(theme::status.translated(0, more.height()).adjusted(0, 0, more.width(), 0));
+    m_menuKey->setGeometry(theme::leftKey.translated(0, more.height()).adjusted(0, 0, half, 0));
+    m_contextKey->setGeometry(
+        theme::rightKey.translated(0, more.height()).adjusted(half, 0, more.width(), 0));
+}
+
+void PadWindow::resizeEvent(QResizeEvent*)
+{
+    arrange();
+}
+
+UTIL_PushButton* PadWindow::addKey(const QString& text)
 {
     auto* key = new UTIL_PushButton(QString(), text, this);
-    key->setGeometry(place);
     key->setFocusPolicy(Qt::TabFocus); // a tap leaves what is being typed alone
     return key;
 }

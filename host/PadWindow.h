@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class KORVA_EditCanvas;
+class QAction;
 class UTIL_PushButton;
 
 namespace pad {
@@ -12,7 +13,8 @@ class Documents;
 class Platform;
 class StatusLine;
 
-/// The window of the device: the editor, the status line and two soft keys.
+/// The window of the device: the editor, the status line and two soft keys. It may be larger than the
+/// device's screen; F11 makes it as large as the screen that it is on.
 class PadWindow : public QWidget
 {
     Q_OBJECT
@@ -25,6 +27,8 @@ public:
     [[nodiscard]] KORVA_EditCanvas& editor() const { return *m_editor; }
     [[nodiscard]] Commands& commands() const { return *m_commands; }
     [[nodiscard]] Documents& documents() const { return *m_documents; }
+    /// Full screen and back.
+    [[nodiscard]] QAction* fullScreenAction() const { return m_fullScreen; }
 
     /// The window as it is on screen, at its scale.
     [[nodiscard]] QImage screenshot();
@@ -34,9 +38,11 @@ protected:
     /// A picture file that is dropped is opened.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    UTIL_PushButton* addKey(const QString& text, const QRect& place);
+    UTIL_PushButton* addKey(const QString& text);
+    void arrange();
     void openMenu();
     void updateContextKey();
     void updateTitle();
@@ -47,6 +53,7 @@ private:
     StatusLine* m_status;
     UTIL_PushButton* m_menuKey;
     UTIL_PushButton* m_contextKey;
+    QAction* m_fullScreen;
 };
 
 } // namespace pad

@@ -24,8 +24,12 @@ int complain(const Failure& failure)
     return 1;
 }
 
-Session::Session(CommandLine line, Recording recording, Platform& platform)
-    : m_line(std::move(line)), m_recording(std::move(recording)), m_platform(platform)
+Session::Session(CommandLine line, Recording recording, Platform& platform,
+                 std::optional<WindowPlace> place)
+    : m_line(std::move(line)),
+      m_recording(std::move(recording)),
+      m_platform(platform),
+      m_place(std::move(place))
 {
 }
 
@@ -33,6 +37,10 @@ int Session::run()
 {
     if (const auto failure = begin())
         return complain(*failure);
+    if (m_place)
+        m_place->restore(*m_window);
+    else
+        m_window->setFixedSize(m_window->size());
     m_window->show();
     m_window->activateWindow(); // not every desktop gives the keyboard to a new window
 
@@ -48,6 +56,8 @@ int Session::run()
     };
     QMetaObject::invokeMethod(this, workNow, Qt::QueuedConnection);
     QApplication::exec();
+    if (m_place && m_window->isHidden()) // closed by the person
+        m_place->save(*m_window);
     if (m_recorder) {
         if (const auto failure = m_recorder->finish())
             result = complain(*failure);

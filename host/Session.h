@@ -5,6 +5,7 @@
 #include "Platform.h"
 #include "Recorder.h"
 #include "Recording.h"
+#include "WindowPlace.h"
 
 #include <QObject>
 
@@ -18,7 +19,8 @@ class Session : public QObject
     Q_OBJECT
 
 public:
-    Session(CommandLine line, Recording recording, Platform& platform);
+    /// Without a place the window has its plain size, and keeps it.
+    Session(CommandLine line, Recording recording, Platform& platform, std::optional<WindowPlace> place);
 
     /// Runs until the window is closed or the work is done; the outcome is the program's exit code.
     int run();
@@ -35,6 +37,7 @@ private:
     CommandLine m_line;
     Recording m_recording;
     Platform& m_platform;
+    std::optional<WindowPlace> m_place;
     std::unique_ptr<PadWindow> m_window;
     std::unique_ptr<Recorder> m_recorder;
 };

@@ -4,7 +4,8 @@
 
 namespace pad::theme {
 
-// The window in logical pixels, from top to bottom.
+// The window at its smallest in logical pixels, from top to bottom. In a larger one the editor takes what
+// is left of the others, which keep their heights, and the keys share the width.
 inline constexpr QRect window(0, 0, 240, 320);
 inline constexpr QRect editor(0, 0, 240, 225);
 inline constexpr QRect status(0, 229, 240, 26);

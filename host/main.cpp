@@ -4,13 +4,15 @@
 #include "Platform.h"
 #include "Recording.h"
 #include "Session.h"
+#include "StartMessages.h"
 #include "Theme.h"
+#include "WindowPlace.h"
 
 #include <QApplication>
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 
 namespace {
 
@@ -22,13 +24,21 @@ QStringList argumentsOf(int argc, char** argv)
     return arguments;
 }
 
-/// Standard error is for the person: what the toolkit has to say about the session's folders is not.
-void showMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+/// What the person asked for, or left behind, or what suits the screen; the largest that fits where it
+/// doesn't. Runs that nobody looks at take what they are told.
+int chooseScale(const pad::CommandLine& line, const std::optional<pad::Screen>& screen,
+                const std::optional<pad::WindowPlace>& place)
 {
-    if (!message.startsWith(QLatin1String("QStandardPaths: ")))
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
-    if (type == QtFatalMsg)
-        std::abort();
+    if (!screen)
+        return line.scale.value_or(1);
+    if (!place)
+        return line.scale.value_or(screen->plainScale());
+    const int wish = place->scale().value_or(screen->suitableScale());
+    const int largest = screen->largestScale();
+    if (line.scale && wish > largest)
+        std::fprintf(stderr, "korva-pad: --scale %d does not fit a screen of %d x %d; taking %d\n", wish,
+                     screen->pixels.width(), screen->pixels.height(), largest);
+    return std::min(wish, largest);
 }
 
 int run(char** argv, const pad::CommandLine& line)
@@ -38,17 +48,27 @@ int run(char** argv, const pad::CommandLine& line)
         recording = pad::Recording::read(line.replay);
     if (const auto* failure = std::get_if<pad::Failure>(&recording))
         return pad::complain(*failure);
-    if (const auto failure = pad::prepareDisplay(line))
+    const auto found = pad::Display::find(line.endsByItself() || !line.replay.isEmpty());
+    if (const auto* failure = std::get_if<pad::Failure>(&found))
         return pad::complain(*failure);
+    const auto& display = std::get<pad::Display>(found);
+    std::optional<pad::WindowPlace> place;
+    if (display.screen && !line.isScripted())
+        place.emplace(display.screen->pixels);
+    if (place && line.scale)
+        place->setScale(*line.scale);
+    display.setScale(chooseScale(line, display.screen, place));
 
     int only = 1; // the arguments are ours alone
     const QApplication app(only, argv);
+    pad::startmessages::tell();
     QCoreApplication::setApplicationName(QStringLiteral("korva-pad"));
     // Takes effect only when the application object exists: every point of a stroke is drawn.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     pad::theme::apply();
     const pad::DownloadFolder downloads;
-    return pad::Session(line, std::get<pad::Recording>(std::move(recording)), pad::Platform::install())
+    return pad::Session(line, std::get<pad::Recording>(std::move(recording)), pad::Platform::install(),
+                        std::move(place))
         .run();
 }
 
@@ -56,7 +76,7 @@ int run(char** argv, const pad::CommandLine& line)
 
 int main(int argc, char** argv)
 {
-    qInstallMessageHandler(showMessage);
+    pad::startmessages::keep("korva-pad");
     const auto parsed = pad::CommandLine::parse(argumentsOf(argc, argv));
     if (const auto* failure = std::get_if<pad::Failure>(&parsed))
         return pad::complain(*failure);

@@ -1,5 +1,6 @@
 #include "Display.h"
 #include "KORVA_Preview.h"
+#include "StartMessages.h"
 
 #include <QApplication>
 #include <QFile>
@@ -24,10 +25,14 @@ int complain(const QString& message)
 
 int show(char** argv, const QString& picture)
 {
-    if (const auto failure = pad::prepareDisplay({}))
+    const auto found = pad::Display::find(false);
+    if (const auto* failure = std::get_if<pad::Failure>(&found))
         return complain(failure->message);
+    const auto& display = std::get<pad::Display>(found);
+    display.setScale(display.screen ? display.screen->suitableScale() : 1);
     int only = 1; // the arguments are ours alone
     const QApplication app(only, argv);
+    pad::startmessages::tell();
     int result = KORVA_PREVIEW_CANCELLED;
     KorvaPreview(QString(), picture, result);
     std::printf("%d\n", result);
@@ -38,6 +43,7 @@ int show(char** argv, const QString& picture)
 
 int main(int argc, char** argv)
 {
+    pad::startmessages::keep("korva-preview");
     QStringList pictures;
     bool onlyPictures = false;
     for (int i = 1; i < argc; ++i) {

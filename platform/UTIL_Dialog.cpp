@@ -1,6 +1,7 @@
 #include "UTIL_Dialog.h"
 
 #include "UTIL_Geometry.h"
+#include "UTIL_Overlay.h"
 #include "UTIL_PushButton.h"
 #include "UTIL_Skin.h"
 #include "UTIL_Veil.h"
@@ -28,6 +29,7 @@ UTIL_Dialog::UTIL_Dialog(int type, bool modal, QWidget* parent, const char* name
 
 UTIL_Dialog::~UTIL_Dialog()
 {
+    delete m_overlay;
     delete m_veil;
 }
 
@@ -64,10 +66,16 @@ void UTIL_Dialog::setVisible(bool visible)
         place();
         if (QWidget* veiled = isVeiling() ? owner() : nullptr)
             m_veil = new UTIL_Veil(veiled);
+        if (QWidget* window = anchor(); UTIL_Overlay::suits(*this, window))
+            m_overlay = new UTIL_Overlay(*this, *window);
     }
     QDialog::setVisible(visible);
-    if (!visible)
-        delete m_veil;
+    if (visible)
+        return;
+    if (m_overlay)
+        m_overlay->giveBack();
+    delete m_overlay;
+    delete m_veil;
 }
 
 void UTIL_Dialog::paintEvent(QPaintEvent*)
@@ -88,11 +96,15 @@ QWidget* UTIL_Dialog::owner() const
     return parentWidget() ? parentWidget()->window() : nullptr;
 }
 
+QWidget* UTIL_Dialog::anchor() const
+{
+    QWidget* window = owner();
+    return window && window->isVisible() ? window : QApplication::activeWindow();
+}
+
 void UTIL_Dialog::place()
 {
-    const QWidget* anchor = owner();
-    if (!anchor || !anchor->isVisible())
-        anchor = QApplication::activeWindow();
+    const QWidget* anchor = this->anchor();
     const QScreen* onScreen = anchor ? anchor->screen() : screen();
     const QRect bounds = onScreen->availableGeometry();
 

@@ -6,12 +6,14 @@
 #include <QPointer>
 
 class QLabel;
+class UTIL_Overlay;
 class UTIL_PushButton;
 class UTIL_Veil;
 
 /// The base of every dialog: a flat card with a title, its content and the soft keys, which opens in the
 /// middle of its parent's window and never leaves the screen. While a modal dialog is open its parent's
-/// window is veiled.
+/// window is veiled. Where the display lets no program place its windows, as Wayland does, the dialog is a
+/// part of its parent's window while it is open, if it fits in there, and modal all the same.
 ///
 /// Return presses the default key, which is the first soft key unless another was made the default or has
 /// the focus; Escape and closing reject.
@@ -53,8 +55,11 @@ protected:
 
 private:
     [[nodiscard]] QWidget* owner() const;
+    /// The window over which the dialog opens; null: there is none.
+    [[nodiscard]] QWidget* anchor() const;
     void place();
 
     QLabel* m_title;
     QPointer<UTIL_Veil> m_veil; // a child of the veiled window
+    QPointer<UTIL_Overlay> m_overlay;
 };

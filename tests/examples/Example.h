@@ -10,7 +10,8 @@ public:
     static constexpr int patience = 20'000; // ms
 
     explicit Example(QSize window, const QStringList& arguments = {},
-                     const QMap<QString, QString>& variables = {})
+                     const QMap<QString, QString>& variables = {}, QSize screen = QSize(800, 600))
+        : m_screen(screen)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (auto it = variables.begin(); it != variables.end(); ++it)

@@ -49,6 +49,9 @@ private slots:
     void screenshotAtItsScale();
     void replayAloneEndsOffScreen();
     void withoutADisplay();
+    void aPlatformThatCannotWork_data();
+    void aPlatformThatCannotWork();
+    void theMinimalPlatformHasLetters();
     void waitsAsLongAsTold();
     void aRecordingBeginsWithThePicture();
 
@@ -286,6 +289,49 @@ void tst_CommandLine::withoutADisplay()
     QCOMPARE(alone.errors(), "");
     QCOMPARE(alone.exitCode(), 0);
     QVERIFY(QFile::exists(path("out.png")));
+}
+
+void tst_CommandLine::aPlatformThatCannotWork_data()
+{
+    QTest::addColumn<QByteArray>("platform");
+    QTest::newRow("unknown") << QByteArray("nonsense");
+    QTest::newRow("no framebuffer") << QByteArray("linuxfb:fb=/none");
+}
+
+void tst_CommandLine::aPlatformThatCannotWork()
+{
+    QFETCH(QByteArray, platform);
+    const QByteArray old = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray sanitizer = qgetenv("ASAN_OPTIONS");
+    const QByteArray fatal = qgetenv("QT_FATAL_CRITICALS");
+    const auto restore = qScopeGuard([old, sanitizer, fatal] {
+        qputenv("QT_FATAL_CRITICALS", fatal);
+        qputenv("QT_QPA_PLATFORM", old);
+        qputenv("ASAN_OPTIONS", sanitizer);
+    });
+    qputenv("QT_QPA_PLATFORM", platform);
+    qputenv("ASAN_OPTIONS", "detect_leaks=0"); // a plugin that fails leaks what it began with
+    qunsetenv("QT_FATAL_CRITICALS");           // and it tells so
+    PadProcess pad({});
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.exitCode(), 1);
+    const QString line = pad.errors();
+    QVERIFY2(line.startsWith("korva-pad: cannot show anything on '" + platform + "': "), qPrintable(line));
+    QCOMPARE(line.count('\n'), 1);
+    QVERIFY(line.endsWith('\n'));
+}
+
+void tst_CommandLine::theMinimalPlatformHasLetters()
+{
+    const QByteArray old = qgetenv("QT_QPA_PLATFORM");
+    const auto restore = qScopeGuard([old] { qputenv("QT_QPA_PLATFORM", old); });
+    for (const char* platform : {"minimal", "offscreen"}) {
+        qputenv("QT_QPA_PLATFORM", platform);
+        PadProcess pad({"--screenshot", path(platform)});
+        QVERIFY(pad.waitForEnd());
+        QCOMPARE(pad.errors(), "");
+    }
+    QVERIFY(sameImage(QImage(path("minimal")), QImage(path("offscreen"))));
 }
 
 void tst_CommandLine::waitsAsLongAsTold()

@@ -48,6 +48,11 @@ private slots:
     void theClipboardBothWays();
     void scaleFollowsTheScreen_data();
     void scaleFollowsTheScreen();
+    void aScaleThatDoesNotFitIsToldAndLowered();
+    void sizeAndScaleAreRemembered();
+    void aLargerWindowIsUsed();
+    void scriptedRunsRememberNothing_data();
+    void scriptedRunsRememberNothing();
     void quits();
 
 private:
@@ -65,6 +70,7 @@ private:
     void strokeTo(QPoint from, QPoint to);
     /// A command of the menu's page for editing, by its letter.
     void choose(const char* mnemonic);
+    void writeSettings(const QByteArray& text) const;
 
     std::unique_ptr<XServer> m_server;
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -80,6 +86,14 @@ void tst_RealWindow::init()
     m_server = std::make_unique<XServer>();
     QVERIFY(m_server->isReady());
     m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void tst_RealWindow::writeSettings(const QByteArray& text) const
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("XDG_CONFIG_HOME/korva"));
+    QFile file(m_folder->filePath("XDG_CONFIG_HOME/korva/pad.conf"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
 }
 
 bool tst_RealWindow::start(const QStringList& more)
@@ -292,6 +306,87 @@ void tst_RealWindow::scaleFollowsTheScreen()
     m_server = std::make_unique<XServer>(screen);
     m_pad = std::make_unique<PadProcess>(option, m_server->display());
     QCOMPARE(m_server->waitForWindow(expected).size(), expected);
+}
+
+void tst_RealWindow::aScaleThatDoesNotFitIsToldAndLowered()
+{
+    m_server = std::make_unique<XServer>(QSize(800, 700));
+    m_pad = std::make_unique<PadProcess>(QStringList{"--scale", "5"}, m_server->display());
+    const QRect place = m_server->waitForWindow(window * 2);
+    QVERIFY(!place.isEmpty());
+    m_server->moveTo(place.center());
+    QTest::qWait(300);
+    m_server->key("q", {"Control_L"});
+    QVERIFY(m_pad->waitForEnd());
+    QCOMPARE(m_pad->errors(), "korva-pad: --scale 5 does not fit a screen of 800 x 700; taking 2\n");
+}
+
+void tst_RealWindow::sizeAndScaleAreRemembered()
+{
+    m_server = std::make_unique<XServer>(QSize(1000, 1000));
+    const auto starts = [this](const QStringList& arguments, QSize size) {
+        m_pad = std::make_unique<PadProcess>(arguments, m_server->display(), QString(), m_folder->path());
+        const QRect place = m_server->waitForWindow(size);
+        m_server->moveTo(place.center());
+        QTest::qWait(300);
+        m_server->key("q", {"Control_L"});
+        return !place.isEmpty() && m_pad->waitForEnd() && m_pad->errors().isEmpty();
+    };
+    QVERIFY(starts({}, window * 2));
+    QVERIFY(starts({"--scale", "3"}, window * 3));
+    QVERIFY(starts({}, window * 3));
+    writeSettings("[window-1000x1000]\nscale=2\nsize=@Size(400 450)\n");
+    QVERIFY(starts({}, QSize(800, 900)));
+    QVERIFY(starts({}, QSize(800, 900)));
+    QVERIFY(starts({"--scale", "1"}, QSize(400, 450)));
+    writeSettings("[window-1000x1000]\nscale=7\nsize=@Size(9000 1)\n"); // of nobody's hand
+    QVERIFY(starts({}, QSize(999, 960)));
+}
+
+void tst_RealWindow::aLargerWindowIsUsed()
+{
+    writeSettings("[window-800x600]\nsize=@Size(500 420)\n");
+    m_pad = std::make_unique<PadProcess>(QStringList(), m_server->display(), QString(), m_folder->path());
+    const QRect place = m_server->waitForWindow(QSize(500, 420));
+    QVERIFY(!place.isEmpty());
+    QTest::qWait(500);
+    const QImage before = m_server->screenshot();
+    m_server->click(place.topLeft() + QPoint(120, 385)); // the left key, which keeps to the lower edge
+    QTRY_VERIFY(m_server->screenshot() != before);
+    const QPoint inMenu = place.topLeft() + QPoint(60, 330);
+    QTRY_VERIFY(m_server->screenshot().pixel(inMenu) != before.pixel(inMenu));
+}
+
+void tst_RealWindow::scriptedRunsRememberNothing_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("save") << QStringList{"--save", "a.png"};
+    QTest::newRow("screenshot") << QStringList{"--screenshot", "a.png"};
+    QTest::newRow("replay") << QStringList{"--replay", "a.rec", "--save", "a.png"};
+}
+
+void tst_RealWindow::scriptedRunsRememberNothing()
+{
+    QFETCH(QStringList, arguments);
+    QFile recording(m_folder->filePath("a.rec"));
+    QVERIFY(recording.open(QIODevice::WriteOnly));
+    recording.close();
+    const auto end = [&](const QStringList& more) {
+        PadProcess pad(arguments + more, m_server->display(), m_folder->path(), m_folder->path());
+        return pad.waitForEnd() && pad.errors().isEmpty() && pad.exitCode() == 0;
+    };
+    QVERIFY(end({"--scale", "2"}));
+    QVERIFY(!QFile::exists(m_folder->filePath("XDG_CONFIG_HOME")));
+
+    const QByteArray kept = "[window-800x600]\nscale=1\nsize=@Size(500 420)\n";
+    writeSettings(kept);
+    const QString shot = m_folder->filePath("shot.png");
+    QVERIFY(end(arguments.contains("--screenshot") ? QStringList() : QStringList{"--screenshot", shot}));
+    QCOMPARE(QImage(arguments.contains("--screenshot") ? m_folder->filePath("a.png") : shot).size(),
+             window);
+    QFile settings(m_folder->filePath("XDG_CONFIG_HOME/korva/pad.conf"));
+    QVERIFY(settings.open(QIODevice::ReadOnly));
+    QCOMPARE(settings.readAll(), kept);
 }
 
 void tst_RealWindow::quits()

@@ -1,0 +1,75 @@
+#include "StartMessages.h"
+
+#include <QStringList>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace pad::startmessages {
+
+namespace {
+
+struct State
+{
+    const char* program = "";
+    bool isStarting = false;
+    QStringList kept;
+};
+
+State& state()
+{
+    static State state;
+    return state;
+}
+
+void say(const QString& line)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(line));
+}
+
+void hear(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (message.startsWith(QLatin1String("QStandardPaths: ")))
+        return;
+    if (state().isStarting && type != QtFatalMsg) {
+        state().kept.append(qFormatLogMessage(type, context, message));
+    } else if (state().isStarting) {
+        const QString told = reason().isEmpty() ? message.section(QLatin1Char('\n'), 0, 0) : reason();
+        std::fprintf(stderr, "%s: cannot show anything on '%s': %s\n", state().program,
+                     qgetenv("QT_QPA_PLATFORM").constData(), qPrintable(told));
+        std::_Exit(1); // half-started, the toolkit cannot be taken down in order
+    } else {
+        say(qFormatLogMessage(type, context, message));
+        if (type == QtFatalMsg)
+            std::abort();
+    }
+}
+
+} // namespace
+
+void keep(const char* program)
+{
+    state().program = program;
+    state().isStarting = true;
+    qInstallMessageHandler(hear);
+}
+
+QString reason()
+{
+    return state().kept.value(0);
+}
+
+void forget()
+{
+    state().kept.clear();
+}
+
+void tell()
+{
+    for (const QString& line : std::as_const(state().kept))
+        say(line);
+    forget();
+    state().isStarting = false;
+}
+
+} // namespace pad::startmessages

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+namespace pad {
+
+/// Standard error is for the person. Until the program has started what the toolkit says is kept, and what
+/// would abort it ends it instead with exit code 1 and one line; afterwards the toolkit says it at once.
+/// What it has to say about the session's folders is dropped.
+namespace startmessages {
+
+/// First of all; `program` is its name.
+void keep(const char* program);
+/// The reason that the toolkit gave first for what did not work; empty: none.
+[[nodiscard]] QString reason();
+/// Forgets what was kept.
+void forget();
+/// The program has started: tells what was kept.
+void tell();
+
+} // namespace startmessages
+
+} // namespace pad
