@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-#include <cmath>
 #include <utility>
 
 namespace {
@@ -28,10 +27,6 @@ void KORVA_Repainter::timerEvent(QTimerEvent*)
 void KORVA_Repainter::repaint()
 {
     m_timer.stop();
-    QRect changed = std::exchange(m_changed, {});
-    // Between whole ratios a pixel reaches a little over the edge that the toolkit rounds it to.
-    if (const double ratio = m_widget->devicePixelRatio(); ratio != std::floor(ratio))
-        changed.adjust(-1, -1, 1, 1);
-    m_widget->repaint(changed);
+    m_widget->repaint(std::exchange(m_changed, {}));
     m_sinceLast.start();
 }

@@ -490,6 +490,17 @@ int tst_Ratios::nothingIsLeftOver()
     }
     compare();
 
+    desk.setPicture(support::mosaic(QSize(200, 170)));
+    desk.manager().setCurrentTool(fixtures::Rubber);
+    for (int i = 0; i < 40; ++i) {
+        const QPoint place = desk.anyIn(desk.canvas().rect());
+        desk.press(place);
+        desk.move(place);
+        QTest::qWait(10); // its own repaint
+    }
+    compare();
+    desk.release({});
+
     desk.manager().setPenWidth(1);
     desk.manager().setCurrentTool(fixtures::AreaSelect);
     desk.canvas().setSelection(QRect(50, 40, 61, 47));
