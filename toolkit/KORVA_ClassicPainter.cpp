@@ -3,6 +3,7 @@
 #include "KORVA_Pixel.h"
 
 #include <QHash>
+#include <QVarLengthArray>
 #include <QtMath>
 
 #include <algorithm>
