@@ -10,7 +10,8 @@ class UTIL_PushButton;
 class UTIL_Veil;
 
 /// The base of every dialog: a flat card with a title, its content and the soft keys, which opens in the
-/// middle of its parent's window and never leaves the screen. While a modal dialog is open its parent's
+/// middle of its parent's window and never leaves the screen: on a low one it is lower, its content scrolls
+/// and the soft keys stay. While a modal dialog is open its parent's
 /// window is veiled.
 ///
 /// Return presses the default key, which is the first soft key unless another was made the default or has
@@ -43,6 +44,12 @@ public:
     void setVisible(bool visible) override;
 
 protected:
+    /// What the derived class puts its parts on, in the dialog's coordinates: the dialog itself, or what
+    /// scrolls above the soft keys of a standard dialog where the screen is too low for it.
+    [[nodiscard]] QWidget* content() const { return m_content; }
+    /// The area of the screen on which the dialog opens.
+    [[nodiscard]] QRect screenArea() const;
+
     /// A soft key in the lower left corner, or the right one: the first or second by its
     /// UTIL_PushButton::Flag. For standard dialogs. The dialog owns it.
     UTIL_PushButton* createSoftKey(const QString& text, int flags);
@@ -53,8 +60,11 @@ protected:
 
 private:
     [[nodiscard]] QWidget* owner() const;
+    [[nodiscard]] QWidget* anchor() const;
     void place();
+    void makeLower();
 
+    QWidget* m_content;
     QLabel* m_title;
     QPointer<UTIL_Veil> m_veil; // a child of the veiled window
 };
