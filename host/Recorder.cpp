@@ -3,6 +3,7 @@
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_PasteLabel.h>
+#include <KORVA_Pixel.h>
 
 #include <QAction>
 #include <QKeyEvent>
@@ -74,7 +75,7 @@ void Recorder::writeMouse(const QWidget& receiver, const QMouseEvent& event)
     if (event.button() != Qt::LeftButton && event.button() != Qt::NoButton)
         return; // they open a menu, whose commands are written when they are chosen
     Command command;
-    command.point = receiver.mapTo(m_editor.canvas(), event.position().toPoint());
+    command.point = receiver.mapTo(m_editor.canvas(), pixel::under(event, receiver));
     command.verb = event.type() == QEvent::MouseMove            ? Verb::Move
                    : event.type() == QEvent::MouseButtonRelease ? Verb::Release
                                                                 : Verb::Press;

@@ -2,6 +2,7 @@
 
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
+#include <KORVA_Pixel.h>
 #include <KORVA_Zoom.h>
 
 #include <QApplication>
@@ -120,7 +121,7 @@ bool StatusLine::eventFilter(QObject* watched, QEvent* event)
         return false;
     m_isOver = type != QEvent::Leave;
     if (m_isOver)
-        m_pointer = static_cast<const QMouseEvent*>(event)->position().toPoint();
+        m_pointer = pixel::under(*static_cast<const QMouseEvent*>(event), *m_editor.canvas());
     if (type != QEvent::MouseMove || !static_cast<const QMouseEvent*>(event)->buttons())
         refreshSoon();
     else if (m_sinceRefresh.hasExpired(pace)) // a timer running would cost every event of a stroke

@@ -7,10 +7,43 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 namespace {
 
 using Size = UTIL_Skin::Size;
+
+/// Draws the mark of the checked row at its end, whatever row the pointer is on.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.data(Qt::CheckStateRole).toInt() != Qt::Checked)
+            return;
+        const int width = Size::radioDiameter;
+        UTIL_Skin::paintRadio(
+            *painter,
+            option.rect.adjusted(option.rect.width() - width - Size::keyPadding, 0, -Size::keyPadding, 0),
+            true, true);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->features &= ~QStyleOptionViewItem::HasCheckIndicator;
+    }
+    [[nodiscard]] bool editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&,
+                                   const QModelIndex&) override
+    {
+        return false; // a tap chooses the row
+    }
+};
 
 } // namespace
 
@@ -24,12 +57,20 @@ UTIL_ComboBox::UTIL_ComboBox(QWidget* parent) : QComboBox(parent)
     list.setColor(QPalette::Window, UTIL_Skin::color(UTIL_Skin::Color::Surface)); // as a menu's
     view()->setPalette(list);
     view()->setFont(font());
+    setItemDelegate(new RowDelegate(this));
 }
 
 void UTIL_ComboBox::showPopup()
 {
+    emit aboutToShowPopup();
     QComboBox::showPopup();
     UTIL_PopupMenu::keepInWindow(*view()->window(), this);
+}
+
+void UTIL_ComboBox::markRow(int marked)
+{
+    for (int row = 0; row < count(); ++row)
+        setItemData(row, row == marked ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
 }
 
 void UTIL_ComboBox::keyPressEvent(QKeyEvent* event)

@@ -14,8 +14,16 @@ public:
     /// A box without entries.
     explicit UTIL_ComboBox(QWidget* parent = nullptr);
 
+    /// Marks a row in the list as the one in force, which need not be the one that the box shows; another
+    /// number marks none.
+    void markRow(int marked);
+
     /// Opens the list, moved into the window.
     void showPopup() override;
+
+signals:
+    /// The list is about to open: the time to mark a row.
+    void aboutToShowPopup();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -3,6 +3,7 @@
 #include "UTIL_Geometry.h"
 #include "UTIL_Overlay.h"
 #include "UTIL_PushButton.h"
+#include "UTIL_ScrollArea.h"
 #include "UTIL_Skin.h"
 #include "UTIL_Veil.h"
 
@@ -11,20 +12,42 @@
 #include <QPainter>
 #include <QScreen>
 
+namespace {
+
+using Size = UTIL_Skin::Size;
+
+// Title, a row and the keys.
+constexpr int smallestHeight = Size::titleHeight + Size::rowHeight + Size::keyHeight + 2 * Size::spacing;
+
+} // namespace
+
 UTIL_Dialog::UTIL_Dialog(int type, bool modal, QWidget* parent, const char* name, Qt::WindowFlags flags)
     : QDialog(parent, (flags & ~Qt::WindowType_Mask) | Qt::Dialog | Qt::FramelessWindowHint),
-      m_title(new QLabel(this))
+      m_content(this)
 {
     setObjectName(name);
     setModal(modal);
     setPalette(UTIL_Skin::palette());
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
-    if (type == StandardDialog)
+    if (type == StandardDialog) {
         setFixedSize(UTIL_Geometry::dialogSize());
+        if (screenArea().height() < height())
+            makeLower();
+    }
 
+    m_title = new QLabel(m_content);
     m_title->setGeometry(fromGlobal(UTIL_Geometry(*this).title()));
     m_title->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
     m_title->hide();
+}
+
+void UTIL_Dialog::makeLower()
+{
+    m_content = new QWidget;
+    m_content->setFixedWidth(width());
+    auto* scroll = new UTIL_ScrollArea(m_content, this);
+    setFixedHeight(std::max(smallestHeight, screenArea().height()));
+    scroll->setGeometry(0, 0, width(), fromGlobal(UTIL_Geometry(*this).firstSoftKey()).top());
 }
 
 UTIL_Dialog::~UTIL_Dialog()
@@ -102,12 +125,18 @@ QWidget* UTIL_Dialog::anchor() const
     return window && window->isVisible() ? window : QApplication::activeWindow();
 }
 
+QRect UTIL_Dialog::screenArea() const
+{
+    const QWidget* window = anchor();
+    return (window ? window->screen() : screen())->availableGeometry();
+}
+
 void UTIL_Dialog::place()
 {
+    if (m_content != this) // no further than there is something
+        m_content->setFixedHeight(m_content->childrenRect().bottom() + 1 + Size::spacing / 2);
     const QWidget* anchor = this->anchor();
-    const QScreen* onScreen = anchor ? anchor->screen() : screen();
-    const QRect bounds = onScreen->availableGeometry();
-
+    const QRect bounds = screenArea();
     QRect card(QPoint(), size());
     card.moveCenter((anchor ? anchor->geometry() : bounds).center());
     card.moveRight(std::min(card.right(), bounds.right()));

@@ -11,9 +11,10 @@ class UTIL_PushButton;
 class UTIL_Veil;
 
 /// The base of every dialog: a flat card with a title, its content and the soft keys, which opens in the
-/// middle of its parent's window and never leaves the screen. While a modal dialog is open its parent's
-/// window is veiled. Where the display lets no program place its windows, as Wayland does, the dialog is a
-/// part of its parent's window while it is open, if it fits in there, and modal all the same.
+/// middle of its parent's window and never leaves the screen: on a low one it is lower, its content scrolls
+/// and the soft keys stay. While a modal dialog is open its parent's window is veiled. Where the display lets
+/// no program place its windows, as Wayland does, the dialog is a part of its parent's window while it is
+/// open, if it fits in there, and modal all the same.
 ///
 /// Return presses the default key, which is the first soft key unless another was made the default or has
 /// the focus; Escape and closing reject.
@@ -45,6 +46,12 @@ public:
     void setVisible(bool visible) override;
 
 protected:
+    /// What the derived class puts its parts on, in the dialog's coordinates: the dialog itself, or what
+    /// scrolls above the soft keys of a standard dialog where the screen is too low for it.
+    [[nodiscard]] QWidget* content() const { return m_content; }
+    /// The area of the screen on which the dialog opens.
+    [[nodiscard]] QRect screenArea() const;
+
     /// A soft key in the lower left corner, or the right one: the first or second by its
     /// UTIL_PushButton::Flag. For standard dialogs. The dialog owns it.
     UTIL_PushButton* createSoftKey(const QString& text, int flags);
@@ -58,7 +65,9 @@ private:
     /// The window over which the dialog opens; null: there is none.
     [[nodiscard]] QWidget* anchor() const;
     void place();
+    void makeLower();
 
+    QWidget* m_content;
     QLabel* m_title;
     QPointer<UTIL_Veil> m_veil; // a child of the veiled window
     QPointer<UTIL_Overlay> m_overlay;

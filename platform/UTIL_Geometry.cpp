@@ -9,15 +9,22 @@ namespace {
 using Size = UTIL_Skin::Size;
 
 constexpr int keyWidth = (Size::dialogWidth - 2 * Size::margin - Size::spacing) / 2;
-constexpr int keyTop = Size::dialogHeight - Size::spacing - Size::keyHeight;
-constexpr int contentHeight = keyTop - Size::titleHeight - Size::spacing / 2;
-
 constexpr QRect titleRect(Size::margin, 0, Size::dialogWidth - 2 * Size::margin, Size::titleHeight);
-constexpr QRect contentRect(Size::margin, Size::titleHeight, Size::dialogWidth - 2 * Size::margin,
-                            contentHeight);
-constexpr QRect largeContentRect(0, Size::titleHeight, Size::dialogWidth, contentHeight);
-constexpr QRect firstKeyRect(Size::margin, keyTop, keyWidth, Size::keyHeight);
-constexpr QRect secondKeyRect(Size::margin + keyWidth + Size::spacing, keyTop, keyWidth, Size::keyHeight);
+
+int keyTop(const QWidget& dialog)
+{
+    return dialog.height() - Size::spacing - Size::keyHeight;
+}
+
+int contentHeight(const QWidget& dialog)
+{
+    return keyTop(dialog) - Size::titleHeight - Size::spacing / 2;
+}
+
+QRect keyRect(const QWidget& dialog, int column)
+{
+    return {Size::margin + column * (keyWidth + Size::spacing), keyTop(dialog), keyWidth, Size::keyHeight};
+}
 
 } // namespace
 
@@ -33,22 +40,23 @@ QRect UTIL_Geometry::title() const
 
 QRect UTIL_Geometry::content() const
 {
-    return global(contentRect);
+    return global(QRect(Size::margin, Size::titleHeight, Size::dialogWidth - 2 * Size::margin,
+                        contentHeight(m_dialog)));
 }
 
 QRect UTIL_Geometry::largeContent() const
 {
-    return global(largeContentRect);
+    return global(QRect(0, Size::titleHeight, Size::dialogWidth, contentHeight(m_dialog)));
 }
 
 QRect UTIL_Geometry::firstSoftKey() const
 {
-    return global(firstKeyRect);
+    return global(keyRect(m_dialog, 0));
 }
 
 QRect UTIL_Geometry::secondSoftKey() const
 {
-    return global(secondKeyRect);
+    return global(keyRect(m_dialog, 1));
 }
 
 QRect UTIL_Geometry::global(const QRect& local) const

@@ -7,7 +7,8 @@ class QWidget;
 /// Where the parts of a dialog lie. The rectangles are in global coordinates, for the dialog at its present
 /// place; UTIL_Dialog::fromGlobal() brings them into the dialog.
 ///
-/// The soft keys lie side by side along the lower edge, the first on the left.
+/// The soft keys lie side by side along the lower edge, the first on the left; what is between them and the
+/// title takes the rest of the height.
 class UTIL_Geometry
 {
 public:

@@ -1,5 +1,6 @@
 #include "UTIL_ListBox.h"
 
+#include "KORVA_Pixel.h"
 #include "UTIL_ListBoxDelegate.h"
 #include "UTIL_ListBoxItem.h"
 #include "UTIL_ScrollBar.h"
@@ -54,12 +55,12 @@ void UTIL_ListBox::setPressed(const QModelIndex& index)
 
 void UTIL_ListBox::mousePressEvent(QMouseEvent* event)
 {
-    setPressed(indexAt(event->position().toPoint()));
+    setPressed(indexAt(pixel::under(*event, *viewport())));
 }
 
 void UTIL_ListBox::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_pressed.isValid() && indexAt(event->position().toPoint()) != m_pressed)
+    if (m_pressed.isValid() && indexAt(pixel::under(*event, *viewport())) != m_pressed)
         setPressed({});
 }
 

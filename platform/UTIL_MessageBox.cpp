@@ -3,6 +3,7 @@
 #include "RES_ICON_Reader.h"
 #include "UTIL_Platform.h"
 #include "UTIL_PushButton.h"
+#include "UTIL_ScrollArea.h"
 #include "UTIL_Skin.h"
 #include "UTIL_WrapLabel.h"
 
@@ -13,9 +14,12 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
+#include <QScrollBar>
+#include <QScroller>
 #include <QTimer>
 #include <QWindow>
 
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -45,11 +49,12 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
     column->setContentsMargins(Size::margin, Size::messageMargin, Size::margin,
                                buttons.isEmpty() ? Size::messageMargin : Size::spacing);
     column->setSpacing(Size::spacing);
+    QLabel* pictureLabel = nullptr;
     if (const QPixmap picture = RES_ICON_Reader::getIcon(icon); !picture.isNull()) {
-        auto* label = new QLabel(this);
-        label->setPixmap(picture);
-        label->setAlignment(Qt::AlignCenter);
-        column->addWidget(label);
+        pictureLabel = new QLabel(this);
+        pictureLabel->setPixmap(picture);
+        pictureLabel->setAlignment(Qt::AlignCenter);
+        column->addWidget(pictureLabel);
     }
     auto* label = new UTIL_WrapLabel(text, this);
     column->addWidget(label);
@@ -65,7 +70,30 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
     const int room = Size::screenHeight - column->sizeHint().height();
     label->setMaximumLines(room / label->fontMetrics().lineSpacing());
     label->setFixedHeight(label->heightForWidth(innerWidth));
+    if (column->sizeHint().height() > screenArea().height()) {
+        if (pictureLabel)
+            pictureLabel->hide();
+        scroll(label, column);
+    }
     setFixedSize(Size::dialogWidth, column->sizeHint().height());
+}
+
+// On a screen too low for the text: the keys stay, the text scrolls.
+void UTIL_MessageBox::scroll(UTIL_WrapLabel* label, QVBoxLayout* column)
+{
+    const int keys = column->sizeHint().height() - label->height();
+    const int room = std::max(label->fontMetrics().lineSpacing(), screenArea().height() - keys);
+    if (room >= label->height())
+        return;
+    const int index = column->indexOf(label);
+    const int width = innerWidth - Size::spacing;
+    label->setMaximumLines(std::numeric_limits<int>::max());
+    label->setFixedSize(width, label->heightForWidth(width));
+    auto* area = new UTIL_ScrollArea(label, this);
+    area->setFixedSize(innerWidth, room);
+    column->insertWidget(index, area);
+    QScroller::grabGesture(area->viewport(), QScroller::LeftMouseButtonGesture);
+    m_scrollBar = area->verticalScrollBar();
 }
 
 QLayout* UTIL_MessageBox::createButtons(const QStringList& texts)
@@ -139,7 +167,10 @@ void UTIL_MessageBox::keyPressEvent(QKeyEvent* event)
         m_key.reset(event->clone());
         return;
     }
-    UTIL_Dialog::keyPressEvent(event);
+    if (m_scrollBar && (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown))
+        QCoreApplication::sendEvent(m_scrollBar, event);
+    else
+        UTIL_Dialog::keyPressEvent(event);
 }
 
 int UTIL_MessageBox::exec()

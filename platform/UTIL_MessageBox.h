@@ -11,6 +11,9 @@
 #include <optional>
 #include <vector>
 
+class QVBoxLayout;
+class UTIL_WrapLabel;
+
 /// A message with a picture above its text, and buttons below: a question that waits for one of its
 /// buttons, or a timed message that closes by itself.
 ///
@@ -66,6 +69,7 @@ private:
     void keep(const QMouseEvent& event);
     void passOn();
     [[nodiscard]] QLayout* createButtons(const QStringList& texts);
+    void scroll(UTIL_WrapLabel* label, QVBoxLayout* column);
     void finish(int answer);
 
     QString m_iconName;
@@ -74,5 +78,6 @@ private:
     QPointer<QWindow> m_elsewhere;    // where a pointer is down beside the box
     std::vector<Kept> m_kept;         // what it has done there since
     std::unique_ptr<QKeyEvent> m_key; // nor this one
+    QWidget* m_scrollBar = nullptr;   // where the text does not fit the screen
     int m_cancel = -1;                // the index of the button named "Cancel"
 };

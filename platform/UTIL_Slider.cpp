@@ -1,5 +1,6 @@
 #include "UTIL_Slider.h"
 
+#include "KORVA_Pixel.h"
 #include "UTIL_FocusRing.h"
 #include "UTIL_Skin.h"
 
@@ -100,7 +101,7 @@ void UTIL_Slider::mousePressEvent(QMouseEvent* event)
     }
     const QRect handle = handleRect();
     const int start = orientation() == Qt::Horizontal ? handle.left() : height() - 1 - handle.bottom();
-    const int offset = along(event->position().toPoint()) - start;
+    const int offset = along(pixel::under(*event, *this)) - start;
     m_grip = offset >= 0 && offset < handleLength() ? offset : handleLength() / 2;
     setSliderDown(true);
     mouseMoveEvent(event);
@@ -111,7 +112,7 @@ void UTIL_Slider::mouseMoveEvent(QMouseEvent* event)
 {
     if (!isSliderDown())
         return;
-    const int start = along(event->position().toPoint()) - m_grip;
+    const int start = along(pixel::under(*event, *this)) - m_grip;
     setSliderPosition(QStyle::sliderValueFromPosition(minimum(), maximum(), start, travel()));
 }
 
@@ -136,7 +137,7 @@ bool UTIL_Slider::eventFilter(QObject* watched, QEvent* event)
         return false;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        m_reached = isReached(static_cast<QMouseEvent*>(event)->position().toPoint());
+        m_reached = isReached(pixel::under(*static_cast<QMouseEvent*>(event), *parentWidget()));
         break;
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
@@ -148,8 +149,8 @@ bool UTIL_Slider::eventFilter(QObject* watched, QEvent* event)
         return false;
 
     auto* mouse = static_cast<QMouseEvent*>(event);
-    QMouseEvent moved(mouse->type(), mouse->position() - pos(), mouse->globalPosition(), mouse->button(),
-                      mouse->buttons(), mouse->modifiers());
+    QMouseEvent moved(mouse->type(), pixel::pointer(*mouse, *parentWidget()) - pos(),
+                      mouse->globalPosition(), mouse->button(), mouse->buttons(), mouse->modifiers());
     if (event->type() == QEvent::MouseButtonPress)
         setFocus(Qt::MouseFocusReason);
     QSlider::event(&moved);

@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Pixel.h"
 
 #include <QAbstractEventDispatcher>
 #include <QMouseEvent>
@@ -50,14 +51,14 @@ void KORVA_AreaSelect::mousePressEvent(QMouseEvent* event)
     if (isActive() && event->button() == Qt::LeftButton && !m_selecting) {
         disableSelection();
         m_selecting = true;
-        m_start = m_end = event->position().toPoint();
+        m_start = m_end = pixel::at(event->position());
     }
     m_pressed = true;
 }
 
 void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint to = event->position().toPoint();
+    const QPoint to = pixel::at(event->position());
     if (!m_pressed || !isActive() || !m_selecting || to == m_end)
         return;
     const QRect touched = toggleFrame(m_end) | toggleFrame(to);
@@ -70,7 +71,7 @@ void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
     const bool pressed = std::exchange(m_pressed, false);
     if (!pressed || !isActive() || event->button() != Qt::LeftButton)
         return;
-    const QPoint corner = limited(event->position().toPoint());
+    const QPoint corner = limited(pixel::at(event->position()));
     if (corner == m_start)
         return;
     toggleFrame(m_end);

@@ -5,6 +5,7 @@
 #include "KORVA_EditCanvas.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_PictureSave.h"
+#include "KORVA_Pixel.h"
 #include "KORVA_Repainter.h"
 #include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
@@ -117,49 +118,50 @@ int KORVA_Canvas::getCurrentToolID() const
 
 namespace {
 
-QMouseEvent inCoordinatesOf(const QWidget* child, const QMouseEvent* event)
+QMouseEvent movedTo(const QPointF& position, const QMouseEvent& event)
 {
-    return {event->type(),           event->position() - child->pos(),
-            event->globalPosition(), event->button(),
-            event->buttons(),        event->modifiers()};
+    return {event.type(),   position,        event.scenePosition(), event.globalPosition(),
+            event.button(), event.buttons(), event.modifiers(),     event.pointingDevice()};
 }
 
 } // namespace
 
+template <typename Handler, typename LabelHandler>
+void KORVA_Canvas::handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel)
+{
+    const QPointF pointer = pixel::pointer(*event, *this);
+    if (ptInPasteLabel(pixel::at(pointer))) {
+        QMouseEvent local = movedTo(pointer - m_pasteLabel->pos(), *event);
+        (m_pasteLabel->*toLabel)(&local);
+        return;
+    }
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
+        mergePastePixmap();
+    if (m_tool) {
+        QMouseEvent exact = movedTo(pointer, *event);
+        exact.setTimestamp(event->timestamp());
+        (m_tool->*toTool)(&exact);
+        event->setAccepted(exact.isAccepted());
+    }
+}
+
 void KORVA_Canvas::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton) {
-        m_menu->popup(mapToGlobal(event->position().toPoint()), m_menu->actions().constFirst());
+        m_menu->popup(mapToGlobal(pixel::under(*event, *this)), m_menu->actions().constFirst());
     } else if (event->button() == Qt::LeftButton) {
-        if (ptInPasteLabel(event->position().toPoint())) {
-            QMouseEvent local = inCoordinatesOf(m_pasteLabel, event);
-            m_pasteLabel->mousePressEvent(&local);
-            return;
-        }
-        mergePastePixmap();
-        if (m_tool)
-            m_tool->mousePressEvent(event);
+        handOn(event, &KORVA_Tool::mousePressEvent, &KORVA_PasteLabel::mousePressEvent);
     }
 }
 
 void KORVA_Canvas::mouseMoveEvent(QMouseEvent* event)
 {
-    if (ptInPasteLabel(event->position().toPoint())) {
-        QMouseEvent local = inCoordinatesOf(m_pasteLabel, event);
-        m_pasteLabel->mouseMoveEvent(&local);
-    } else if (m_tool) {
-        m_tool->mouseMoveEvent(event);
-    }
+    handOn(event, &KORVA_Tool::mouseMoveEvent, &KORVA_PasteLabel::mouseMoveEvent);
 }
 
 void KORVA_Canvas::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (ptInPasteLabel(event->position().toPoint())) {
-        QMouseEvent local = inCoordinatesOf(m_pasteLabel, event);
-        m_pasteLabel->mouseReleaseEvent(&local);
-    } else if (m_tool) {
-        m_tool->mouseReleaseEvent(event);
-    }
+    handOn(event, &KORVA_Tool::mouseReleaseEvent, &KORVA_PasteLabel::mouseReleaseEvent);
 }
 
 void KORVA_Canvas::keyPressEvent(QKeyEvent* event)
@@ -221,9 +223,9 @@ void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
         m_menu->popup(mapToGlobal(visibleRegion().boundingRect().center()));
 }
 
-void KORVA_Canvas::paintEvent(QPaintEvent*)
+void KORVA_Canvas::paintEvent(QPaintEvent* event)
 {
-    classic::bitBlt(this, 0, 0, *m_zoomed);
+    classic::bitBlt(this, 0, 0, *m_zoomed, event->rect());
 }
 
 KORVA_ScrollView* KORVA_Canvas::scrollView() const

@@ -239,6 +239,8 @@ private:
     KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize, QWidget* parent,
                  const char* name);
     void createMenu();
+    template <typename Handler, typename LabelHandler>
+    void handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel);
     void connectSignals(KORVA_EditCanvas* editor);
 
     void paintZoomed();

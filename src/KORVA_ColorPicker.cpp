@@ -6,7 +6,6 @@
 #include "UTIL_Slider.h"
 
 #include <QLabel>
-#include <QPainter>
 
 #include <array>
 
@@ -113,7 +112,12 @@ QColor KORVA_ColorPicker::getColor(KORVA_COLORTYPE colorType, const QColor& colo
 
 void KORVA_ColorPicker::createSwatch()
 {
-    m_colorLabel = new QLabel(this);
+    constexpr int edge = UTIL_Skin::Size::hairline;
+    auto* frame = new QFrame(content());
+    frame->setGeometry(swatchRect.adjusted(-edge, -edge, edge, edge));
+    frame->setPalette(UTIL_Skin::color(UTIL_Skin::Color::Edge));
+    frame->setAutoFillBackground(true);
+    m_colorLabel = new QLabel(content());
     m_colorLabel->setGeometry(swatchRect);
     fillColorLabel(m_color);
 }
@@ -131,7 +135,7 @@ void KORVA_ColorPicker::createSliders()
         const ChannelRow& channel = channels[i];
         const bool shown = int(i) < type.shown;
 
-        auto* caption = new QLabel(QString::fromLatin1(channel.caption), this);
+        auto* caption = new QLabel(QString::fromLatin1(channel.caption), content());
         caption->setGeometry(QRect({captionLeft, channel.captionTop}, captionSize));
         caption->setFont(UTIL_Skin::font(UTIL_Skin::Font::Key));
         caption->setAlignment(Qt::AlignLeft | type.caption);
@@ -139,7 +143,7 @@ void KORVA_ColorPicker::createSliders()
 
         const QPixmap handle = RES_ICON_Reader::getIcon(QString::fromLatin1(channel.handle));
         auto* slider = new UTIL_Slider(handle, QPixmap(), groove, QPixmap(), Qt::Horizontal, 0,
-                                       type.maximum, 1, start[i], this);
+                                       type.maximum, 1, start[i], content());
         slider->setGeometry(sliderLeft, channel.sliderTop, sliderWidth, type.sliderHeight);
         slider->setVisible(shown);
         slider->setAccessibleName(tr(channel.accessibleName.text, channel.accessibleName.comment));
@@ -164,14 +168,6 @@ void KORVA_ColorPicker::fillColorLabel(const QColor& color)
     swatch.fill(color);
     m_colorLabel->setPixmap(swatch);
     m_colorLabel->setAccessibleName(color.name());
-}
-
-void KORVA_ColorPicker::paintEvent(QPaintEvent* event)
-{
-    UTIL_Dialog::paintEvent(event);
-    constexpr int edge = UTIL_Skin::Size::hairline;
-    QPainter(this).fillRect(swatchRect.adjusted(-edge, -edge, edge, edge),
-                            UTIL_Skin::color(UTIL_Skin::Color::Edge));
 }
 
 void KORVA_ColorPicker::changeColor(const QColor& color)

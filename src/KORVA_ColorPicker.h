@@ -34,9 +34,6 @@ public:
     /// Shows a colour in the swatch; color() stays.
     void fillColorLabel(const QColor& color);
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private slots:
     void slotRSliderMoved(int position);
     void slotGSliderMoved(int position);

@@ -1,6 +1,7 @@
 #include "KORVA_Drag.h"
 
 #include "KORVA_Canvas.h"
+#include "KORVA_Pixel.h"
 #include "KORVA_ScrollView.h"
 
 #include <QMouseEvent>
@@ -14,13 +15,13 @@ void KORVA_Drag::activating()
 
 void KORVA_Drag::mousePressEvent(QMouseEvent* event)
 {
-    m_press = m_last = event->position().toPoint();
+    m_press = m_last = pixel::at(event->position());
 }
 
 void KORVA_Drag::mouseMoveEvent(QMouseEvent* event)
 {
     constexpr int slowness = 10;
-    const QPoint p = event->position().toPoint();
+    const QPoint p = pixel::at(event->position());
     if (!isActive() || p == m_last)
         return;
     if (KORVA_ScrollView* view = canvas()->scrollView()) {

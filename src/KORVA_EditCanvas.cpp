@@ -20,6 +20,7 @@
 
 #include <QCursor>
 
+#include <algorithm>
 #include <cstdio>
 #include <string_view>
 
@@ -49,7 +50,7 @@ constexpr struct
 };
 constexpr int fitToPageIndex = std::size(zoomTable);
 constexpr QSize smallPicture(640, 480); // what is narrower and lower may be enlarged
-constexpr QSize page(222, 186);
+constexpr QSize smallestPage(222, 186);
 
 constexpr struct
 {
@@ -61,6 +62,12 @@ constexpr struct
     {8, KORVA_COLOR_8BIT},   {4, KORVA_COLOR_4BIT},
 };
 constexpr int otherCanvasDepth = 16;
+
+// What an editor has beyond the size that all is laid out for; nothing in one that is smaller.
+QSize beyond(const QSize& editor)
+{
+    return (editor - editorSize).expandedTo(QSize(0, 0));
+}
 
 QPushButton* createButton(QWidget* parent, const char* name, const QRect& place, const QString& tip)
 {
@@ -132,7 +139,10 @@ void KORVA_EditCanvas::createControls()
     loadToolOptions(tables::Pencil);
     showIcon(m_optionButton, tables::options[0].icon);
 
-    m_zoomBox = new UTIL_ComboBox(this);
+    auto* zoomBox = new UTIL_ComboBox(this);
+    m_zoomBox = zoomBox;
+    connect(zoomBox, &UTIL_ComboBox::aboutToShowPopup, this,
+            [this, zoomBox] { zoomBox->markRow(zoomRow()); });
     m_zoomBox->setObjectName("zoomBox");
     m_zoomBox->setGeometry(zoomBoxPlace);
     m_zoomBox->setToolTip(tr("Zoom", "tool bar"));
@@ -164,6 +174,25 @@ void KORVA_EditCanvas::connectControls()
 KORVA_Canvas* KORVA_EditCanvas::canvas() const
 {
     return m_mainView->canvas();
+}
+
+void KORVA_EditCanvas::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_mainView->setGeometry(QRect(mainViewPlace.topLeft(), mainViewPlace.size() + beyond(size())));
+    // What is in hand would be merged by another zoom, and a typed text lose its place.
+    const KORVA_Tool* tool = canvas()->getCurrentTool();
+    if (canvas()->pasteLabel()->isHidden() && !(tool && tool->takesText()))
+        fitAgain();
+}
+
+void KORVA_EditCanvas::fitAgain()
+{
+    const bool isChosen = m_zoomBox->currentIndex() == fitToPageIndex && zoomRow() == fitToPageIndex;
+    if (!isChosen || fittingRate() == m_fittedRate)
+        return;
+    m_fittedRate = fittingRate();
+    setZoom(m_fittedRate);
 }
 
 // --- Editing
@@ -229,6 +258,7 @@ void KORVA_EditCanvas::setPixmap(QPixmap* picture)
     emit canUndo(false);
     emit canRedo(false);
     canvas()->setPixmap(picture);
+    fitAgain();
 }
 
 int KORVA_EditCanvas::getDepth() const
@@ -409,6 +439,7 @@ void KORVA_EditCanvas::slotSelChangeToolOptions(int menuId)
 void KORVA_EditCanvas::slotSelZoomRate(int index)
 {
     const int rate = zoomRate(index);
+    m_fittedRate = index == fitToPageIndex ? rate : 0;
     commitText();
     setZoom(rate);
 }
@@ -416,12 +447,32 @@ void KORVA_EditCanvas::slotSelZoomRate(int index)
 int KORVA_EditCanvas::zoomRate(int index)
 {
     const QSize picture = canvas()->pixmap()->size();
-    if (index == fitToPageIndex && !picture.isEmpty())
-        return qMax(1, qMin(100 * page.width() / picture.width(), 100 * page.height() / picture.height()));
-    if (index < 0 || index >= fitToPageIndex)
+    if (index == fitToPageIndex)
+        return fittingRate();
+    if (index < 0 || index > fitToPageIndex)
         return realSize;
     const bool isSmall = picture.width() < smallPicture.width() && picture.height() < smallPicture.height();
     return zoomTable[index].smallPicturesOnly && !isSmall ? realSize : zoomTable[index].rate;
+}
+
+int KORVA_EditCanvas::fittingRate()
+{
+    const QSize picture = canvas()->pixmap()->size();
+    if (picture.isEmpty())
+        return realSize;
+    const QSize page = smallestPage + beyond(size());
+    return qMax(1, qMin(100 * page.width() / picture.width(), 100 * page.height() / picture.height()));
+}
+
+// The row of the rate that is in force; -1 for one that only a host sets.
+int KORVA_EditCanvas::zoomRow() const
+{
+    const int rate = canvas()->zoom();
+    if (rate == m_fittedRate)
+        return fitToPageIndex;
+    const auto* row = std::find_if(std::begin(zoomTable), std::end(zoomTable),
+                                   [&](const auto& r) { return r.rate == rate; });
+    return row == std::end(zoomTable) ? -1 : int(row - std::begin(zoomTable));
 }
 
 void KORVA_EditCanvas::updateRubberCursor()

@@ -18,8 +18,8 @@ class QMenu;
 class QPushButton;
 
 /// The one widget that a host embeds to have a picture edited: tool, option, zoom and colour controls above
-/// the canvas, 240 × 225 pixels. The host wires its own commands to the operations and slots and enables
-/// them from the signals. GUI thread only.
+/// the canvas, 240 × 225 pixels; what it is given beyond that goes to the canvas's view. The host wires its
+/// own commands to the operations and slots and enables them from the signals. GUI thread only.
 ///
 /// What asks or tells the user something runs UTIL_Platform's boxes and dialogs and returns after them.
 /// `action` and `flag` mean: 0 open, 1 choose a canvas, 2 save, 3 insert a stamp, 4 create.
@@ -79,7 +79,8 @@ public:
     /// modification.
     QPixmap* pixmap();
     /// Emits canUndo(false) and canRedo(false), then takes a copy of the picture in as
-    /// KORVA_Canvas::setPixmap() does. File name and modified flag stay.
+    /// KORVA_Canvas::setPixmap() does. File name and modified flag stay. Where "Fit to page" is chosen the
+    /// picture is fitted, too: one of another size emits sizeChanged() once more.
     void setPixmap(QPixmap* picture);
     /// See KORVA_Canvas::getDepth().
     [[nodiscard]] int getDepth() const;
@@ -206,7 +207,8 @@ public slots:
     /// of the tool.
     void slotSelChangeToolOptions(int menuId);
     /// Commits typed text and zooms: 0 50 %, 1 100 %, 2 150 %, 3 200 %, 4 what fits the picture into 222 ×
-    /// 186 pixels; 100 % for other numbers, and for 2 and 3 where the picture is not below 640 × 480.
+    /// 186 pixels and what the editor has beyond 240 × 225; 100 % for other numbers, and for 2 and 3 where
+    /// the picture is not below 640 × 480.
     void slotSelZoomRate(int index);
     /// Lets the user pick the drawing colour.
     void slotColor();
@@ -246,6 +248,11 @@ signals:
     /// The stylus was lifted from the canvas while the text tool is current: a host may show its keyboard.
     void TextToolClicked();
 
+protected:
+    /// Gives the main view what the editor has beyond 240 × 225 pixels and fits the picture again where
+    /// "Fit to page" is chosen, unless a piece floats or a text is typed.
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     struct Remembered
     {
@@ -259,6 +266,9 @@ private:
     void selectTool(int tool);
     [[nodiscard]] int& remembered(int tool);
     [[nodiscard]] int zoomRate(int index);
+    [[nodiscard]] int fittingRate();
+    [[nodiscard]] int zoomRow() const;
+    void fitAgain();
     void updateRubberCursor();
 
     QComboBox* m_zoomBox;
@@ -270,7 +280,8 @@ private:
     KORVA_MainView* m_mainView;
     std::unique_ptr<KORVA_Manager> m_manager;
     QWidget* m_ownerWindow;
-    int m_tool = 0; ///< the identifier in the manager; 7 while select is in hand mode
+    int m_fittedRate = 0; ///< in percent, by "Fit to page"; 0 after another choice
+    int m_tool = 0;       ///< the identifier in the manager; 7 while select is in hand mode
     QColor m_color{255, 0, 0};
     size_t m_saved = 0; ///< a hash of the drawing that counts as saved
     KORVA_COLORTYPE m_colorType;

@@ -43,7 +43,8 @@ KORVA_ImageView_Dialog::KORVA_ImageView_Dialog(const QImage& image)
 void KORVA_ImageView_Dialog::init(const QImage& image)
 {
     const bool ok = isPicSizeNotOver(m_fileName, nullptr);
-    m_photoDisplay = ok ? new IMV_UI_PhotoDisplay(image, this) : new IMV_UI_PhotoDisplay(QString(), this);
+    m_photoDisplay =
+        ok ? new IMV_UI_PhotoDisplay(image, content()) : new IMV_UI_PhotoDisplay(QString(), content());
     m_photoDisplay->setGeometry(displayRect);
 
     m_cancelButton = createSoftKey(tr("Cancel", "4.4.2.12;SOFTKEY_2BUTTON"), 1);

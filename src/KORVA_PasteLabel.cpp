@@ -1,6 +1,7 @@
 #include "KORVA_PasteLabel.h"
 
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Pixel.h"
 #include "UTIL_Platform.h"
 
 #include <QImage>
@@ -95,9 +96,12 @@ void KORVA_PasteLabel::slotPaste()
 
 void KORVA_PasteLabel::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton) {
+    const QPoint p = pixel::under(*event, *this);
+    if (rect().contains(event->position().toPoint()) && !rect().contains(p)) {
+        event->ignore(); // between two pixels, and beside the piece: the canvas's
+    } else if (event->button() == Qt::LeftButton) {
         m_pressed = true;
-        m_pressPos = m_lastPos = event->position().toPoint();
+        m_pressPos = m_lastPos = p;
     } else if (event->button() == Qt::RightButton) {
         m_menu->popup(event->globalPosition().toPoint());
     }
@@ -105,7 +109,7 @@ void KORVA_PasteLabel::mousePressEvent(QMouseEvent* event)
 
 void KORVA_PasteLabel::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint p = event->position().toPoint();
+    const QPoint p = pixel::under(*event, *this);
     m_lastPos = p;
     if (!m_pressed)
         hover(p);
@@ -121,7 +125,7 @@ void KORVA_PasteLabel::mouseReleaseEvent(QMouseEvent* event)
     setCursor(Qt::CrossCursor);
 
     if (m_zone == TopRight)
-        rotate(event->position().toPoint().y() > m_pressPos.y() ? 90 : -90);
+        rotate(pixel::under(*event, *this).y() > m_pressPos.y() ? 90 : -90);
     for (const Stretch& rule : Stretch::table) {
         if (rule.zone == m_zone)
             stretch(rule);
@@ -205,7 +209,7 @@ void KORVA_PasteLabel::paintEvent(QPaintEvent* event)
     QLabel::paintEvent(event);
 
     KORVA_ClassicPainter painter(this);
-    painter.drawPixmap(0, 0, m_zoomPixmap);
+    painter.drawPixmap(0, 0, m_zoomPixmap, event->rect());
 
     painter.setRasterOp(KORVA_ClassicPainter::NotROP);
     painter.setPen(QPen(Qt::black, 1, Qt::DotLine));

@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Pixel.h"
 
 #include <QMouseEvent>
 
@@ -19,14 +20,14 @@ void KORVA_Pen::mousePressEvent(QMouseEvent* event)
         return;
     beginChange();
     setButton(event->button());
-    m_last = event->position().toPoint();
+    m_last = pixel::at(event->position());
     drawTo(m_last);
     m_drawing = true;
 }
 
 void KORVA_Pen::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint to = event->position().toPoint();
+    const QPoint to = pixel::at(event->position());
     if (isActive() && m_drawing && to != m_last)
         drawTo(to);
 }

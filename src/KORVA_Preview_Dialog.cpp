@@ -13,7 +13,7 @@ constexpr QRect thumbnailRect(10, 14, 204, 191);
 
 KORVA_Preview_Dialog::KORVA_Preview_Dialog(const QString& file) : UTIL_Dialog(StandardDialog, false)
 {
-    auto* thumbnail = new IMV_UI_IconViewItem(QFileInfo(file), this);
+    auto* thumbnail = new IMV_UI_IconViewItem(QFileInfo(file), content());
     thumbnail->setGeometry(thumbnailRect);
     // The keys lie the other way round than in the viewer; users of this dialog know them so.
     connect(createSoftKey(tr("Cancel", "4.4.2.12;SOFTKEY_2BUTTON"), 10), &QPushButton::clicked, this,

@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Pixel.h"
 
 #include <QMouseEvent>
 
@@ -25,7 +26,7 @@ void KORVA_Rubber::mouseMoveEvent(QMouseEvent* event)
 {
     if (!canvas())
         return;
-    const QPoint p = event->position().toPoint();
+    const QPoint p = pixel::at(event->position());
     erase(zoom().toPicture(p), p);
 }
 
@@ -34,7 +35,7 @@ void KORVA_Rubber::mouseReleaseEvent(QMouseEvent* event)
     if (!isActive() || event->button() != button())
         return;
     canvas()->markModified();
-    const QPoint p = zoom().toPicture(event->position().toPoint());
+    const QPoint p = zoom().toPicture(pixel::at(event->position()));
     erase(p, p); // kept: the last square lies at the picture's place on the screen, too
 }
 

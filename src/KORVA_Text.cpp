@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Pixel.h"
 #include "UTIL_Platform.h"
 
 #include <QApplication>
@@ -171,12 +172,12 @@ void KORVA_Text::mousePressEvent(QMouseEvent* event)
         m_started = false;
         m_keys.clear();
     }
-    m_cursor = event->position().toPoint();
+    m_cursor = pixel::at(event->position());
 }
 
 void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
 {
-    const QPoint p = event->position().toPoint();
+    const QPoint p = pixel::at(event->position());
     const QPoint moved = p - m_cursor;
     if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius) {
         m_started = true;

@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Pixel.h"
 
 #include <QMouseEvent>
 
@@ -24,14 +25,14 @@ void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
     if (!isActive() || m_state == Dragging)
         return;
     m_state = Dragging;
-    m_start = m_end = event->position().toPoint();
+    m_start = m_end = pixel::at(event->position());
     setButton(event->button());
     m_shownPen = screenPen();
 }
 
 void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint to = event->position().toPoint();
+    const QPoint to = pixel::at(event->position());
     if (!isActive() || m_state == Idle || to == m_end)
         return;
     QRect touched;
@@ -56,7 +57,7 @@ void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
     togglePreview();
     m_state = Idle;
 
-    const QPoint to = commitPoint(m_end, event->position().toPoint());
+    const QPoint to = commitPoint(m_end, pixel::at(event->position()));
     paintShape(canvas()->zoomedPixmap(), screenPen(), m_start, to);
     paintShape(picture, picturePen(), zoom().toPicture(m_start), zoom().toPicture(to));
     canvas()->refresh();

@@ -1,9 +1,13 @@
 #include "KORVA_ClassicPainter.h"
 
+#include "KORVA_Pixel.h"
+
 #include <QHash>
+#include <QVarLengthArray>
 #include <QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -44,6 +48,24 @@ QList<QRect> alongTheLongerSide(const QRect& box)
     for (QRect part(box.topLeft(), size); part.intersects(box); part.translate(step))
         parts.append(part & box);
     return parts;
+}
+
+bool isWhole(double ratio)
+{
+    return qFuzzyCompare(ratio, std::round(ratio));
+}
+
+bool isEnlarged(const QPainter& painter)
+{
+    return painter.worldTransform().isIdentity() && painter.deviceTransform().isScaling();
+}
+
+// The screen's pixels whose corners lie in the rectangle: of two beside each other none is in both.
+QRect onScreen(const QRect& rect, const QTransform& toScreen)
+{
+    const QRectF mapped = toScreen.mapRect(QRectF(rect));
+    const QPoint first = -pixel::at(-mapped.topLeft());
+    return {first, -pixel::at(-mapped.bottomRight()) - QPoint(1, 1)};
 }
 
 void mirrorAboutAnchor(int& origin, int& length)
@@ -142,7 +164,11 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
     const QRegion bars = (QRegion(outer) - hole) & targetRect();
     if (m_painter.pen().style() > Qt::SolidLine) {
         const double centre = penCentre(width);
-        drawInParts(bars, [&] { m_painter.drawRect(QRectF(x + centre, y + centre, w - 1, h - 1)); });
+        const QRectF outline(x + centre, y + centre, w - 1, h - 1);
+        if (m_op == NotROP && isEnlarged(m_painter))
+            invertDotted(outer, bars, outline);
+        else
+            drawInParts(bars, [&] { m_painter.drawRect(outline); });
         return;
     }
     // Bars that share no pixel: today's own outline would invert the pixels of a narrow frame twice and let
@@ -199,10 +225,67 @@ void KORVA_ClassicPainter::fillRect(const QRect& rect, const QColor& color)
     touch(rect);
 }
 
-void KORVA_ClassicPainter::drawPixmap(int x, int y, const QPixmap& pixmap)
+void KORVA_ClassicPainter::drawPixmap(int x, int y, const QPixmap& pixmap, const QRect& exposed)
 {
-    m_painter.drawPixmap(x, y, pixmap);
-    touch(QRect(QPoint(x, y), pixmap.size()));
+    const QRect place(QPoint(x, y), pixmap.size());
+    touch(place);
+    const QTransform toScreen = m_painter.deviceTransform();
+    if (isEnlarged(m_painter) && !isWhole(toScreen.m11())) {
+        const QRect shown = exposed.isNull() ? place : exposed & place;
+        drawPixelByPixel(place.topLeft(), pixmap.toImage(),
+                         toScreen.mapRect(QRectF(shown)).toAlignedRect());
+    } else {
+        m_painter.drawPixmap(x, y, pixmap);
+    }
+}
+
+// The toolkit has its own idea of which pixel lies where at a ratio between two whole numbers, and it
+// depends on the rectangle that is painted.
+void KORVA_ClassicPainter::drawPixelByPixel(QPoint at, const QImage& image, const QRect& onScreen)
+{
+    if (image.isNull() || onScreen.isEmpty())
+        return;
+    const QTransform fromScreen = m_painter.deviceTransform().inverted();
+    const QImage source =
+        image.depth() == 32 ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const auto pixelOf = [&](int x, int y) {
+        const QPoint p = pixel::at(fromScreen.map(QPointF(x, y))) - at;
+        return QPoint(qBound(0, p.x(), source.width() - 1), qBound(0, p.y(), source.height() - 1));
+    };
+    QVarLengthArray<int, 2048> columns(onScreen.width());
+    for (int x = 0; x < onScreen.width(); ++x)
+        columns[x] = pixelOf(onScreen.left() + x, onScreen.top()).x();
+
+    QImage shown(onScreen.size(), source.format());
+    for (int y = 0; y < onScreen.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(
+            source.constScanLine(pixelOf(onScreen.left(), onScreen.top() + y).y()));
+        auto* to = reinterpret_cast<QRgb*>(shown.scanLine(y));
+        for (const int column : columns)
+            *to++ = from[column];
+    }
+    m_painter.setWorldTransform(fromScreen);
+    m_painter.drawImage(onScreen.topLeft(), shown);
+    m_painter.setWorldTransform({});
+}
+
+// The dots are counted in pixels of ratio 1, so that there are as many and no half ones.
+void KORVA_ClassicPainter::invertDotted(const QRect& box, const QRegion& bars, const QRectF& outline)
+{
+    QImage mask(box.size(), QImage::Format_RGB32);
+    mask.fill(Qt::black);
+    {
+        QPainter dots(&mask);
+        dots.translate(-box.topLeft());
+        QPen pen = m_painter.pen();
+        pen.setColor(Qt::white);
+        dots.setPen(pen);
+        dots.drawRect(outline);
+    }
+    m_painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+    for (const QRect& bar : bars)
+        drawPixelByPixel(box.topLeft(), mask, onScreen(bar, m_painter.deviceTransform()));
+    setRasterOp(NotROP);
 }
 
 QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString& text)
@@ -278,9 +361,9 @@ size_t hash(const QImage& image)
                      qHashMulti(0, image.width(), image.height()));
 }
 
-void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source)
+void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source, const QRect& exposed)
 {
-    KORVA_ClassicPainter(target).drawPixmap(x, y, source);
+    KORVA_ClassicPainter(target).drawPixmap(x, y, source, exposed);
 }
 
 } // namespace classic

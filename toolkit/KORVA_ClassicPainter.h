@@ -7,7 +7,8 @@
 ///
 /// It is opened on a picture or a widget for as long as it lives; on a null picture it paints nothing. Only
 /// one may be open on a picture at a time. Nothing is antialiased. Coordinates are pixels of the target,
-/// unless a matrix maps them; a pen's width is always pixels of the target, whatever the matrix.
+/// unless a matrix maps them; a pen's width is always pixels of the target, whatever the matrix. A widget's
+/// pixel is the one of pixel::at(), however large the device pixel ratio makes it.
 class KORVA_ClassicPainter
 {
 public:
@@ -35,8 +36,9 @@ public:
     /// than one pixel grows on all sides.
     void drawEllipse(int x, int y, int w, int h);
     void fillRect(const QRect& rect, const QColor& color);
-    /// The whole picture with its top left at (x, y); transparent pixels leave the target alone.
-    void drawPixmap(int x, int y, const QPixmap& pixmap);
+    /// The whole picture with its top left at (x, y); transparent pixels leave the target alone. Of a
+    /// widget's no more than `exposed` need be painted.
+    void drawPixmap(int x, int y, const QPixmap& pixmap, const QRect& exposed = {});
     /// `flags` are Qt's text flags; the box actually used is returned, in target coordinates.
     QRect drawText(const QRect& box, int flags, const QString& text);
 
@@ -50,6 +52,8 @@ private:
     /// Paints a shape that lies within `area`; where it inverts, one part of that after the other.
     template <typename Draw>
     void drawInParts(const QRegion& area, const Draw& drawAll);
+    void drawPixelByPixel(QPoint at, const QImage& image, const QRect& onScreen);
+    void invertDotted(const QRect& box, const QRegion& bars, const QRectF& outline);
     void invertText(const QRect& area, const QRect& box, int flags, const QString& text);
 
     QPixmap m_nothing; ///< stands in for a null target, on which Qt refuses to open a painter
@@ -74,7 +78,7 @@ namespace classic {
 [[nodiscard]] size_t hash(const QImage& image);
 
 /// Copies a whole picture into another or onto a widget at (x, y); what falls outside is left away, masks
-/// are respected.
-void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source);
+/// are respected. Of a widget no more than `exposed` need be painted.
+void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source, const QRect& exposed = {});
 
 } // namespace classic

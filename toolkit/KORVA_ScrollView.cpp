@@ -1,5 +1,10 @@
 #include "KORVA_ScrollView.h"
 
+#include "KORVA_Pixel.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 KORVA_ScrollView::KORVA_ScrollView(QWidget* parent) : QAbstractScrollArea(parent)
@@ -54,6 +59,40 @@ void KORVA_ScrollView::resizeEvent(QResizeEvent* event)
 void KORVA_ScrollView::scrollContentsBy(int, int)
 {
     placeChild();
+}
+
+bool KORVA_ScrollView::viewportEvent(QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    const bool isPress = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (!m_isHanding && (isPress || type == QEvent::MouseMove || type == QEvent::MouseButtonRelease)) {
+        const auto& mouse = *static_cast<QMouseEvent*>(event);
+        if (isPress && mouse.buttons() == mouse.button())
+            m_childHasPress = isRoundedAway(mouse);
+        if (m_childHasPress) {
+            handToChild(mouse);
+            m_childHasPress = mouse.buttons() != Qt::NoButton;
+            return true;
+        }
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+bool KORVA_ScrollView::isRoundedAway(const QMouseEvent& press) const
+{
+    return m_child && !m_child->isHidden() && !m_child->geometry().contains(press.position().toPoint()) &&
+           m_child->geometry().contains(pixel::under(press, *viewport()));
+}
+
+void KORVA_ScrollView::handToChild(const QMouseEvent& event)
+{
+    const QScopedValueRollback handing(m_isHanding, true);
+    if (event.type() == QEvent::MouseButtonPress && (m_child->focusPolicy() & Qt::ClickFocus))
+        m_child->setFocus(Qt::MouseFocusReason);
+    QMouseEvent own(event.type(), pixel::pointer(event, *viewport()) - m_child->pos(),
+                    event.scenePosition(), event.globalPosition(), event.button(), event.buttons(),
+                    event.modifiers(), event.pointingDevice());
+    QCoreApplication::sendEvent(m_child, &own);
 }
 
 void KORVA_ScrollView::placeChild()

@@ -38,12 +38,19 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
+    /// Hands on to the child what the pointer does from a press on its last pixels, which the toolkit takes
+    /// for one beside it where it rounds a position between two pixels.
+    bool viewportEvent(QEvent* event) override;
 
 private:
+    [[nodiscard]] bool isRoundedAway(const QMouseEvent& press) const;
+    void handToChild(const QMouseEvent& event);
     void placeChild();
     void updateRanges();
 
     QSize m_contents;
     QWidget* m_child = nullptr; // owned by the viewport
     QPoint m_childPos;
+    bool m_childHasPress = false;
+    bool m_isHanding = false; ///< what the child does not want comes back
 };

@@ -46,6 +46,8 @@ private slots:
     void menuStaysInsideTheWindow();
     void everyPointOfAFloodIsDrawn();
     void theClipboardBothWays();
+    void everyPressIsUnderThePointer_data();
+    void everyPressIsUnderThePointer();
     void scaleFollowsTheScreen_data();
     void scaleFollowsTheScreen();
     void aScaleThatDoesNotFitIsToldAndLowered();
@@ -285,6 +287,42 @@ void tst_RealWindow::theClipboardBothWays()
     out.start("xclip", {"-selection", "clipboard", "-t", "image/png", "-o"});
     QVERIFY(out.waitForFinished(patience));
     QVERIFY(support::sameImage(QImage::fromData(out.readAllStandardOutput(), "PNG"), sent));
+}
+
+void tst_RealWindow::everyPressIsUnderThePointer_data()
+{
+    QTest::addColumn<int>("scale");
+    QTest::newRow("2") << 2;
+    QTest::newRow("3") << 3;
+}
+
+void tst_RealWindow::everyPressIsUnderThePointer()
+{
+    QFETCH(const int, scale);
+    m_server = std::make_unique<XServer>(QSize(800, 1000));
+    support::sheet(QSize(200, 160), frameColor).save(m_folder->filePath("sheet.png"));
+    m_pad = std::make_unique<PadProcess>(
+        QStringList{m_folder->filePath("sheet.png"), "--scale", QString::number(scale)},
+        m_server->display());
+    const auto isShown = [&] {
+        m_picture = placeOf(frameColor, m_server->screenshot());
+        return m_picture.size() == QSize(200, 160) * scale;
+    };
+    QVERIFY(QTest::qWaitFor(isShown, patience));
+
+    QImage expected = support::sheet(QSize(200, 160), frameColor);
+    QRandomGenerator random(7);
+    for (int i = 0; i < 500; ++i) {
+        const QPoint at(random.bounded(200 * scale), random.bounded(160 * scale));
+        expected.setPixelColor(at.x() / scale, at.y() / scale, Qt::red);
+        m_server->click(m_picture.topLeft() + at);
+    }
+    const QImage shown = expected.scaled(m_picture.size());
+    const auto screen = [&] {
+        return m_server->screenshot().copy(m_picture).convertToFormat(shown.format());
+    };
+    m_server->moveTo({0, 0});
+    QTRY_VERIFY_WITH_TIMEOUT(screen() == shown, patience);
 }
 
 void tst_RealWindow::scaleFollowsTheScreen_data()

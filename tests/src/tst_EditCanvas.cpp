@@ -25,6 +25,8 @@ private slots:
     void widgetOfThePublicKind();
     void places_data();
     void places();
+    void fittedAgainInAnotherSize();
+    void whatIsInHandIsNotResized();
     void toolPopup_data();
     void toolPopup();
     void mainViewTakesTheFocus();
@@ -115,7 +117,53 @@ void tst_EditCanvas::places()
     QCOMPARE(widget->parentWidget(), desk.editor.get());
     QCOMPARE(widget->geometry(), place);
     desk.editor->resize(480, 640); // the controls stay where the design puts them
+    QCOMPARE(widget->geometry(), control.isEmpty() ? QRect(2, 33, 468, 607) : place);
+    desk.editor->resize(100, 100); // less than all was made for is cut off
     QCOMPARE(widget->geometry(), place);
+}
+
+void tst_EditCanvas::fittedAgainInAnotherSize()
+{
+    EditorDesk desk;
+    desk.editor->show();
+    desk.setPicture(support::sheet({111, 93}));
+    desk.chooseZoom(4);
+    QCOMPARE(desk.canvas().zoom(), 200);
+    (void)desk.log.taken();
+    desk.editor->resize(240 + 222, 225 + 186); // twice the page
+    QCOMPARE(desk.canvas().zoom(), 400);
+    QCOMPARE(desk.log.taken(), QStringList("sizeChanged()"));
+    desk.editor->resize(240 + 222, 225); // as high as before
+    QCOMPARE(desk.canvas().zoom(), 200);
+    desk.editor->resize(240, 225);
+    QCOMPARE(desk.canvas().zoom(), 200);
+    desk.chooseZoom(1);
+    (void)desk.log.taken();
+    desk.editor->resize(600, 600);
+    QCOMPARE(desk.canvas().zoom(), 100);
+    QCOMPARE(desk.log.taken(), QStringList());
+    desk.chooseZoom(4); // by the page as it is
+    QCOMPARE(desk.canvas().zoom(), qMin(100 * (222 + 360) / 111, 100 * (186 + 375) / 93));
+}
+
+void tst_EditCanvas::whatIsInHandIsNotResized()
+{
+    EditorDesk desk;
+    desk.editor->show();
+    desk.chooseZoom(4);
+    desk.canvas().setSelection(QRect(10, 10, 40, 40));
+    (void)desk.log.taken();
+    desk.editor->resize(600, 600);
+    QVERIFY(!desk.canvas().pasteLabel()->isHidden());
+    QCOMPARE(desk.canvas().zoom(), 109);
+    QCOMPARE(desk.log.taken(), QStringList());
+    desk.canvas().mergePastePixmap();
+
+    desk.type("Hm");
+    desk.editor->resize(700, 700);
+    QCOMPARE(desk.canvas().zoom(), 109);
+    QVERIFY(desk.manager().currentTool()->getTextKey());
+    QCOMPARE(desk.log.taken(), QStringList());
 }
 
 void tst_EditCanvas::toolPopup_data()

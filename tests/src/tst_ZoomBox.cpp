@@ -26,6 +26,9 @@ private slots:
     void theHostMayListenToTheBox();
     void committedBeforeZooming();
     void pointsOfTheZoomedPicture();
+    void theListMarksTheRateInForce();
+    void anotherPictureIsFitted();
+    void withoutFittingAPictureKeepsTheRate();
 };
 
 void tst_ZoomBox::entries()
@@ -146,6 +149,63 @@ void tst_ZoomBox::pointsOfTheZoomedPicture()
     desk.chooseZoom(3);
     Gestures(desk.canvas()).click({100, 60});
     QCOMPARE(support::inkBounds(desk.picture()), QRect(50, 30, 1, 1));
+}
+
+void tst_ZoomBox::theListMarksTheRateInForce()
+{
+    EditorDesk desk;
+    desk.editor->show();
+    const auto marked = [&] {
+        desk.zoomBox().showPopup();
+        desk.zoomBox().hidePopup();
+        QList<int> rows;
+        for (int row = 0; row < desk.zoomBox().count(); ++row)
+            if (desk.zoomBox().itemData(row, Qt::CheckStateRole).toInt() == Qt::Checked)
+                rows << row;
+        return rows;
+    };
+    QCOMPARE(marked(), QList<int>{1});
+    for (const int row : {0, 2, 3, 4, 1}) {
+        desk.chooseZoom(row);
+        QCOMPARE(marked(), QList<int>{row});
+    }
+    desk.editor->setZoom(200); // as a host may, without the box
+    QCOMPARE(marked(), QList<int>{3});
+    desk.editor->setZoom(77);
+    QCOMPARE(marked(), QList<int>());
+    desk.setPicture(support::sheet({640, 480}));
+    desk.chooseZoom(3); // too large for it
+    QCOMPARE(marked(), QList<int>{1});
+}
+
+void tst_ZoomBox::anotherPictureIsFitted()
+{
+    EditorDesk desk;
+    desk.chooseZoom(4);
+    QCOMPARE(desk.canvas().zoom(), 109);
+    (void)desk.log.taken();
+    QPixmap picture = QPixmap::fromImage(support::sheet({111, 93}));
+    desk.editor->setPixmap(&picture);
+    QCOMPARE(desk.canvas().zoom(), 200);
+    QCOMPARE(desk.log.taken(), QStringList({"canUndo(false)", "canRedo(false)", "pixmapChanged(111x93)",
+                                            "sizeChanged()", "sizeChanged()"}));
+    QVERIFY(!desk.editor->isModified());
+    desk.editor->setPixmap(&picture); // of the same size: nothing but the classic signals
+    QCOMPARE(desk.log.taken(), QStringList({"canUndo(false)", "canRedo(false)", "pixmapChanged(111x93)"}));
+}
+
+void tst_ZoomBox::withoutFittingAPictureKeepsTheRate()
+{
+    EditorDesk desk;
+    QPixmap picture = QPixmap::fromImage(support::sheet({111, 93}));
+    desk.editor->slotSelZoomRate(4); // by a host: the box still shows 100 %
+    desk.editor->setPixmap(&picture);
+    QCOMPARE(desk.canvas().zoom(), 109);
+    desk.chooseZoom(4);
+    desk.editor->setZoom(50); // in force is what the host set
+    QPixmap other = QPixmap::fromImage(support::sheet({200, 170}));
+    desk.editor->setPixmap(&other);
+    QCOMPARE(desk.canvas().zoom(), 50);
 }
 
 int main(int argc, char** argv)
