@@ -132,6 +132,8 @@ void Commands::addEntries()
          zoom, realSize},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Fit to page", "menu"), "Ctrl+9", Needs::Nothing,
          zoom, fitToPage},
+        {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "Full s&creen", "menu"), "F11", Needs::Nothing,
+         [](C& c, int) { c.m_window->setWindowState(c.m_window->windowState() ^ Qt::WindowFullScreen); }},
 
         // Their names differ from tool to tool, and stand in the editor's own menu.
         {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "First option", "menu"), "1", Needs::Nothing,

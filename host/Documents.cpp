@@ -3,6 +3,7 @@
 #include "DocumentAction.h"
 #include "PictureFile.h"
 #include "Platform.h"
+#include "Settings.h"
 
 #include <KORVA_Canvas.h>
 #include <KORVA_ChooseCanvasDlg.h>
@@ -16,6 +17,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QSettings>
 
 namespace pad {
 
@@ -141,6 +143,40 @@ void Documents::tell(const WriteError& error)
                                 longTime);
 }
 
+// --- Folders ---
+
+namespace {
+
+const QString folderKey = QStringLiteral("folders/last");
+const QString orderKey = QStringLiteral("folders/order");
+
+} // namespace
+
+void Documents::rememberFolders()
+{
+    m_remembersFolders = true;
+    const QSettings settings(settingsFile(), QSettings::IniFormat);
+    m_folder = settings.value(folderKey).toString();
+    const int order = settings.value(orderKey).toInt();
+    UTIL_PictureDialog::setOrder(order == UTIL_PictureDialog::NewestFirst ? UTIL_PictureDialog::NewestFirst
+                                                                          : UTIL_PictureDialog::ByName);
+}
+
+QString Documents::folder() const
+{
+    return !m_folder.isEmpty() && QFileInfo(m_folder).isDir() ? m_folder : m_platform.photoFolder();
+}
+
+void Documents::noteFolder(const QString& fileName)
+{
+    m_folder = QFileInfo(fileName).absolutePath();
+    if (!m_remembersFolders)
+        return;
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    settings.setValue(folderKey, m_folder);
+    settings.setValue(orderKey, int(UTIL_PictureDialog::order()));
+}
+
 // --- Another drawing ---
 
 void Documents::newDrawing()
@@ -167,14 +203,16 @@ void Documents::open()
     if (!mayReplace(tr("Save changes to drawing before opening?", "changes")))
         return;
     const QPointer<UTIL_PictureDialog> dialog =
-        m_platform.createPickDialog(m_window, m_platform.photoFolder(), KORVA_EditCanvas::openPatterns());
+        m_platform.createPickDialog(m_window, folder(), KORVA_EditCanvas::openPatterns());
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return;
     const QString name = isAccepted ? dialog->fileName() : QString();
     delete dialog;
-    if (!name.isEmpty())
-        openFile(name);
+    if (name.isEmpty())
+        return;
+    noteFolder(name);
+    openFile(name);
 }
 
 void Documents::openNamed(const QString& fileName)
@@ -282,7 +320,7 @@ bool Documents::saveAs()
 {
     QFileInfo proposal(name());
     if (name().isEmpty() || !QFileInfo(proposal.path()).isWritable())
-        proposal.setFile(QDir(m_platform.photoFolder()), fileNameOf(name()));
+        proposal.setFile(QDir(folder()), fileNameOf(name()));
     const QPointer<UTIL_PictureDialog> dialog =
         m_platform.createSaveDialog(m_window, proposal.path(), KORVA_EditCanvas::savePatterns());
     dialog->setTakesAnyName(true);
@@ -293,7 +331,10 @@ bool Documents::saveAs()
         return false;
     const QString chosen = isAccepted ? dialog->fileName() : QString();
     delete dialog;
-    return !chosen.isEmpty() && saveUnder(chosen);
+    if (chosen.isEmpty())
+        return false;
+    noteFolder(chosen);
+    return saveUnder(chosen);
 }
 
 bool Documents::saveUnder(const QString& fileName)

@@ -28,6 +28,9 @@ public:
     /// Where what is given up is kept; null: nowhere. Not owned.
     void setJournal(KORVA_Journal* journal) { m_journal = journal; }
 
+    /// Keeps the folder and the order of the folder dialogs in the settings, for the next start.
+    void rememberFolders();
+
     void newDrawing();
     /// Lets the person pick.
     void open();
@@ -73,6 +76,9 @@ private:
         [[nodiscard]] static Version of(const QString& fileName);
     };
 
+    /// Where folder dialogs begin: where the last one ended.
+    [[nodiscard]] QString folder() const;
+    void noteFolder(const QString& fileName);
     bool openFile(const QString& fileName);
     [[nodiscard]] QString whatReplacingLoses() const;
     bool askAndSave(const QString& loss);
@@ -86,6 +92,8 @@ private:
     Platform& m_platform;
     QWidget* m_window;
     KORVA_Journal* m_journal = nullptr;
+    QString m_folder; ///< empty: the user's pictures
+    bool m_remembersFolders = false;
     QString m_proposal;        ///< of a drawing without a name
     bool m_mayReplace = false; ///< the person has agreed to lose what opening took away
     Version m_version;

@@ -27,8 +27,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
       m_commands(new Commands(*m_editor, *m_documents, this)),
       m_status(new StatusLine(*m_editor, this)),
       m_menuKey(addKey(tr("Menu", "soft key"))),
-      m_contextKey(addKey(QString())),
-      m_fullScreen(new QAction(tr("&Full screen", "menu"), this))
+      m_contextKey(addKey(QString()))
 {
     setMinimumSize(theme::window.size());
     resize(theme::window.size());
@@ -42,10 +41,6 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     connect(m_commands, &Commands::contextActionChanged, this, &PadWindow::updateContextKey);
     connect(m_documents, &Documents::changed, this, &PadWindow::updateTitle);
     connect(m_editor, &KORVA_EditCanvas::modified, this, [this] { setWindowModified(true); });
-    m_fullScreen->setShortcut(Qt::Key_F11);
-    addAction(m_fullScreen);
-    connect(m_fullScreen, &QAction::triggered, this,
-            [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
     updateContextKey();
     updateTitle();
 }

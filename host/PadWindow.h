@@ -27,8 +27,6 @@ public:
     [[nodiscard]] KORVA_EditCanvas& editor() const { return *m_editor; }
     [[nodiscard]] Commands& commands() const { return *m_commands; }
     [[nodiscard]] Documents& documents() const { return *m_documents; }
-    /// Full screen and back.
-    [[nodiscard]] QAction* fullScreenAction() const { return m_fullScreen; }
 
     /// The window as it is on screen, at its scale.
     [[nodiscard]] QImage screenshot();
@@ -53,7 +51,6 @@ private:
     StatusLine* m_status;
     UTIL_PushButton* m_menuKey;
     UTIL_PushButton* m_contextKey;
-    QAction* m_fullScreen;
 };
 
 } // namespace pad

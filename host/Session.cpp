@@ -37,9 +37,10 @@ int Session::run()
 {
     if (const auto failure = begin())
         return complain(*failure);
-    if (m_place)
+    if (m_place) {
         m_place->restore(*m_window);
-    else
+        m_window->documents().rememberFolders();
+    } else
         m_window->setFixedSize(m_window->size());
     m_window->show();
     m_window->activateWindow(); // not every desktop gives the keyboard to a new window
