@@ -681,14 +681,19 @@ void tst_HostFacts::openedIsUnchanged()
     const PictureFolder folder;
     const QString name = folder.written("a.png", support::mosaic({40, 30}));
     EditorDesk desk(name);
-    QVERIFY(!desk.editor->hasChanges());
+    const auto isUnchanged = [&desk] {
+        if (desk.editor->hasChanges())
+            return false;
+        desk.chooseTool(fixtures::AreaSelect);
+        support::Gestures(desk.canvas()).drag({{5, 5}, {20, 15}});
+        return !desk.canvas().pasteLabel()->isHidden() && !desk.editor->hasChanges();
+    };
+    QVERIFY(isUnchanged());
+    desk.chooseTool(fixtures::Pencil);
     desk.scribble();
+    QVERIFY(desk.editor->hasChanges());
     QVERIFY(desk.editor->openNewFilePrivate(openAction, name));
-    QVERIFY(!desk.editor->hasChanges());
-    desk.chooseTool(fixtures::AreaSelect);
-    support::Gestures(desk.canvas()).drag({{5, 5}, {20, 15}});
-    QVERIFY(!desk.canvas().pasteLabel()->isHidden());
-    QVERIFY(!desk.editor->hasChanges());
+    QVERIFY(isUnchanged());
 }
 
 // --- deleteSelection()
