@@ -52,7 +52,9 @@ bool UTIL_FileLock::lock(int milliseconds)
 UTIL_FileLock::Attempt UTIL_FileLock::attempt()
 {
     constexpr mode_t everybodyMayTry = 0644;
-    m_handle = open(m_fileName.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, everybodyMayTry);
+    constexpr int waitForNobody = O_NONBLOCK; // a pipe has another end
+    m_handle = open(m_fileName.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | waitForNobody,
+                    everybodyMayTry);
     if (m_handle < 0)
         return Attempt::Failed;
     if (flock(m_handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {

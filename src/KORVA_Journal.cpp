@@ -40,11 +40,14 @@ const QString nameKey = QStringLiteral("PictureName");
 /// How small a file is made.
 enum class Size : int { Quick = 100, Small = -1 };
 
-/// Sorts by time, and is no other program's.
+/// Sorts by time, within a moment by the order in which it was asked for, and is no other program's.
 QString newId()
 {
+    static int count = 0;
     return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss-zzz-")) +
-           QString::number(QRandomGenerator::global()->generate(), 16);
+           QStringLiteral("%1-%2")
+               .arg(++count, 6, 10, QLatin1Char('0'))
+               .arg(QRandomGenerator::global()->generate(), 0, 16);
 }
 
 QString systemError()
@@ -113,17 +116,17 @@ KORVA_Journal::KORVA_Journal(KORVA_EditCanvas* editor, const QString& folder, QO
     connect(editor, &KORVA_EditCanvas::pixmapChanged, this, &KORVA_Journal::expectChange);
     connect(editor, &KORVA_EditCanvas::canDelete, this, [this] {
         if (!this->editor()->hasChanges())
-            settle();
+            noteSettled();
     });
 }
 
 KORVA_Journal::~KORVA_Journal()
 {
-    if (m_state != State::Adopted && editor()) {
+    if (editor()) {
         if (editor()->hasChanges())
             flush();
         else
-            settle();
+            noteSettled();
     }
     m_writer.waitForDone();
 }
@@ -176,7 +179,7 @@ void KORVA_Journal::write()
     if (hash == m_written)
         return;
     if (!editor()->hasChanges()) { // the host took another picture in and said so itself
-        settle();
+        noteSettled();
         return;
     }
     if (m_writer.activeThreadCount() > 0) {
@@ -237,10 +240,18 @@ bool KORVA_Journal::flush()
         write();
     m_writer.waitForDone();
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
-    return !m_hasFailed;
+    return !m_hasFailed || !editor() || !editor()->hasChanges();
 }
 
 // --- What is done with it ---
+
+void KORVA_Journal::noteSettled()
+{
+    if (m_state != State::Adopted)
+        settle();
+    else // nobody has decided about that one yet
+        m_written = classic::hash(editor()->snapshot());
+}
 
 void KORVA_Journal::settle()
 {
@@ -287,8 +298,8 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     if (KORVA_Text* text = editor()->currentText())
         text->resetBuffer();
     editor()->setPixmap(&found);
+    editor()->canvas()->markModified(); // before the name goes, which says what there is to lose
     editor()->setFileName({});
-    editor()->canvas()->markModified();
     editor()->canvas()->setUndoFlag(0);
     if (isAdopted)
         m_written = classic::hash(editor()->snapshot());
@@ -314,7 +325,7 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
     removeLeftovers();
     QFileInfoList left = filesIn(m_folder, livingPrefix);
     std::sort(left.begin(), left.end(), [](const QFileInfo& one, const QFileInfo& other) {
-        return one.lastModified() > other.lastModified();
+        return one.lastModified() < other.lastModified();
     });
     std::optional<Entry> newest;
     for (const QFileInfo& file : left) {
@@ -322,16 +333,17 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
         auto lock = std::make_unique<UTIL_FileLock>(lockFile(id));
         if (!lock->lock())
             continue; // somebody is drawing it
-        if (!file.exists()) {
+        if (!QFile::exists(file.filePath())) {
             lock->remove(); // somebody has just had it
-        } else if (!newest) {
+        } else if (QImage(file.filePath()).isNull()) {
+            moveAmongEarlier(id); // damaged: nothing to offer
+            lock->remove();
+        } else {
+            shelve();
             newest = entryOf(file);
             m_id = id;
             m_lock = std::move(lock);
             m_state = State::Adopted;
-        } else {
-            moveAmongEarlier(id);
-            lock->remove();
         }
     }
     prune();
@@ -341,8 +353,10 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
 QList<KORVA_Journal::Entry> KORVA_Journal::earlier() const
 {
     QList<Entry> entries;
-    for (const QFileInfo& file : filesIn(m_folder, earlierPrefix))
-        entries.append(entryOf(file));
+    for (const QFileInfo& file : filesIn(m_folder, earlierPrefix)) {
+        if (const Entry entry = entryOf(file); entry.size.isValid())
+            entries.append(entry);
+    }
     return entries;
 }
 
@@ -390,8 +404,10 @@ bool KORVA_Journal::makeFolder() const
 
 void KORVA_Journal::moveAmongEarlier(const QString& id) const
 {
+    // Under a new number: one that was begun long ago would be the first to be pruned.
     const QString prefix = m_folder + '/';
-    QFile::rename(prefix + livingPrefix + id + pictureSuffix, prefix + earlierPrefix + id + pictureSuffix);
+    QFile::rename(prefix + livingPrefix + id + pictureSuffix,
+                  prefix + earlierPrefix + newId() + pictureSuffix);
 }
 
 void KORVA_Journal::prune() const

@@ -102,6 +102,7 @@ private:
     void write();
     [[nodiscard]] bool begin();
     void end();
+    void noteSettled();
     void finishWrite(const QString& error, int milliseconds);
     void moveAmongEarlier(const QString& id) const;
     void removeLeftovers() const;

@@ -11,6 +11,8 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -158,7 +160,11 @@ QString behindLinks(const QString& name)
         const QFileInfo file(at);
         if (!file.isSymLink())
             return at;
-        at = file.symLinkTarget();
+        // The toolkit would take ".." out of the text, which is another place behind a linked folder.
+        std::error_code error;
+        const QString to = QFile::decodeName(
+            std::filesystem::read_symlink(QFile::encodeName(at).constData(), error).c_str());
+        at = QDir::isAbsolutePath(to) ? to : file.path() + '/' + to;
     }
     return {};
 }

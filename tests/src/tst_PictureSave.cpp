@@ -1,4 +1,8 @@
 #include "SaveFixtures.h"
+#include "support/Mount.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using fixtures::filesIn;
 using fixtures::oldBytes;
@@ -6,6 +10,7 @@ using fixtures::red;
 using fixtures::saved;
 using fixtures::variable;
 using support::contents;
+using support::Mount;
 using support::write;
 
 class tst_PictureSave : public support::SaveTest
@@ -29,7 +34,45 @@ private slots:
     void leadingDashIsNoOption();
     void existingFileIsReplaced();
     void staleTemporaryFileIsNotWrittenThrough();
+    void modeStays_data();
+    void modeStays();
+    void newFileFollowsTheUmask_data();
+    void newFileFollowsTheUmask();
+    void linkStays_data();
+    void linkStays();
+    void linkIntoAnotherFileSystemStays();
+    void linkThatLeadsNowhereGoodFails_data();
+    void linkThatLeadsNowhereGoodFails();
+    void plantedTemporaryFile_data();
+    void plantedTemporaryFile();
 };
+
+namespace {
+
+mode_t modeOf(const QString& fileName)
+{
+    struct stat status = {};
+    return lstat(QFile::encodeName(fileName).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+void setMode(const QString& fileName, mode_t mode)
+{
+    QCOMPARE(chmod(QFile::encodeName(fileName).constData(), mode), 0);
+}
+
+void link(const QString& name, const QString& target)
+{
+    QCOMPARE(symlink(QFile::encodeName(target).constData(), QFile::encodeName(name).constData()), 0);
+}
+
+QString leadsTo(const QString& link)
+{
+    char target[4096];
+    const ssize_t length = readlink(QFile::encodeName(link).constData(), target, sizeof(target));
+    return length < 0 ? QString() : QFile::decodeName(QByteArray(target, length));
+}
+
+} // namespace
 
 void tst_PictureSave::temporaryPath_data()
 {
@@ -269,8 +312,188 @@ void tst_PictureSave::staleTemporaryFileIsNotWrittenThrough()
     QVERIFY(support::sameImage(support::converted(path("photos/a.png")), red()));
 }
 
+void tst_PictureSave::modeStays_data()
+{
+    QTest::addColumn<uint>("mode");
+    QTest::addColumn<bool>("isAcross");
+    for (const uint mode : {0600U, 0640U, 0755U, 0666U, 0604U, 0200U}) {
+        QTest::addRow("%04o", mode) << mode << false;
+        QTest::addRow("%04o across file systems", mode) << mode << true;
+    }
+}
+
+void tst_PictureSave::modeStays()
+{
+    QFETCH(const uint, mode);
+    QFETCH(const bool, isAcross);
+    const Mount other(path("other"), "size=1m");
+    if (isAcross && !other.isThere())
+        QSKIP("mounting is not permitted here");
+    const QString name = path(isAcross ? "other/a.png" : "photos/a.png");
+    write(name, oldBytes);
+    setMode(name, mode);
+    QVERIFY(saved(name, red()));
+    QCOMPARE(modeOf(name), mode_t(mode));
+    QVERIFY(support::sameImage(support::converted(name), red()));
+}
+
+void tst_PictureSave::newFileFollowsTheUmask_data()
+{
+    QTest::addColumn<uint>("mask");
+    for (const uint mask : {0U, 022U, 027U, 077U, 002U})
+        QTest::addRow("%03o", mask) << mask;
+}
+
+void tst_PictureSave::newFileFollowsTheUmask()
+{
+    QFETCH(const uint, mask);
+    const Mount other(path("other"), "size=1m");
+    const mode_t before = umask(mask);
+    const bool isSaved = saved(path("photos/a.png"), red()) && saved(path("other/a.png"), red());
+    umask(before);
+    QVERIFY(isSaved);
+    QCOMPARE(modeOf(path("photos/a.png")), mode_t(0666 & ~mask));
+    QCOMPARE(modeOf(path("other/a.png")), mode_t(0666 & ~mask));
+}
+
+void tst_PictureSave::linkStays_data()
+{
+    QTest::addColumn<QStringList>("links"); // in photos, each with what it leads to
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("exists");
+    QTest::newRow("by its whole name") << QStringList{"a.png", "$/store/b.png"} << "store/b.png" << true;
+    QTest::newRow("by its name from there")
+        << QStringList{"a.png", "../store/b.png"} << "store/b.png" << true;
+    QTest::newRow("in the same folder") << QStringList{"a.png", "b.png"} << "photos/b.png" << true;
+    QTest::newRow("a row of links") << QStringList{"a.png",           "c.png", "c.png",
+                                                   "../photos/d.png", "d.png", "$/store/b.png"}
+                                    << "store/b.png" << true;
+    QTest::newRow("through a linked folder")
+        << QStringList{"a.png", "deep/c.png", "deep", "../store/inner", "../store/inner/c.png", "../b.png"}
+        << "store/b.png" << true;
+    QTest::newRow("to no file yet") << QStringList{"a.png", "../store/b.png"} << "store/b.png" << false;
+    QTest::newRow("a row of links to no file yet")
+        << QStringList{"a.png", "c.png", "c.png", "../store/b.png"} << "store/b.png" << false;
+}
+
+void tst_PictureSave::linkStays()
+{
+    QFETCH(const QStringList, links);
+    QFETCH(const QString, target);
+    QFETCH(const bool, exists);
+    QVERIFY(QDir(path("")).mkpath("store/inner"));
+    QMap<QString, QString> expected;
+    for (int i = 0; i < links.size(); i += 2) {
+        const QString to = QString(links[i + 1]).replace('$', QDir(path("")).absolutePath());
+        link(path("photos/") + links[i], to);
+        expected[path("photos/") + links[i]] = to;
+    }
+    if (exists) {
+        write(path(target), oldBytes);
+        setMode(path(target), 0640);
+    }
+    const qsizetype filesBefore = filesIn(path("photos")).size() + filesIn(path("store")).size();
+
+    QVERIFY(saved(path("photos/a.png"), red()));
+
+    for (auto each = expected.cbegin(); each != expected.cend(); ++each)
+        QCOMPARE(leadsTo(each.key()), each.value());
+    QVERIFY(!QFileInfo(path(target)).isSymLink());
+    QVERIFY(support::sameImage(support::converted(path(target)), red()));
+    if (exists) {
+        QCOMPARE(modeOf(path(target)), mode_t(0640));
+        QCOMPARE(filesIn(path("photos")).size() + filesIn(path("store")).size(), filesBefore);
+    }
+    QCOMPARE(filesIn(path("appwrite")), QStringList());
+}
+
+void tst_PictureSave::linkIntoAnotherFileSystemStays()
+{
+    const Mount other(path("other"), "size=1m");
+    if (!other.isThere())
+        QSKIP("mounting is not permitted here");
+    QVERIFY(QDir(path("other")).mkdir("inner"));
+    write(path("other/b.png"), oldBytes);
+    setMode(path("other/b.png"), 0600);
+    link(path("photos/deep"), path("other/inner"));
+    link(path("other/inner/c.png"), "../b.png");
+    link(path("photos/a.png"), "deep/c.png");
+    QVERIFY(saved(path("photos/a.png"), red()));
+    QCOMPARE(leadsTo(path("photos/a.png")), "deep/c.png");
+    QCOMPARE(leadsTo(path("other/inner/c.png")), "../b.png");
+    QVERIFY(support::sameImage(support::converted(path("other/b.png")), red()));
+    QCOMPARE(modeOf(path("other/b.png")), mode_t(0600));
+    QCOMPARE(filesIn(path("other")), QStringList("b.png"));
+    QCOMPARE(filesIn(path("appwrite")), QStringList());
+}
+
+void tst_PictureSave::linkThatLeadsNowhereGoodFails_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("itself") << "a.png";
+    QTest::newRow("in a circle") << "circle";
+    QTest::newRow("a folder") << "../store";
+    QTest::newRow("a folder that is missing") << "../missing/b.png";
+    QTest::newRow("a quoted name") << "../store/it's.png";
+    QTest::newRow("a protected file") << "../store/protected.png";
+}
+
+void tst_PictureSave::linkThatLeadsNowhereGoodFails()
+{
+    QFETCH(const QString, target);
+    QVERIFY(QDir(path("")).mkdir("store"));
+    for (const char* name : {"store/it's.png", "store/protected.png"})
+        write(path(name), oldBytes);
+    setMode(path("store/protected.png"), 0444);
+    link(path("photos/circle"), "a.png");
+    link(path("photos/a.png"), target);
+    QVERIFY(!saved(path("photos/a.png"), red()));
+    QCOMPARE(leadsTo(path("photos/a.png")), target);
+    QCOMPARE(contents(path("store/it's.png")), oldBytes);
+    QCOMPARE(contents(path("store/protected.png")), oldBytes);
+    QCOMPARE(QDir(path("photos"))
+                 .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList({"a.png", "circle"}));
+    QCOMPARE(filesIn(path("appwrite")), QStringList());
+}
+
+void tst_PictureSave::plantedTemporaryFile_data()
+{
+    QTest::addColumn<QString>("planted");
+    for (const char* planted : {"file", "protected file", "second name of the victim", "link to the victim",
+                                "link to nothing", "pipe"})
+        QTest::newRow(planted) << QString(planted);
+}
+
+void tst_PictureSave::plantedTemporaryFile()
+{
+    QFETCH(const QString, planted);
+    const QString temporary = picturesave::temporaryPath();
+    write(path("victim"), oldBytes);
+    if (planted.endsWith("file"))
+        write(temporary, oldBytes);
+    if (planted == "protected file")
+        setMode(temporary, 0400);
+    if (planted.startsWith("second"))
+        QCOMPARE(
+            ::link(QFile::encodeName(path("victim")).constData(), QFile::encodeName(temporary).constData()),
+            0);
+    if (planted.startsWith("link"))
+        link(temporary, path(planted.endsWith("nothing") ? "nothing" : "victim"));
+    if (planted == "pipe")
+        QCOMPARE(mkfifo(QFile::encodeName(temporary).constData(), 0666), 0);
+
+    QVERIFY(saved(path("photos/a.png"), red()));
+    QCOMPARE(contents(path("victim")), oldBytes);
+    QVERIFY(!QFileInfo::exists(path("nothing")));
+    QVERIFY(!QFileInfo(path("photos/a.png")).isSymLink());
+    QVERIFY(support::sameImage(support::converted(path("photos/a.png")), red()));
+    QCOMPARE(filesIn(path("appwrite")), QStringList());
+}
+
 int main(int argc, char** argv)
 {
+    Mount::allow();
     return support::run<tst_PictureSave>(argc, argv);
 }
 
