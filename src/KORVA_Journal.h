@@ -71,7 +71,8 @@ public:
     bool bringBack(const Entry& entry);
 
     /// The drawing as it is now is saved, or nobody wants it: nothing of it is left to be found. Follows
-    /// every save and every picture opened by the editor itself; a host that writes files itself calls it.
+    /// every save and every picture opened by the editor itself, which leave alone what adopt() gave; a
+    /// host that writes files itself calls it.
     void settle();
     /// Puts a copy of the drawing as it is now among the earlier ones and waits until it is on the disk.
     /// False when that failed.

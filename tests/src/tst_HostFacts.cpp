@@ -733,8 +733,8 @@ void tst_HostFacts::deleteLifted()
     KORVA_PasteLabel& piece = *desk.canvas().pasteLabel();
     const QImage lifted = piece.getImage().toImage();
     const QImage withHole = support::filled(mosaic, hole, Qt::white);
-    piece.move(30, 40);
-    const QPoint place = QPoint(30, 40) * 100 / zoom;
+    piece.move(20, 14);
+    const QPoint place = QPoint(20, 14) * 100 / zoom;
     (void)desk.log.taken();
 
     desk.editor->deleteSelection();
