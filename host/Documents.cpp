@@ -58,7 +58,9 @@ QString fileNameOf(const QString& path)
 QString inPixels(QSize size)
 {
     const QLocale locale;
-    return QStringLiteral("%1 × %2").arg(locale.toString(size.width()), locale.toString(size.height()));
+    // Nothing of it goes to another line.
+    return QStringLiteral("%1\u00a0×\u00a0%2")
+        .arg(locale.toString(size.width()), locale.toString(size.height()));
 }
 
 } // namespace

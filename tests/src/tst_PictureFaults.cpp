@@ -1,7 +1,6 @@
 #include "SaveFixtures.h"
+#include "support/Mount.h"
 
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -15,55 +14,10 @@ using fixtures::red;
 using fixtures::saved;
 using fixtures::variable;
 using support::contents;
+using support::Mount;
 using support::write;
 
 namespace {
-
-/// Makes mounts possible that only this program sees and that go with it. False where even that is not
-/// permitted.
-bool enterOwnMountSpace()
-{
-    const uid_t user = getuid();
-    const gid_t group = getgid();
-    if (user == 0)
-        return unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-    if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
-        return false;
-    write("/proc/self/setgroups", "deny");
-    write("/proc/self/uid_map", QByteArray("0 ") + QByteArray::number(user) + " 1");
-    write("/proc/self/gid_map", QByteArray("0 ") + QByteArray::number(group) + " 1");
-    return true;
-}
-
-bool canMount = false;
-
-/// A file system of its own under a folder, for as long as it lives.
-class Mount
-{
-public:
-    Mount(const QString& folder, const char* options) : m_folder(QFile::encodeName(folder))
-    {
-        QDir().mkpath(folder);
-        m_isThere = canMount && mount("none", m_folder.constData(), "tmpfs", 0, options) == 0;
-    }
-    ~Mount()
-    {
-        if (m_isThere)
-            umount2(m_folder.constData(), MNT_DETACH);
-    }
-    Mount(const Mount&) = delete;
-    Mount& operator=(const Mount&) = delete;
-
-    [[nodiscard]] bool isThere() const { return m_isThere; }
-    [[nodiscard]] bool setReadOnly() const
-    {
-        return mount("none", m_folder.constData(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr) == 0;
-    }
-
-private:
-    QByteArray m_folder;
-    bool m_isThere;
-};
 
 QImage noise(QSize size)
 {
@@ -291,7 +245,7 @@ void tst_PictureFaults::targetSurvivesKills()
 
 int main(int argc, char** argv)
 {
-    canMount = enterOwnMountSpace();
+    Mount::enterOwnSpace();
     return support::run<tst_PictureFaults>(argc, argv);
 }
 

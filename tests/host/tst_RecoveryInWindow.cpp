@@ -1,0 +1,2 @@
+#include <QtCore>
+int main() {}
