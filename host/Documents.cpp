@@ -7,7 +7,6 @@
 #include <KORVA_Canvas.h>
 #include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_EditCanvas.h>
-#include <KORVA_Journal.h>
 #include <KORVA_PasteLabel.h>
 #include <KORVA_Text.h>
 #include <UTIL_PictureDialog.h>
@@ -91,10 +90,10 @@ void Documents::beginDocument()
     emit changed();
 }
 
-void Documents::keep()
+void Documents::keep(const KORVA_Journal::Entry& spared)
 {
     if (m_journal && m_editor.hasChanges())
-        m_journal->keep();
+        m_journal->keep(spared);
 }
 
 void Documents::settle()
@@ -282,14 +281,14 @@ bool Documents::askAndSave(const QString& loss)
 
 bool Documents::saveAs()
 {
-    QFileInfo proposal(name());
-    if (name().isEmpty() || !QFileInfo(proposal.path()).isWritable())
-        proposal.setFile(QDir(m_platform.photoFolder()), fileNameOf(name()));
+    const QFileInfo named(name());
+    const bool isPlaced = !name().isEmpty() && QFileInfo(named.path()).isWritable();
+    const QDir folder(isPlaced ? named.path() : m_platform.photoFolder());
     const QPointer<UTIL_PictureDialog> dialog =
-        m_platform.createSaveDialog(m_window, proposal.path(), KORVA_EditCanvas::savePatterns());
+        m_platform.createSaveDialog(m_window, folder.path(), KORVA_EditCanvas::savePatterns());
     dialog->setTakesAnyName(true);
     if (!name().isEmpty())
-        dialog->setFileName(freeNameBeside(proposal.filePath()));
+        dialog->setFileName(freeNameBeside(folder.filePath(named.fileName())));
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return false;

@@ -190,7 +190,7 @@ void KORVA_Journal::write()
         return;
     }
     m_written = hash;
-    m_writer.start([this, picture, file = livingFile(), name = editor()->fileName()] {
+    m_writer.start([this, picture, file = livingFile(), name = pictureName()] {
         QElapsedTimer timer;
         timer.start();
         const QString error = store(picture, file, name, Size::Quick);
@@ -247,6 +247,7 @@ void KORVA_Journal::settle()
     if (editor())
         m_written = classic::hash(editor()->snapshot());
     m_writer.waitForDone();
+    m_proposal.clear();
     if (m_state == State::Nothing)
         return;
     QFile::remove(livingFile());
@@ -262,15 +263,15 @@ void KORVA_Journal::shelve()
     prune();
 }
 
-bool KORVA_Journal::keep()
+bool KORVA_Journal::keep(const Entry& spared)
 {
     if (!makeFolder()) {
         finishWrite(systemError(), 0);
         return false;
     }
     const QString file = m_folder + '/' + earlierPrefix + newId() + pictureSuffix;
-    const QString error = store(editor()->snapshot(), file, editor()->fileName(), Size::Small);
-    prune();
+    const QString error = store(editor()->snapshot(), file, pictureName(), Size::Small);
+    prune(spared.file);
     if (!error.isEmpty())
         finishWrite(error, 0);
     return error.isEmpty();
@@ -287,9 +288,10 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     if (KORVA_Text* text = editor()->currentText())
         text->resetBuffer();
     editor()->setPixmap(&found);
+    editor()->canvas()->markModified(); // before the name goes, which says what there is to lose
     editor()->setFileName({});
-    editor()->canvas()->markModified();
     editor()->canvas()->setUndoFlag(0);
+    m_proposal = entry.pictureName;
     if (isAdopted)
         m_written = classic::hash(editor()->snapshot());
     else
@@ -368,6 +370,12 @@ void KORVA_Journal::removeLeftovers() const
     }
 }
 
+QString KORVA_Journal::pictureName() const
+{
+    const QString name = editor()->fileName();
+    return name.isEmpty() ? m_proposal : name;
+}
+
 // --- The folder ---
 
 QString KORVA_Journal::livingFile() const
@@ -394,9 +402,11 @@ void KORVA_Journal::moveAmongEarlier(const QString& id) const
     QFile::rename(prefix + livingPrefix + id + pictureSuffix, prefix + earlierPrefix + id + pictureSuffix);
 }
 
-void KORVA_Journal::prune() const
+void KORVA_Journal::prune(const QString& spared) const
 {
     const QFileInfoList files = filesIn(m_folder, earlierPrefix);
-    for (qsizetype i = mostEarlier; i < files.size(); ++i)
-        QFile::remove(files[i].filePath());
+    for (qsizetype i = mostEarlier; i < files.size(); ++i) {
+        if (files[i].filePath() != spared)
+            QFile::remove(files[i].filePath());
+    }
 }

@@ -578,7 +578,7 @@ void tst_SavingInWindow::anotherProgramsChangeIsAskedAbout()
 
 int main(int argc, char** argv)
 {
-    Mount::enterOwnSpace();
+    Mount::allow();
     return support::run<tst_SavingInWindow>(argc, argv);
 }
 

@@ -245,7 +245,7 @@ void tst_PictureFaults::targetSurvivesKills()
 
 int main(int argc, char** argv)
 {
-    Mount::enterOwnSpace();
+    Mount::allow();
     return support::run<tst_PictureFaults>(argc, argv);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 bool canMount = false;
 
-bool enter()
+bool enterOwnMountSpace()
 {
     const uid_t user = getuid();
     const gid_t group = getgid();
@@ -28,9 +28,9 @@ bool enter()
 
 } // namespace
 
-void Mount::enterOwnSpace()
+void Mount::allow()
 {
-    canMount = enter();
+    canMount = enterOwnMountSpace();
 }
 
 Mount::Mount(const QString& folder, const char* options) : m_folder(QFile::encodeName(folder))

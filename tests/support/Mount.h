@@ -4,22 +4,23 @@
 
 namespace support {
 
-/// A file system of its own on a folder, for as long as it lives: a tmpfs that only this program and those
-/// that it starts can see.
+/// A file system of its own, in memory, under a folder that is made for it, for as long as it lives. Only
+/// this program and its children see it.
 class Mount
 {
 public:
-    /// In main(), before there is a second thread: makes mounts possible. Where that is not permitted they
-    /// are not there.
-    static void enterOwnSpace();
+    /// Makes mounts possible, where that is permitted: before anything else happens in main().
+    static void allow();
 
-    /// `options` as tmpfs has them ("size=64k"). Makes the folder.
+    /// `options` are the kernel's: "size=64k".
     Mount(const QString& folder, const char* options);
     ~Mount();
     Mount(const Mount&) = delete;
     Mount& operator=(const Mount&) = delete;
 
+    /// False where mounting is not permitted.
     [[nodiscard]] bool isThere() const { return m_isThere; }
+    /// Whether nothing can be written there from now on.
     [[nodiscard]] bool setReadOnly() const;
 
 private:

@@ -13,12 +13,13 @@ constexpr QPoint middle(120, 160);     // of the window
 constexpr QRect view(4, 35, 224, 188); // where the picture is shown, in the window
 constexpr QSize newDrawing(200, 170);
 
-bool waitFor(const std::function<bool()>& condition)
-{
-    return QTest::qWaitFor(condition, PadOnScreen::patience);
-}
-
 } // namespace
+
+bool PadOnScreen::waitFor(const std::function<bool()>& condition) const
+{
+    const qint64 left = m_deadline.isForever() ? patience : m_deadline.remainingTime();
+    return QTest::qWaitFor(condition, int(std::min<qint64>(left, patience)));
+}
 
 PadOnScreen::PadOnScreen(const QString& home) : m_home(home)
 {
@@ -45,7 +46,13 @@ bool PadOnScreen::start(const QStringList& arguments, const QStringList& through
 void PadOnScreen::setPictureSize(QSize size)
 {
     const QSize room = (view.size() - size).expandedTo(QSize(0, 0));
+    m_size = size.boundedTo(view.size());
     m_origin = view.topLeft() + QPoint(room.width() / 2, room.height() / 2);
+}
+
+QImage PadOnScreen::picture() const
+{
+    return shot().copy(QRect(m_origin, m_size));
 }
 
 std::optional<XServer::Window> PadOnScreen::pad() const

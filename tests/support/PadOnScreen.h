@@ -8,8 +8,8 @@
 namespace support {
 
 /// korva-pad on a screen that it has to itself, at scale 1, and the person at it. Points are pixels of the
-/// picture unless something else is said. What is waited for comes within `patience` or the answer is
-/// false.
+/// picture unless something else is said. What is waited for comes within `patience`, or before the
+/// deadline if there is one, or the answer is false.
 class PadOnScreen
 {
 public:
@@ -25,6 +25,9 @@ public:
     [[nodiscard]] bool start(const QStringList& arguments = {}, const QStringList& through = {});
     /// How large the picture is that is shown, at 100 percent: of a new drawing until told.
     void setPictureSize(QSize size);
+    void setDeadline(QDeadlineTimer deadline) { m_deadline = deadline; }
+    [[nodiscard]] QDeadlineTimer deadline() const { return m_deadline; }
+    [[nodiscard]] bool waitFor(const std::function<bool()>& condition) const;
     [[nodiscard]] PadProcess& process() { return *m_process; }
     [[nodiscard]] XServer& server() { return m_server; }
 
@@ -46,6 +49,8 @@ public:
     [[nodiscard]] bool isRed(QPoint at) const;
     [[nodiscard]] QColor colorAt(QPoint at) const { return m_server.colorAt(onScreen(at)); }
     [[nodiscard]] bool waitForColor(QPoint at, const QColor& color) const;
+    /// The picture, as far as it can be seen.
+    [[nodiscard]] QImage picture() const;
     /// The pad's window as it can be seen.
     [[nodiscard]] QImage shot() const { return m_server.screenshot().copy(m_place); }
     /// A key, with the pointer where every box and dialog is.
@@ -58,7 +63,9 @@ private:
     QString m_home;
     XServer m_server;
     std::unique_ptr<PadProcess> m_process;
-    QRect m_place;   ///< of the pad's window, on the screen
+    QRect m_place; ///< of the pad's window, on the screen
+    QDeadlineTimer m_deadline = QDeadlineTimer::Forever;
+    QSize m_size;    ///< of the picture, as far as it can be seen
     QPoint m_origin; ///< of the picture, in the window
 };
 

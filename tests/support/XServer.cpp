@@ -95,6 +95,11 @@ XServer::~XServer()
     m_server.waitForFinished(patience);
 }
 
+void XServer::allowThreads()
+{
+    XInitThreads();
+}
+
 bool XServer::isReady() const
 {
     int event = 0;

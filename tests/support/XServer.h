@@ -16,6 +16,9 @@ public:
     XServer(const XServer&) = delete;
     XServer& operator=(const XServer&) = delete;
 
+    /// In main(): from now on there may be one server in each thread.
+    static void allowThreads();
+
     /// Whether the server runs and takes a pointer.
     [[nodiscard]] bool isReady() const;
     /// As in the variable DISPLAY.
