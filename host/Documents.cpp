@@ -8,7 +8,6 @@
 #include <KORVA_Canvas.h>
 #include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_EditCanvas.h>
-#include <KORVA_Journal.h>
 #include <KORVA_PasteLabel.h>
 #include <KORVA_Text.h>
 #include <UTIL_PictureDialog.h>
@@ -60,7 +59,9 @@ QString fileNameOf(const QString& path)
 QString inPixels(QSize size)
 {
     const QLocale locale;
-    return QStringLiteral("%1 × %2").arg(locale.toString(size.width()), locale.toString(size.height()));
+    // Nothing of it goes to another line.
+    return QStringLiteral("%1\u00a0×\u00a0%2")
+        .arg(locale.toString(size.width()), locale.toString(size.height()));
 }
 
 } // namespace
@@ -91,10 +92,10 @@ void Documents::beginDocument()
     emit changed();
 }
 
-void Documents::keep()
+void Documents::keep(const KORVA_Journal::Entry& spared)
 {
     if (m_journal && m_editor.hasChanges())
-        m_journal->keep();
+        m_journal->keep(spared);
 }
 
 void Documents::settle()
@@ -318,14 +319,14 @@ bool Documents::askAndSave(const QString& loss)
 
 bool Documents::saveAs()
 {
-    QFileInfo proposal(name());
-    if (name().isEmpty() || !QFileInfo(proposal.path()).isWritable())
-        proposal.setFile(QDir(folder()), fileNameOf(name()));
+    const QFileInfo named(name());
+    const bool isPlaced = !name().isEmpty() && QFileInfo(named.path()).isWritable();
+    const QDir place(isPlaced ? named.path() : folder());
     const QPointer<UTIL_PictureDialog> dialog =
-        m_platform.createSaveDialog(m_window, proposal.path(), KORVA_EditCanvas::savePatterns());
+        m_platform.createSaveDialog(m_window, place.path(), KORVA_EditCanvas::savePatterns());
     dialog->setTakesAnyName(true);
     if (!name().isEmpty())
-        dialog->setFileName(freeNameBeside(proposal.filePath()));
+        dialog->setFileName(freeNameBeside(place.filePath(named.fileName())));
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return false;

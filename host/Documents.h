@@ -2,12 +2,13 @@
 
 #include "Recording.h"
 
+#include <KORVA_Journal.h>
+
 #include <QDateTime>
 #include <QObject>
 #include <QPointer>
 
 class KORVA_EditCanvas;
-class KORVA_Journal;
 
 namespace pad {
 
@@ -51,8 +52,8 @@ public:
     /// Asks about changes and saves them if so answered. False when the drawing must stay; otherwise keep()
     /// comes right before it goes.
     [[nodiscard]] bool mayReplace(const QString& question);
-    /// Puts a copy of a drawing with changes where it can be found again.
-    void keep();
+    /// Puts a copy of a drawing with changes where it can be found again. See KORVA_Journal::keep().
+    void keep(const KORVA_Journal::Entry& spared = {});
     /// The drawing is now one that was brought back; the picture that it was drawn on is the name to
     /// propose.
     void takeBroughtBack(const QString& pictureName);

@@ -46,8 +46,12 @@ EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>&
     for (const KORVA_Journal::Entry& entry : m_entries) {
         const QString name = QFileInfo(entry.pictureName).fileName();
         const QString size = QStringLiteral("%1 × %2").arg(entry.size.width()).arg(entry.size.height());
-        m_list->addItem(new QListWidgetItem(thumbnail(entry),
-                                            timeText(entry.time) + '\n' + (name.isEmpty() ? size : name)));
+        const QPixmap picture = thumbnail(entry);
+        QIcon icon;
+        for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) // which would tint it
+            icon.addPixmap(picture, mode);
+        m_list->addItem(
+            new QListWidgetItem(icon, timeText(entry.time) + '\n' + (name.isEmpty() ? size : name)));
     }
     m_list->setCurrentRow(0);
     m_list->setVisible(!m_entries.isEmpty());

@@ -38,11 +38,17 @@ constexpr Reason reasons[] = {
     {ENAMETOOLONG, QT_TRANSLATE_NOOP3("pad::PictureFile", "The name is too long.", "saving")},
 };
 
-/// Protected against writing, be it only from others: even who may do anything respects that.
-bool isProtected(const QFileInfo& file)
+/// Why a file or folder cannot be written, as in errno; 0 where it can, or is not there. Even who may do
+/// anything respects a protection.
+int protectionOf(const QString& name)
 {
     constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    return file.exists() && (!file.isWritable() || !(file.permissions() & anyWrite));
+    const QFileInfo file(name);
+    if (!file.exists())
+        return 0;
+    if (access(QFile::encodeName(name).constData(), W_OK) != 0)
+        return errno;
+    return file.permissions() & anyWrite ? 0 : EACCES;
 }
 
 WriteError systemError(int code, const QString& fileName)
@@ -113,8 +119,10 @@ std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& file
     // A row of links is followed to its end; the file class follows one.
     const QFileInfo named(fileName);
     const QString target = named.exists() ? named.canonicalFilePath() : fileName;
-    if (isProtected(QFileInfo(target)) || isProtected(QFileInfo(QFileInfo(target).path())))
-        return systemError(EACCES, fileName);
+    for (const QString& name : {target, QFileInfo(target).path()}) {
+        if (const int protection = protectionOf(name))
+            return systemError(protection, fileName);
+    }
     QSaveFile file(target);
     errno = 0;
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())

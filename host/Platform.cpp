@@ -2,7 +2,10 @@
 
 #include <UTIL_PictureDialog.h>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 namespace pad {
 
@@ -72,6 +75,14 @@ void Platform::timedMessage(QWidget* parent, const QString& icon, const QString&
 
 bool Platform::removePicture(const QString& name)
 {
+    // The toolkit takes the current folder for the trash where it cannot make one.
+    const QString trash =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Trash");
+    if (!QFileInfo(trash).isDir()) {
+        constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+        if (!QDir().mkpath(trash) || !QFile::setPermissions(trash, ownerOnly))
+            return false;
+    }
     return QFile::moveToTrash(name);
 }
 

@@ -53,8 +53,9 @@ void Recovery::showEarlier()
         !m_documents.mayReplace(
             tr("Save changes to drawing before bringing another one back?", "recovery")))
         return;
-    m_documents.keep();
-    bringBack(dialog.chosen());
+    const KORVA_Journal::Entry chosen = dialog.chosen();
+    m_documents.keep(chosen);
+    bringBack(chosen);
 }
 
 void Recovery::bringBack(const KORVA_Journal::Entry& entry)

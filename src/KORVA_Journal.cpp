@@ -193,7 +193,7 @@ void KORVA_Journal::write()
         return;
     }
     m_written = hash;
-    m_writer.start([this, picture, file = livingFile(), name = editor()->fileName()] {
+    m_writer.start([this, picture, file = livingFile(), name = pictureName()] {
         QElapsedTimer timer;
         timer.start();
         const QString error = store(picture, file, name, Size::Quick);
@@ -258,6 +258,7 @@ void KORVA_Journal::settle()
     if (editor())
         m_written = classic::hash(editor()->snapshot());
     m_writer.waitForDone();
+    m_proposal.clear();
     if (m_state == State::Nothing)
         return;
     QFile::remove(livingFile());
@@ -273,15 +274,15 @@ void KORVA_Journal::shelve()
     prune();
 }
 
-bool KORVA_Journal::keep()
+bool KORVA_Journal::keep(const Entry& spared)
 {
     if (!makeFolder()) {
         finishWrite(systemError(), 0);
         return false;
     }
     const QString file = m_folder + '/' + earlierPrefix + newId() + pictureSuffix;
-    const QString error = store(editor()->snapshot(), file, editor()->fileName(), Size::Small);
-    prune();
+    const QString error = store(editor()->snapshot(), file, pictureName(), Size::Small);
+    prune(spared.file);
     if (!error.isEmpty())
         finishWrite(error, 0);
     return error.isEmpty();
@@ -301,6 +302,7 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     editor()->canvas()->markModified(); // before the name goes, which says what there is to lose
     editor()->setFileName({});
     editor()->canvas()->setUndoFlag(0);
+    m_proposal = entry.pictureName;
     if (isAdopted)
         m_written = classic::hash(editor()->snapshot());
     else
@@ -382,6 +384,12 @@ void KORVA_Journal::removeLeftovers() const
     }
 }
 
+QString KORVA_Journal::pictureName() const
+{
+    const QString name = editor()->fileName();
+    return name.isEmpty() ? m_proposal : name;
+}
+
 // --- The folder ---
 
 QString KORVA_Journal::livingFile() const
@@ -410,9 +418,11 @@ void KORVA_Journal::moveAmongEarlier(const QString& id) const
                   prefix + earlierPrefix + newId() + pictureSuffix);
 }
 
-void KORVA_Journal::prune() const
+void KORVA_Journal::prune(const QString& spared) const
 {
     const QFileInfoList files = filesIn(m_folder, earlierPrefix);
-    for (qsizetype i = mostEarlier; i < files.size(); ++i)
-        QFile::remove(files[i].filePath());
+    for (qsizetype i = mostEarlier; i < files.size(); ++i) {
+        if (files[i].filePath() != spared)
+            QFile::remove(files[i].filePath());
+    }
 }

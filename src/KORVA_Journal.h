@@ -75,8 +75,8 @@ public:
     /// host that writes files itself calls it.
     void settle();
     /// Puts a copy of the drawing as it is now among the earlier ones and waits until it is on the disk.
-    /// False when that failed.
-    bool keep();
+    /// `spared` stays however old it is: the one that is to be brought back next. False when that failed.
+    bool keep(const Entry& spared = {});
     /// Writes what is unsaved at once and waits until it is on the disk: for a program that is told to end.
     /// False when that failed.
     bool flush();
@@ -107,8 +107,9 @@ private:
     void finishWrite(const QString& error, int milliseconds);
     void moveAmongEarlier(const QString& id) const;
     void removeLeftovers() const;
-    void prune() const;
+    void prune(const QString& spared = {}) const;
     [[nodiscard]] bool makeFolder() const;
+    [[nodiscard]] QString pictureName() const;
     [[nodiscard]] QString livingFile() const;
     [[nodiscard]] QString lockFile(const QString& id) const;
 
@@ -116,6 +117,7 @@ private:
     QString m_folder;
     State m_state = State::Nothing;
     QString m_id;
+    QString m_proposal; ///< the name of a drawing that was brought back
     std::unique_ptr<UTIL_FileLock> m_lock;
     size_t m_written; ///< a hash of the drawing as it was settled or last handed to the thread; 0: neither
     int m_pause;      ///< milliseconds between two writes

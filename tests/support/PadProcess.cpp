@@ -9,7 +9,7 @@ constexpr int patience = 20'000; // ms; the sanitizers are slow to start
 } // namespace
 
 PadProcess::PadProcess(const QStringList& arguments, const QString& display, const QString& folder,
-                       const QString& home)
+                       const QString& home, const QStringList& through)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     if (!display.isEmpty()) {
@@ -21,7 +21,8 @@ PadProcess::PadProcess(const QStringList& arguments, const QString& display, con
         environment.insert(variable, user + '/' + variable);
     m_process.setProcessEnvironment(environment);
     m_process.setWorkingDirectory(folder);
-    m_process.start(KORVA_PAD, arguments);
+    const QStringList command = through + QStringList{KORVA_PAD} + arguments;
+    m_process.start(command.constFirst(), command.sliced(1));
     m_process.waitForStarted(patience);
 }
 

@@ -11,9 +11,11 @@ class PadProcess
 {
 public:
     /// Starts it in the folder given. Without a display it works off screen. What it remembers goes below
-    /// `home`, the user's folder; without one it remembers nothing of others.
+    /// `home`, the user's folder; without one it remembers nothing of others. A program in front with its
+    /// arguments, `through`, becomes the pad.
     explicit PadProcess(const QStringList& arguments, const QString& display = {},
-                        const QString& folder = {}, const QString& home = {});
+                        const QString& folder = {}, const QString& home = {},
+                        const QStringList& through = {});
     /// Ends it if it still runs.
     ~PadProcess();
 
@@ -22,6 +24,8 @@ public:
     [[nodiscard]] int exitCode() const;
     /// Ends it at once, as a crash does.
     void kill();
+    /// Asks it to end, as the system does.
+    void terminate() { m_process.terminate(); }
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
     [[nodiscard]] QString output();
     [[nodiscard]] QString errors();

@@ -23,7 +23,7 @@ struct XServer::Client
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
 
-    [[nodiscard]] Window root() const { return DefaultRootWindow(connection); }
+    [[nodiscard]] ::Window root() const { return DefaultRootWindow(connection); }
 
     void sendKey(const char* name, bool down) const
     {
@@ -32,21 +32,42 @@ struct XServer::Client
         XSync(connection, False);
     }
 
-    [[nodiscard]] QRect findWindow(QSize size) const
+    [[nodiscard]] QString titleOf(::Window window) const
     {
-        Window rootReturn = 0;
-        Window parent = 0;
-        Window* children = nullptr;
+        const Atom name = XInternAtom(connection, "_NET_WM_NAME", False);
+        Atom type = None;
+        int bits = 0;
+        unsigned long length = 0;
+        unsigned long rest = 0;
+        unsigned char* text = nullptr;
+        if (XGetWindowProperty(connection, window, name, 0, 1024, False, AnyPropertyType, &type, &bits,
+                               &length, &rest, &text) != Success ||
+            !text)
+            return {};
+        const QString title = QString::fromUtf8(reinterpret_cast<const char*>(text), qsizetype(length));
+        XFree(text);
+        return title;
+    }
+
+    struct Shown
+    {
+        ::Window id;
+        XServer::Window window;
+    };
+
+    [[nodiscard]] QList<Shown> shown() const
+    {
+        ::Window rootReturn = 0;
+        ::Window parent = 0;
+        ::Window* children = nullptr;
         unsigned count = 0;
         if (!XQueryTree(connection, root(), &rootReturn, &parent, &children, &count))
             return {};
-        QRect found;
+        QList<Shown> found;
         for (unsigned i = 0; i < count; ++i) {
-            XWindowAttributes attributes;
-            if (XGetWindowAttributes(connection, children[i], &attributes) &&
-                attributes.map_state == IsViewable && QSize(attributes.width, attributes.height) == size) {
-                found = {QPoint(attributes.x, attributes.y), size};
-            }
+            XWindowAttributes a;
+            if (XGetWindowAttributes(connection, children[i], &a) && a.map_state == IsViewable)
+                found.append({children[i], {titleOf(children[i]), QRect(a.x, a.y, a.width, a.height)}});
         }
         if (children)
             XFree(children);
@@ -72,6 +93,11 @@ XServer::~XServer()
     m_client.reset();
     m_server.terminate();
     m_server.waitForFinished(patience);
+}
+
+void XServer::allowThreads()
+{
+    XInitThreads();
 }
 
 bool XServer::isReady() const
@@ -109,6 +135,14 @@ void XServer::click(QPoint at, int button)
     release(button);
 }
 
+void XServer::activateTopWindow()
+{
+    const QList<Client::Shown> all = m_client->shown();
+    if (!all.isEmpty())
+        XSetInputFocus(m_client->connection, all.constLast().id, RevertToPointerRoot, CurrentTime);
+    XSync(m_client->connection, False);
+}
+
 void XServer::key(const char* name, std::initializer_list<const char*> held)
 {
     for (const char* modifier : held)
@@ -132,14 +166,38 @@ QImage XServer::screenshot() const
     return image;
 }
 
+QColor XServer::colorAt(QPoint at) const
+{
+    XImage* raw =
+        XGetImage(m_client->connection, m_client->root(), at.x(), at.y(), 1, 1, AllPlanes, ZPixmap);
+    if (!raw)
+        return {};
+    const QColor color(QRgb(XGetPixel(raw, 0, 0)) | 0xff000000);
+    XDestroyImage(raw);
+    return color;
+}
+
+QList<XServer::Window> XServer::windows() const
+{
+    QList<Window> all;
+    for (const Client::Shown& shown : m_client->shown())
+        all.append(shown.window);
+    return all;
+}
+
 QRect XServer::waitForWindow(QSize size) const
 {
-    QRect found;
     QElapsedTimer timer;
     timer.start();
-    while ((found = m_client->findWindow(size)).isEmpty() && timer.elapsed() < patience)
+    do {
+        const QList<Window> all = windows();
+        for (auto window = all.crbegin(); window != all.crend(); ++window) {
+            if (window->place.size() == size)
+                return window->place;
+        }
         QThread::msleep(10);
-    return found;
+    } while (timer.elapsed() < patience);
+    return {};
 }
 
 } // namespace support

@@ -16,6 +16,9 @@ public:
     XServer(const XServer&) = delete;
     XServer& operator=(const XServer&) = delete;
 
+    /// In main(): from now on there may be one server in each thread.
+    static void allowThreads();
+
     /// Whether the server runs and takes a pointer.
     [[nodiscard]] bool isReady() const;
     /// As in the variable DISPLAY.
@@ -26,10 +29,23 @@ public:
     void press(int button = 1);
     void release(int button = 1);
     void click(QPoint at, int button = 1);
+    /// Gives the keyboard to the window on top, as a window manager does.
+    void activateTopWindow();
     /// Press and release of the key with this X name ("Return", "a"), with others held.
     void key(const char* name, std::initializer_list<const char*> held = {});
 
     [[nodiscard]] QImage screenshot() const;
+    /// The colour of one pixel.
+    [[nodiscard]] QColor colorAt(QPoint at) const;
+
+    /// A top-level window that can be seen.
+    struct Window
+    {
+        QString title;
+        QRect place;
+    };
+    /// From the bottom to the top.
+    [[nodiscard]] QList<Window> windows() const;
     /// Waits until a window of this size is on the screen; empty when none comes.
     [[nodiscard]] QRect waitForWindow(QSize size) const;
 
