@@ -22,6 +22,7 @@ Recovery::Recovery(KORVA_EditCanvas& editor, Documents& documents, Platform& pla
     documents.setJournal(&m_journal);
     connect(&m_journal, &KORVA_Journal::failed, this, &Recovery::tellFailure, Qt::QueuedConnection);
     connect(new TerminationSignal(this), &TerminationSignal::received, this, [this] {
+        m_isEnding = true;
         m_journal.flush();
         QCoreApplication::exit();
     });
@@ -40,6 +41,8 @@ void Recovery::offer()
                              : tr("A drawing of %1 on %2 was not saved.", "recovery").arg(time, name);
     const int answer = m_platform.question(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"), text,
                                            {tr("Bring it back", "recovery"), tr("Not now", "recovery")});
+    if (m_isEnding)
+        return; // nobody has answered: it is offered again
     if (answer == 0)
         bringBack(*left);
     else

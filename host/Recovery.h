@@ -34,6 +34,7 @@ private:
     Documents& m_documents;
     Platform& m_platform;
     QWidget* m_window;
+    bool m_isEnding = false; ///< the program was told to
 };
 
 } // namespace pad
