@@ -68,6 +68,7 @@ private slots:
     void troubleIsToldAfterwards();
     void theEditorMayGoAway_data();
     void theEditorMayGoAway();
+    void theEditorMayGoAwayUnderAHostsBox();
     void theSizeCheckIsCancelled();
 };
 
@@ -281,6 +282,21 @@ void tst_Waiting::theEditorMayGoAway()
     QVERIFY(!QApplication::activeModalWidget());
     file.letGo();
     QThreadPool::globalInstance()->waitForDone();
+}
+
+void tst_Waiting::theEditorMayGoAwayUnderAHostsBox()
+{
+    const PictureFolder folder;
+    EditorDesk desk;
+    const QString name = folder.written("large.bmp", fixtures::flag(large));
+    desk.platform->picks = {name};
+    desk.platform->whileWaiting = [&](const QFuture<void>& work) {
+        QFuture<void>(work).waitForFinished();
+        desk.editor.reset();
+        return true;
+    };
+    desk.editor->slotOpen();
+    QVERIFY(!desk.log.taken().contains("canDelete(true)"));
 }
 
 void tst_Waiting::theSizeCheckIsCancelled()
