@@ -18,6 +18,8 @@
 #include <QLocale>
 #include <QSettings>
 
+#include <cerrno>
+
 namespace pad {
 
 namespace {
@@ -340,8 +342,9 @@ bool Documents::saveAs()
 
 bool Documents::saveUnder(const QString& fileName)
 {
-    if (const auto error = saveDrawing(m_editor, fileName)) {
-        tell(*error);
+    if (const auto error = saveDrawing(m_editor, fileName, m_window, m_platform, m_write)) {
+        if (error->code != ECANCELED)
+            tell(*error);
         return false;
     }
     if (fileName != m_editor.fileName())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PictureFile.h"
 #include "Recording.h"
 
 #include <KORVA_Journal.h>
@@ -13,7 +14,6 @@ class KORVA_EditCanvas;
 namespace pad {
 
 class Platform;
-struct WriteError;
 
 /// The drawing as a document: made new, opened, saved and deleted, and what is asked before anything could
 /// be lost. In every question Return loses nothing and Escape changes nothing. Whatever fails leaves the
@@ -26,6 +26,8 @@ public:
     /// All of them outlive the documents; the window is the parent.
     Documents(KORVA_EditCanvas& editor, Platform& platform, QWidget* window);
 
+    /// Writes what is saved from now on; for disks that are no disks.
+    void setWriter(const Writer& writer) { m_write = writer; }
     /// Where what is given up is kept; null: nowhere. Not owned.
     void setJournal(KORVA_Journal* journal) { m_journal = journal; }
 
@@ -92,6 +94,7 @@ private:
     KORVA_EditCanvas& m_editor;
     Platform& m_platform;
     QWidget* m_window;
+    Writer m_write = writeFile;
     KORVA_Journal* m_journal = nullptr;
     QString m_folder; ///< empty: the user's pictures
     bool m_remembersFolders = false;

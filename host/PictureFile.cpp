@@ -1,15 +1,20 @@
 #include "PictureFile.h"
 
 #include <KORVA_EditCanvas.h>
+#include <UTIL_Platform.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QPromise>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QThreadPool>
 
+#include <atomic>
 #include <cerrno>
 #include <cstring>
+#include <memory>
 
 #include <unistd.h>
 
@@ -100,21 +105,73 @@ QString freeNameBeside(const QString& fileName)
     return name;
 }
 
+namespace {
+
+/// A drawing on its way into a file; for any thread.
+class Draft
+{
+public:
+    Draft(const KORVA_EditCanvas& editor, const QString& fileName)
+        : m_picture(editor.snapshot()), m_fileName(fileName)
+    {
+        editor.getFileFormat(fileName, m_format);
+        if (m_format == QLatin1String("WBMP"))
+            m_format = QStringLiteral("PNG"); // as the editor writes it: nobody who is asked gets here
+    }
+
+    [[nodiscard]] std::optional<WriteError> write(const Writer& write, const MayReplace& mayReplace) const
+    {
+        if (m_format == QLatin1String("GIF"))
+            return WriteError{0, QStringLiteral("GIF pictures are only read"), m_fileName};
+        const QByteArray bytes = KORVA_EditCanvas::encoded(m_picture, m_format.toLatin1().constData());
+        if (bytes.isEmpty())
+            return systemError(ENOMEM, m_fileName);
+        return write(bytes, m_fileName, mayReplace);
+    }
+
+private:
+    QImage m_picture;
+    QString m_fileName;
+    QString m_format;
+};
+
+/// What the thread that writes and the one that waits share.
+struct Saving
+{
+    /// Whoever is first decides whether the file is replaced or the save is cancelled.
+    [[nodiscard]] bool decide() { return !isDecided.exchange(true); }
+
+    std::atomic_bool isDecided = false;
+    std::optional<WriteError> error;
+    QPromise<void> promise;
+};
+
+} // namespace
+
 std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName)
 {
-    QString format;
-    editor.getFileFormat(fileName, format);
-    if (format == QLatin1String("GIF"))
-        return WriteError{0, QStringLiteral("GIF pictures are only read"), fileName};
-    if (format == QLatin1String("WBMP"))
-        format = QStringLiteral("PNG"); // as the editor writes it: nobody who is asked gets here
-    const QByteArray bytes = editor.encoded(format.toLatin1().constData());
-    if (bytes.isEmpty())
-        return systemError(ENOMEM, fileName);
-    return writeFile(bytes, fileName);
+    return Draft(editor, fileName).write(writeFile, {});
 }
 
-std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName)
+std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
+                                      QWidget* window, UTIL_Platform& platform, const Writer& write)
+{
+    const auto saving = std::make_shared<Saving>();
+    saving->promise.start();
+    QFuture<void> work = saving->promise.future();
+    QThreadPool::globalInstance()->start([saving, draft = Draft(editor, fileName), write] {
+        saving->error = draft.write(write, [&saving] { return saving->decide(); });
+        saving->promise.finish();
+    });
+    const QString text = QCoreApplication::translate("pad::PictureFile", "Saving drawing", "saving");
+    if (!platform.waitFor(window, text, work) && saving->decide())
+        return systemError(ECANCELED, fileName);
+    work.waitForFinished(); // a cancel that came too late: only the last step is left
+    return saving->error;
+}
+
+std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName,
+                                    const MayReplace& mayReplace)
 {
     // A row of links is followed to its end; the file class follows one.
     const QFileInfo named(fileName);
@@ -129,6 +186,8 @@ std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& file
         return errorOf(file, fileName);
     if (fsync(file.handle()) != 0)
         return systemError(errno, fileName);
+    if (mayReplace && !mayReplace())
+        return systemError(ECANCELED, fileName);
     errno = 0;
     if (!file.commit())
         return errorOf(file, fileName);

@@ -3,16 +3,19 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class KORVA_EditCanvas;
+class QWidget;
+class UTIL_Platform;
 
 namespace pad {
 
 /// Why a file was not written.
 struct WriteError
 {
-    int code = 0;   ///< as in errno; 0 where it was no matter of the system
+    int code = 0;   ///< as in errno; 0 where it was no matter of the system; ECANCELED: nobody wants it
     QString detail; ///< the system's words
     QString fileName;
 
@@ -31,9 +34,23 @@ struct WriteError
 // The file is the old one or the new one, never a part of it, and on the disk before the old one goes. It
 // keeps its mode, and a link stays one.
 
+/// Asked once, when the new file is complete and takes the old one's place next: whether it may.
+using MayReplace = std::function<bool()>;
+
+[[nodiscard]] std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName,
+                                                  const MayReplace& mayReplace = {});
+
+/// Writes as writeFile() does, in any thread.
+using Writer = std::function<std::optional<WriteError>(const QByteArray& bytes, const QString& fileName,
+                                                       const MayReplace& mayReplace)>;
+
 /// Writes the editor's snapshot in the format of the name's extension, PNG where it names none.
 [[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor,
                                                     const QString& fileName);
-[[nodiscard]] std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName);
+/// The same in another thread while the person waits, and can cancel it (ECANCELED) until the new file
+/// takes the old one's place.
+[[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
+                                                    QWidget* window, UTIL_Platform& platform,
+                                                    const Writer& write);
 
 } // namespace pad

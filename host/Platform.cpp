@@ -73,6 +73,14 @@ void Platform::timedMessage(QWidget* parent, const QString& icon, const QString&
         UTIL_Platform::timedMessage(parent, icon, text, timeout);
 }
 
+bool Platform::waitFor(QWidget* parent, const QString& text, const QFuture<void>& work)
+{
+    if (!m_script)
+        return UTIL_Platform::waitFor(parent, text, work);
+    QFuture<void>(work).waitForFinished();
+    return true;
+}
+
 bool Platform::removePicture(const QString& name)
 {
     // The toolkit takes the current folder for the trash where it cannot make one.

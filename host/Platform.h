@@ -37,6 +37,7 @@ public:
     void timedInformation(QWidget* parent, const QString& icon, const QString& text, const QString& button,
                           int timeout) override;
     void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout) override;
+    bool waitFor(QWidget* parent, const QString& text, const QFuture<void>& work) override;
     /// Into the trash; false where there is none, and the picture is still there.
     bool removePicture(const QString& name) override;
     UTIL_PictureDialog* createPickDialog(QWidget* parent, const QString& folder,

@@ -61,7 +61,7 @@ private:
         m_next.rect = QRect(image.Left, image.Top, image.Width, image.Height);
         const bool isFirst = m_parser.m_frames.isEmpty();
         if (isFirst) {
-            if (qint64(image.Width) * image.Height > UTIL_Platform::instance()->pixelLimit())
+            if (qint64(image.Width) * image.Height > m_parser.pixelLimit())
                 return TooLarge;
             const ColorMapObject* colors = image.ColorMap ? image.ColorMap : m_gif->SColorMap;
             const int index = m_next.transparentIndex;
@@ -136,6 +136,11 @@ private:
 
 UTIL_GifParser::UTIL_GifParser(const QString& fileName, int scope) : m_fileName(fileName), m_scope(scope) {}
 
+qint64 UTIL_GifParser::pixelLimit() const
+{
+    return m_pixelLimit ? *m_pixelLimit : UTIL_Platform::instance()->pixelLimit();
+}
+
 int UTIL_GifParser::transparentIndex() const
 {
     return m_frames.isEmpty() ? -1 : m_frames.constFirst().transparentIndex;
@@ -143,7 +148,9 @@ int UTIL_GifParser::transparentIndex() const
 
 int UTIL_GifParser::parse()
 {
+    const std::optional<qint64> limit = m_pixelLimit;
     *this = UTIL_GifParser(m_fileName, m_scope);
+    m_pixelLimit = limit;
     QFile file(m_fileName);
     if (!QFileInfo(m_fileName).isFile() || !file.open(QIODevice::ReadOnly))
         return NotReadable;

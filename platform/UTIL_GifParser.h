@@ -5,8 +5,11 @@
 #include <QRect>
 #include <QString>
 
+#include <optional>
+
 /// What a GIF file consists of. Its pictures themselves come from the image reader or from QMovie; this
-/// tells whether the whole file is sound, and what those keep to themselves.
+/// tells whether the whole file is sound, and what those keep to themselves. For use in the GUI thread, and
+/// in any other after setPixelLimit().
 class UTIL_GifParser
 {
 public:
@@ -33,6 +36,9 @@ public:
 
     explicit UTIL_GifParser(const QString& fileName, int scope = WholeFile);
 
+    /// What holds instead of the platform's limit.
+    void setPixelLimit(qint64 pixels) { m_pixelLimit = pixels; }
+
     /// Reads the file; 0 (NoError) or what is wrong with it. The first frame's pixels are decoded, the
     /// later frames' are only walked through. What the file holds is told afterwards:
     int parse();
@@ -52,8 +58,11 @@ public:
 private:
     class Reading;
 
+    [[nodiscard]] qint64 pixelLimit() const;
+
     QString m_fileName;
     int m_scope;
+    std::optional<qint64> m_pixelLimit;
     QSize m_screenSize;
     QList<Frame> m_frames;
     QColor m_transparentColor = Qt::white;

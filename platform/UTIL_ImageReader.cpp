@@ -172,7 +172,7 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
         return Failed;
 
     const Reading reading(limit);
-    UTIL_PictureSource source(device, probe.kept);
+    UTIL_PictureSource source(device, probe.kept, m_isCancelled);
     QImageReader reader(&source, probe.format.isEmpty() ? m_format : probe.format);
     const bool isUnknown = probe.format.isEmpty() && m_format.isEmpty();
     reader.setAutoDetectImageFormat(isUnknown);
@@ -194,7 +194,7 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
         m_image = png::readReduced(source, wanted);
         return m_image.isNull() ? Failed : Ok;
     }
-    if (!reader.read(&m_image) || reading.hasLostData())
+    if (!reader.read(&m_image) || reading.hasLostData() || (m_isCancelled && m_isCancelled()))
         return Failed;
     if (area(m_image.size()) > limit)
         return TooLarge;

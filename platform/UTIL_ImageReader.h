@@ -36,6 +36,8 @@ public:
     /// Whether two pictures have the same pixels, in all of their colour, whatever their formats.
     [[nodiscard]] static bool isSame(const QImage& left, const QImage& right);
 
+    /// Asked again and again while the file is read; reading fails as soon as it says true.
+    void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
     /// What holds instead of the platform's limit.
     void setPixelLimit(qint64 pixels) { m_pixelLimit = pixels; }
     /// "16" asks for a picture of 16 bits a pixel; anything else asks for nothing.
@@ -62,6 +64,7 @@ private:
     bool m_isInMemory = false;
     QByteArray m_format;
     QByteArray m_parameters;
+    std::function<bool()> m_isCancelled;
     std::optional<qint64> m_pixelLimit;
     Reduction m_reduction;
     QRgb m_background = 0xffffffff;

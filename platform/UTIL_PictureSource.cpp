@@ -1,7 +1,8 @@
 #include "UTIL_PictureSource.h"
 
-UTIL_PictureSource::UTIL_PictureSource(QIODevice& device, const QList<UTIL_PictureProbe::Range>& parts)
-    : m_device(device), m_parts(parts)
+UTIL_PictureSource::UTIL_PictureSource(QIODevice& device, const QList<UTIL_PictureProbe::Range>& parts,
+                                       const std::function<bool()>& isCancelled)
+    : m_device(device), m_parts(parts), m_isCancelled(isCancelled)
 {
     for (const UTIL_PictureProbe::Range& part : m_parts)
         m_size += part.length;
@@ -20,6 +21,8 @@ bool UTIL_PictureSource::seek(qint64 position)
 
 qint64 UTIL_PictureSource::readData(char* data, qint64 most)
 {
+    if (m_isCancelled && m_isCancelled())
+        return -1;
     qint64 done = 0;
     while (done < most && m_part < m_parts.size()) {
         const UTIL_PictureProbe::Range& part = m_parts[m_part];

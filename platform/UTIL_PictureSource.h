@@ -4,14 +4,17 @@
 
 #include <QIODevice>
 
+#include <functional>
+
 /// Some parts of another device, one after the other, as if nothing else were in it. Reading only.
 class UTIL_PictureSource : public QIODevice
 {
     Q_OBJECT
 
 public:
-    /// `device` is open and outlives the source.
-    UTIL_PictureSource(QIODevice& device, const QList<UTIL_PictureProbe::Range>& parts);
+    /// `device` is open and outlives the source. Once `isCancelled` says true nothing more can be read.
+    UTIL_PictureSource(QIODevice& device, const QList<UTIL_PictureProbe::Range>& parts,
+                       const std::function<bool()>& isCancelled = {});
 
     [[nodiscard]] qint64 size() const override { return m_size; }
     bool seek(qint64 position) override;
@@ -23,6 +26,7 @@ protected:
 private:
     QIODevice& m_device;
     QList<UTIL_PictureProbe::Range> m_parts;
+    std::function<bool()> m_isCancelled;
     qint64 m_size = 0;
     qsizetype m_part = 0; ///< which part is being read
     qint64 m_offset = 0;  ///< how far

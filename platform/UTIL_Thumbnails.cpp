@@ -4,7 +4,15 @@
 #include "UTIL_Platform.h"
 #include "UTIL_Skin.h"
 
+#include <QCoreApplication>
+#include <QPointer>
+#include <QPromise>
 #include <QThread>
+#include <QThreadPool>
+
+#include <functional>
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -19,9 +27,22 @@ QSize thumbnailSize(QSize size)
     return size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
 }
 
-QImage made(const QString& fileName, qint64 pixelLimit)
+/// One thread for all of them, which outlives each: it goes with the application.
+QThreadPool& pool()
+{
+    static QPointer<QThreadPool> pool;
+    if (!pool) {
+        pool = new QThreadPool(QCoreApplication::instance());
+        pool->setMaxThreadCount(1);
+        pool->setThreadPriority(QThread::LowPriority);
+    }
+    return *pool;
+}
+
+QImage made(const QString& fileName, qint64 pixelLimit, const std::function<bool()>& isCancelled)
 {
     UTIL_ImageReader reader(fileName);
+    reader.setIsCancelled(isCancelled);
     reader.setPixelLimit(pixelLimit);
     reader.setReduction(thumbnailSize);
     reader.read();
@@ -35,13 +56,12 @@ QImage made(const QString& fileName, qint64 pixelLimit)
 
 UTIL_Thumbnails::UTIL_Thumbnails(QObject* parent) : QObject(parent), m_made(mostMade)
 {
-    m_pool.setMaxThreadCount(1);
-    m_pool.setThreadPriority(QThread::LowPriority);
+    connect(&m_maker, &QFutureWatcher<QImage>::finished, this, &UTIL_Thumbnails::take);
 }
 
 UTIL_Thumbnails::~UTIL_Thumbnails()
 {
-    m_pool.waitForDone();
+    m_maker.cancel();
 }
 
 QPixmap UTIL_Thumbnails::wanted(const QString& fileName)
@@ -63,16 +83,20 @@ void UTIL_Thumbnails::makeNext()
     if (!m_making.isEmpty() || m_wanted.isEmpty())
         return;
     m_making = m_wanted.takeLast();
-    m_pool.start([this, fileName = m_making, limit = UTIL_Platform::instance()->pixelLimit()] {
-        const QImage image = made(fileName, limit);
-        QMetaObject::invokeMethod(this, [this, fileName, image] { take(fileName, image); });
+    const auto promise = std::make_shared<QPromise<QImage>>();
+    promise->start();
+    m_maker.setFuture(promise->future());
+    pool().start([promise, fileName = m_making, limit = UTIL_Platform::instance()->pixelLimit()] {
+        if (!promise->isCanceled())
+            promise->addResult(made(fileName, limit, [&promise] { return promise->isCanceled(); }));
+        promise->finish();
     });
 }
 
-void UTIL_Thumbnails::take(const QString& fileName, const QImage& image)
+void UTIL_Thumbnails::take()
 {
-    m_making.clear();
-    m_made.insert(fileName, new QPixmap(QPixmap::fromImage(image)));
+    const QString fileName = std::exchange(m_making, {});
+    m_made.insert(fileName, new QPixmap(QPixmap::fromImage(m_maker.result())));
     emit ready(fileName);
     makeNext();
 }

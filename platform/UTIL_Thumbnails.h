@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QCache>
+#include <QFutureWatcher>
 #include <QObject>
 #include <QPixmap>
 #include <QStringList>
-#include <QThreadPool>
 
 /// Small pictures of picture files, made in a thread of their own, the last wanted first. What was wanted
-/// long ago and is no longer to be seen is forgotten.
+/// long ago and is no longer to be seen is forgotten. Deleting the object waits for nothing: a picture that
+/// is being made is given up.
 class UTIL_Thumbnails : public QObject
 {
     Q_OBJECT
@@ -29,10 +30,10 @@ signals:
 
 private:
     void makeNext();
-    void take(const QString& fileName, const QImage& image);
+    void take();
 
-    QThreadPool m_pool;
     QStringList m_wanted; ///< the last is made next
     QString m_making;     ///< empty when the thread is idle
+    QFutureWatcher<QImage> m_maker;
     QCache<QString, QPixmap> m_made;
 };

@@ -56,14 +56,15 @@ bool UTIL_WaitBox::run(QWidget* parent, const QString& text, QFuture<void> work)
 {
     if (isDoneSoon(work))
         return true;
-    UTIL_WaitBox box(parent, text);
+    const QPointer<UTIL_WaitBox> box = new UTIL_WaitBox(parent, text); // goes with its parent
     QFutureWatcher<void> watcher;
-    connect(&watcher, &QFutureWatcher<void>::finished, &box, &QDialog::accept);
+    connect(&watcher, &QFutureWatcher<void>::finished, box, &QDialog::accept);
     watcher.setFuture(work);
-    if (box.exec() == Accepted)
-        return true;
-    work.cancel();
-    return false;
+    const bool isDone = box->exec() == Accepted && box;
+    delete box;
+    if (!isDone)
+        work.cancel();
+    return isDone;
 }
 
 QRect UTIL_WaitBox::track() const

@@ -12,7 +12,8 @@ class UTIL_WaitBox : public UTIL_Dialog
 
 public:
     /// Returns when the work is done (true), or when the user has cancelled it (false), which the work is
-    /// told by its future. For the first 300 ms nothing is shown and no event is handled.
+    /// told by its future. For the first 300 ms nothing is shown and no event is handled. When the parent
+    /// is deleted meanwhile, that is a cancel, too.
     [[nodiscard]] static bool run(QWidget* parent, const QString& text, QFuture<void> work);
 
 protected:

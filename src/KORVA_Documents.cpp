@@ -9,6 +9,7 @@
 #include "UTIL_ImageReader.h"
 #include "UTIL_PictureDialog.h"
 #include "UTIL_Platform.h"
+#include "UTIL_Wait.h"
 
 #include <QFile>
 
@@ -25,6 +26,28 @@ constexpr auto binIcon = "Dialog_Empty_Trash.gif";
 
 constexpr int shortTime = 1;
 constexpr int longTime = 2;
+
+/// Reads a file: at once where that takes no time, otherwise in another thread, for which the user waits.
+/// Nothing when the user has cancelled it, or the editor is gone.
+template <typename Work>
+auto patiently(KORVA_EditCanvas& editor, const KORVA_PictureFile& file, const Work& work)
+    -> std::optional<std::invoke_result_t<Work, KORVA_PictureFile&>>
+{
+    KORVA_PictureFile own = file;
+    if (own.isSmall())
+        return work(own);
+    own.setPixelLimit(UTIL_Platform::instance()->pixelLimit());
+    const QPointer<KORVA_EditCanvas> asker = &editor;
+    auto result = util::waitFor(&editor, KORVA_EditCanvas::tr("Opening picture", "WAIT_BOX"),
+                                [own, work](const util::IsCancelled& isCancelled) {
+                                    KORVA_PictureFile theirs = own;
+                                    theirs.setIsCancelled(isCancelled);
+                                    return work(theirs);
+                                });
+    if (!asker)
+        return {};
+    return result;
+}
 
 // What is asked before unsaved changes would be lost; empty for actions that lose none.
 QString saveQuestion(int action)
@@ -70,6 +93,7 @@ void KORVA_Documents::startOpen()
 
 void KORVA_Documents::saveChanges(int action)
 {
+    const QPointer<KORVA_EditCanvas> editor = &m_editor; // may go away while the user is asked
     m_pendingAction = action;
     m_editor.canvas()->mergePastePixmap();
     if (!m_editor.isModified()) {
@@ -88,7 +112,8 @@ void KORVA_Documents::saveChanges(int action)
         if (answer != 0) {
             if (action == Open) {
                 m_editor.openNewFilePrivate(Open, QString());
-                resetTypedText();
+                if (editor)
+                    resetTypedText();
             }
             return;
         }
@@ -96,7 +121,8 @@ void KORVA_Documents::saveChanges(int action)
     if (KORVA_Text* text = m_editor.currentText(); text && !text->isBufferEmpty())
         text->paintProportionBuffer();
     m_editor.savePic(action);
-    resetTypedText();
+    if (editor)
+        resetTypedText();
 }
 
 void KORVA_Documents::resetTypedText()
@@ -117,21 +143,23 @@ bool KORVA_Documents::pickAndOpen(int action)
         return false; // the editor went away with it
     const QString name = accepted ? dialog->fileName() : QString();
     const bool opened = !name.isEmpty() && open(action, name);
-    delete m_pickDialog;
+    delete dialog;
     return opened;
 }
 
 bool KORVA_Documents::open(int action, const QString& name)
 {
+    const std::optional<Contents> contents = contentsOf(name, picturefile::readFormat(name));
+    if (!contents)
+        return false;
     if (action != InsertStamp)
         m_fileName = name;
-    KORVA_PictureFile file(name);
-    if (!check(file, picturefile::readFormat(name)))
+    if (!check(contents->status))
         return false;
 
     QPixmap picture;
     Opened source;
-    const bool opened = read(file, &picture, &source);
+    const bool opened = take(*contents, &picture, &source);
     if (opened && action == Open) {
         m_opened = source;
         m_editor.setPixmap(&picture);
@@ -151,10 +179,10 @@ bool KORVA_Documents::open(int action, const QString& name)
 void KORVA_Documents::openAtConstruction(const QString& name)
 {
     const bool isHandedOver = name == QLatin1String(handedOver) || name == QLatin1String(handedOverFile);
-    KORVA_PictureFile file(name);
+    const std::optional<Contents> contents =
+        contentsOf(name, isHandedOver ? QByteArray() : picturefile::readFormat(name));
     QPixmap picture;
-    if (check(file, isHandedOver ? QByteArray() : picturefile::readFormat(name)) &&
-        read(file, &picture, &m_opened)) {
+    if (contents && check(contents->status) && take(*contents, &picture, &m_opened)) {
         m_fileName = name;
         m_editor.setPixmap(&picture);
         m_editor.clearModified();
@@ -163,13 +191,32 @@ void KORVA_Documents::openAtConstruction(const QString& name)
 
 bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
 {
-    KORVA_PictureFile file(name, KORVA_PictureFile::Full);
-    return check(file, format);
+    const std::optional<int> status =
+        patiently(m_editor, KORVA_PictureFile(name, KORVA_PictureFile::Full),
+                  [format = QByteArray(format)](KORVA_PictureFile& file) {
+                      return file.check(format.isEmpty() ? nullptr : format.constData());
+                  });
+    return status && check(*status);
 }
 
-bool KORVA_Documents::check(KORVA_PictureFile& file, const QByteArray& format)
+std::optional<KORVA_Documents::Contents> KORVA_Documents::contentsOf(const QString& name,
+                                                                     const QByteArray& format)
 {
-    switch (file.check(format.isEmpty() ? nullptr : format.constData())) {
+    return patiently(m_editor, KORVA_PictureFile(name), [format](KORVA_PictureFile& file) {
+        Contents contents;
+        contents.status = file.check(format.isEmpty() ? nullptr : format.constData());
+        if (contents.status != UTIL_ImageReader::Ok)
+            return contents;
+        contents.image = file.take();
+        contents.working = picturefile::workingImage(contents.image);
+        contents.opened = {file.name(), file.origin().size, !file.origin().isWhole};
+        return contents;
+    });
+}
+
+bool KORVA_Documents::check(int status)
+{
+    switch (status) {
     case UTIL_ImageReader::Ok:
         return true;
     case UTIL_ImageReader::TooLarge:
@@ -181,21 +228,19 @@ bool KORVA_Documents::check(KORVA_PictureFile& file, const QByteArray& format)
     }
 }
 
-bool KORVA_Documents::read(KORVA_PictureFile& file, QPixmap* picture, Opened* opened)
+bool KORVA_Documents::take(const Contents& contents, QPixmap* picture, Opened* opened)
 {
-    const QImage image = file.take();
-    if (image.isNull()) {
+    if (contents.image.isNull()) {
         UTIL_Platform::instance()->timedInformation(
             &m_editor, warningIcon,
             KORVA_EditCanvas::tr("This file can not be opened.", "4.4.4.2;DIALOG_ICON_50_WARP"),
             KORVA_EditCanvas::tr("OK", "4.4.4.2;SOFTKEY_1BUTTON"), longTime);
         return false;
     }
-    if (!picturefile::convert(image, picture))
+    if (!picturefile::convert(contents.working, picture))
         return false;
-    const picturefile::Origin& origin = file.origin();
-    *opened = {file.name(), origin.size,
-               !origin.isWhole || !UTIL_ImageReader::isSame(image, picture->toImage())};
+    *opened = contents.opened;
+    opened->isReduced = opened->isReduced || !UTIL_ImageReader::isSame(contents.image, picture->toImage());
     return true;
 }
 

@@ -5,8 +5,9 @@
 #include <QPointer>
 #include <QString>
 
+#include <optional>
+
 class KORVA_EditCanvas;
-class KORVA_PictureFile;
 class UTIL_PictureDialog;
 
 /// The editor's document commands: what is asked, in which order, and what the user is told. The file work
@@ -37,7 +38,9 @@ public:
     /// Nothing while a pick dialog is open.
     void startOpen();
     void saveChanges(int action);
-    /// Lets the user pick the picture; false when nothing was picked or opened.
+    /// Lets the user pick the picture; false when nothing was picked or opened. As open() it shows that a
+    /// large file takes its time; when the user cancels it, or the editor is deleted meanwhile, nothing has
+    /// happened.
     bool pickAndOpen(int action);
     bool open(int action, const QString& name);
     bool isPicSizeNotOver(const QString& name, const char* format);
@@ -58,8 +61,20 @@ private:
         bool isReduced = false;
     };
 
-    bool check(KORVA_PictureFile& file, const QByteArray& format);
-    bool read(KORVA_PictureFile& file, QPixmap* picture, Opened* opened);
+    /// What reading a file came to.
+    struct Contents
+    {
+        int status = 0;
+        QImage image;
+        QImage working; ///< the image as the canvas takes it
+        Opened opened;
+    };
+
+    /// Nothing when the user has cancelled it; this object may be gone then.
+    std::optional<Contents> contentsOf(const QString& name, const QByteArray& format);
+    /// Tells the user what is wrong.
+    bool check(int status);
+    bool take(const Contents& contents, QPixmap* picture, Opened* opened);
     void askForName();
     void resetTypedText();
     void tell(const char* icon, const QString& text);

@@ -543,6 +543,11 @@ QByteArray KORVA_EditCanvas::encoded(const char* format, qsizetype mostBytes) co
         snapshot(), format ? QByteArray(format) : picturefile::writeFormat(fileName()), mostBytes);
 }
 
+QByteArray KORVA_EditCanvas::encoded(const QImage& snapshot, const char* format, qsizetype mostBytes)
+{
+    return picturesave::encodedWithin(snapshot, format, mostBytes);
+}
+
 QStringList KORVA_EditCanvas::openPatterns()
 {
     return picturefile::openPatterns();

@@ -137,6 +137,9 @@ public:
     /// fileName()'s extension. With `mostBytes` above 0 it is no longer than that: a JPEG gives up quality
     /// first, then size. Empty when it can't be done or does not fit.
     [[nodiscard]] QByteArray encoded(const char* format, qsizetype mostBytes = 0) const;
+    /// The same of a snapshot() taken before, for any thread; null is no format here.
+    [[nodiscard]] static QByteArray encoded(const QImage& snapshot, const char* format,
+                                            qsizetype mostBytes = 0);
     /// The size of the picture last opened, in pixels, upright, before it was fitted; empty for a new
     /// drawing.
     [[nodiscard]] QSize sourceSize() const;

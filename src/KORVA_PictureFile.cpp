@@ -2,9 +2,11 @@
 
 #include "UTIL_GifParser.h"
 #include "UTIL_ImageReader.h"
+#include "UTIL_PictureProbe.h"
 #include "UTIL_Platform.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
 
@@ -48,6 +50,9 @@ constexpr QSize workingBox(352, 288);
 constexpr int workingDepth = 16;
 /// A damaged GIF of more pixels is not even tried.
 constexpr qint64 greatScreen = 4'000'000;
+/// Up to here a picture is decoded before anybody could wonder, on a slow device, too.
+constexpr qint64 smallFile = 64 * 1024;
+constexpr qint64 smallPicture = 1'000'000;
 constexpr QRgb white = 0xffffffff;
 
 /// What is transparent shows `background`; a picture with a palette keeps having one.
@@ -155,6 +160,25 @@ QImage picturefile::decoded(const QByteArray& data, Origin* origin)
 
 KORVA_PictureFile::KORVA_PictureFile(const QString& name, Scale scale) : m_name(name), m_scale(scale) {}
 
+bool KORVA_PictureFile::isSmall() const
+{
+    const QFileInfo info(m_name);
+    QFile file(m_name);
+    if (!info.isFile())
+        return true;
+    if (info.size() > smallFile)
+        return false;
+    if (!file.open(QIODevice::ReadOnly))
+        return true;
+    const QSize size = UTIL_PictureProbe::of(file).size;
+    return qint64(size.width()) * size.height() <= smallPicture;
+}
+
+qint64 KORVA_PictureFile::pixelLimit() const
+{
+    return m_pixelLimit ? *m_pixelLimit : UTIL_Platform::instance()->pixelLimit();
+}
+
 int KORVA_PictureFile::check(const char* format)
 {
     examine();
@@ -199,9 +223,11 @@ void KORVA_PictureFile::examine()
     if (kindOf(m_name).opening != Opening::AsGif)
         return;
     UTIL_GifParser parser(m_name, UTIL_GifParser::WholeFile);
+    if (m_pixelLimit)
+        parser.setPixelLimit(*m_pixelLimit);
     m_isDamaged = parser.parse() != UTIL_GifParser::NoError;
     const qint64 pixels = qint64(parser.screenSize().width()) * parser.screenSize().height();
-    m_isTrap = m_isDamaged && pixels > greatScreen && pixels <= UTIL_Platform::instance()->pixelLimit();
+    m_isTrap = m_isDamaged && pixels > greatScreen && pixels <= pixelLimit();
     if (parser.transparentIndex() >= 0)
         m_transparentColor = parser.transparentColor().rgb();
 }
@@ -209,6 +235,9 @@ void KORVA_PictureFile::examine()
 UTIL_ImageReader KORVA_PictureFile::reader(const char* format) const
 {
     UTIL_ImageReader reader(m_name, format);
+    reader.setIsCancelled(m_isCancelled);
+    if (m_pixelLimit)
+        reader.setPixelLimit(*m_pixelLimit);
     if (kindOf(m_name).opening == Opening::AsJpeg)
         reader.setParameters("16");
     if (m_scale == Working)

@@ -4,6 +4,7 @@
 #include <QPixmap>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 class UTIL_ImageReader;
@@ -57,6 +58,13 @@ public:
     explicit KORVA_PictureFile(const QString& name, Scale scale = Working);
 
     [[nodiscard]] const QString& name() const { return m_name; }
+    /// Whether it is read in no time: a short file with a small picture, or no file at all.
+    [[nodiscard]] bool isSmall() const;
+
+    /// What holds instead of the platform's limit, which only the GUI thread may ask for.
+    void setPixelLimit(qint64 pixels) { m_pixelLimit = pixels; }
+    /// Asked again and again while the file is read; nothing can be read once it says true.
+    void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
 
     /// Whether the file can be read as `format`, or as whatever it is when that is null: 0, -100 when it
     /// has too many pixels to be decoded, another number for every other failure.
@@ -70,10 +78,13 @@ public:
 
 private:
     void examine();
+    [[nodiscard]] qint64 pixelLimit() const;
     [[nodiscard]] UTIL_ImageReader reader(const char* format) const;
 
     QString m_name;
     Scale m_scale = Working;
+    std::optional<qint64> m_pixelLimit;
+    std::function<bool()> m_isCancelled;
     QImage m_checked;                       ///< what check() decoded; null when take() must decode itself
     QString m_version;                      ///< of the file when it was examined; null when it was not
     bool m_isDamaged = false;               ///< a GIF that is not sound to its end

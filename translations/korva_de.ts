@@ -267,6 +267,11 @@
         <comment>tool option</comment>
         <translation>Gefüllt</translation>
     </message>
+    <message>
+        <source>Opening picture</source>
+        <comment>WAIT_BOX</comment>
+        <translation>Bild wird geöffnet</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -267,6 +267,11 @@
         <comment>tool option</comment>
         <translation>填充</translation>
     </message>
+    <message>
+        <source>Opening picture</source>
+        <comment>WAIT_BOX</comment>
+        <translation>正在打开图片</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

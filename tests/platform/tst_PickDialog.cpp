@@ -1,6 +1,7 @@
 #include "FolderFixtures.h"
 #include "UTIL_PickDialog.h"
 #include "UTIL_Skin.h"
+#include "support/StalledFile.h"
 
 #include <unistd.h>
 
@@ -49,6 +50,7 @@ private slots:
     void emptyOrMissingFolderSaysSo();
     void thousandsOfPicturesDoNotStall();
     void mayGoAwayWhileThumbnailsAreMade();
+    void goesAwayWhileAThumbnailStalls();
     void itsKeysSayWhatItIsFor();
     void everyLetterOfANameIsSeen_data();
     void everyLetterOfANameIsSeen();
@@ -313,6 +315,22 @@ void tst_PickDialog::mayGoAwayWhileThumbnailsAreMade()
         Stage stage(m_photos.path());
         QCoreApplication::processEvents();
     }
+}
+
+void tst_PickDialog::goesAwayWhileAThumbnailStalls()
+{
+    const QTemporaryDir folder;
+    QVERIFY(support::sheet({400, 300}).save(folder.filePath("a.png")));
+    support::StalledFile file(folder.filePath("a.png"));
+    QElapsedTimer timer;
+    {
+        Stage stage(folder.path());
+        QTest::qWait(300); // the thumbnail is being made
+        timer.start();
+    }
+    const qint64 closing = timer.elapsed();
+    file.letGo();
+    QVERIFY2(closing < 1000, qPrintable(QString::number(closing)));
 }
 
 void tst_PickDialog::itsKeysSayWhatItIsFor()

@@ -38,7 +38,9 @@ private slots:
     void shortWorkShowsNothingAndHandlesNoEvent()
     {
         int events = 0;
-        QTimer::singleShot(0, this, [&] { ++events; });
+        QTimer timer;
+        timer.callOnTimeout([&] { ++events; });
+        timer.start(0);
         const auto ended = std::make_shared<std::atomic<int>>(0);
         QCOMPARE(util::waitFor(nullptr, text, working(150, ended)), std::optional(42));
         QCOMPARE(events, 0);

@@ -39,6 +39,8 @@ public:
     QList<std::optional<QString>> names;
     /// What the user does while a pick dialog is open.
     std::function<void()> whilePicking;
+    /// The host's own way to wait for work; without one it is the desktop's.
+    std::function<bool(const QFuture<void>& work)> whileWaiting;
     /// Done each time a reader asks for the limit, which is once it has opened its file.
     std::function<void()> onReading;
     qint64 limit = 64'000'000;
@@ -60,6 +62,10 @@ public:
     void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout) override
     {
         note("message", parent, {icon, text, QString::number(timeout)});
+    }
+    bool waitFor(QWidget* parent, const QString& text, const QFuture<void>& work) override
+    {
+        return whileWaiting ? whileWaiting(work) : UTIL_Platform::waitFor(parent, text, work);
     }
     UTIL_PictureDialog* createPickDialog(QWidget* parent, const QString& in,
                                          const QStringList& patterns) override
