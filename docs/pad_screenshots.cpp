@@ -27,12 +27,13 @@ namespace {
 
 constexpr int columns = 6;
 
+/// The hue 0 is one of colours that the working depth leaves alone.
 QImage picture(QSize size, int hue)
 {
     QImage image(size, QImage::Format_RGB32);
-    image.fill(QColor::fromHsv(hue, 40, 255));
+    image.fill(hue ? QColor::fromHsv(hue, 40, 255) : QColor(Qt::white));
     QPainter painter(&image);
-    painter.setPen(QPen(QColor::fromHsv(hue, 255, 160), size.width() / 40.0));
+    painter.setPen(QPen(hue ? QColor::fromHsv(hue, 255, 160) : QColor(Qt::red), size.width() / 40.0));
     painter.drawEllipse(QRect(QPoint(size.width() / 5, size.height() / 5), size / 2));
     painter.drawLine(0, size.height() * 4 / 5, size.width(), size.height() * 3 / 5);
     return image;
@@ -53,15 +54,16 @@ public:
         ask("photo.jpg", {1600, 1200}, [](pad::Documents& d) { d.save(); });
         ask("A photograph with a very long name, taken on a mountain in the evening.jpg", {1600, 1200},
             [](pad::Documents& d) { d.save(); });
-        ask("picture.png", {160, 120}, [this](pad::Documents& d) {
-            picture({160, 120}, 200).save(path("picture.png"), "PNG", 100);
+        ask("picture.png", {160, 120}, [](pad::Documents& d) { d.save(); });
+        ask("exact.png", {160, 120}, [this](pad::Documents& d) {
+            picture({160, 120}, 200).save(path("exact.png"), "PNG", 100);
             d.save();
         });
         ask("animation.wbmp", {160, 120}, [](pad::Documents& d) { d.save(); });
         ask("picture.png", {160, 120}, [](pad::Documents& d) { d.deletePicture(); });
         ask("picture.png", {160, 120}, [](pad::Documents& d) { d.newDrawing(); });
         ask("picture.png", {160, 120}, [](pad::Documents& d) { d.saveAs(); });
-        ask("picture.png", {160, 120}, [this](pad::Documents& d) {
+        ask("exact.png", {160, 120}, [this](pad::Documents& d) {
             QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ExeOwner);
             d.save();
             QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -75,9 +77,10 @@ private:
 
     void open(const QString& name, QSize size)
     {
-        picture(size, 20).save(path(name), name.endsWith("jpg")   ? "JPG"
-                                           : name.endsWith("png") ? "PNG"
-                                                                  : "WBMP");
+        picture(size, name == "exact.png" ? 0 : 20)
+            .save(path(name), name.endsWith("jpg")   ? "JPG"
+                              : name.endsWith("png") ? "PNG"
+                                                     : "WBMP");
         m_window.editor().clearModified();
         m_window.documents().openNamed(path(name));
         m_window.editor().canvas()->markModified();
@@ -101,7 +104,7 @@ private:
                                {240, 20},  {200, 170}, {1, 1}};
         for (int i = 0; i < int(std::size(names)); ++i) {
             const QString file = path(QString("earlier %1.png").arg(i));
-            picture(sizes[i], 50 * i).save(file);
+            picture(sizes[i], 50 * i + 1).save(file);
             entries.append({file, QString::fromLatin1(names[i]), time, sizes[i]});
             time = time.addSecs(-i * i * 3600 * 4);
         }

@@ -122,7 +122,8 @@ KORVA_Journal::Entry EarlierDialog::chosen() const
 QString EarlierDialog::timeText(const QDateTime& time)
 {
     const QLocale locale;
-    const QString clock = locale.toString(time.time(), QLocale::ShortFormat);
+    const QString format = locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+    const QString clock = locale.toString(time.time(), format);
     const qint64 days = time.date().daysTo(QDate::currentDate());
     if (days == 0)
         return tr("today at %1", "time").arg(clock);
