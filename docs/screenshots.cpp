@@ -1,5 +1,7 @@
 // Makes the contact sheet of docs/screenshots at the scale the program runs at: the editor with each pop-up
 // open, and both dialogs. Started by screenshots.sh; wants a screen of its own.
+#include "ContactSheet.h"
+
 #include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_ColorPicker.h>
 #include <KORVA_EditCanvas.h>
@@ -13,21 +15,19 @@
 #include <QPainterPath>
 #include <QPushButton>
 #include <QScreen>
-#include <QTimer>
 
 #include <cstdio>
-#include <functional>
+
+using docs::ContactSheet;
 
 namespace {
 
 constexpr int columns = 6;
-constexpr int gap = 8;       // logical pixels around each shot
-constexpr int settled = 400; // ms until everything is painted
 
 class Photographer
 {
 public:
-    Photographer() : m_editor(KORVA_COLOR_16BIT, &m_window)
+    Photographer() : m_editor(KORVA_COLOR_16BIT, &m_window), m_sheet(m_window, columns)
     {
         m_window.setPalette(UTIL_Skin::palette());
         m_window.setFixedSize(UTIL_Skin::Size::screenWidth, UTIL_Skin::Size::screenHeight);
@@ -35,71 +35,30 @@ public:
         m_editor.setPixmap(&picture);
         m_window.show();
         QCursor::setPos(m_window.screen()->geometry().bottomRight()); // hovers over nothing
-        wait();
+        ContactSheet::wait();
     }
 
     QImage sheet()
     {
-        shoot([this] { wait(); });
-        shoot([this] { button("toolButton").click(); });
+        m_sheet.shoot(ContactSheet::wait);
+        m_sheet.shoot([this] { button("toolButton").click(); });
         for (int row = 0; row < toolMenu().actions().size(); ++row) {
             toolMenu().actions()[row]->trigger();
-            shoot([this] { button("optionButton").click(); });
+            m_sheet.shoot([this] { button("optionButton").click(); });
         }
-        shoot([this] {
+        m_sheet.shoot([this] {
             m_editor.findChild<QComboBox*>("zoomBox")->showPopup();
-            wait();
+            ContactSheet::wait();
         });
-        shoot([this] { KORVA_ColorPicker(KORVA_COLOR_16BIT, QColor(31, 110, 180), &m_window).exec(); });
-        shoot([this] { KORVA_ChooseCanvasDlg(&m_window, 3).exec(); });
-        return m_shots;
+        m_sheet.shoot(
+            [this] { KORVA_ColorPicker(KORVA_COLOR_16BIT, QColor(31, 110, 180), &m_window).exec(); });
+        m_sheet.shoot([this] { KORVA_ChooseCanvasDlg(&m_window, 3).exec(); });
+        return m_sheet.image();
     }
 
 private:
     QPushButton& button(const char* name) { return *m_editor.findChild<QPushButton*>(name); }
     QMenu& toolMenu() { return *button("toolButton").menu(); }
-
-    static void wait()
-    {
-        QEventLoop loop;
-        QTimer::singleShot(settled, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-
-    /// Opens something, puts the picture of the window into the sheet and closes it again.
-    void shoot(const std::function<void()>& open)
-    {
-        QTimer::singleShot(settled / 2, &m_window, [this] {
-            const double scale = m_window.devicePixelRatioF();
-            QImage screen = m_window.screen()->grabWindow(0).toImage();
-            screen.setDevicePixelRatio(1);
-            const QRect place(m_window.pos() * scale, m_window.size() * scale);
-            add(screen.copy(place), scale);
-            if (QWidget* popup = QApplication::activePopupWidget())
-                popup->close();
-            if (QWidget* dialog = QApplication::activeModalWidget())
-                dialog->close();
-        });
-        open();
-        wait();
-    }
-
-    void add(const QImage& shot, double scale)
-    {
-        const int space = qRound(gap * scale);
-        const QSize cell = shot.size() + QSize(space, space);
-        const QPoint at(m_count % columns * cell.width() + space,
-                        m_count / columns * cell.height() + space);
-        const QSize size(columns * cell.width() + space, (m_count / columns + 1) * cell.height() + space);
-        QImage larger(size, QImage::Format_RGB32);
-        larger.fill(UTIL_Skin::color(UTIL_Skin::Color::Border));
-        QPainter painter(&larger);
-        painter.drawImage(0, 0, m_shots);
-        painter.drawImage(at, shot);
-        painter.end();
-        m_shots = larger;
-        ++m_count;
-    }
 
     static QPixmap landscape()
     {
@@ -121,8 +80,7 @@ private:
 
     QWidget m_window;
     KORVA_EditCanvas m_editor;
-    QImage m_shots;
-    int m_count = 0;
+    ContactSheet m_sheet;
 };
 
 } // namespace

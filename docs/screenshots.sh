@@ -1,18 +1,22 @@
 #!/usr/bin/env bash
-# Makes docs/screenshots: the editor's pop-ups and dialogs at scale 1, 2 and 3. Look at them afterwards.
+# Makes docs/screenshots: the editor's pop-ups and dialogs, and what korva-pad asks, at scale 1, 2 and 3. Look
+# at them afterwards.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
 cmake --preset test >/dev/null
-cmake --build --preset test --target korva-screenshots -- --quiet
+cmake --build --preset test --target korva-screenshots korva-pad-screenshots -- --quiet
 mkdir -p docs/screenshots
 for scale in 1 2 3; do
-    ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=xcb QT_ENABLE_HIGHDPI_SCALING=0 QT_SCALE_FACTOR=$scale \
-        xvfb-run -a -s '-screen 0 1000x1000x24' \
-        build/test/docs/korva-screenshots "docs/screenshots/scale-$scale.png"
-    # 255 colors are nearly all there are, and make the file half as large.
-    convert "docs/screenshots/scale-$scale.png" -strip +dither -colors 255 -define png:compression-level=9 \
-        "PNG8:docs/screenshots/scale-$scale.png"
+    for sheet in scale pad; do
+        program=korva-screenshots
+        [ $sheet = scale ] || program=korva-pad-screenshots
+        file=docs/screenshots/$sheet-$scale.png
+        ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=xcb QT_ENABLE_HIGHDPI_SCALING=0 QT_SCALE_FACTOR=$scale \
+            xvfb-run -a -s '-screen 0 1000x1000x24' "build/test/docs/$program" "$file"
+        # 255 colors are nearly all there are, and make the file half as large.
+        convert "$file" -strip +dither -colors 255 -define png:compression-level=9 "PNG8:$file"
+    done
 done
 ls -l docs/screenshots

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QLocale>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace pad {
@@ -18,6 +19,46 @@ namespace {
 using Size = UTIL_Skin::Size;
 
 constexpr QSize thumbnailSize(Size::thumbnailWidth, Size::thumbnailHeight);
+
+/// A drawing with its time and, below that, its name.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        const bool isChosen = option.state & QStyle::State_Selected;
+        const UTIL_Skin::Look look = UTIL_Skin::look(
+            UTIL_Skin::Control::Row, isChosen ? UTIL_Skin::State::Checked : UTIL_Skin::State::Resting);
+        UTIL_Skin::paintBox(*painter, option.rect, look);
+        if (isChosen && option.state & QStyle::State_HasFocus)
+            UTIL_Skin::paintFocus(*painter, option.rect);
+
+        QRect picture(QPoint(), thumbnailSize);
+        picture.moveCenter(option.rect.center());
+        picture.moveLeft(option.rect.left() + Size::spacing);
+        painter->drawPixmap(picture.topLeft(), index.data(Qt::DecorationRole).value<QPixmap>());
+
+        const QFontMetrics metrics = option.fontMetrics;
+        QRect line(picture.right() + Size::spacing, option.rect.center().y() - metrics.lineSpacing(), 0,
+                   metrics.lineSpacing());
+        line.setRight(option.rect.right() - Size::spacing);
+        painter->setFont(option.font);
+        painter->setPen(look.ink);
+        for (const QString& text : index.data().toString().split('\n')) {
+            painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+                              metrics.elidedText(text, Qt::ElideMiddle, line.width()));
+            line.translate(0, metrics.lineSpacing());
+        }
+    }
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override
+    {
+        return {0, Size::thumbnailHeight + Size::spacing};
+    }
+};
 
 } // namespace
 
@@ -38,20 +79,17 @@ EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>&
     cancel->setAutoDefault(false);
 
     m_list->setAccessibleName(title);
-    m_list->setIconSize(thumbnailSize);
-    m_list->setSpacing(Size::rowInset);
+    m_list->setItemDelegate(new RowDelegate(m_list));
     m_list->setFrameShape(QFrame::NoFrame);
-    m_list->setWordWrap(true);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const KORVA_Journal::Entry& entry : m_entries) {
         const QString name = QFileInfo(entry.pictureName).fileName();
-        const QString size = QStringLiteral("%1 × %2").arg(entry.size.width()).arg(entry.size.height());
-        const QPixmap picture = thumbnail(entry);
-        QIcon icon;
-        for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) // which would tint it
-            icon.addPixmap(picture, mode);
-        m_list->addItem(
-            new QListWidgetItem(icon, timeText(entry.time) + '\n' + (name.isEmpty() ? size : name)));
+        const QString size =
+            QStringLiteral("%1\u00a0×\u00a0%2").arg(entry.size.width()).arg(entry.size.height());
+        auto* row =
+            new QListWidgetItem(timeText(entry.time) + '\n' + (name.isEmpty() ? size : name), m_list);
+        row->setData(Qt::DecorationRole, thumbnail(entry));
     }
     m_list->setCurrentRow(0);
     m_list->setVisible(!m_entries.isEmpty());
@@ -84,7 +122,8 @@ KORVA_Journal::Entry EarlierDialog::chosen() const
 QString EarlierDialog::timeText(const QDateTime& time)
 {
     const QLocale locale;
-    const QString clock = locale.toString(time.time(), QLocale::ShortFormat);
+    const QString format = locale.timeFormat(QLocale::ShortFormat).remove(QStringLiteral(":ss"));
+    const QString clock = locale.toString(time.time(), format);
     const qint64 days = time.date().daysTo(QDate::currentDate());
     if (days == 0)
         return tr("today at %1", "time").arg(clock);
