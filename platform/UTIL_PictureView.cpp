@@ -21,13 +21,13 @@ constexpr int captionLines = 2;
 constexpr int leastWidth = 74;    ///< of a cell: three of them on the device, and two lines of ten letters
 constexpr int typingPause = 1000; ///< what is typed after so many milliseconds is a new word
 
-/// A name in the lines of a caption. It is broken anywhere: names have no words. Of one that is too long
-/// the middle is left out, for names of the same camera differ at their ends.
-QStringList broken(const QString& name, const QFont& font, int width)
+/// A name in the lines of a caption. Of one that is too long the middle is left out, for names of the same
+/// camera differ at their ends.
+QStringList broken(const QString& name, const QFont& font, int width, QTextOption::WrapMode mode)
 {
     QTextLayout layout(name, font);
     QTextOption option;
-    option.setWrapMode(QTextOption::WrapAnywhere);
+    option.setWrapMode(mode);
     layout.setTextOption(option);
     QStringList lines;
     layout.beginLayout();
@@ -44,6 +44,13 @@ QStringList broken(const QString& name, const QFont& font, int width)
     return lines;
 }
 
+/// Between words where all of it can be read like that, else anywhere: most names have no words.
+QStringList broken(const QString& name, const QFont& font, int width)
+{
+    const QStringList words = broken(name, font, width, QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return words.join(QString()) == name ? words : broken(name, font, width, QTextOption::WrapAnywhere);
+}
+
 void paintName(QPainter& painter, const QRect& area, const QString& name)
 {
     QStringList lines = broken(name, painter.font(), area.width());
@@ -57,7 +64,7 @@ void paintName(QPainter& painter, const QRect& area, const QString& name)
     painter.setLayoutDirection(name.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     QRect line(area.topLeft(), QSize(area.width(), area.height() / captionLines));
     for (const QString& text : lines) {
-        painter.drawText(line, Qt::AlignCenter, text);
+        painter.drawText(line, Qt::AlignCenter, text.trimmed());
         line.translate(0, line.height());
     }
 }
