@@ -22,8 +22,8 @@ constexpr QSize framedSize(160, 120);
 constexpr QPoint from(40, 30);
 constexpr QPoint to(90, 30);
 constexpr QPoint on(70, 30);
+constexpr auto saveDialog = "Save picture as";
 constexpr auto saved = "Saved Successfully";
-constexpr auto bringBack = "Bring it back";
 
 QImage inRgb(const QString& fileName)
 {
@@ -150,7 +150,7 @@ void tst_RecoveryInWindow::killedDrawingIsBroughtBack()
 
     // It has no name of its own, so that it overwrites nothing.
     m_pad->key("s", {"Control_L"});
-    QVERIFY(m_pad->waitForBox("Save picture"));
+    QVERIFY(m_pad->waitForBox(saveDialog));
     m_pad->key("Return");
     QVERIFY(m_pad->waitForBox(saved));
     const QString written = m_pad->pictures() + (isNamed ? "/photo 2.png" : "/Drawing.png");
@@ -623,7 +623,7 @@ private:
         m_saving = file;
         m_pad.key("s", {"Control_L"});
         if (m_file.isEmpty()) {
-            if (!m_pad.waitFor([this] { return m_pad.box() == "Save picture"; }))
+            if (!m_pad.waitFor([this] { return m_pad.box() == saveDialog; }))
                 return false;
             m_pad.key("Return");
         }
@@ -752,7 +752,7 @@ void tst_RecoveryInWindow::killsAtRandomMoments()
         saves += outcome.saves;
     }
     QCOMPARE(int(losses.size()), kills / pads * pads);
-    QVERIFY(offers > 0 && saves > 0); // so that something was risked
+    QVERIFY(offers > 0 && saves >= kills / 4); // so that something was risked
     std::sort(losses.begin(), losses.end());
     qInfo("%d kills: %d drawings brought back, %d saves, lost at most %lld ms, in the middle %lld ms",
           int(losses.size()), offers, saves, qlonglong(losses.back()),

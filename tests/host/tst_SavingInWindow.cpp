@@ -26,6 +26,7 @@ constexpr QPoint to(110, 60);
 constexpr QPoint on(90, 60);
 constexpr mode_t privately = 0600;
 
+const QString saveDialog = QStringLiteral("Save picture as");
 const QString saved = QStringLiteral("Saved Successfully");
 const QString reducedPhoto = QStringLiteral("photo.jpg has 1,600 × 1,200 pixels and the drawing 352 × 264: "
                                             "replacing it would lose the rest.");
@@ -447,7 +448,7 @@ void tst_SavingInWindow::saveAsProposesAFreeName()
     QVERIFY(m_pad->start({path("exact.png")}));
     QVERIFY(m_pad->stroke(from, to));
     m_pad->key("s", {"Control_L", "Shift_L"});
-    QVERIFY(m_pad->waitForBox("Save picture", shotName("dialog")));
+    QVERIFY(m_pad->waitForBox(saveDialog, shotName("dialog")));
     m_pad->key("Return");
     QVERIFY(isTold(saved));
     QVERIFY(m_pad->waitForTitle("exact 3.png - Korva"));
@@ -465,13 +466,13 @@ void tst_SavingInWindow::saveAsAsksBeforeItReplaces()
     QVERIFY(m_pad->start({path("exact.png")}));
     QVERIFY(m_pad->stroke(from, to));
     m_pad->key("s", {"Control_L", "Shift_L"});
-    QVERIFY(m_pad->waitForBox("Save picture"));
+    QVERIFY(m_pad->waitForBox(saveDialog));
     m_pad->key("a", {"Control_L"});
     m_pad->key("a");
     m_pad->key("Return");
     QVERIFY(m_pad->waitForBox("Replace a.png?", shotName("question")));
     m_pad->key("Return"); // loses nothing
-    QVERIFY(m_pad->waitForBox("Save picture"));
+    QVERIFY(m_pad->waitForBox(saveDialog));
     QVERIFY(contents(path("a.png")) == before);
 
     m_pad->key("Return");
