@@ -227,10 +227,14 @@ void Documents::openNamed(const QString& fileName)
 bool Documents::openFile(const QString& fileName)
 {
     const QString before = m_editor.fileName();
-    keep();
+    // What the editor says right before it takes another picture in, and only then.
+    const QMetaObject::Connection taking = connect(
+        &m_editor, &KORVA_EditCanvas::canUndo, this, [this] { keep(); }, Qt::SingleShotConnection);
     const bool isOpened = m_editor.openNewFilePrivate(OpenPicture, fileName);
-    if (!isOpened) { // the editor has said why, and taken the name
-        m_editor.setFileName(before);
+    disconnect(taking);
+    if (!isOpened) { // the editor has said why, and may have taken the name
+        if (m_editor.fileName() != before)
+            m_editor.setFileName(before);
         emit changed();
         return false;
     }

@@ -97,8 +97,12 @@ QString freeNameBeside(const QString& fileName)
 {
     static const QRegularExpression number(QStringLiteral(" \\d+$"));
     const QFileInfo file(fileName);
-    const QString base = file.completeBaseName().remove(number);
     const QString extension = canBeWritten(fileName) && !file.suffix().isEmpty() ? file.suffix() : "png";
+    QString base = file.completeBaseName();
+    // "photo 2" is followed by "photo 3" where there is a "photo"; "Trip 2024" is a name.
+    if (const QString first = QString(base).remove(number);
+        QFileInfo::exists(file.dir().filePath(first + '.' + extension)))
+        base = first;
     QString name = file.dir().filePath(base + '.' + extension);
     for (int i = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++i)
         name = file.dir().filePath(QStringLiteral("%1 %2.%3").arg(base).arg(i).arg(extension));

@@ -24,16 +24,26 @@ PopupFence::PopupFence(QWidget& window) : QObject(&window), m_window(window)
 
 bool PopupFence::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::Show || !watched->isWidgetType() || watched == &m_window)
+    const bool isShown = event->type() == QEvent::Show;
+    const bool isHidden = event->type() == QEvent::Hide;
+    if ((!isShown && !isHidden) || !watched->isWidgetType() || watched == &m_window)
         return false;
     auto& popup = static_cast<QWidget&>(*watched);
-    if (popup.isWindow()) {
+    if (isHidden && popup.isWindow() && popup.isActiveWindow())
+        QMetaObject::invokeMethod(this, &PopupFence::takeKeyboard, Qt::QueuedConnection);
+    if (isShown && popup.isWindow()) {
         const QRect area(m_window.mapToGlobal(QPoint(0, 0)), m_window.size());
         popup.resize(popup.size().boundedTo(area.size()));
         popup.move(clamped(popup.x(), popup.width(), area.x(), area.width()),
                    clamped(popup.y(), popup.height(), area.y(), area.height()));
     }
     return false;
+}
+
+void PopupFence::takeKeyboard()
+{
+    if (!QApplication::activeWindow() && m_window.isVisible())
+        m_window.activateWindow();
 }
 
 } // namespace pad

@@ -7,6 +7,8 @@ class QWidget;
 namespace pad {
 
 /// Keeps every pop-up and dialog inside the area of one window: on the device there is nothing beside it.
+/// The keyboard goes back to the window when the last of them goes, also where no window manager sees to
+/// that.
 class PopupFence : public QObject
 {
     Q_OBJECT
@@ -18,6 +20,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void takeKeyboard();
+
     QWidget& m_window;
 };
 

@@ -28,6 +28,7 @@
 namespace {
 
 constexpr int shortestPause = 1000; // milliseconds
+constexpr int stillness = 700;      // after the last change nobody is drawing any more
 constexpr int longestPause = 10000;
 constexpr int leftoverAge = 60;  // seconds; no write takes as long
 constexpr int pausePerWork = 20; // a great drawing or a slow disk shall not keep the program busy
@@ -160,15 +161,20 @@ bool KORVA_Journal::eventFilter(QObject*, QEvent* event)
 
 void KORVA_Journal::expectChange()
 {
+    m_sinceChange.start();
     // Never started anew while it runs: a stroke must not pay for it, and a long one is written, too.
     if (!m_timer.isActive())
-        m_timer.start(m_pause, Qt::CoarseTimer, this);
+        m_timer.start(shortestPause, Qt::CoarseTimer, this);
 }
 
 void KORVA_Journal::timerEvent(QTimerEvent*)
 {
     m_timer.stop();
-    if (editor())
+    // Where writing is costly it waits, but only while drawing goes on.
+    const bool isDrawing = m_sinceChange.isValid() && m_sinceChange.elapsed() < stillness;
+    if (isDrawing && m_sinceWrite.isValid() && m_sinceWrite.elapsed() < m_pause)
+        m_timer.start(shortestPause, Qt::CoarseTimer, this);
+    else if (editor())
         write();
 }
 
@@ -193,6 +199,7 @@ void KORVA_Journal::write()
         return;
     }
     m_written = hash;
+    m_sinceWrite.start();
     m_writer.start([this, picture, file = livingFile(), name = pictureName()] {
         QElapsedTimer timer;
         timer.start();
@@ -226,7 +233,7 @@ void KORVA_Journal::finishWrite(const QString& error, int milliseconds)
         return;
     }
     m_written = 0; // so that it is tried again
-    expectChange();
+    m_timer.start(longestPause, Qt::CoarseTimer, this);
     if (!std::exchange(m_hasFailed, true))
         emit failed(error);
 }

@@ -4,6 +4,7 @@
 
 #include <QBasicTimer>
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QList>
 #include <QObject>
@@ -120,7 +121,9 @@ private:
     QString m_proposal; ///< the name of a drawing that was brought back
     std::unique_ptr<UTIL_FileLock> m_lock;
     size_t m_written; ///< a hash of the drawing as it was settled or last handed to the thread; 0: neither
-    int m_pause;      ///< milliseconds between two writes
+    int m_pause;      ///< milliseconds between two writes while drawing goes on
+    QElapsedTimer m_sinceChange;
+    QElapsedTimer m_sinceWrite;
     bool m_hasFailed = false;
     QBasicTimer m_timer;
     QThreadPool m_writer; ///< one thread, so that writes and removals keep their order
