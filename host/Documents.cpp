@@ -53,9 +53,13 @@ constexpr CanvasType canvasTypes[] = {
     {QT_TRANSLATE_NOOP3("pad::Documents", "Black and white", "canvas type"), KORVA_CANVAS_1BIT},
 };
 
+/// A name as a sentence can hold it.
 QString fileNameOf(const QString& path)
 {
-    return QFileInfo(path).fileName();
+    constexpr int most = 40;
+    constexpr int end = 12; // with the extension
+    const QString name = QFileInfo(path).fileName();
+    return name.size() <= most ? name : name.left(most - end) + QChar(0x2026) + name.right(end);
 }
 
 QString inPixels(QSize size)
@@ -100,6 +104,16 @@ void Documents::keep(const KORVA_Journal::Entry& spared)
         m_journal->keep(spared);
 }
 
+bool Documents::mayGo()
+{
+    if (!m_journal || !m_editor.hasChanges() || m_journal->keep())
+        return true;
+    constexpr int yes = 1; // the default, the first, loses nothing
+    return m_platform.question(m_window, QLatin1String(warningIcon),
+                               tr("No copy of the drawing can be kept. Give it up?", "changes"),
+                               {tr("Cancel", "changes"), tr("Give it up", "changes")}) == yes;
+}
+
 void Documents::settle()
 {
     if (m_journal)
@@ -121,9 +135,8 @@ bool Documents::mayReplace(const QString& question)
 
 bool Documents::mayClose()
 {
-    if (!mayReplace(tr("Save changes to drawing before closing?", "changes")))
+    if (!mayReplace(tr("Save changes to drawing before closing?", "changes")) || !mayGo())
         return false;
-    keep();
     settle();
     return true;
 }
@@ -190,9 +203,8 @@ void Documents::newDrawing()
     if (sizes.exec() != QDialog::Accepted)
         return;
     const int type = askCanvasType();
-    if (type < 0)
+    if (type < 0 || !mayGo())
         return;
-    keep();
     newCanvas(m_editor, type, sizes.canvasSize());
     m_editor.setFileName(QString());
     settle();
@@ -256,7 +268,8 @@ void Documents::stamp()
 
 void Documents::clear()
 {
-    keep();
+    if (!mayGo())
+        return;
     m_editor.clearCanvas();
     emit performed(Command{.verb = Verb::Clear});
 }
@@ -346,11 +359,15 @@ bool Documents::saveAs()
 
 bool Documents::saveUnder(const QString& fileName)
 {
+    const bool isBeside = !QFileInfo::exists(fileName) &&
+                          QFileInfo(fileName).absolutePath() == QFileInfo(name()).absolutePath();
     if (const auto error = saveDrawing(m_editor, fileName, m_window, m_platform, m_write)) {
         if (error->code != ECANCELED)
             tell(*error);
         return false;
     }
+    if (isBeside && QFileInfo::exists(name())) // nobody else may see what nobody else could see before
+        QFile::setPermissions(fileName, QFile::permissions(name()));
     if (fileName != m_editor.fileName())
         m_mayReplace = false;
     m_editor.setFileName(fileName);
@@ -378,7 +395,8 @@ void Documents::deletePicture()
     };
     if (ask(tr("Move %1 to the trash?", "deleting").arg(name), tr("To the trash", "deleting")) != yes)
         return;
-    if (QFileInfo::exists(path) && !m_platform.removePicture(path)) {
+    const bool wasThere = QFileInfo::exists(path);
+    if (wasThere && !m_platform.removePicture(path)) {
         if (ask(tr("There is no trash for %1. Delete it for good?", "deleting").arg(name),
                 tr("Delete", "deleting")) != yes)
             return;
@@ -390,7 +408,10 @@ void Documents::deletePicture()
             return;
         }
     }
-    keep();
+    if (wasThere)
+        keep();
+    else if (m_journal) // the drawing is all that is left of it
+        m_journal->keep();
     if (KORVA_Text* text = m_editor.currentText())
         text->resetBuffer();
     m_editor.clearCanvas();

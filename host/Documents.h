@@ -56,6 +56,9 @@ public:
     [[nodiscard]] bool mayReplace(const QString& question);
     /// Puts a copy of a drawing with changes where it can be found again. See KORVA_Journal::keep().
     void keep(const KORVA_Journal::Entry& spared = {});
+    /// The same where the drawing goes for good; asks where no copy can be kept. False when the drawing
+    /// must stay.
+    [[nodiscard]] bool mayGo();
     /// The drawing is now one that was brought back; the picture that it was drawn on is the name to
     /// propose.
     void takeBroughtBack(const QString& pictureName);

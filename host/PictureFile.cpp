@@ -40,6 +40,7 @@ constexpr Reason reasons[] = {
     {EROFS, QT_TRANSLATE_NOOP3("pad::PictureFile", "%1 is on a disk that can only be read.", "saving")},
     {ENOENT, QT_TRANSLATE_NOOP3("pad::PictureFile", "The folder %1 is not there.", "saving")},
     {ENOTDIR, QT_TRANSLATE_NOOP3("pad::PictureFile", "The folder %1 is not there.", "saving")},
+    {EISDIR, QT_TRANSLATE_NOOP3("pad::PictureFile", "There is a folder of this name.", "saving")},
     {ENAMETOOLONG, QT_TRANSLATE_NOOP3("pad::PictureFile", "The name is too long.", "saving")},
 };
 
@@ -184,6 +185,8 @@ std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& file
         if (const int protection = protectionOf(name))
             return systemError(protection, fileName);
     }
+    if (QFileInfo(target).isDir())
+        return systemError(EISDIR, fileName);
     QSaveFile file(target);
     errno = 0;
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())

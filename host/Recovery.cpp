@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QTimer>
 
 namespace pad {
 
@@ -31,14 +32,17 @@ Recovery::Recovery(KORVA_EditCanvas& editor, Documents& documents, Platform& pla
 
 void Recovery::offer()
 {
+    const qsizetype before = m_journal.earlier().size();
     const auto left = m_journal.adopt();
     if (!left)
         return;
+    const bool areMore = m_journal.earlier().size() > before;
     const QString time = EarlierDialog::timeText(left->time);
     const QString name = QFileInfo(left->pictureName).fileName();
-    const QString text = name.isEmpty()
-                             ? tr("A drawing of %1 was not saved.", "recovery").arg(time)
-                             : tr("A drawing of %1 on %2 was not saved.", "recovery").arg(time, name);
+    QString text = name.isEmpty() ? tr("A drawing of %1 was not saved.", "recovery").arg(time)
+                                  : tr("A drawing of %1 on %2 was not saved.", "recovery").arg(time, name);
+    if (areMore)
+        text += QLatin1Char(' ') + tr("Older ones are among the earlier drawings.", "recovery");
     const int answer = m_platform.question(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"), text,
                                            {tr("Bring it back", "recovery"), tr("Not now", "recovery")});
     if (m_isEnding)
@@ -69,6 +73,11 @@ void Recovery::bringBack(const KORVA_Journal::Entry& entry)
 
 void Recovery::tellFailure(const QString& reason)
 {
+    constexpr int later = 500;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) { // not in the middle of a stroke
+        QTimer::singleShot(later, this, [this, reason] { tellFailure(reason); });
+        return;
+    }
     m_platform.timedInformation(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"),
                                 tr("No copy of the drawing can be kept: %1", "recovery").arg(reason),
                                 tr("OK", "recovery"), 10);

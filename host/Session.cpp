@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QFileInfo>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -77,7 +78,10 @@ std::optional<Failure> Session::openPicture()
 {
     Script script; // before there is a window, nobody can tap a box away
     m_platform.obey(&script);
-    m_window = std::make_unique<PadWindow>(m_platform, m_line.picture);
+    // Whole, so that it is found again from any folder.
+    const QString picture =
+        m_line.picture.isEmpty() ? QString() : QFileInfo(m_line.picture).absoluteFilePath();
+    m_window = std::make_unique<PadWindow>(m_platform, picture);
     m_platform.obey(nullptr);
     if (m_line.picture.isEmpty() || !m_window->editor().fileName().isEmpty())
         return {};
@@ -128,8 +132,9 @@ void Session::startRecovery()
         return;
     auto* recovery = new Recovery(m_window->editor(), m_window->documents(), m_platform, m_window.get());
     m_window->commands().setRecovery(recovery);
+    constexpr int placed = 200; // milliseconds; by then a desktop has given the window its place
     if (m_line.replay.isEmpty())
-        recovery->offer();
+        QTimer::singleShot(placed, recovery, &Recovery::offer);
 }
 
 bool Session::endsNow() const

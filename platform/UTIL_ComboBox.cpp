@@ -22,7 +22,14 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override
     {
-        QStyledItemDelegate::paint(painter, option, index);
+        QStyleOptionViewItem text = option;
+        if (option.state & QStyle::State_Selected) { // the whole row, flat
+            painter->fillRect(option.rect, option.palette.brush(QPalette::Highlight));
+            text.state.setFlag(QStyle::State_Selected, false);
+            text.palette.setColor(QPalette::Text, option.palette.color(QPalette::HighlightedText));
+        }
+        text.rect.adjust(Size::keyPadding, 0, 0, 0);
+        QStyledItemDelegate::paint(painter, text, index);
         if (index.data(Qt::CheckStateRole).toInt() != Qt::Checked)
             return;
         const int width = Size::radioDiameter;
@@ -30,6 +37,13 @@ public:
             *painter,
             option.rect.adjusted(option.rect.width() - width - Size::keyPadding, 0, -Size::keyPadding, 0),
             true, true);
+    }
+
+    /// High enough for a finger.
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, Size::menuRowHeight));
     }
 
 protected:

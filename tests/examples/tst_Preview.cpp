@@ -7,7 +7,7 @@ constexpr QSize window(240, 320);
 constexpr QPoint pickKey(120, 290);
 constexpr QRect told(11, 252, 218, 18);
 constexpr QPoint wallpaper(120, 120);
-constexpr QPoint firstPicture(45, 80);
+constexpr QPoint firstPicture(45, 105);
 constexpr QPoint okKey(60, 294);
 constexpr QSize previewWindow(220, 256);
 constexpr QPoint confirmKey(55, 230);

@@ -135,10 +135,13 @@ void tst_Reference::everythingPublicIsThere()
     const QStringList others = declared(source, R"(^enum (\w+))") +
                                declared(source, R"(^KORVA_EXPORT .*?(\w+)\()") +
                                declared(source, R"(^#define (\w+))");
+    const QStringList spaces = declared(source, R"(^namespace (\w+))");
+    for (const QString& name : spaces)
+        QVERIFY2(QFileInfo::exists(html("namespace" + inFileName(name) + ".html")), qPrintable(name));
     const QString index = contents(html("globals.html"));
     for (const QString& name : others)
         QVERIFY2(index.contains(QRegularExpression("<li>" + name + "\\b")), qPrintable(name));
-    QVERIFY(!classes.isEmpty() || !others.isEmpty());
+    QVERIFY(!classes.isEmpty() || !others.isEmpty() || !spaces.isEmpty());
 }
 
 void tst_Reference::whatIsNamedExists()
