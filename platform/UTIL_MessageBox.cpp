@@ -139,8 +139,6 @@ void UTIL_MessageBox::reject()
 {
     if (m_cancel >= 0)
         finish(m_cancel);
-    else if (m_timeout) // as a tap
-        accept();
 }
 
 void UTIL_MessageBox::showEvent(QShowEvent* event)

@@ -18,7 +18,7 @@ class UTIL_WrapLabel;
 /// buttons, or a timed message that closes by itself.
 ///
 /// Escape and closing press the button named "Cancel", in English or in the user's language, and do nothing
-/// in a question without one. A timed box is tapped away, by a tap anywhere on it, Return, Space or Escape.
+/// in a box without one. A timed box is also tapped away, by a tap anywhere on it, Return or Space.
 ///
 /// A timed box without a button is in nobody's way: a tap or stroke beside it takes it away when it ends,
 /// and is then made on what lies there, and so is any other key in the window behind. Both come when exec()

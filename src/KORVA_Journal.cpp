@@ -31,7 +31,7 @@ constexpr int shortestPause = 1000; // milliseconds
 constexpr int stillness = 700;      // after the last change nobody is drawing any more
 constexpr int longestPause = 10000;
 constexpr int leftoverAge = 60;  // seconds; no write takes as long
-constexpr int pausePerWork = 20; // a great drawing or a slow disk shall not keep the program busy
+constexpr int pausePerWork = 10; // a great drawing or a slow disk shall not keep the program busy
 
 const QString livingPrefix = QStringLiteral("living-");
 const QString earlierPrefix = QStringLiteral("earlier-");
@@ -172,8 +172,9 @@ void KORVA_Journal::timerEvent(QTimerEvent*)
     m_timer.stop();
     // Where writing is costly it waits, but only while drawing goes on.
     const bool isDrawing = m_sinceChange.isValid() && m_sinceChange.elapsed() < stillness;
-    if (isDrawing && m_sinceWrite.isValid() && m_sinceWrite.elapsed() < m_pause)
-        m_timer.start(shortestPause, Qt::CoarseTimer, this);
+    const qint64 rest = m_sinceWrite.isValid() ? m_pause - m_sinceWrite.elapsed() : 0;
+    if (isDrawing && rest > 0)
+        m_timer.start(int(qMin<qint64>(rest, shortestPause)), Qt::CoarseTimer, this);
     else if (editor())
         write();
 }
