@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes docs/screenshots: the editor's pop-ups and dialogs, and what korva-pad asks, at scale 1, 2 and 3. Look
-# at them afterwards.
+# Makes docs/screenshots/scale-*.png and pad-*.png: the editor's pop-ups and dialogs, and what korva-pad asks, at
+# scale 1, 2 and 3. Look at them afterwards.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
