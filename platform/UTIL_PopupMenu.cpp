@@ -97,8 +97,8 @@ void UTIL_PopupMenu::reveal(QAction* row)
     const QRect place = actionGeometry(row);
     if (place.top() < m_scroll + arrowHeight)
         scrollTo(place.top() - arrowHeight);
-    else if (place.bottom() > m_scroll + m_room.height() - arrowHeight)
-        scrollTo(place.bottom() + arrowHeight - m_room.height());
+    else if (place.bottom() >= m_scroll + m_room.height() - arrowHeight)
+        scrollTo(place.bottom() + 1 + arrowHeight - m_room.height());
 }
 
 void UTIL_PopupMenu::paintEvent(QPaintEvent* event)
