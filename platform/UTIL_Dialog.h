@@ -12,9 +12,9 @@ class UTIL_Veil;
 
 /// The base of every dialog: a flat card with a title, its content and the soft keys, which opens in the
 /// middle of its parent's window and never leaves the screen: on a low one it is lower, its content scrolls
-/// and the soft keys stay. While a modal dialog is open its parent's window is veiled. Where the display lets
-/// no program place its windows, as Wayland does, the dialog is a part of its parent's window while it is
-/// open, if it fits in there, and modal all the same.
+/// and the soft keys stay. While a modal dialog is open its parent's window is veiled. Where the display
+/// lets no program place its windows, as Wayland does, the dialog is a part of its parent's window while it
+/// is open, if it fits in there, and modal all the same.
 ///
 /// Return presses the default key, which is the first soft key unless another was made the default or has
 /// the focus; Escape and closing reject.
