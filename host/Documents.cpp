@@ -1,14 +1,13 @@
 #include "Documents.h"
 
 #include "DocumentAction.h"
+#include "EditCommand.h"
 #include "PictureFile.h"
 #include "Platform.h"
 #include "Settings.h"
 
-#include <KORVA_Canvas.h>
 #include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_EditCanvas.h>
-#include <KORVA_PasteLabel.h>
 #include <KORVA_Text.h>
 #include <UTIL_PictureDialog.h>
 
@@ -217,17 +216,25 @@ void Documents::open()
 {
     if (!mayReplace(tr("Save changes to drawing before opening?", "changes")))
         return;
+    const QString name = pick();
+    if (!name.isEmpty())
+        openFile(name);
+}
+
+QString Documents::pick(const std::optional<Purpose>& purpose)
+{
     const QPointer<UTIL_PictureDialog> dialog =
         m_platform.createPickDialog(m_window, folder(), KORVA_EditCanvas::openPatterns());
+    if (purpose)
+        dialog->setPurpose(purpose->title, purpose->verb);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
-        return;
+        return {};
     const QString name = isAccepted ? dialog->fileName() : QString();
     delete dialog;
-    if (name.isEmpty())
-        return;
-    noteFolder(name);
-    openFile(name);
+    if (!name.isEmpty())
+        noteFolder(name);
+    return name;
 }
 
 void Documents::openNamed(const QString& fileName)
@@ -261,9 +268,10 @@ bool Documents::openFile(const QString& fileName)
 
 void Documents::stamp()
 {
-    m_editor.saveChangePic(InsertStamp);
-    if (!m_editor.canvas()->pasteLabel()->isHidden())
-        emit performed(Command{.verb = Verb::Stamp, .text = m_platform.lastPicked()});
+    const QString name = pick(Purpose{KORVA_EditCanvas::tr("Insert stamp", "PICK_DIALOG;TITLE"),
+                                      KORVA_EditCanvas::tr("Insert", "PICK_DIALOG;SOFTKEY_2BUTTON")});
+    if (!name.isEmpty() && insertStamp(m_editor, name))
+        emit performed(Command{.verb = Verb::Stamp, .text = name});
 }
 
 void Documents::clear()

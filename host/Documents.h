@@ -44,6 +44,7 @@ public:
     bool save();
     /// Under a name that the person chooses.
     bool saveAs();
+    /// Lays a picture that the person picks over the drawing.
     void stamp();
     /// The file behind the drawing goes to the trash.
     void deletePicture();
@@ -82,6 +83,15 @@ private:
         [[nodiscard]] static Version of(const QString& fileName);
     };
 
+    /// What a dialog for picking is for, where it is not for opening.
+    struct Purpose
+    {
+        QString title;
+        QString verb;
+    };
+
+    /// A picture file that the person picks; empty for none.
+    [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
     /// Where folder dialogs begin: where the last one ended.
     [[nodiscard]] QString folder() const;
     void noteFolder(const QString& fileName);

@@ -1,8 +1,10 @@
 #include "EditCommand.h"
 
+#include "DocumentAction.h"
 #include "Recording.h"
 
 #include <KORVA_EditCanvas.h>
+#include <KORVA_Text.h>
 
 namespace pad {
 
@@ -34,6 +36,16 @@ bool performOn(KORVA_EditCanvas& editor, Verb verb)
         }
     }
     return false;
+}
+
+bool insertStamp(KORVA_EditCanvas& editor, const QString& fileName)
+{
+    if (KORVA_Text* text = editor.currentText()) {
+        if (!text->isBufferEmpty())
+            text->paintProportionBuffer();
+        text->resetBuffer();
+    }
+    return editor.openNewFilePrivate(InsertStamp, fileName);
 }
 
 } // namespace pad

@@ -99,10 +99,7 @@ UTIL_PictureDialog* Platform::createPickDialog(QWidget* parent, const QString& f
 {
     if (m_script)
         return scriptedDialog(parent, QStringLiteral("no picture is named to open"));
-    UTIL_PictureDialog* dialog = UTIL_Platform::createPickDialog(parent, folder, patterns);
-    m_lastPicked.clear();
-    QObject::connect(dialog, &QDialog::accepted, [this, dialog] { m_lastPicked = dialog->fileName(); });
-    return dialog;
+    return UTIL_Platform::createPickDialog(parent, folder, patterns);
 }
 
 UTIL_PictureDialog* Platform::createSaveDialog(QWidget* parent, const QString& folder,

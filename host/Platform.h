@@ -29,8 +29,6 @@ public:
     /// The answer to the question asked last since the last call; none when nothing was asked, or nobody
     /// answered.
     std::optional<int> takeAnswer() { return std::exchange(m_lastAnswer, {}); }
-    /// The picture that the person picked last.
-    [[nodiscard]] QString lastPicked() const { return m_lastPicked; }
 
     int question(QWidget* parent, const QString& icon, const QString& text,
                  const QStringList& buttons) override;
@@ -50,7 +48,6 @@ private:
 
     Script* m_script = nullptr; // not owned
     std::optional<int> m_lastAnswer;
-    QString m_lastPicked;
 };
 
 } // namespace pad

@@ -132,7 +132,7 @@ void Player::open(const QString& fileName)
 
 void Player::stamp(const QString& fileName)
 {
-    if (isReadable(fileName) && !m_editor.openNewFilePrivate(InsertStamp, fileName))
+    if (isReadable(fileName) && !insertStamp(m_editor, fileName))
         stopAt(QStringLiteral("open"), fileName);
 }
 

@@ -5,9 +5,13 @@
 #include "UTIL_Skin.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+
+#include <utility>
 
 namespace {
 
@@ -28,6 +32,7 @@ public:
             text.state.setFlag(QStyle::State_Selected, false);
             text.palette.setColor(QPalette::Text, option.palette.color(QPalette::HighlightedText));
         }
+        text.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
         text.rect.adjust(Size::keyPadding, 0, 0, 0);
         QStyledItemDelegate::paint(painter, text, index);
         if (index.data(Qt::CheckStateRole).toInt() != Qt::Checked)
@@ -72,6 +77,27 @@ UTIL_ComboBox::UTIL_ComboBox(QWidget* parent) : QComboBox(parent)
     view()->setPalette(list);
     view()->setFont(font());
     setItemDelegate(new RowDelegate(this));
+    view()->viewport()->installEventFilter(this);
+}
+
+// The toolkit mistakes a tap right after the one that opened the list for the end of that one.
+bool UTIL_ComboBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != view()->viewport())
+        return QComboBox::eventFilter(watched, event);
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+        m_pressedRow = view()->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        const QModelIndex row = std::exchange(m_pressedRow, {});
+        if (row.isValid() &&
+            view()->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint()) == row) {
+            view()->setCurrentIndex(row);
+            QKeyEvent choose(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(view(), &choose);
+            return true;
+        }
+    }
+    return QComboBox::eventFilter(watched, event);
 }
 
 void UTIL_ComboBox::showPopup()

@@ -3,6 +3,7 @@
 #include "KORVA_Export.h"
 
 #include <QComboBox>
+#include <QPersistentModelIndex>
 
 /// A flat box that shows the chosen entry and opens the list of all of them, inside the window it belongs
 /// to. Space and Return open it; the arrow keys choose without.
@@ -26,6 +27,10 @@ signals:
     void aboutToShowPopup();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPersistentModelIndex m_pressedRow; ///< in the list
 };

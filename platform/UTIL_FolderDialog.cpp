@@ -63,24 +63,22 @@ UTIL_FolderDialog::UTIL_FolderDialog(QWidget* parent, const QString& title, cons
     : UTIL_PictureDialog(parent),
       m_folder(new UTIL_PictureFolder(patterns, this)),
       m_view(new UTIL_PictureView(this)),
-      m_caption(new QLabel(title, this)),
+      m_caption(new QLabel(this)),
       m_place(new QLabel(this)),
       m_upKey(new UTIL_PushButton(QString(), tr("Up", "FOLDER_DIALOG;BUTTON"), this)),
-      m_confirmKey(new UTIL_PushButton(QString(), verb, this)),
+      m_confirmKey(new UTIL_PushButton(QString(), QString(), this)),
       m_layout(new QVBoxLayout(this)),
       m_head(new QHBoxLayout)
 {
     auto* orderKey = new UTIL_PushButton(QString(), QString(), this);
     auto* cancelKey = new UTIL_PushButton(QString(), tr("Cancel", "FOLDER_DIALOG;SOFTKEY_2BUTTON"), this);
     setFixedSize(Size::screenWidth, Size::screenHeight);
-    setWindowTitle(title);
     m_caption->setContentsMargins(Size::spacing, 0, Size::spacing, 0);
     m_caption->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
     m_caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_folder->setOrder(order());
     m_view->setModel(m_folder);
-    m_view->setAccessibleName(title);
     createOrderMenu(*orderKey);
     m_upKey->setFlags(UTIL_PushButton::Outlined);
     m_upKey->setAutoDefault(false);
@@ -120,7 +118,16 @@ UTIL_FolderDialog::UTIL_FolderDialog(QWidget* parent, const QString& title, cons
                     choose(index.isValid() && !m_folder->isFolder(index) ? m_folder->path(index)
                                                                          : QString());
             });
+    UTIL_FolderDialog::setPurpose(title, verb);
     m_view->setFocus();
+}
+
+void UTIL_FolderDialog::setPurpose(const QString& title, const QString& verb)
+{
+    setWindowTitle(title);
+    m_caption->setText(title);
+    m_view->setAccessibleName(title);
+    m_confirmKey->setText(verb);
 }
 
 void UTIL_FolderDialog::reject()

@@ -20,6 +20,7 @@ class UTIL_FolderDialog : public UTIL_PictureDialog
     Q_OBJECT
 
 public:
+    void setPurpose(const QString& title, const QString& verb) override;
     void reject() override;
     void done(int result) override;
     void setVisible(bool visible) override;

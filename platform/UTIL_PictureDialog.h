@@ -20,6 +20,15 @@ public:
     /// Before the dialog opens: what it proposes. From the derived class: what was chosen.
     void setFileName(const QString& name) { m_fileName = name; }
 
+    /// What the dialog is for, where that is more than its kind says: the title, and the text of the key
+    /// that confirms. Before the dialog opens. A host's dialog that shows neither in its own way gets the
+    /// title only.
+    virtual void setPurpose(const QString& title, const QString& verb)
+    {
+        Q_UNUSED(verb)
+        setWindowTitle(title);
+    }
+
     /// Whether a name may be chosen that KORVA_EditCanvas::save() cannot save under: one with a single
     /// quote. For a host that writes the file itself; false unless set.
     [[nodiscard]] bool takesAnyName() const { return m_takesAnyName; }

@@ -11,6 +11,7 @@
 #include "KORVA_Text.h"
 #include "UTIL_ImageReader.h"
 #include "UTIL_Platform.h"
+#include "UTIL_PopupMenu.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -71,7 +72,7 @@ KORVA_Canvas::~KORVA_Canvas() = default;
 
 void KORVA_Canvas::createMenu()
 {
-    m_menu = new QMenu(this);
+    m_menu = new UTIL_PopupMenu(this);
     m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_Canvas::slotCut);
     m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_Canvas::slotCopy);
     m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_Canvas::slotPaste);

@@ -138,6 +138,9 @@ bool KORVA_Documents::pickAndOpen(int action)
     m_pickDialog =
         platform->createPickDialog(&m_editor, platform->photoFolder(), picturefile::openPatterns());
     const QPointer<UTIL_PictureDialog> dialog = m_pickDialog;
+    if (action == InsertStamp)
+        dialog->setPurpose(KORVA_EditCanvas::tr("Insert stamp", "PICK_DIALOG;TITLE"),
+                           KORVA_EditCanvas::tr("Insert", "PICK_DIALOG;SOFTKEY_2BUTTON"));
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return false; // the editor went away with it

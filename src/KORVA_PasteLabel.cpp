@@ -3,6 +3,7 @@
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Pixel.h"
 #include "UTIL_Platform.h"
+#include "UTIL_PopupMenu.h"
 
 #include <QImage>
 #include <QMenu>
@@ -33,7 +34,7 @@ const KORVA_PasteLabel::Stretch KORVA_PasteLabel::Stretch::table[] = {
 };
 
 KORVA_PasteLabel::KORVA_PasteLabel(QWidget* parent, const char* name, Qt::WindowFlags flags)
-    : QLabel(parent, flags), m_menu(new QMenu(this))
+    : QLabel(parent, flags), m_menu(new UTIL_PopupMenu(this))
 {
     setObjectName(name);
     UTIL_Platform::instance()->setMouseMode(this, 1);

@@ -133,6 +133,16 @@
         <translation>Das übergebene Bild konnte nicht geöffnet werden!</translation>
     </message>
     <message>
+        <source>Insert stamp</source>
+        <comment>PICK_DIALOG;TITLE</comment>
+        <translation>Stempel einfügen</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <comment>PICK_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
         <source>Saved Successfully</source>
         <comment>2.11.2.9;DIALOG_ICON_50</comment>
         <translation>Erfolgreich gespeichert</translation>

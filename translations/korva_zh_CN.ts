@@ -133,6 +133,16 @@
         <translation>无法打开传入的图片！</translation>
     </message>
     <message>
+        <source>Insert stamp</source>
+        <comment>PICK_DIALOG;TITLE</comment>
+        <translation>插入图章</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <comment>PICK_DIALOG;SOFTKEY_2BUTTON</comment>
+        <translation>插入</translation>
+    </message>
+    <message>
         <source>Saved Successfully</source>
         <comment>2.11.2.9;DIALOG_ICON_50</comment>
         <translation>保存成功</translation>

@@ -21,7 +21,7 @@ bool PadOnScreen::waitFor(const std::function<bool()>& condition) const
     return QTest::qWaitFor(condition, int(std::min<qint64>(left, patience)));
 }
 
-PadOnScreen::PadOnScreen(const QString& home) : m_home(home)
+PadOnScreen::PadOnScreen(const QString& home, QSize screen) : m_home(home), m_server(screen)
 {
     QDir().mkpath(pictures());
     QDir().mkpath(home + "/XDG_CONFIG_HOME");

@@ -16,7 +16,7 @@ public:
     static constexpr int patience = 30'000; // ms; the sanitizers are slow, and so are busy machines
 
     /// What the user has is below the folder `home`; the folder dialogs start in home/Pictures.
-    explicit PadOnScreen(const QString& home);
+    explicit PadOnScreen(const QString& home, QSize screen = QSize(800, 600));
 
     [[nodiscard]] QString pictures() const { return m_home + "/Pictures"; }
     [[nodiscard]] QString recoveryFolder() const { return m_home + "/XDG_STATE_HOME/korva"; }

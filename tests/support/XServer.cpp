@@ -85,6 +85,8 @@ XServer::XServer(QSize screen)
         m_display = ':' + QString::fromLatin1(m_server.readAllStandardOutput().trimmed());
     m_client = std::make_unique<Client>(m_display);
     // A window may be gone between the list of windows and the question about it.
+    if (m_client->connection)
+        XSelectInput(m_client->connection, m_client->root(), StructureNotifyMask);
     XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
 }
 
@@ -183,6 +185,19 @@ QList<XServer::Window> XServer::windows() const
     for (const Client::Shown& shown : m_client->shown())
         all.append(shown.window);
     return all;
+}
+
+bool XServer::isFullScreenAskedFor()
+{
+    const Atom state = XInternAtom(m_client->connection, "_NET_WM_STATE", False);
+    const Atom fullScreen = XInternAtom(m_client->connection, "_NET_WM_STATE_FULLSCREEN", False);
+    bool isAsked = false;
+    XEvent event;
+    while (XCheckTypedEvent(m_client->connection, ClientMessage, &event)) {
+        const XClientMessageEvent& message = event.xclient;
+        isAsked = isAsked || (message.message_type == state && Atom(message.data.l[1]) == fullScreen);
+    }
+    return isAsked;
 }
 
 QRect XServer::waitForWindow(QSize size) const

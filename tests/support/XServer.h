@@ -46,6 +46,9 @@ public:
     };
     /// From the bottom to the top.
     [[nodiscard]] QList<Window> windows() const;
+    /// Whether a window has asked for the full screen, which a window manager would give it, since the
+    /// last call.
+    [[nodiscard]] bool isFullScreenAskedFor();
     /// Waits until a window of this size is on the screen; empty when none comes.
     [[nodiscard]] QRect waitForWindow(QSize size) const;
 
