@@ -506,7 +506,10 @@ void KORVA_EditCanvas::setRubberCursor(int width, int rate)
 
 void KORVA_EditCanvas::slotColor()
 {
-    setColor(KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr));
+    const QPointer<KORVA_EditCanvas> self = this; // the picker runs an event loop
+    const QColor picked = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
+    if (self)
+        setColor(picked);
 }
 
 void KORVA_EditCanvas::setColor(const QColor& color)

@@ -21,8 +21,9 @@ class QPushButton;
 /// the canvas, 240 × 225 pixels; what it is given beyond that goes to the canvas's view. The host wires its
 /// own commands to the operations and slots and enables them from the signals. GUI thread only.
 ///
-/// What asks or tells the user something runs UTIL_Platform's boxes and dialogs and returns after them. Who
-/// hears a signal may call everything here, or delete the editor later.
+/// What asks or tells the user something runs UTIL_Platform's boxes and dialogs and returns after them. The
+/// editor may be deleted while one is open: the call then returns at once, as after a refusal. Who hears a
+/// signal may call everything here, or delete the editor later.
 /// `action` and `flag` mean: 0 open, 1 choose a canvas, 2 save, 3 insert a stamp, 4 create.
 class KORVA_EXPORT KORVA_EditCanvas : public QWidget
 {
