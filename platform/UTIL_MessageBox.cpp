@@ -1,6 +1,7 @@
 #include "UTIL_MessageBox.h"
 
 #include "RES_ICON_Reader.h"
+#include "UTIL_Modal.h"
 #include "UTIL_Platform.h"
 #include "UTIL_PushButton.h"
 #include "UTIL_ScrollArea.h"
@@ -124,9 +125,16 @@ QLayout* UTIL_MessageBox::createButtons(const QStringList& texts)
 int UTIL_MessageBox::ask(QWidget* parent, const QString& icon, const QString& text,
                          const QStringList& buttons)
 {
-    UTIL_MessageBox box(parent, icon, text, buttons);
-    box.exec();
-    return box.answer();
+    UTIL_Modal box(new UTIL_MessageBox(parent, icon, text, buttons));
+    const int harmless = box->answer();
+    (void)box.run();
+    return box ? box->answer() : harmless;
+}
+
+void UTIL_MessageBox::tell(QWidget* parent, const QString& icon, const QString& text,
+                           const QStringList& buttons, int timeout)
+{
+    UTIL_Modal(new UTIL_MessageBox(parent, icon, text, buttons, timeout)).run();
 }
 
 void UTIL_MessageBox::finish(int answer)

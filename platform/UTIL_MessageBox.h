@@ -36,9 +36,12 @@ public:
                     std::optional<int> timeout = {});
 
     /// Runs a question and returns the index of the button pressed. Where the program ends before an
-    /// answer, it is "Cancel", else the last button.
+    /// answer, or the parent is deleted, it is "Cancel", else the last button.
     [[nodiscard]] static int ask(QWidget* parent, const QString& icon, const QString& text,
                                  const QStringList& buttons);
+    /// Runs a timed message.
+    static void tell(QWidget* parent, const QString& icon, const QString& text, const QStringList& buttons,
+                     int timeout);
 
     [[nodiscard]] QString iconName() const { return m_iconName; }
     /// 0 for a question.

@@ -43,12 +43,12 @@ int UTIL_Platform::question(QWidget* parent, const QString& icon, const QString&
 void UTIL_Platform::timedInformation(QWidget* parent, const QString& icon, const QString& text,
                                      const QString& button, int timeout)
 {
-    UTIL_MessageBox(parent, icon, text, {button}, timeout).exec();
+    UTIL_MessageBox::tell(parent, icon, text, {button}, timeout);
 }
 
 void UTIL_Platform::timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout)
 {
-    UTIL_MessageBox(parent, icon, text, {}, timeout).exec();
+    UTIL_MessageBox::tell(parent, icon, text, {}, timeout);
 }
 
 bool UTIL_Platform::waitFor(QWidget* parent, const QString& text, const QFuture<void>& work)

@@ -17,7 +17,7 @@ class UTIL_PictureDialog;
 ///
 /// Called from the GUI thread only. `icon` is always a file name for RES_ICON_Reader::getIcon(), `parent`
 /// the widget whose window a box or dialog belongs to, and boxes are modal: the call returns when the box
-/// is gone.
+/// is gone. While it runs the parent may be deleted; the box goes with it then, and the call returns.
 class KORVA_EXPORT UTIL_Platform
 {
 public:

@@ -70,11 +70,12 @@ void UTIL_SaveDialog::confirm()
 bool UTIL_SaveDialog::mayReplace()
 {
     constexpr int replace = 1; // the default is the first button, which loses nothing
-    return UTIL_Platform::instance()->question(
-               this, "Dialog_Exclamatory_Mark.gif",
-               tr("Replace %1?", "SAVE_DIALOG;DIALOG_ICON_50_WARP").arg(name()),
-               {tr("Cancel", "SAVE_DIALOG;SOFTKEY_2BUTTON"),
-                tr("Replace", "SAVE_DIALOG;SOFTKEY_2BUTTON")}) == replace;
+    const QPointer<UTIL_SaveDialog> self = this;
+    const int answer = UTIL_Platform::instance()->question(
+        this, "Dialog_Exclamatory_Mark.gif",
+        tr("Replace %1?", "SAVE_DIALOG;DIALOG_ICON_50_WARP").arg(name()),
+        {tr("Cancel", "SAVE_DIALOG;SOFTKEY_2BUTTON"), tr("Replace", "SAVE_DIALOG;SOFTKEY_2BUTTON")});
+    return self && answer == replace;
 }
 
 QString UTIL_SaveDialog::freeName() const

@@ -21,6 +21,7 @@ protected:
     void confirm() override;
 
 private:
+    /// False, too, when the dialog has gone meanwhile.
     [[nodiscard]] bool mayReplace();
     [[nodiscard]] QString freeName() const;
     /// What was typed, with its extension; empty while that is no name.

@@ -1,5 +1,6 @@
 #include "UTIL_WaitBox.h"
 
+#include "UTIL_Modal.h"
 #include "UTIL_PushButton.h"
 #include "UTIL_Skin.h"
 #include "UTIL_WrapLabel.h"
@@ -56,12 +57,12 @@ bool UTIL_WaitBox::run(QWidget* parent, const QString& text, QFuture<void> work)
 {
     if (isDoneSoon(work))
         return true;
-    const QPointer<UTIL_WaitBox> box = new UTIL_WaitBox(parent, text); // goes with its parent
+    auto* const waiting = new UTIL_WaitBox(parent, text);
+    UTIL_Modal box(waiting);
     QFutureWatcher<void> watcher;
-    connect(&watcher, &QFutureWatcher<void>::finished, box, &QDialog::accept);
+    connect(&watcher, &QFutureWatcher<void>::finished, waiting, &QDialog::accept);
     watcher.setFuture(work);
-    const bool isDone = box->exec() == Accepted && box;
-    delete box;
+    const bool isDone = box.isAccepted();
     if (!isDone)
         work.cancel();
     return isDone;

@@ -48,7 +48,7 @@ void KORVA_AreaSelect::disableSelection()
 void KORVA_AreaSelect::mousePressEvent(QMouseEvent* event)
 {
     // After a tap the tool is still selecting: the next drag grows from the tap.
-    if (isActive() && event->button() == Qt::LeftButton && !m_selecting) {
+    if (canvas() && event->button() == Qt::LeftButton && !m_selecting) {
         disableSelection();
         m_selecting = true;
         m_start = m_end = pixel::at(event->position());
@@ -59,7 +59,7 @@ void KORVA_AreaSelect::mousePressEvent(QMouseEvent* event)
 void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint to = pixel::at(event->position());
-    if (!m_pressed || !isActive() || !m_selecting || to == m_end)
+    if (!m_pressed || !canvas() || !m_selecting || to == m_end)
         return;
     const QRect touched = toggleFrame(m_end) | toggleFrame(to);
     m_end = to;
@@ -69,7 +69,7 @@ void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
 void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
 {
     const bool pressed = std::exchange(m_pressed, false);
-    if (!pressed || !isActive() || event->button() != Qt::LeftButton)
+    if (!pressed || !canvas() || event->button() != Qt::LeftButton)
         return;
     const QPoint corner = limited(pixel::at(event->position()));
     if (corner == m_start)
@@ -81,7 +81,7 @@ void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
 void KORVA_AreaSelect::selectAll()
 {
     const bool isDragging = m_selecting && m_pressed; // a tap alone leaves it selecting, too
-    if (!isActive() || isDragging)
+    if (!canvas() || isDragging)
         return;
     disableSelection();
     m_start = m_end = QPoint(0, 0);
@@ -95,7 +95,8 @@ void KORVA_AreaSelect::select(QPoint corner)
     m_selecting = false;
     m_frameShown = false;
     canvas()->mergePastePixmap();
-    canvas()->setSelection(QRect(m_start, corner - QPoint(1, 1)));
+    if (canvas())
+        canvas()->setSelection(QRect(m_start, corner - QPoint(1, 1)));
 }
 
 // From 1 to the size itself: the selection ends one pixel before.

@@ -36,9 +36,7 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QString& fileName, QW
 
 KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize,
                            QWidget* parent, const char* name)
-    : QWidget(parent),
-      m_picture(std::make_unique<QPixmap>(picture)),
-      m_repainter(std::make_unique<KORVA_Repainter>(this))
+    : QWidget(parent), m_picture(picture), m_repainter(std::make_unique<KORVA_Repainter>(this))
 {
     setObjectName(name);
     UTIL_Platform::instance()->setMouseMode(this, 1);
@@ -47,7 +45,7 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
     setPalette(colors);
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (takeItsSize)
-        resize(m_picture->size());
+        resize(m_picture.size());
 
     m_pasteLabel = new KORVA_PasteLabel(this);
     connect(m_pasteLabel, &KORVA_PasteLabel::signalCut, this, &KORVA_Canvas::slotCut);
@@ -112,6 +110,11 @@ void KORVA_Canvas::deactivate()
     m_toolActive = false;
 }
 
+KORVA_Tool* KORVA_Canvas::getCurrentTool() const
+{
+    return m_tool;
+}
+
 int KORVA_Canvas::getCurrentToolID() const
 {
     return m_tool ? m_tool->id() : -1;
@@ -141,7 +144,7 @@ void KORVA_Canvas::handOn(QMouseEvent* event, Handler toTool, LabelHandler toLab
     if (m_tool) {
         QMouseEvent exact = movedTo(pointer, *event);
         exact.setTimestamp(event->timestamp());
-        (m_tool->*toTool)(&exact);
+        (m_tool.data()->*toTool)(&exact);
         event->setAccepted(exact.isAccepted());
     }
 }
@@ -226,7 +229,7 @@ void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
 
 void KORVA_Canvas::paintEvent(QPaintEvent* event)
 {
-    classic::bitBlt(this, 0, 0, *m_zoomed, event->rect());
+    classic::bitBlt(this, 0, 0, m_zoomed, event->rect());
 }
 
 KORVA_ScrollView* KORVA_Canvas::scrollView() const
@@ -257,12 +260,12 @@ void KORVA_Canvas::markModified()
 QPixmap* KORVA_Canvas::pixmap()
 {
     mergePastePixmap();
-    return m_picture.get();
+    return &m_picture;
 }
 
 QPixmap KORVA_Canvas::snapshot() const
 {
-    QPixmap picture = *m_picture;
+    QPixmap picture = m_picture;
     if (isFloating())
         paintPiece(&picture);
     if (m_tool)
@@ -275,8 +278,8 @@ void KORVA_Canvas::setPixmap(QPixmap* picture)
     if (!picture)
         return;
     m_pasteLabel->hide();
-    *m_picture = classic::opaque(*picture);
-    emit pixmapChanged(m_picture.get());
+    m_picture = classic::opaque(*picture);
+    emit pixmapChanged(&m_picture);
     rebuildZoomed();
     fitToZoomed();
     refresh();
@@ -284,7 +287,7 @@ void KORVA_Canvas::setPixmap(QPixmap* picture)
 
 int KORVA_Canvas::getDepth() const
 {
-    return m_picture->depth();
+    return m_picture.depth();
 }
 
 void KORVA_Canvas::setDepth(int d)
@@ -293,7 +296,7 @@ void KORVA_Canvas::setDepth(int d)
     if (d == getDepth())
         return;
     saveOldPix();
-    QPixmap unchanged = *m_picture; // the toolkit keeps every picture at its own depth
+    QPixmap unchanged = m_picture; // the toolkit keeps every picture at its own depth
     setPixmap(&unchanged);
     markModified();
 }
@@ -301,31 +304,31 @@ void KORVA_Canvas::setDepth(int d)
 void KORVA_Canvas::clearCanvas(const QColor& color)
 {
     saveOldPix();
-    m_picture->fill(color);
+    m_picture.fill(color);
     paintZoomed();
     markModified();
     refresh();
-    if (auto* text = qobject_cast<KORVA_Text*>(m_tool))
+    if (auto* text = qobject_cast<KORVA_Text*>(m_tool.data()))
         text->resetBuffer();
     m_pasteLabel->hide();
 }
 
 void KORVA_Canvas::resizeImage(int w, int h)
 {
-    if (QSize(w, h) != m_picture->size()) {
+    if (QSize(w, h) != m_picture.size()) {
         saveOldPix();
-        auto resized = std::make_unique<QPixmap>(classic::filled(QSize(w, h), Qt::white));
-        if (!m_picture->isNull()) {
-            const float horizontal = static_cast<float>(w) / static_cast<float>(m_picture->width());
-            const float vertical = static_cast<float>(h) / static_cast<float>(m_picture->height());
-            KORVA_ClassicPainter painter(resized.get());
+        QPixmap resized = classic::filled(QSize(w, h), Qt::white);
+        if (!m_picture.isNull()) {
+            const float horizontal = static_cast<float>(w) / static_cast<float>(m_picture.width());
+            const float vertical = static_cast<float>(h) / static_cast<float>(m_picture.height());
+            KORVA_ClassicPainter painter(&resized);
             painter.setWorldMatrix(
                 QTransform::fromScale(static_cast<double>(horizontal), static_cast<double>(vertical)));
-            painter.drawPixmap(0, 0, *m_picture);
+            painter.drawPixmap(0, 0, m_picture);
         }
         m_picture = std::move(resized);
         setZoom(zoom());
-        emit pixmapChanged(m_picture.get());
+        emit pixmapChanged(&m_picture);
         markModified();
     }
     refresh();
@@ -346,7 +349,7 @@ bool KORVA_Canvas::load(const QString& fileName, const char* format)
 bool KORVA_Canvas::save(const QString& fileName, const char* format)
 {
     mergePastePixmap();
-    return picturesave::write(m_picture->toImage(), fileName, format);
+    return picturesave::write(m_picture.toImage(), fileName, format);
 }
 
 // --- Undo
@@ -381,10 +384,8 @@ void KORVA_Canvas::exchangeWithSnapshot()
     m_pasteLabel->hide();
     if (m_tool && m_tool->getTextKey())
         return;
-    QPixmap after = *m_picture;
-    m_picture = std::make_unique<QPixmap>(m_previous);
-    m_previous = after;
-    if (m_picture->size() == after.size()) {
+    m_picture.swap(m_previous);
+    if (m_picture.size() == m_previous.size()) {
         updateZoomed();
     } else { // back over a resize: the screen follows
         rebuildZoomed();
@@ -433,19 +434,19 @@ void KORVA_Canvas::updateZoomed()
 
 void KORVA_Canvas::rebuildZoomed()
 {
-    m_zoomed.reset(); // the new one may take its place in memory
-    m_zoomed = std::make_unique<QPixmap>(m_zoom.zoomed(m_picture->size()));
+    m_zoomed = QPixmap(); // the new one may take its place in memory
+    m_zoomed = QPixmap(m_zoom.zoomed(m_picture.size()));
     paintZoomed();
 }
 
 void KORVA_Canvas::paintZoomed()
 {
     if (zoom() == 100) {
-        *m_zoomed = *m_picture; // one picture in memory until either is painted on
-    } else {                    // the picture covers it and is opaque
-        KORVA_ClassicPainter painter(m_zoomed.get());
+        m_zoomed = m_picture; // one picture in memory until either is painted on
+    } else {                  // the picture covers it and is opaque
+        KORVA_ClassicPainter painter(&m_zoomed);
         painter.setWorldMatrix(m_zoom.toWidgetMatrix());
-        painter.drawPixmap(0, 0, *m_picture);
+        painter.drawPixmap(0, 0, m_picture);
     }
     tellZoomedRebuilt();
 }
@@ -458,9 +459,9 @@ void KORVA_Canvas::tellZoomedRebuilt()
 
 void KORVA_Canvas::fitToZoomed()
 {
-    if (m_zoomed->size() == size())
+    if (m_zoomed.size() == size())
         return;
-    resize(m_zoomed->size());
+    resize(m_zoomed.size());
     emit sizeChanged();
 }
 
@@ -488,7 +489,7 @@ void KORVA_Canvas::setSelection(const QRect& rect)
     if (zoom() == 150 || zoom() == 200)
         lifted.setSize(lifted.size() + QSize(margin, margin));
     QPixmap piece = classic::filled(lifted.size(), Qt::white);
-    classic::bitBlt(&piece, -lifted.left(), -lifted.top(), *m_picture);
+    classic::bitBlt(&piece, -lifted.left(), -lifted.top(), m_picture);
 
     fillSelection();
     floatPiece(m_selection.topLeft(), piece);
@@ -561,7 +562,7 @@ void KORVA_Canvas::paste(int x, int y)
     if (piece.width() == 0)
         return;
     saveOldPix();
-    classic::bitBlt(m_picture.get(), x, y, piece);
+    classic::bitBlt(&m_picture, x, y, piece);
     markModified();
     updateZoomed();
 }
@@ -598,7 +599,7 @@ void KORVA_Canvas::mergePastePixmap()
     if (!isFloating())
         return;
     m_pasteLabel->hide();
-    paintPiece(m_picture.get());
+    paintPiece(&m_picture);
     saveOldPix();
     markModified();
     updateZoomed();

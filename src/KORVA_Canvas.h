@@ -4,6 +4,7 @@
 #include "KORVA_Zoom.h"
 
 #include <QPixmap>
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -24,6 +25,8 @@ class QMenu;
 /// Every operation that changes the picture takes the snapshot before and calls markModified() after, which
 /// makes undo possible; what does otherwise says so. undo(), redo() and a picture taken in leave the
 /// modified flag as it is.
+///
+/// Who hears a signal may call everything here and change tools, or delete the canvas later.
 class KORVA_EXPORT KORVA_Canvas : public QWidget
 {
     Q_OBJECT
@@ -57,21 +60,22 @@ public:
     /// Whether a tool is active. In an editor one always is.
     [[nodiscard]] bool isActive() const { return m_toolActive; }
     /// The active tool; null when there is none.
-    [[nodiscard]] KORVA_Tool* getCurrentTool() const { return m_tool; }
+    [[nodiscard]] KORVA_Tool* getCurrentTool() const;
     /// The active tool's KORVA_Tool::id(); -1 when there is none.
     [[nodiscard]] int getCurrentToolID() const;
 
     /// The picture, after merging a floating piece into it: who paints on it paints on all of it. The
-    /// painter calls saveOldPix() before, markModified() and updateZoomed() after. The canvas's own; valid
-    /// until the next undo, redo, resize or load.
+    /// painter calls saveOldPix() before, markModified() and updateZoomed() after. The canvas's own, for as
+    /// long as there is a canvas; undo, redo, resize and load put another picture into it.
     QPixmap* pixmap();
     /// The picture as a save would write it now: a floating piece where it lies and what the tool still
     /// holds back, such as open text, are in it. Nothing is merged, committed, emitted or otherwise
     /// touched.
     [[nodiscard]] QPixmap snapshot() const;
     /// The picture on screen, for feedback, in widget coordinates; nothing is merged. refresh() shows what
-    /// was painted on it. The canvas's own; valid until the zoom or the picture's size changes.
-    QPixmap* zoomedPixmap() { return m_zoomed.get(); }
+    /// was painted on it. The canvas's own, for as long as there is a canvas; it gets another size with
+    /// the zoom or the picture's size.
+    QPixmap* zoomedPixmap() { return &m_zoomed; }
     /// Copies a picture in; transparent pixels come out white. A floating piece is dropped. Not a
     /// modification, and no snapshot is taken. Emits pixmapChanged(), then sizeChanged() where the size on
     /// screen is another. Null is ignored.
@@ -99,7 +103,7 @@ public:
 
     /// Takes the undo snapshot: what undo() brings back, in place of the one before. Undo becomes possible
     /// with markModified().
-    void saveOldPix() { m_previous = *m_picture; }
+    void saveOldPix() { m_previous = m_picture; }
     /// Tells the host what to offer: 0 neither undo nor redo, 1 redo, 2 undo, the other way round than
     /// undoFlag(). Emits canRedo(), then canUndo(); other numbers are kept and emit nothing.
     void setUndoFlag(int flag);
@@ -255,9 +259,9 @@ private:
     [[nodiscard]] bool isFloating() const;
 
     KORVA_Zoom m_zoom;
-    KORVA_Tool* m_tool = nullptr; // not owned
-    std::unique_ptr<QPixmap> m_zoomed;
-    std::unique_ptr<QPixmap> m_picture;
+    QPointer<KORVA_Tool> m_tool;
+    QPixmap m_zoomed;
+    QPixmap m_picture;
     QPixmap m_previous;
     int m_undoFlag = 0;
     QPixmap m_clipboard;

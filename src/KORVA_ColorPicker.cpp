@@ -1,6 +1,7 @@
 #include "KORVA_ColorPicker.h"
 
 #include "RES_ICON_Reader.h"
+#include "UTIL_Modal.h"
 #include "UTIL_PushButton.h"
 #include "UTIL_Skin.h"
 #include "UTIL_Slider.h"
@@ -106,8 +107,9 @@ KORVA_ColorPicker::KORVA_ColorPicker(KORVA_COLORTYPE colorType, const QColor& co
 QColor KORVA_ColorPicker::getColor(KORVA_COLORTYPE colorType, const QColor& color, QWidget* parent,
                                    const char* name)
 {
-    KORVA_ColorPicker picker(colorType, color, parent, name, Qt::Window);
-    return picker.exec() == Accepted ? picker.color() : color;
+    UTIL_Modal picker(new KORVA_ColorPicker(colorType, color, parent, name, Qt::Window));
+    const QColor before = color; // which may belong to the parent, and go with it
+    return picker.isAccepted() ? picker->color() : before;
 }
 
 void KORVA_ColorPicker::createSwatch()

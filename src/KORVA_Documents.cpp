@@ -7,11 +7,14 @@
 #include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
 #include "UTIL_ImageReader.h"
+#include "UTIL_Modal.h"
 #include "UTIL_PictureDialog.h"
 #include "UTIL_Platform.h"
 #include "UTIL_Wait.h"
 
 #include <QFile>
+
+#include <utility>
 
 namespace {
 
@@ -69,6 +72,14 @@ QString saveQuestion(int action)
 
 } // namespace
 
+template <typename Work>
+bool KORVA_Documents::survives(const Work& work)
+{
+    const QPointer<KORVA_EditCanvas> editor = &m_editor;
+    work();
+    return editor;
+}
+
 void KORVA_Documents::setFileName(const QString& name)
 {
     m_fileName = name == QLatin1String(handedOver) ? QString() : name;
@@ -93,7 +104,6 @@ void KORVA_Documents::startOpen()
 
 void KORVA_Documents::saveChanges(int action)
 {
-    const QPointer<KORVA_EditCanvas> editor = &m_editor; // may go away while the user is asked
     m_pendingAction = action;
     m_editor.canvas()->mergePastePixmap();
     if (!m_editor.isModified()) {
@@ -105,23 +115,19 @@ void KORVA_Documents::saveChanges(int action)
     }
 
     if (const QString question = saveQuestion(action); !question.isEmpty()) {
-        const int answer =
-            UTIL_Platform::instance()->question(&m_editor, warningIcon, question,
-                                                {KORVA_EditCanvas::tr("Yes", "2.11.2.3;SOFTKEY_2BUTTON"),
-                                                 KORVA_EditCanvas::tr("No", "2.11.2.3;SOFTKEY_2BUTTON")});
+        const std::optional<int> answer = ask(warningIcon, question,
+                                              {KORVA_EditCanvas::tr("Yes", "2.11.2.3;SOFTKEY_2BUTTON"),
+                                               KORVA_EditCanvas::tr("No", "2.11.2.3;SOFTKEY_2BUTTON")});
         if (answer != 0) {
-            if (action == Open) {
-                m_editor.openNewFilePrivate(Open, QString());
-                if (editor)
-                    resetTypedText();
-            }
+            const bool goesOn = answer && action == Open;
+            if (goesOn && survives([&] { m_editor.openNewFilePrivate(Open, QString()); }))
+                resetTypedText();
             return;
         }
     }
     if (KORVA_Text* text = m_editor.currentText(); text && !text->isBufferEmpty())
         text->paintProportionBuffer();
-    m_editor.savePic(action);
-    if (editor)
+    if (survives([&] { m_editor.savePic(action); }))
         resetTypedText();
 }
 
@@ -135,19 +141,17 @@ bool KORVA_Documents::pickAndOpen(int action)
 {
     delete m_pickDialog;
     UTIL_Platform* platform = UTIL_Platform::instance();
-    m_pickDialog =
-        platform->createPickDialog(&m_editor, platform->photoFolder(), picturefile::openPatterns());
-    const QPointer<UTIL_PictureDialog> dialog = m_pickDialog;
+    UTIL_Modal dialog(
+        platform->createPickDialog(&m_editor, platform->photoFolder(), picturefile::openPatterns()));
     if (action == InsertStamp)
         dialog->setPurpose(KORVA_EditCanvas::tr("Insert stamp", "PICK_DIALOG;TITLE"),
                            KORVA_EditCanvas::tr("Insert", "PICK_DIALOG;SOFTKEY_2BUTTON"));
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
-        return false; // the editor went away with it
-    const QString name = accepted ? dialog->fileName() : QString();
-    const bool opened = !name.isEmpty() && open(action, name);
-    delete dialog;
-    return opened;
+    m_pickDialog = dialog.operator->();
+    bool isAccepted = false;
+    if (!survives([&] { isAccepted = dialog.isAccepted(); }) || !isAccepted)
+        return false;
+    const QString name = dialog->fileName();
+    return !name.isEmpty() && open(action, name);
 }
 
 bool KORVA_Documents::open(int action, const QString& name)
@@ -163,6 +167,8 @@ bool KORVA_Documents::open(int action, const QString& name)
     QPixmap picture;
     Opened source;
     const bool opened = take(*contents, &picture, &source);
+    if (contents->image.isNull() && !survives([this] { tellUnreadable(); }))
+        return false;
     if (opened && action == Open) {
         m_opened = source;
         m_editor.setPixmap(&picture);
@@ -185,10 +191,14 @@ void KORVA_Documents::openAtConstruction(const QString& name)
     const std::optional<Contents> contents =
         contentsOf(name, isHandedOver ? QByteArray() : picturefile::readFormat(name));
     QPixmap picture;
-    if (contents && check(contents->status) && take(*contents, &picture, &m_opened)) {
+    if (!contents || !check(contents->status))
+        return;
+    if (take(*contents, &picture, &m_opened)) {
         m_fileName = name;
         m_editor.setPixmap(&picture);
         m_editor.clearModified();
+    } else if (contents->image.isNull()) {
+        tellUnreadable();
     }
 }
 
@@ -233,18 +243,19 @@ bool KORVA_Documents::check(int status)
 
 bool KORVA_Documents::take(const Contents& contents, QPixmap* picture, Opened* opened)
 {
-    if (contents.image.isNull()) {
-        UTIL_Platform::instance()->timedInformation(
-            &m_editor, warningIcon,
-            KORVA_EditCanvas::tr("This file can not be opened.", "4.4.4.2;DIALOG_ICON_50_WARP"),
-            KORVA_EditCanvas::tr("OK", "4.4.4.2;SOFTKEY_1BUTTON"), longTime);
-        return false;
-    }
-    if (!picturefile::convert(contents.working, picture))
+    if (contents.image.isNull() || !picturefile::convert(contents.working, picture))
         return false;
     *opened = contents.opened;
     opened->isReduced = opened->isReduced || !UTIL_ImageReader::isSame(contents.image, picture->toImage());
     return true;
+}
+
+void KORVA_Documents::tellUnreadable()
+{
+    UTIL_Platform::instance()->timedInformation(
+        &m_editor, warningIcon,
+        KORVA_EditCanvas::tr("This file can not be opened.", "4.4.4.2;DIALOG_ICON_50_WARP"),
+        KORVA_EditCanvas::tr("OK", "4.4.4.2;SOFTKEY_1BUTTON"), longTime);
 }
 
 void KORVA_Documents::setBuffer(const QByteArray& data)
@@ -269,8 +280,7 @@ void KORVA_Documents::nameAndSave(int action)
     if (action == InsertStamp) {
         m_editor.openNewFilePrivate(InsertStamp, QString());
     } else if (!m_fileName.isEmpty()) {
-        m_editor.saveFilePrivate();
-        if (action == Open)
+        if (survives([this] { m_editor.saveFilePrivate(); }) && action == Open)
             m_editor.openNewFilePrivate(Open, QString());
     } else {
         askForName();
@@ -280,24 +290,23 @@ void KORVA_Documents::nameAndSave(int action)
 void KORVA_Documents::askForName()
 {
     UTIL_Platform* platform = UTIL_Platform::instance();
-    m_saveDialog =
-        platform->createSaveDialog(&m_editor, platform->photoFolder(), picturefile::savePatterns());
-    const QPointer<UTIL_PictureDialog> dialog = m_saveDialog;
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
-        return; // the editor went away with it
-    if (accepted) {
+    UTIL_Modal dialog(
+        platform->createSaveDialog(&m_editor, platform->photoFolder(), picturefile::savePatterns()));
+    m_saveDialog = dialog.operator->();
+    bool isAccepted = false;
+    if (!survives([&] { isAccepted = dialog.isAccepted(); }))
+        return;
+    if (isAccepted)
         m_editor.slotSaveDlgCloseBeforeOpen(dialog->fileName());
-    } else {
+    else
         m_pendingAction = NoAction;
-        delete m_saveDialog;
-    }
 }
 
 void KORVA_Documents::saveUnder(const QString& name)
 {
     m_fileName = name;
-    m_editor.saveFilePrivate();
+    if (!survives([this] { m_editor.saveFilePrivate(); }))
+        return;
     delete m_saveDialog;
     if (m_pendingAction == Open || m_pendingAction == InsertStamp)
         m_editor.openNewFilePrivate(m_pendingAction, QString());
@@ -311,15 +320,15 @@ void KORVA_Documents::saveAndTell()
     }
     const QByteArray format = picturefile::writeFormat(m_fileName);
     const bool canBeWritten = !format.isEmpty(); // a GIF never is, and keeps its name
+    std::pair outcome{errorIcon, KORVA_EditCanvas::tr("Saved Failed", "2.11.2.10;DIALOG_ICON_50")};
     if (canBeWritten && m_editor.save(m_fileName, format.constData())) {
         m_editor.clearModified();
-        tell(completeIcon, KORVA_EditCanvas::tr("Saved Successfully", "2.11.2.9;DIALOG_ICON_50"));
-    } else {
-        if (canBeWritten)
-            m_fileName.clear();
-        tell(errorIcon, KORVA_EditCanvas::tr("Saved Failed", "2.11.2.10;DIALOG_ICON_50"));
+        outcome = {completeIcon, KORVA_EditCanvas::tr("Saved Successfully", "2.11.2.9;DIALOG_ICON_50")};
+    } else if (canBeWritten) {
+        m_fileName.clear();
     }
-    emit m_editor.canDelete(true); // after a failure, too: hosts have always had it so
+    if (survives([&] { tell(outcome.first, outcome.second); }))
+        emit m_editor.canDelete(true); // after a failure, too: hosts have always had it so
 }
 
 // --- Deleting
@@ -327,10 +336,10 @@ void KORVA_Documents::saveAndTell()
 
 void KORVA_Documents::askAndDelete()
 {
-    const int answer = UTIL_Platform::instance()->question(
-        &m_editor, binIcon, KORVA_EditCanvas::tr("Delete drawing?", "2.11.2.1;DIALOG_ICON_50"),
-        {KORVA_EditCanvas::tr("OK", "2.11.2.1;SOFTKEY_2BUTTON"),
-         KORVA_EditCanvas::tr("Cancel", "2.11.2.1;SOFTKEY_2BUTTON")});
+    const std::optional<int> answer =
+        ask(binIcon, KORVA_EditCanvas::tr("Delete drawing?", "2.11.2.1;DIALOG_ICON_50"),
+            {KORVA_EditCanvas::tr("OK", "2.11.2.1;SOFTKEY_2BUTTON"),
+             KORVA_EditCanvas::tr("Cancel", "2.11.2.1;SOFTKEY_2BUTTON")});
     if (answer != 0)
         return;
     m_editor.clearCanvas();
@@ -339,8 +348,18 @@ void KORVA_Documents::askAndDelete()
     resetTypedText();
     if (m_fileName.isEmpty())
         return;
-    UTIL_Platform::instance()->removePicture(m_fileName); // one that cannot be removed is not reported
-    m_fileName.clear();
+    const QString name = m_fileName; // one that cannot be removed is not reported
+    if (survives([&] { UTIL_Platform::instance()->removePicture(name); }))
+        m_fileName.clear();
+}
+
+std::optional<int> KORVA_Documents::ask(const char* icon, const QString& text, const QStringList& buttons)
+{
+    int answer = 0;
+    const bool isThere = survives([&] {
+        answer = UTIL_Platform::instance()->question(&m_editor, QString::fromLatin1(icon), text, buttons);
+    });
+    return isThere ? std::optional(answer) : std::nullopt;
 }
 
 void KORVA_Documents::tell(const char* icon, const QString& text)

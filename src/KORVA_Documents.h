@@ -14,6 +14,9 @@ class UTIL_PictureDialog;
 /// itself is KORVA_PictureFile's; here are the questions, the dialogs and the name of the drawing.
 ///
 /// Owned by the editor; the operations stand behind the editor's own of the same purpose.
+///
+/// The editor, and this object with it, may be deleted while a box or a dialog is open. Everything that
+/// opens one is called through survives(), or is the last that its caller does.
 class KORVA_Documents
 {
 public:
@@ -70,13 +73,21 @@ private:
         Opened opened;
     };
 
+    /// Does work that may open a box or a dialog. False when the editor was deleted meanwhile: nothing of
+    /// it, nor of this object, is there any more.
+    template <typename Work>
+    [[nodiscard]] bool survives(const Work& work);
     /// Nothing when the user has cancelled it; this object may be gone then.
     std::optional<Contents> contentsOf(const QString& name, const QByteArray& format);
-    /// Tells the user what is wrong.
+    /// Tells the user what is wrong; this object may be gone then.
     bool check(int status);
-    bool take(const Contents& contents, QPixmap* picture, Opened* opened);
+    static bool take(const Contents& contents, QPixmap* picture, Opened* opened);
+    void tellUnreadable();
     void askForName();
     void resetTypedText();
+    /// The index of the button; nothing when the editor, and this object, has gone.
+    [[nodiscard]] std::optional<int> ask(const char* icon, const QString& text, const QStringList& buttons);
+    /// This object may be gone afterwards.
     void tell(const char* icon, const QString& text);
 
     KORVA_EditCanvas& m_editor;

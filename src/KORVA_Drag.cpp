@@ -22,7 +22,7 @@ void KORVA_Drag::mouseMoveEvent(QMouseEvent* event)
 {
     constexpr int slowness = 10;
     const QPoint p = pixel::at(event->position());
-    if (!isActive() || p == m_last)
+    if (!canvas() || p == m_last)
         return;
     if (KORVA_ScrollView* view = canvas()->scrollView()) {
         view->setContentsPos(view->contentsX() - (p.x() - m_press.x()) / slowness,

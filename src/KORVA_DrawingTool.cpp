@@ -19,8 +19,15 @@ QBrush KORVA_DrawingTool::brush() const
     return m_button == Qt::LeftButton ? leftBrush() : rightBrush();
 }
 
-void KORVA_DrawingTool::beginChange()
+bool KORVA_DrawingTool::beginChange()
 {
     canvas()->saveOldPix();
     canvas()->markModified();
+    return canvas();
+}
+
+QPixmap* KORVA_DrawingTool::picture() const
+{
+    QPixmap* const merged = canvas() ? canvas()->pixmap() : nullptr;
+    return canvas() ? merged : nullptr;
 }

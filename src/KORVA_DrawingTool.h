@@ -26,8 +26,12 @@ protected:
     [[nodiscard]] QBrush brush() const;
 
     /// Takes the undo snapshot and marks the picture modified: before the first pixel of a gesture, on an
-    /// active tool.
-    void beginChange();
+    /// active tool. False when who heard of it took the tool away from its canvas.
+    [[nodiscard]] bool beginChange();
+    /// The picture to paint on, after merging a floating piece into it; null when the tool has no canvas,
+    /// or none any more, because who heard of the merging took it away. In both pictures it is painted
+    /// after this call: nobody hears anything in between.
+    [[nodiscard]] QPixmap* picture() const;
 
 private:
     Qt::MouseButton m_button = Qt::NoButton;

@@ -19,6 +19,7 @@
 #include "UTIL_Skin.h"
 
 #include <QCursor>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <cstdio>
@@ -356,6 +357,7 @@ void KORVA_EditCanvas::slotSelChangeTool(int menuId)
 
 void KORVA_EditCanvas::selectTool(int tool)
 {
+    const int choice = ++m_choices; // a host that hears of it may choose another one, which stands
     const tables::ToolRow* row = tables::toolRow(tool);
     showIcon(m_toolButton, row->icon);
     if (KORVA_Text* text = currentText(); text && tool != tables::Text) {
@@ -363,12 +365,20 @@ void KORVA_EditCanvas::selectTool(int tool)
         text->paintProportionBuffer();
         text->resetBuffer();
     }
+    if (choice != m_choices)
+        return;
     m_tool = tool;
     emit signalTextTool(tool == tables::Text);
+    if (choice != m_choices)
+        return;
     loadToolOptions(tool);
+    connect(m_manager->tool(tool), &KORVA_Tool::TextToolClicked, this, &KORVA_EditCanvas::TextToolClicked,
+            Qt::UniqueConnection);
     m_manager->setCurrentTool(tool);
-    connect(m_manager->currentTool(), &KORVA_Tool::TextToolClicked, this,
-            &KORVA_EditCanvas::TextToolClicked, Qt::UniqueConnection);
+    if (choice != m_choices) {
+        updateRubberCursor();
+        return;
+    }
     slotSelChangeToolOptions(m_optionMenu->actions().value(remembered(tool))->data().toInt());
 }
 
@@ -414,6 +424,7 @@ void KORVA_EditCanvas::slotSelChangeToolOptions(int menuId)
         return;
     }
 
+    const int choice = m_choices;
     remembered(tool) = chosen->value;
     if (tool == tables::AreaSelect) {
         m_tool = chosen->value == 0 ? tables::AreaSelect : tables::Drag;
@@ -430,17 +441,20 @@ void KORVA_EditCanvas::slotSelChangeToolOptions(int menuId)
         m_manager->setBrush(chosen->value == 0 ? Qt::NoBrush : Qt::SolidPattern);
     if (tool == tables::Eraser)
         m_manager->setLMBColor(Qt::white);
-    if (KORVA_Text* text = currentText(); text && !text->getPaintPropotionStatus())
+    if (KORVA_Text* text = currentText(); text && !text->getPaintPropotionStatus() && !m_isChangingPen) {
+        const QScopedValueRollback isChangingPen(m_isChangingPen, true);
         text->penChanged();
+    }
     updateRubberCursor();
-    showIcon(m_optionButton, chosen->icon);
+    if (choice == m_choices)
+        showIcon(m_optionButton, chosen->icon);
 }
 
 void KORVA_EditCanvas::slotSelZoomRate(int index)
 {
     const int rate = zoomRate(index);
-    m_fittedRate = index == fitToPageIndex ? rate : 0;
     commitText();
+    m_fittedRate = index == fitToPageIndex ? rate : 0;
     setZoom(rate);
 }
 
@@ -492,7 +506,10 @@ void KORVA_EditCanvas::setRubberCursor(int width, int rate)
 
 void KORVA_EditCanvas::slotColor()
 {
-    setColor(KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr));
+    const QPointer<KORVA_EditCanvas> self = this; // the picker runs an event loop
+    const QColor picked = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
+    if (self)
+        setColor(picked);
 }
 
 void KORVA_EditCanvas::setColor(const QColor& color)

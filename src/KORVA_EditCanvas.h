@@ -21,7 +21,9 @@ class QPushButton;
 /// the canvas, 240 × 225 pixels; what it is given beyond that goes to the canvas's view. The host wires its
 /// own commands to the operations and slots and enables them from the signals. GUI thread only.
 ///
-/// What asks or tells the user something runs UTIL_Platform's boxes and dialogs and returns after them.
+/// What asks or tells the user something runs UTIL_Platform's boxes and dialogs and returns after them. The
+/// editor may be deleted while one is open: the call then returns at once, as after a refusal. Who hears a
+/// signal may call everything here, or delete the editor later.
 /// `action` and `flag` mean: 0 open, 1 choose a canvas, 2 save, 3 insert a stamp, 4 create.
 class KORVA_EXPORT KORVA_EditCanvas : public QWidget
 {
@@ -284,7 +286,9 @@ private:
     std::unique_ptr<KORVA_Manager> m_manager;
     QWidget* m_ownerWindow;
     int m_fittedRate = 0; ///< in percent, by "Fit to page"; 0 after another choice
-    int m_tool = 0;       ///< the identifier in the manager; 7 while select is in hand mode
+    int m_choices = 0;    ///< of a tool, counted
+    bool m_isChangingPen = false;
+    int m_tool = 0; ///< the identifier in the manager; 7 while select is in hand mode
     QColor m_color{255, 0, 0};
     size_t m_saved = 0; ///< a hash of the drawing that counts as saved
     KORVA_COLORTYPE m_colorType;

@@ -11,6 +11,8 @@
 #include "KORVA_Rubber.h"
 #include "KORVA_Text.h"
 
+#include <QScopedValueRollback>
+
 namespace {
 
 template <typename Tool>
@@ -71,13 +73,21 @@ KORVA_Tool* KORVA_Manager::tool(int id) const
 
 void KORVA_Manager::setCurrentTool(int id)
 {
-    const int next = tool(id) ? id : 0;
-    if (next == m_current)
+    m_wanted = tool(id) ? id : 0;
+    const int request = ++m_requests;
+    if (!m_canvas || m_isChanging || m_wanted == m_current)
         return;
     m_canvas->mergePastePixmap();
+    if (request == m_requests)
+        changeTools();
+}
+
+void KORVA_Manager::changeTools()
+{
+    const QScopedValueRollback isChanging(m_isChanging, true);
     m_canvas->deactivate();
     currentTool()->deactivate();
-    m_current = next;
+    m_current = m_wanted;
     currentTool()->activate(m_canvas);
     handOver();
     m_canvas->activate(currentTool());

@@ -40,6 +40,9 @@ public slots:
     /// Merges a floating piece and changes tools: the text tool commits then, the select tool drops its
     /// selection. Nothing at all when the tool is already current. Identifiers outside 0 to 7 select the
     /// pencil.
+    ///
+    /// Who asks for another tool on hearing of what this merges or commits gets that one. Nothing when the
+    /// canvas has gone.
     void setCurrentTool(int id);
     /// Hands colours and width to the current tool; the others get them when they become current.
     void updateProperties();
@@ -61,11 +64,15 @@ signals:
 
 private:
     void createTools();
+    void changeTools();
     void handOver();
 
     std::vector<std::unique_ptr<KORVA_Tool>> m_tools; ///< in the order of their identifiers
     QPointer<KORVA_Canvas> m_canvas;
     int m_current = 0;
+    int m_wanted = 0;   ///< by the last request
+    int m_requests = 0; ///< how many there were
+    bool m_isChanging = false;
     QPen m_pen;
     QBrush m_brush;
     QColor m_leftColor;

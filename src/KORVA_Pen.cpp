@@ -16,9 +16,8 @@ void KORVA_Pen::activating()
 
 void KORVA_Pen::mousePressEvent(QMouseEvent* event)
 {
-    if (!isActive())
+    if (!canvas() || !beginChange())
         return;
-    beginChange();
     setButton(event->button());
     m_last = pixel::at(event->position());
     drawTo(m_last);
@@ -28,7 +27,7 @@ void KORVA_Pen::mousePressEvent(QMouseEvent* event)
 void KORVA_Pen::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint to = pixel::at(event->position());
-    if (isActive() && m_drawing && to != m_last)
+    if (canvas() && m_drawing && to != m_last)
         drawTo(to);
 }
 
@@ -40,7 +39,10 @@ void KORVA_Pen::mouseReleaseEvent(QMouseEvent* event)
 
 void KORVA_Pen::drawTo(QPoint to)
 {
-    drawSegment(canvas()->pixmap(), picturePen(), zoom().toPictureMatrix(), to);
+    QPixmap* const paper = picture();
+    if (!paper)
+        return;
+    drawSegment(paper, picturePen(), zoom().toPictureMatrix(), to);
     const QRect touched = drawSegment(canvas()->zoomedPixmap(), screenPen(), {}, to);
     m_last = to;
     canvas()->refresh(touched);

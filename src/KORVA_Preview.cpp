@@ -1,11 +1,12 @@
 #include "KORVA_Preview.h"
 
 #include "KORVA_ImageView_Dialog.h"
+#include "UTIL_Modal.h"
 
 void KorvaPreview(const QString&, const QString& file, int& result)
 {
-    KORVA_ImageView_Dialog viewer(file);
-    switch (viewer.exec()) {
+    UTIL_Modal viewer(new KORVA_ImageView_Dialog(file));
+    switch (viewer.run()) {
     case QDialog::Rejected:
         result = KORVA_PREVIEW_CANCELLED;
         break;

@@ -15,7 +15,7 @@ void KORVA_Rubber::activating()
 
 void KORVA_Rubber::mousePressEvent(QMouseEvent* event)
 {
-    if (!isActive() || m_drawing)
+    if (!canvas() || m_drawing)
         return;
     m_drawing = true;
     setButton(event->button());
@@ -32,18 +32,23 @@ void KORVA_Rubber::mouseMoveEvent(QMouseEvent* event)
 
 void KORVA_Rubber::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (!isActive() || event->button() != button())
+    if (!canvas() || event->button() != button())
         return;
     canvas()->markModified();
+    if (!canvas())
+        return;
     const QPoint p = zoom().toPicture(pixel::at(event->position()));
     erase(p, p); // kept: the last square lies at the picture's place on the screen, too
 }
 
 void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)
 {
+    QPixmap* const paper = picture();
+    if (!paper)
+        return;
     const int side = screenPen().width();
     const QSize square(side, side);
-    KORVA_ClassicPainter(canvas()->pixmap()).fillRect(QRect(inPicture, square), Qt::white);
+    KORVA_ClassicPainter(paper).fillRect(QRect(inPicture, square), Qt::white);
     KORVA_ClassicPainter(canvas()->zoomedPixmap()).fillRect(QRect(onScreen, square), Qt::white);
     m_drawing = false;
     canvas()->refresh(QRect(onScreen, square));

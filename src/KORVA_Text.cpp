@@ -9,6 +9,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QTextBoundaryFinder>
 
 #include <utility>
@@ -124,10 +125,14 @@ void KORVA_Text::resetBuffer()
 void KORVA_Text::paintBuffer()
 {
     setTextKey(false);
+    if (!canvas() || m_isCommitting) // who hears of the change may ask for the picture
+        return;
+    const QScopedValueRollback isCommitting(m_isCommitting, true);
+    canvas()->saveOldPix();
+    QPixmap* const picture = canvas()->pixmap();
     if (!canvas())
         return;
-    canvas()->saveOldPix();
-    paintPending(canvas()->pixmap());
+    paintPending(picture);
     canvas()->updateZoomed();
     zoomedRebuilt(); // a tool that is being left is no longer told
     canvas()->markModified();
@@ -155,8 +160,10 @@ void KORVA_Text::penChanged()
     setText({});
     paintBuffer();
     m_cursor = m_lineStart;
-    for (const auto& key : m_keys)
-        keyPressEventSimu(key.get());
+    for (auto& key : std::exchange(m_keys, {})) {
+        m_keys.push_back(std::move(key)); // who hears of a letter may commit them all
+        keyPressEventSimu(m_keys.back().get());
+    }
 }
 
 // --- The stylus
@@ -228,7 +235,8 @@ void KORVA_Text::typeKey(QKeyEvent* event)
     default:
         insert(event->text());
     }
-    showText(m_text);
+    if (canvas())
+        showText(m_text);
 }
 
 // After a line break or a deletion the cursor stays hidden until it blinks next.
@@ -381,7 +389,8 @@ void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
         QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, character);
         keyPressEvent(&key);
     }
-    showText(m_text + event->preeditString());
+    if (canvas())
+        showText(m_text + event->preeditString());
 }
 
 QVariant KORVA_Text::inputMethodQuery(Qt::InputMethodQuery query) const

@@ -84,6 +84,7 @@ private:
     bool m_started = false;
     bool m_cursorShown = false;
     bool m_proportionPainted = false;
+    bool m_isCommitting = false;
     QString m_text;      ///< null before the first tap
     QString m_shown;     ///< what is inverted on screen: the text and what the input method is composing
     QStack<int> m_stops; ///< the cursor's x before each line break and tab of the text

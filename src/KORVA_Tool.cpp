@@ -33,7 +33,8 @@ void KORVA_Tool::deactivate()
 {
     const bool active = m_active;
     KORVA_ASSERT(active);
-    deactivating();
+    if (m_canvas)
+        deactivating();
     m_canvas = nullptr;
     m_active = false;
 }

@@ -20,7 +20,10 @@ class QMouseEvent;
 /// activate(), then KORVA_Canvas::activate(); and back KORVA_Canvas::deactivate(), then deactivate().
 /// Positions arrive in widget coordinates, which are those of the zoomed picture. A tool calls
 /// KORVA_Canvas::saveOldPix() before it changes the picture, and KORVA_Canvas::markModified(). Handlers do
-/// nothing on a tool that is not active.
+/// nothing on a tool without a canvas.
+///
+/// Who hears of a change may change tools: after markModified() and KORVA_Canvas::pixmap(), which merges a
+/// floating piece, a tool asks again whether there is a canvas().
 class KORVA_EXPORT KORVA_Tool : public QObject
 {
     Q_OBJECT
@@ -41,12 +44,13 @@ public:
 
     /// Whether activate() came after the last deactivate().
     [[nodiscard]] bool isActive() const { return m_active; }
-    /// The canvas worked on; null while inactive.
+    /// The canvas worked on; null while inactive, and when the canvas has gone before the tool.
     [[nodiscard]] KORVA_Canvas* canvas() const;
     /// Binds the tool to a canvas, which it does not own, and calls activating(). Aborts when the canvas
     /// already has an active tool.
     void activate(KORVA_Canvas* c);
-    /// Calls deactivating() and lets go of the canvas. Aborts when the tool is not active.
+    /// Calls deactivating(), unless the canvas has gone before, and lets go of the canvas. Aborts when the
+    /// tool is not active.
     void deactivate();
 
     /// True while typed text is not yet in the picture; undo and redo leave the picture alone then.

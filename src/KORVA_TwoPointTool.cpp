@@ -6,6 +6,8 @@
 
 #include <QMouseEvent>
 
+#include <utility>
+
 void KORVA_TwoPointTool::activating()
 {
     canvas()->setCursor(Qt::CrossCursor);
@@ -22,7 +24,7 @@ void KORVA_TwoPointTool::deactivating()
 
 void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
 {
-    if (!isActive() || m_state == Dragging)
+    if (!canvas() || m_state == Dragging)
         return;
     m_state = Dragging;
     m_start = m_end = pixel::at(event->position());
@@ -33,7 +35,7 @@ void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
 void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint to = pixel::at(event->position());
-    if (!isActive() || m_state == Idle || to == m_end)
+    if (!canvas() || m_state == Idle || to == m_end)
         return;
     QRect touched;
     {
@@ -49,17 +51,18 @@ void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
 
 void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (!isActive() || m_state == Idle || event->button() != button())
+    if (!canvas() || m_state == Idle || event->button() != button())
         return;
-    beginChange();
-    QPixmap* picture =
-        canvas()->pixmap(); // before the screen is touched: it may merge a piece and redraw that
+    QPixmap* const paper =
+        beginChange() ? picture() : nullptr; // before the screen is touched: merging redraws that
+    const bool isShown = std::exchange(m_state, Idle) == Dragging;
+    if (!paper || !isShown)
+        return;
     togglePreview();
-    m_state = Idle;
 
     const QPoint to = commitPoint(m_end, pixel::at(event->position()));
     paintShape(canvas()->zoomedPixmap(), screenPen(), m_start, to);
-    paintShape(picture, picturePen(), zoom().toPicture(m_start), zoom().toPicture(to));
+    paintShape(paper, picturePen(), zoom().toPicture(m_start), zoom().toPicture(to));
     canvas()->refresh();
 }
 
