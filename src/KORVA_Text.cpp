@@ -12,6 +12,7 @@
 #include <QScopedValueRollback>
 #include <QTextBoundaryFinder>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -36,9 +37,22 @@ int pointSize(int penWidth)
 // As a person counts: a letter with its accents, an emoji of several code points.
 QString lastCharacter(const QString& text)
 {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    if (text.endsWith('\n'))
+        return QStringLiteral("\n");
+    const QString line = text.mid(text.lastIndexOf('\n') + 1);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, line);
     finder.toEnd();
-    return text.mid(finder.toPreviousBoundary());
+    return line.mid(finder.toPreviousBoundary());
+}
+
+QStringList characters(const QString& text)
+{
+    QStringList found;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    for (qsizetype begin = 0, end = finder.toNextBoundary(); end > begin;
+         begin = std::exchange(end, finder.toNextBoundary()))
+        found.append(text.mid(begin, end - begin));
+    return found;
 }
 
 QString firstCharacter(const QString& text)
@@ -87,8 +101,11 @@ void KORVA_Text::activating()
 void KORVA_Text::deactivating()
 {
     m_blink.stop();
+    endComposition();
     paintBuffer();
     hideCursor();
+    m_started = false;
+    m_keys.clear();
 }
 
 void KORVA_Text::timerEvent(QTimerEvent*)
@@ -115,7 +132,9 @@ void KORVA_Text::resetBuffer()
         setText({});
     if (m_started) {
         hideCursor();
-        m_cursor = m_lineStart;
+        if (canvas())
+            showText({});
+        m_cursor = m_start;
     }
     m_keys.clear();
     m_stops.clear();
@@ -140,8 +159,10 @@ void KORVA_Text::paintBuffer()
 
 void KORVA_Text::paintPending(QPixmap* picture) const
 {
+    if (!m_started)
+        return;
     KORVA_ClassicPainter painter(picture);
-    drawText(painter, zoom().toPicture(m_lineStart), m_text);
+    drawText(painter, zoom().toPicture(m_start), zoom().toPicture(QPoint(m_margin, 0)).x(), m_text);
 }
 
 void KORVA_Text::paintProportionBuffer()
@@ -151,7 +172,7 @@ void KORVA_Text::paintProportionBuffer()
     setText({});
     m_keys.clear();
     m_stops.clear();
-    m_lineStart = m_cursor;
+    m_start = m_cursor;
     m_proportionPainted = true;
 }
 
@@ -159,11 +180,12 @@ void KORVA_Text::penChanged()
 {
     setText({});
     paintBuffer();
-    m_cursor = m_lineStart;
-    for (auto& key : std::exchange(m_keys, {})) {
-        m_keys.push_back(std::move(key)); // who hears of a letter may commit them all
-        keyPressEventSimu(m_keys.back().get());
-    }
+    m_cursor = m_start;
+    std::vector<QKeyEvent*> keys;
+    for (const auto& key : m_keys)
+        keys.push_back(key.get());
+    if (canvas() && m_started && !keys.empty())
+        typeKeys(keys);
 }
 
 // --- The stylus
@@ -174,7 +196,7 @@ void KORVA_Text::mousePressEvent(QMouseEvent* event)
     m_blink.stop();
     hideCursor();
     if (m_started) {
-        QGuiApplication::inputMethod()->reset();
+        endComposition();
         paintBuffer();
         m_started = false;
         m_keys.clear();
@@ -190,7 +212,8 @@ void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
         m_started = true;
         showText({});
         setText({});
-        m_lineStart = m_cursor = p;
+        m_start = m_cursor = p;
+        m_margin = p.x();
         m_stops.clear();
         toggleCursor();
         m_blink.start(blinkTime, this);
@@ -204,47 +227,62 @@ void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
 
 void KORVA_Text::keyPressEvent(QKeyEvent* event)
 {
-    if (!canvas() || !isTyping(*event)) {
+    if (!canvas() || !m_started || !isTyping(*event)) {
         event->ignore();
         return;
     }
-    m_keys.emplace_back(event->clone());
-    if (isPrintable(event->text()))
+    record(*event);
+    typeKeys({event});
+}
+
+void KORVA_Text::record(const QKeyEvent& event)
+{
+    m_keys.emplace_back(event.clone());
+    if (isPrintable(event.text()))
         m_proportionPainted = false;
-    typeKey(event);
 }
 
 void KORVA_Text::keyPressEventSimu(QKeyEvent* event)
 {
-    if (canvas() && isTyping(*event))
-        typeKey(event);
+    if (canvas() && m_started && isTyping(*event))
+        typeKeys({event});
 }
 
-void KORVA_Text::typeKey(QKeyEvent* event)
+// The screen follows once for all of them, before anybody is told.
+void KORVA_Text::typeKeys(const std::vector<QKeyEvent*>& keys)
 {
     setTextKey(true);
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        breakLine();
-        break;
-    case Qt::Key_Backspace:
-    case Qt::Key_Delete:
-        deleteBackward();
-        break;
-    default:
-        insert(event->text());
+    bool isCursorShown = m_cursorShown;
+    hideCursor();
+    int letters = 0;
+    for (const QKeyEvent* key : keys) {
+        switch (key->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            breakLine();
+            isCursorShown = false; // until it blinks next
+            break;
+        case Qt::Key_Backspace:
+        case Qt::Key_Delete:
+            isCursorShown = isCursorShown && m_text.isEmpty();
+            deleteBackward();
+            break;
+        default:
+            insert(key->text());
+            ++letters;
+        }
     }
-    if (canvas())
-        showText(m_text);
+    showText(m_text);
+    if (isCursorShown)
+        toggleCursor();
+    for (; letters > 0 && canvas(); --letters)
+        canvas()->markModified();
 }
 
-// After a line break or a deletion the cursor stays hidden until it blinks next.
 void KORVA_Text::breakLine()
 {
-    hideCursor();
     m_stops.push(m_cursor.x());
-    m_cursor = QPoint(m_lineStart.x(), m_cursor.y() + QFontMetrics(textFont()).height());
+    m_cursor = QPoint(m_margin, m_cursor.y() + QFontMetrics(textFont()).height());
     setText(m_text + '\n');
 }
 
@@ -252,7 +290,6 @@ void KORVA_Text::deleteBackward()
 {
     if (m_text.isEmpty())
         return;
-    hideCursor();
     const QString last = lastCharacter(m_text);
     setText(m_text.chopped(last.size()));
     if (last == "\n") {
@@ -267,16 +304,16 @@ void KORVA_Text::deleteBackward()
 void KORVA_Text::insert(QString text)
 {
     if (text == "\t") {
+        // Counted from where the line begins that the picture gets.
+        const int begin = m_text.contains('\n') ? m_margin : m_start.x();
         m_stops.push(m_cursor.x());
         const int tab = tabWidth * advance("x");
-        moveCursorX(m_lineStart.x() + ((m_cursor.x() - m_lineStart.x()) / tab + 1) * tab);
+        m_cursor.setX(begin + ((m_cursor.x() - begin) / tab + 1) * tab);
     } else {
         text.removeIf(isControl); // a break among letters would have no stop to go back to
-        moveCursorX(m_cursor.x() +
-                    advance(firstCharacter(text))); // by the first one's width, however many come
+        m_cursor.rx() += advance(firstCharacter(text)); // by the first one's width, however many come
     }
     setText(m_text + text);
-    canvas()->markModified();
 }
 
 QFont KORVA_Text::textFont() const
@@ -295,24 +332,38 @@ int KORVA_Text::advance(const QString& character) const
     return QFontMetrics(textFont()).horizontalAdvance(character);
 }
 
-void KORVA_Text::drawText(KORVA_ClassicPainter& painter, QPoint baseline, const QString& text) const
+// From a line on; the first begins at `start`, the others at the margin below it.
+void KORVA_Text::drawText(KORVA_ClassicPainter& painter, QPoint start, int margin, const QString& text,
+                          int fromLine) const
 {
     const QFont font = textFont();
+    const QFontMetrics metrics(font);
     painter.setPen(leftPen());
     painter.setFont(font);
-    painter.drawText(QRect(baseline - QPoint(0, QFontMetrics(font).ascent()), QSize(10, 10)),
-                     Qt::TextDontClip | Qt::TextExpandTabs, text);
+    const auto draw = [&](QPoint baseline, const QString& lines) {
+        painter.drawText(QRect(baseline - QPoint(0, metrics.ascent()), QSize(10, 10)),
+                         Qt::TextDontClip | Qt::TextExpandTabs, lines);
+    };
+    const bool isIndented = fromLine == 0 && start.x() != margin;
+    if (isIndented)
+        draw(start, text.section('\n', 0, 0));
+    const int line = isIndented ? 1 : fromLine;
+    draw(QPoint(margin, start.y() + line * metrics.lineSpacing()), text.section('\n', line));
 }
 
-// The whole text each time: letters that join or carry accents look as they will when committed.
+// Whole lines: letters that join or carry accents look as they will when committed. The line above the
+// first one that changes may share pixels with it, which are inverted once.
 void KORVA_Text::showText(const QString& text)
 {
     if (text == m_shown)
         return;
+    const auto end = std::mismatch(m_shown.cbegin(), m_shown.cend(), text.cbegin(), text.cend()).first;
+    const auto linesBefore = std::count(m_shown.cbegin(), end, QLatin1Char('\n'));
+    const int line = qMax(0, int(linesBefore) - 1);
     {
         KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
-        drawText(painter, m_lineStart, m_shown);
-        drawText(painter, m_lineStart, text);
+        drawText(painter, m_start, m_margin, m_shown, line);
+        drawText(painter, m_start, m_margin, text, line);
     }
     m_shown = text;
     canvas()->refresh();
@@ -329,15 +380,6 @@ void KORVA_Text::clearOldCursor()
 void KORVA_Text::hideCursor()
 {
     if (m_cursorShown)
-        toggleCursor();
-}
-
-void KORVA_Text::moveCursorX(int x)
-{
-    const bool shown = m_cursorShown;
-    hideCursor();
-    m_cursor.setX(x);
-    if (shown)
         toggleCursor();
 }
 
@@ -376,19 +418,29 @@ void KORVA_Text::zoomedRebuilt()
 // --- The input method
 // ------------------------------------------------------------------------------------------
 
+void KORVA_Text::endComposition()
+{
+    if (m_started)
+        QGuiApplication::inputMethod()->reset();
+}
+
 void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
 {
     if (!canvas() || !m_started) {
         event->ignore();
         return;
     }
-    for (QString rest = event->commitString(); !rest.isEmpty();) {
-        const QString character = firstCharacter(rest);
-        rest.remove(0, character.size());
+    std::vector<QKeyEvent*> keys;
+    for (const QString& character : characters(event->commitString())) {
         const Qt::Key code = character.contains('\n') ? Qt::Key_Return : Qt::Key_unknown;
-        QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, character);
-        keyPressEvent(&key);
+        const QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, character);
+        if (!isTyping(key))
+            continue;
+        record(key);
+        keys.push_back(m_keys.back().get());
     }
+    if (!keys.empty())
+        typeKeys(keys);
     if (canvas())
         showText(m_text + event->preeditString());
 }

@@ -16,6 +16,8 @@ class KORVA_ClassicPainter;
 /// and painted into the picture when it is committed: by the next press, by leaving the tool, by
 /// paintProportionBuffer().
 ///
+/// What is typed while no text is open, before a tap or after leaving the tool, is left to the host.
+///
 /// The left pen gives the colour and, by its width, the size: 1, 3 and 5 mean 12, 16 and 20 points.
 /// Positions are widget coordinates, y is the baseline.
 class KORVA_EXPORT KORVA_Text : public KORVA_Tool
@@ -35,7 +37,7 @@ public:
     [[nodiscard]] bool isBufferEmpty() const;
     /// True when the text was committed by paintProportionBuffer() and nothing was typed since.
     [[nodiscard]] bool getPaintPropotionStatus() const { return m_proportionPainted; }
-    /// Forgets the typed text without painting it; undo works again.
+    /// Forgets the typed text without painting it and takes it off the screen; undo works again.
     void resetBuffer();
     /// Commits the typed text: snapshot, paint, modified. All three also for an empty text.
     void paintBuffer();
@@ -67,20 +69,23 @@ protected:
 private:
     [[nodiscard]] QFont textFont() const;
     [[nodiscard]] int advance(const QString& character) const;
-    void typeKey(QKeyEvent* event);
+    void record(const QKeyEvent& event);
+    void typeKeys(const std::vector<QKeyEvent*>& keys);
     void breakLine();
     void deleteBackward();
     void insert(QString text);
-    void drawText(KORVA_ClassicPainter& painter, QPoint baseline, const QString& text) const;
+    void drawText(KORVA_ClassicPainter& painter, QPoint start, int margin, const QString& text,
+                  int fromLine = 0) const;
     void showText(const QString& text);
     void hideCursor();
-    void moveCursorX(int x);
+    void endComposition();
     void toggleCursor();
     void setText(const QString& text);
     [[nodiscard]] QRect cursorRect() const;
 
-    QPoint m_lineStart;
-    QPoint m_cursor; ///< between press and release: the press
+    QPoint m_start;   ///< of what is typed; where the line goes on after a commit in the middle of it
+    int m_margin = 0; ///< the x of new lines: the tap's
+    QPoint m_cursor;  ///< between press and release: the press
     bool m_started = false;
     bool m_cursorShown = false;
     bool m_proportionPainted = false;
