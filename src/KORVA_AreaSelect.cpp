@@ -7,8 +7,6 @@
 #include <QAbstractEventDispatcher>
 #include <QMouseEvent>
 
-#include <utility>
-
 KORVA_AreaSelect::KORVA_AreaSelect(const QString& name) : KORVA_Tool(name) {}
 
 void KORVA_AreaSelect::activating()
@@ -18,10 +16,8 @@ void KORVA_AreaSelect::activating()
 
 void KORVA_AreaSelect::deactivating()
 {
-    if (m_selecting) {
-        toggleFrame(m_end); // a drag that the change of tools cuts short leaves no frame behind
-        m_end = m_start;
-    }
+    if (m_state == Dragging)
+        anchor(); // a drag that the change of tools cuts short leaves no frame behind
     disableSelection();
     canvas()->clearSelection();
 }
@@ -47,19 +43,19 @@ void KORVA_AreaSelect::disableSelection()
 
 void KORVA_AreaSelect::mousePressEvent(QMouseEvent* event)
 {
-    // After a tap the tool is still selecting: the next drag grows from the tap.
-    if (canvas() && event->button() == Qt::LeftButton && !m_selecting) {
+    if (!canvas() || event->button() != Qt::LeftButton)
+        return;
+    if (m_state == Idle) {
         disableSelection();
-        m_selecting = true;
         m_start = m_end = pixel::at(event->position());
     }
-    m_pressed = true;
+    m_state = Dragging;
 }
 
 void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint to = pixel::at(event->position());
-    if (!m_pressed || !canvas() || !m_selecting || to == m_end)
+    if (!canvas() || m_state != Dragging || to == m_end)
         return;
     const QRect touched = toggleFrame(m_end) | toggleFrame(to);
     m_end = to;
@@ -68,20 +64,24 @@ void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
 
 void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
 {
-    const bool pressed = std::exchange(m_pressed, false);
-    if (!pressed || !canvas() || event->button() != Qt::LeftButton)
+    if (!canvas() || m_state != Dragging || event->button() != Qt::LeftButton)
         return;
     const QPoint corner = limited(pixel::at(event->position()));
-    if (corner == m_start)
-        return;
-    toggleFrame(m_end);
-    select(corner);
+    anchor();
+    if (corner != m_start)
+        select(corner);
+}
+
+void KORVA_AreaSelect::anchor()
+{
+    canvas()->refresh(toggleFrame(m_end));
+    m_end = m_start;
+    m_state = Anchored;
 }
 
 void KORVA_AreaSelect::selectAll()
 {
-    const bool isDragging = m_selecting && m_pressed; // a tap alone leaves it selecting, too
-    if (!canvas() || isDragging)
+    if (!canvas() || m_state == Dragging)
         return;
     disableSelection();
     m_start = m_end = QPoint(0, 0);
@@ -92,7 +92,7 @@ void KORVA_AreaSelect::selectAll()
 // The corner is the first pixel that no longer belongs to the selection.
 void KORVA_AreaSelect::select(QPoint corner)
 {
-    m_selecting = false;
+    m_state = Idle;
     m_frameShown = false;
     canvas()->mergePastePixmap();
     if (canvas())
@@ -108,7 +108,7 @@ QPoint KORVA_AreaSelect::limited(QPoint p) const
 void KORVA_AreaSelect::zoomedRebuilt()
 {
     m_frameShown = false;
-    if (m_selecting)
+    if (m_state == Dragging)
         toggleFrame(m_end);
 }
 

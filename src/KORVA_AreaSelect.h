@@ -36,14 +36,20 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    enum State {
+        Idle,     ///< the next press sets the anchor
+        Anchored, ///< tapped: the next press leaves the anchor where it is
+        Dragging, ///< from the press of the left button to its release; the frame follows the pointer
+    };
+
     void drawFrame();
+    void anchor();
     QRect toggleFrame(QPoint to);
     void select(QPoint corner);
     [[nodiscard]] QPoint limited(QPoint p) const;
 
     QPoint m_start; ///< the anchor; widget coordinates
     QPoint m_end;   ///< the corner of the frame on screen
-    bool m_selecting = false;
+    State m_state = Idle;
     bool m_frameShown = false; ///< by drawFrame(), not by a drag
-    bool m_pressed = false;
 };

@@ -19,6 +19,8 @@ private slots:
     void framesOutsideLeaveNothing();
     void rightButtonStartsNothing();
     void rightReleaseKeepsTheDrag();
+    void everyEventInEveryState_data();
+    void everyEventInEveryState();
     void rightPressKeepsTheAnchor();
     void tapKeepsTheAnchorForTheNextDrag();
     void moveWithoutPressShowsNothing();
@@ -169,8 +171,71 @@ void tst_AreaSelect::rightReleaseKeepsTheDrag()
     stylus.release({50, 40}, Qt::RightButton);
     QVERIFY(!desk.canvas.hasSelection());
     QVERIFY(sameImage(desk.canvas.shown(), frame));
-    stylus.move({60, 50}); // not pressed any more: the frame stands still
-    QVERIFY(sameImage(desk.canvas.shown(), frame));
+    stylus.move({60, 50});
+    stylus.release({60, 50});
+    QCOMPARE(desk.canvas.selection(), QRect(QPoint(10, 10), QPoint(59, 49)));
+    desk.canvas.cut();
+    QVERIFY(sameImage(desk.canvas.shown(), support::filled(desk.start, QRect(10, 10, 50, 40), Qt::white)));
+}
+
+void tst_AreaSelect::everyEventInEveryState_data()
+{
+    enum State { Idle, Anchored, Dragging };
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QByteArray>("event");
+    QTest::addColumn<QRect>("selected"); // by the event and a drag from (30, 30) to (50, 40) after it
+    const QRect fromPress(QPoint(30, 30), QPoint(49, 39));
+    const QRect fromAnchor(QPoint(10, 10), QPoint(49, 39));
+    const QRect atOnce(QPoint(10, 10), QPoint(24, 24));
+    const auto row = [](const char* name, State state, const char* event, const QRect& selected) {
+        QTest::newRow(name) << int(state) << QByteArray(event) << selected;
+    };
+    row("idle, nothing", Idle, "", fromPress);
+    row("idle, right press", Idle, "right press", fromPress);
+    row("idle, right release", Idle, "right release", fromPress);
+    row("idle, move", Idle, "move", fromPress);
+    row("idle, left release", Idle, "left release", fromPress);
+    row("anchored, nothing", Anchored, "", fromAnchor);
+    row("anchored, right press", Anchored, "right press", fromAnchor);
+    row("anchored, right release", Anchored, "right release", fromAnchor);
+    row("anchored, move", Anchored, "move", fromAnchor);
+    row("anchored, left release", Anchored, "left release", fromAnchor);
+    row("dragging, left press", Dragging, "left press", fromAnchor);
+    row("dragging, right press", Dragging, "right press", fromAnchor);
+    row("dragging, right release", Dragging, "right release", fromAnchor);
+    row("dragging, move", Dragging, "move", fromAnchor);
+    row("dragging, left release", Dragging, "left release", atOnce);
+}
+
+void tst_AreaSelect::everyEventInEveryState()
+{
+    QFETCH(const int, state);
+    QFETCH(const QByteArray, event);
+    QFETCH(const QRect, selected);
+    constexpr QPoint at(25, 25);
+    Desk desk(fixtures::AreaSelect, support::mosaic(QSize(80, 60)));
+    fixtures::Stylus stylus(desk.tool());
+    if (state > 0)
+        stylus.press({10, 10});
+    if (state == 1)
+        stylus.release({10, 10});
+    if (event == "move")
+        stylus.move(at);
+    else if (!event.isEmpty()) {
+        const Qt::MouseButton button = event.startsWith("left") ? Qt::LeftButton : Qt::RightButton;
+        event.endsWith("press") ? stylus.press(at, button) : stylus.release(at, button);
+    }
+    if (state < 2) {
+        QVERIFY(desk.isUntouched());
+        stylus.press({30, 30});
+    }
+    if (!desk.canvas.hasSelection()) {
+        stylus.move({50, 40});
+        stylus.release({50, 40});
+    }
+    QCOMPARE(desk.canvas.selection(), selected);
+    desk.canvas.cut();
+    QVERIFY(sameImage(desk.canvas.shown(), support::filled(desk.start, selected, Qt::white)));
 }
 
 void tst_AreaSelect::rightPressKeepsTheAnchor()
