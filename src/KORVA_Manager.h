@@ -46,7 +46,8 @@ public slots:
     void setCurrentTool(int id);
     /// Hands colours and width to the current tool; the others get them when they become current.
     void updateProperties();
-    /// Style, cap and join of the pens; their colour and width are the ones set below.
+    /// Style, cap and join (round, or else mitred) of the pens; their colour and width are the ones set
+    /// below.
     void setPen(QPen pen);
     /// The width of the pens in picture pixels; 0 is the thin line.
     void setPenWidth(int width);

@@ -3,6 +3,7 @@
 #include "KORVA_Pixel.h"
 
 #include <QHash>
+#include <QPainterPath>
 #include <QVarLengthArray>
 #include <QtMath>
 
@@ -134,8 +135,14 @@ void KORVA_ClassicPainter::drawPoint(int x, int y)
     const QTransform matrix = m_painter.worldTransform();
     const QPointF place = matrix.map(QPointF(x, y));
     m_painter.setWorldTransform({});
-    m_painter.fillRect(qFloor(place.x()) - side / 2, qFloor(place.y()) - side / 2, side, side,
-                       m_painter.pen().brush());
+    const QRect square(qFloor(place.x()) - side / 2, qFloor(place.y()) - side / 2, side, side);
+    if (m_painter.pen().capStyle() == Qt::RoundCap) {
+        QPainterPath disc;
+        disc.addEllipse(square);
+        m_painter.fillPath(disc, m_painter.pen().brush());
+    } else {
+        m_painter.fillRect(square, m_painter.pen().brush());
+    }
     m_painter.setWorldTransform(matrix);
 }
 
@@ -162,6 +169,11 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
     const QRect outer = withOutline(QRect(x, y, w, h), width);
     const QRect hole = outer.adjusted(width, width, -width, -width);
     const QRegion bars = (QRegion(outer) - hole) & targetRect();
+    if (m_painter.pen().style() == Qt::SolidLine && m_painter.pen().joinStyle() == Qt::RoundJoin &&
+        width > 1) {
+        fillRoundFrame(outer, hole);
+        return;
+    }
     if (m_painter.pen().style() > Qt::SolidLine) {
         const double centre = penCentre(width);
         const QRectF outline(x + centre, y + centre, w - 1, h - 1);
@@ -177,6 +189,19 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
         for (const QRect& part : alongTheLongerSide(bar))
             m_painter.fillRect(part, m_painter.pen().brush());
     }
+    if (!hole.isEmpty())
+        m_painter.fillRect(hole, m_painter.brush());
+}
+
+// A path, of which each pixel is painted once.
+void KORVA_ClassicPainter::fillRoundFrame(const QRect& outer, const QRect& hole)
+{
+    const double radius = outlineWidth() / 2.0;
+    QPainterPath frame;
+    frame.addRoundedRect(outer, radius, radius);
+    if (!hole.isEmpty())
+        frame.addRect(hole); // left out: the path's inside alternates
+    m_painter.fillPath(frame, m_painter.pen().brush());
     if (!hole.isEmpty())
         m_painter.fillRect(hole, m_painter.brush());
 }

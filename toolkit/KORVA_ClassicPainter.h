@@ -25,12 +25,12 @@ public:
     void setRasterOp(RasterOp op);
     void setWorldMatrix(const QTransform& matrix);
 
-    /// A square of the pen's width around the pixel.
+    /// A square of the pen's width around the pixel, or a disc where its cap is round.
     void drawPoint(int x, int y);
     /// Both end pixels included; a line of no length is a point.
     void drawLine(int x1, int y1, int x2, int y2);
     /// A negative size mirrors the rectangle about its anchor pixel, which always belongs to it; a size of
-    /// 0 paints nothing. Corners are mitred.
+    /// 0 paints nothing. Corners are mitred, or round where the pen's join is.
     void drawRect(int x, int y, int w, int h);
     /// The ellipse inscribed in w × h pixels (both positive); it never leaves its box, which a pen wider
     /// than one pixel grows on all sides.
@@ -52,6 +52,7 @@ private:
     /// Paints a shape that lies within `area`; where it inverts, one part of that after the other.
     template <typename Draw>
     void drawInParts(const QRegion& area, const Draw& drawAll);
+    void fillRoundFrame(const QRect& outer, const QRect& hole);
     void drawPixelByPixel(QPoint at, const QImage& image, const QRect& onScreen);
     void invertDotted(const QRect& box, const QRegion& bars, const QRectF& outline);
     void invertText(const QRect& area, const QRect& box, int flags, const QString& text);
