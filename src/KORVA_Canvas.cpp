@@ -260,17 +260,24 @@ void KORVA_Canvas::markModified()
 QPixmap* KORVA_Canvas::pixmap()
 {
     mergePastePixmap();
+    keepOpaque();
     return &m_picture;
 }
 
 QPixmap KORVA_Canvas::snapshot() const
 {
-    QPixmap picture = m_picture;
+    QPixmap picture = classic::opaque(m_picture);
     if (isFloating())
         paintPiece(&picture);
     if (m_tool)
         m_tool->paintPending(&picture);
     return picture;
+}
+
+// What was painted on it from outside may have left it otherwise.
+void KORVA_Canvas::keepOpaque()
+{
+    m_picture = classic::opaque(m_picture);
 }
 
 void KORVA_Canvas::setPixmap(QPixmap* picture)
@@ -349,7 +356,7 @@ bool KORVA_Canvas::load(const QString& fileName, const char* format)
 bool KORVA_Canvas::save(const QString& fileName, const char* format)
 {
     mergePastePixmap();
-    return picturesave::write(m_picture.toImage(), fileName, format);
+    return picturesave::write(pixmap()->toImage(), fileName, format);
 }
 
 // --- Undo
@@ -441,6 +448,7 @@ void KORVA_Canvas::rebuildZoomed()
 
 void KORVA_Canvas::paintZoomed()
 {
+    keepOpaque();
     if (zoom() == 100) {
         m_zoomed = m_picture; // one picture in memory until either is painted on
     } else {                  // the picture covers it and is opaque
@@ -492,7 +500,7 @@ void KORVA_Canvas::setSelection(const QRect& rect)
     classic::bitBlt(&piece, -lifted.left(), -lifted.top(), m_picture);
 
     fillSelection();
-    floatPiece(m_selection.topLeft(), piece);
+    floatPiece(m_selection.topLeft(), piece, Lifted);
     updateZoomed();
     emit selection(true);
 }
@@ -524,7 +532,8 @@ void KORVA_Canvas::cut()
     QGuiApplication::clipboard()->setPixmap(
         m_pasteLabel->getImage()); // kept: a cut has always announced itself twice
     m_pasteLabel->hide();
-    fillSelection();
+    if (m_origin == Lifted)
+        fillSelection();
     clearSelection();
     markModified();
     updateZoomed();
@@ -558,9 +567,10 @@ void KORVA_Canvas::paste()
 
 void KORVA_Canvas::paste(int x, int y)
 {
-    const QPixmap piece = QGuiApplication::clipboard()->pixmap();
+    QPixmap piece = QGuiApplication::clipboard()->pixmap();
     if (piece.width() == 0)
         return;
+    piece.setDevicePixelRatio(1);
     saveOldPix();
     classic::bitBlt(&m_picture, x, y, piece);
     markModified();
@@ -575,15 +585,16 @@ void KORVA_Canvas::insertStamp(QPixmap& stamp)
 
 void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
 {
-    floatPiece(QPoint(0, 0), piece);
+    floatPiece(QPoint(0, 0), piece, Pasted);
     if (KORVA_ScrollView* view = scrollView())
         view->setContentsPos(0, 0);
     markModified();
     updateZoomed();
 }
 
-void KORVA_Canvas::floatPiece(const QPoint& at, const QPixmap& piece)
+void KORVA_Canvas::floatPiece(const QPoint& at, const QPixmap& piece, Origin origin)
 {
+    m_origin = origin;
     m_pasteLabel->show();
     m_pasteLabel->move(at);
     m_pasteLabel->setImage(piece);

@@ -247,13 +247,19 @@ private:
     void handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel);
     void connectSignals(KORVA_EditCanvas* editor);
 
+    void keepOpaque();
     void paintZoomed();
     void rebuildZoomed();
     void tellZoomedRebuilt();
     void fitToZoomed();
     void exchangeWithSnapshot();
     void fillSelection();
-    void floatPiece(const QPoint& at, const QPixmap& piece);
+    /// Where a floating piece comes from.
+    enum Origin {
+        Pasted, ///< from outside: the picture below it is whole
+        Lifted, ///< from the picture, which has a hole there
+    };
+    void floatPiece(const QPoint& at, const QPixmap& piece, Origin origin);
     void floatAtOrigin(const QPixmap& piece);
     void paintPiece(QPixmap* picture) const;
     [[nodiscard]] bool isFloating() const;
@@ -269,6 +275,7 @@ private:
     bool m_toolActive = false;
     QRect m_selection;
     bool m_hasSelection = false;
+    Origin m_origin = Pasted; ///< of the piece that floats or floated last
     KORVA_PasteLabel* m_pasteLabel;
     QMenu* m_menu;
     std::unique_ptr<KORVA_Repainter> m_repainter;

@@ -56,6 +56,7 @@ void KORVA_PasteLabel::setImage(const char* fileName)
 void KORVA_PasteLabel::setImage(const QPixmap& pixmap)
 {
     m_pixmap = pixmap;
+    m_pixmap.setDevicePixelRatio(1);
     setZoom(m_zoom, m_zoom);
 }
 
