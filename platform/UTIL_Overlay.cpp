@@ -40,6 +40,15 @@ UTIL_Overlay::UTIL_Overlay(QDialog& dialog, QWidget& window)
     dialog.raise();
     overlays().append(this);
     qApp->installEventFilter(this);
+    if (m_parent && m_parent != m_window)
+        connect(m_parent, &QObject::destroyed, this, &UTIL_Overlay::endWithParent);
+}
+
+/// As everywhere else: who asked has gone, and the dialog with it.
+void UTIL_Overlay::endWithParent()
+{
+    m_parent = nullptr;
+    m_dialog.done(QDialog::Rejected);
 }
 
 UTIL_Overlay::~UTIL_Overlay()

@@ -30,6 +30,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void endWithParent();
     void centre();
     void takeKeyboard();
     [[nodiscard]] bool isAbove(const QWidget& widget) const;

@@ -3,6 +3,7 @@
 #include "KORVA_Assert.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_EditCanvas.h"
+#include "KORVA_Limit.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_PictureSave.h"
 #include "KORVA_Pixel.h"
@@ -19,6 +20,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+
+#include <utility>
 
 int KORVA_Canvas::inst = 0;
 
@@ -71,9 +74,12 @@ KORVA_Canvas::~KORVA_Canvas() = default;
 void KORVA_Canvas::createMenu()
 {
     m_menu = new UTIL_PopupMenu(this);
-    m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_Canvas::slotCut);
-    m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_Canvas::slotCopy);
-    m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_Canvas::slotPaste);
+    m_cutAction = m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_Canvas::slotCut);
+    m_copyAction = m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_Canvas::slotCopy);
+    m_pasteAction = m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_Canvas::slotPaste);
+    m_cutAction->setData(0);
+    m_copyAction->setData(1);
+    m_pasteAction->setData(2);
     slotSelection(false);
     slotClipBoard(false);
 }
@@ -152,7 +158,7 @@ void KORVA_Canvas::handOn(QMouseEvent* event, Handler toTool, LabelHandler toLab
 void KORVA_Canvas::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton) {
-        m_menu->popup(mapToGlobal(pixel::under(*event, *this)), m_menu->actions().constFirst());
+        m_menu->popup(mapToGlobal(pixel::under(*event, *this)), m_menu->actions().value(0));
     } else if (event->button() == Qt::LeftButton) {
         handOn(event, &KORVA_Tool::mousePressEvent, &KORVA_PasteLabel::mousePressEvent);
     }
@@ -287,9 +293,7 @@ void KORVA_Canvas::setPixmap(QPixmap* picture)
     m_pasteLabel->hide();
     m_picture = classic::opaque(*picture);
     emit pixmapChanged(&m_picture);
-    rebuildZoomed();
-    fitToZoomed();
-    refresh();
+    showAnew();
 }
 
 int KORVA_Canvas::getDepth() const
@@ -395,9 +399,7 @@ void KORVA_Canvas::exchangeWithSnapshot()
     if (m_picture.size() == m_previous.size()) {
         updateZoomed();
     } else { // back over a resize: the screen follows
-        rebuildZoomed();
-        fitToZoomed();
-        refresh();
+        showAnew();
     }
 }
 
@@ -426,11 +428,27 @@ void KORVA_Canvas::setZoom(int percent)
     if (percent < 1)
         return;
     mergePastePixmap();
-    m_pasteLabel->setZoom(percent, percent);
     m_zoom = KORVA_Zoom(percent);
+    keepZoomWithinLimit(m_picture.size());
+    m_pasteLabel->setZoom(zoom(), zoom());
+    showAnew();
+}
+
+void KORVA_Canvas::showAnew()
+{
     rebuildZoomed();
     fitToZoomed();
     refresh();
+}
+
+void KORVA_Canvas::keepZoomWithinLimit(QSize enlarged)
+{
+    constexpr int realSize = 100;
+    if (zoom() <= realSize || m_zoom.zoomedPixels(enlarged) <= double(limit::shownPixels(*this)))
+        return;
+    m_zoom = KORVA_Zoom(realSize);
+    m_pasteLabel->setZoom(realSize, realSize);
+    m_hasFallenBack = true;
 }
 
 void KORVA_Canvas::updateZoomed()
@@ -441,6 +459,7 @@ void KORVA_Canvas::updateZoomed()
 
 void KORVA_Canvas::rebuildZoomed()
 {
+    keepZoomWithinLimit(m_picture.size());
     m_zoomed = QPixmap(); // the new one may take its place in memory
     m_zoomed = QPixmap(m_zoom.zoomed(m_picture.size()));
     paintZoomed();
@@ -467,10 +486,12 @@ void KORVA_Canvas::tellZoomedRebuilt()
 
 void KORVA_Canvas::fitToZoomed()
 {
-    if (m_zoomed.size() == size())
-        return;
-    resize(m_zoomed.size());
-    emit sizeChanged();
+    if (m_zoomed.size() != size()) {
+        resize(m_zoomed.size());
+        emit sizeChanged();
+    }
+    if (std::exchange(m_hasFallenBack, false))
+        emit zoomFellBack();
 }
 
 void KORVA_Canvas::updateZoomedClipboard()
@@ -490,7 +511,10 @@ void KORVA_Canvas::updateZoomedClipboard()
 void KORVA_Canvas::setSelection(const QRect& rect)
 {
     constexpr int margin = 2; // at 150 and 200 % the piece takes a little more along than was marked
-    m_selection = classic::normalized(rect);
+    const QRect marked = classic::normalized(rect) & this->rect();
+    if (marked.isEmpty())
+        return;
+    m_selection = marked;
     m_hasSelection = true;
 
     QRect lifted = m_zoom.toPicture(m_selection);
@@ -585,6 +609,9 @@ void KORVA_Canvas::insertStamp(QPixmap& stamp)
 
 void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
 {
+    keepZoomWithinLimit(piece.size());
+    if (m_hasFallenBack)
+        showAnew();
     floatPiece(QPoint(0, 0), piece, Pasted);
     if (KORVA_ScrollView* view = scrollView())
         view->setContentsPos(0, 0);
@@ -595,9 +622,9 @@ void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
 void KORVA_Canvas::floatPiece(const QPoint& at, const QPixmap& piece, Origin origin)
 {
     m_origin = origin;
-    m_pasteLabel->show();
-    m_pasteLabel->move(at);
     m_pasteLabel->setImage(piece);
+    m_pasteLabel->move(at);
+    m_pasteLabel->show();
 }
 
 bool KORVA_Canvas::isFloating() const
@@ -645,13 +672,15 @@ void KORVA_Canvas::slotPaste()
 
 void KORVA_Canvas::slotSelection(bool exists)
 {
-    const QList<QAction*> actions = m_menu->actions();
-    actions[0]->setEnabled(exists);
-    actions[1]->setEnabled(exists);
+    for (QAction* action : {m_cutAction.data(), m_copyAction.data()}) {
+        if (action)
+            action->setEnabled(exists);
+    }
 }
 
 void KORVA_Canvas::slotClipBoard(bool filled)
 {
-    m_menu->actions().constLast()->setEnabled(filled);
+    if (m_pasteAction)
+        m_pasteAction->setEnabled(filled);
     m_pasteLabel->setPasteItem(filled);
 }

@@ -14,6 +14,7 @@ class KORVA_PasteLabel;
 class KORVA_Repainter;
 class KORVA_ScrollView;
 class KORVA_Tool;
+class QAction;
 class QMenu;
 
 /// The picture being edited and the widget that shows it.
@@ -76,6 +77,8 @@ public:
     /// was painted on it. The canvas's own, for as long as there is a canvas; it gets another size with
     /// the zoom or the picture's size.
     QPixmap* zoomedPixmap() { return &m_zoomed; }
+    /// The size of the picture, in picture pixels.
+    [[nodiscard]] QSize pictureSize() const { return m_picture.size(); }
     /// Copies a picture in; transparent pixels come out white. A floating piece is dropped. Not a
     /// modification, and no snapshot is taken. Emits pixmapChanged(), then sizeChanged() where the size on
     /// screen is another. Null is ignored.
@@ -111,8 +114,11 @@ public:
     [[nodiscard]] int undoFlag() const { return m_undoFlag; }
 
     /// Sets the zoom in percent, 100 is real size; merges a floating piece first, which is a modification.
-    /// Rates below 1 are ignored; there is no upper limit but memory. Emits sizeChanged() where the size on
-    /// screen is another.
+    /// Rates below 1 are ignored. Emits sizeChanged() where the size on screen is another.
+    ///
+    /// Enlarging makes no more than 16 megapixels, or twice the screen's area where that is more. Where a
+    /// zoom, or a picture or piece that comes in at the zoom in force, would make more, the zoom becomes
+    /// 100 % and zoomFellBack() is emitted, after sizeChanged().
     void setZoom(int percent);
     /// The zoom in percent.
     [[nodiscard]] int zoom() const { return m_zoom.percent(); }
@@ -123,7 +129,8 @@ public:
     void updateZoomedClipboard();
 
     /// Lifts a rectangle (widget coordinates, its corners in any order) out of the picture into a floating
-    /// piece and leaves white behind. At 150 and 200 % the piece takes 2 picture pixels more along in width
+    /// piece and leaves white behind; what of it lies outside is cut off, and one that lies outside as a
+    /// whole lifts nothing. At 150 and 200 % the piece takes 2 picture pixels more along in width
     /// and height. A piece that was floating is merged. No snapshot, no modification: the change counts
     /// when the piece is merged or cut. Emits selection(true).
     void setSelection(const QRect& rect);
@@ -163,7 +170,9 @@ public:
 
     /// The floating piece; hidden while there is none. The canvas owns it.
     [[nodiscard]] KORVA_PasteLabel* pasteLabel() const { return m_pasteLabel; }
-    /// The menu of the right button, with the actions Cut (0), Copy (1), Paste (2). The canvas owns it.
+    /// The menu of the right button, with the actions Cut, Copy and Paste, whose QAction::data() is 0, 1
+    /// and
+    /// 2. A host may add entries of its own, and take away any. The canvas owns it.
     [[nodiscard]] QMenu* contextMenu() const { return m_menu; }
 
     /// The scroll view that holds the canvas; null when there is none.
@@ -194,7 +203,8 @@ public slots:
     void slotCopy();
     /// Calls paste().
     void slotPaste();
-    /// Enables or disables Cut and Copy in the context menu. Follows every selection(bool).
+    /// Enables or disables Cut and Copy in the context menu, and no other entry. Follows every
+    /// selection(bool).
     void slotSelection(bool exists);
     /// Enables or disables Paste in the context menu and in the floating piece's. Follows every
     /// clipboard(bool).
@@ -203,6 +213,8 @@ public slots:
 signals:
     /// The zoom or the picture's size gave the widget another size.
     void sizeChanged();
+    /// The zoom became 100 % because the zoomed picture would have been too large: see setZoom().
+    void zoomFellBack();
     /// Another picture was taken in, or the picture was scaled. Painting, undo and redo do not emit it.
     /// `picture` stays the canvas's.
     void pixmapChanged(QPixmap* picture);
@@ -252,6 +264,8 @@ private:
     void rebuildZoomed();
     void tellZoomedRebuilt();
     void fitToZoomed();
+    void showAnew();
+    void keepZoomWithinLimit(QSize enlarged);
     void exchangeWithSnapshot();
     void fillSelection();
     /// Where a floating piece comes from.
@@ -272,11 +286,15 @@ private:
     int m_undoFlag = 0;
     QPixmap m_clipboard;
     bool m_modified = false;
+    bool m_hasFallenBack = false; ///< and nobody has been told yet
     bool m_toolActive = false;
     QRect m_selection;
     bool m_hasSelection = false;
     Origin m_origin = Pasted; ///< of the piece that floats or floated last
     KORVA_PasteLabel* m_pasteLabel;
     QMenu* m_menu;
+    QPointer<QAction> m_cutAction;
+    QPointer<QAction> m_copyAction;
+    QPointer<QAction> m_pasteAction;
     std::unique_ptr<KORVA_Repainter> m_repainter;
 };

@@ -168,6 +168,11 @@ void KORVA_EditCanvas::connectControls()
             [this](const QAction* entry) { slotSelChangeToolOptions(entry->data().toInt()); });
     connect(m_colorButton, &QPushButton::clicked, this, &KORVA_EditCanvas::slotColor);
     connect(m_zoomBox, &QComboBox::activated, this, &KORVA_EditCanvas::slotSelZoomRate);
+    connect(canvas(), &KORVA_Canvas::zoomFellBack, this, [this] {
+        m_fittedRate = 0;
+        m_zoomBox->setCurrentIndex(realSizeIndex);
+        updateRubberCursor();
+    });
     // A new canvas takes the zoom that the box shows, as if it were chosen once more.
     connect(this, &KORVA_EditCanvas::canvasChanged, m_zoomBox, &QComboBox::activated);
 }
@@ -307,7 +312,8 @@ void KORVA_EditCanvas::insertStamp(QPixmap& stamp)
 
 void KORVA_EditCanvas::setCanvasSize(int w, int h)
 {
-    canvas()->resize(w, h);
+    if (canvas()->pictureSize() != QSize(w, h))
+        canvas()->resize(w, h);
     canvas()->resizeImage(w, h);
     m_mainView->updateLayout();
 }

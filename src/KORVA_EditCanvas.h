@@ -82,7 +82,8 @@ public:
     QPixmap* pixmap();
     /// Emits canUndo(false) and canRedo(false), then takes a copy of the picture in as
     /// KORVA_Canvas::setPixmap() does. File name and modified flag stay. Where "Fit to page" is chosen the
-    /// picture is fitted, too: one of another size emits sizeChanged() once more.
+    /// picture is fitted, too: one of another size emits sizeChanged() once more. Where the zoom before
+    /// would make the new picture too large, see KORVA_Canvas::setZoom(), 100 % is chosen instead.
     void setPixmap(QPixmap* picture);
     /// See KORVA_Canvas::getDepth().
     [[nodiscard]] int getDepth() const;
@@ -103,8 +104,8 @@ public:
     /// Scales the picture to `w` × `h` pixels, as KORVA_Canvas::resizeImage() does, and centres the canvas.
     /// At 100 % sizeChanged() is not emitted.
     void setCanvasSize(int w, int h);
-    /// As KORVA_Canvas::setZoom(), in percent; the zoom box keeps what it shows. Typed text is not
-    /// committed.
+    /// As KORVA_Canvas::setZoom(), in percent; the zoom box keeps what it shows, or shows 100 % where the
+    /// zoom fell back to that. Typed text is not committed.
     void setZoom(int rate);
     /// A new white canvas of `w` × `h` pixels, at the zoom chosen in the box, with nothing to undo. An
     /// unknown kind has 16 bits and leaves the colour type. Emits canvasChanged() and, last,

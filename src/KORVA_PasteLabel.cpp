@@ -1,6 +1,7 @@
 #include "KORVA_PasteLabel.h"
 
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Limit.h"
 #include "KORVA_Pixel.h"
 #include "UTIL_Platform.h"
 #include "UTIL_PopupMenu.h"
@@ -8,6 +9,9 @@
 #include <QImage>
 #include <QMenu>
 #include <QMouseEvent>
+
+#include <cmath>
+#include <utility>
 
 namespace {
 
@@ -38,9 +42,10 @@ KORVA_PasteLabel::KORVA_PasteLabel(QWidget* parent, const char* name, Qt::Window
 {
     setObjectName(name);
     UTIL_Platform::instance()->setMouseMode(this, 1);
-    m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotCopy);
-    m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotCut);
-    m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotPaste);
+    m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotCopy)->setData(0);
+    m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotCut)->setData(1);
+    m_pasteAction = m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotPaste);
+    m_pasteAction->setData(2);
     setPasteItem(false);
     setMouseTracking(true);
     QPalette paper; // what a growing piece gets is white, whatever the skin
@@ -57,28 +62,49 @@ void KORVA_PasteLabel::setImage(const QPixmap& pixmap)
 {
     m_pixmap = pixmap;
     m_pixmap.setDevicePixelRatio(1);
-    setZoom(m_zoom, m_zoom);
+    m_unseenZoom = QSize(m_zoom, m_zoom);
+    catchUp();
 }
 
 void KORVA_PasteLabel::setZoom(int horizontal, int vertical)
 {
     m_zoom = horizontal;
-    display(m_pixmap.transformed(QTransform::fromScale(horizontal / 100.0, vertical / 100.0)));
+    m_unseenZoom = QSize(horizontal, vertical);
+    const bool wasHidden = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (!wasHidden)
+        catchUp();
+}
+
+void KORVA_PasteLabel::catchUp()
+{
+    if (const QSize percent = std::exchange(m_unseenZoom, {}); percent.isValid())
+        display(
+            m_pixmap.transformed(QTransform::fromScale(percent.width() / 100.0, percent.height() / 100.0)));
+}
+
+void KORVA_PasteLabel::setVisible(bool visible)
+{
+    if (visible)
+        catchUp();
+    QLabel::setVisible(visible);
 }
 
 void KORVA_PasteLabel::setResizeZoom(int horizontal, int vertical)
 {
+    catchUp();
     display(m_zoomPixmap.transformed(QTransform::fromScale(horizontal / 100.0, vertical / 100.0)));
 }
 
 void KORVA_PasteLabel::rotate(int degrees)
 {
+    catchUp();
     display(m_zoomPixmap.transformed(QTransform().rotate(degrees)));
 }
 
 void KORVA_PasteLabel::setPasteItem(bool enabled)
 {
-    m_menu->actions().constLast()->setEnabled(enabled);
+    if (m_pasteAction)
+        m_pasteAction->setEnabled(enabled);
 }
 
 void KORVA_PasteLabel::slotCut()
@@ -184,14 +210,35 @@ void KORVA_PasteLabel::dragTo(QPoint p)
 
 void KORVA_PasteLabel::stretch(const Stretch& rule)
 {
-    const QPoint d = m_lastPos - m_pressPos;
-    const auto percentage = [](int size, int change) {
-        return size > 0 ? qMax(0, size + change) * 100 / size : 0;
+    QPoint d = m_lastPos - m_pressPos;
+    const auto percentage = [](qint64 size, qint64 change) {
+        return size > 0 ? qMax<qint64>(0, size + change) * 100 / size : 0;
     };
-    const int horizontal = rule.widthSign ? percentage(width(), rule.widthSign * d.x()) : 100;
-    const int vertical = rule.heightSign ? percentage(height(), rule.heightSign * d.y()) : 100;
-    setResizeZoom(horizontal, vertical);
+    qint64 horizontal = rule.widthSign ? percentage(width(), rule.widthSign * d.x()) : 100;
+    qint64 vertical = rule.heightSign ? percentage(height(), rule.heightSign * d.y()) : 100;
+    const double growth = double(horizontal) * double(vertical) / 1e4;
+    const bool isTooLarge = growth > mostGrowth();
+    if (isTooLarge) { // what grows grows less
+        const bool both = horizontal > 100 && vertical > 100;
+        const double part = both ? std::sqrt(mostGrowth() / growth) : mostGrowth() / growth;
+        for (qint64* percent : {&horizontal, &vertical}) {
+            if (*percent > 100)
+                *percent = qMax<qint64>(100, qint64(double(*percent) * part));
+        }
+    }
+    const QSize before = size();
+    setResizeZoom(int(horizontal), int(vertical));
+    if (isTooLarge) // the other edges stay where they are
+        d = QPoint(before.width() - width(), before.height() - height());
     move(pos() + QPoint(rule.movesX ? d.x() : 0, rule.movesY ? d.y() : 0));
+}
+
+/// By what the item's area may be multiplied, on screen and at real size.
+double KORVA_PasteLabel::mostGrowth() const
+{
+    const double smallest = qMin(1.0, m_zoom / 100.0);
+    const double area = qMax(1.0, double(width()) * height());
+    return qMax(1.0, double(limit::shownPixels(*this)) * smallest * smallest / area);
 }
 
 void KORVA_PasteLabel::display(const QPixmap& zoomed)

@@ -4,7 +4,10 @@
 
 #include <QLabel>
 #include <QPixmap>
+#include <QPointer>
+#include <QSize>
 
+class QAction;
 class QMenu;
 
 /// A picture that floats over the canvas until it is merged: moved by its inside, stretched by its edges
@@ -31,7 +34,8 @@ public:
     [[nodiscard]] QPixmap getImage() const { return m_pixmap; }
 
     /// Shows the picture anew at these percentages, without what was stretched or turned since the last
-    /// release; the horizontal one is remembered as the zoom. The item takes the new size.
+    /// release; the horizontal one is remembered as the zoom. The item takes the new size; one that is
+    /// hidden does when it is shown.
     void setZoom(int horizontal, int vertical);
     /// Scales what is shown by these percentages; calls multiply and the zoom stays. getImage() follows
     /// with the next release.
@@ -40,17 +44,22 @@ public:
     void rotate(int degrees);
     /// Enables or disables the menu's Paste; disabled at first.
     void setPasteItem(bool enabled);
-    /// The menu of the right button, with the actions Copy (0), Cut (1), Paste (2). The item owns it.
+    /// The menu of the right button, with the actions Copy, Cut and Paste, whose QAction::data() is 0, 1
+    /// and
+    /// 2. A host may add entries of its own, and take away any. The item owns it.
     [[nodiscard]] QMenu* menu() const { return m_menu; }
 
     /// Begins a drag of the zone that the pointer hovered over last; the right button opens the menu. The
     /// position is the item's own; the canvas hands on what reaches it instead.
     void mousePressEvent(QMouseEvent* event) override;
-    /// Ends a drag: stretches or turns, and folds the change into getImage().
+    /// Ends a drag: stretches or turns, and folds the change into getImage(). A stretch ends where the item
+    /// has as many pixels, shown or at real size, as KORVA_Canvas::setZoom() gives a zoomed picture.
     void mouseReleaseEvent(QMouseEvent* event) override;
     /// Moves the item while its inside is dragged, its top left not beyond the parent's right and lower
     /// edge; without a button, looks which zone is under the pointer.
     void mouseMoveEvent(QMouseEvent* event) override;
+    /// What setZoom() left undone while the item was hidden is made up for.
+    void setVisible(bool visible) override;
 
 signals:
     /// Cut was chosen in the menu.
@@ -93,6 +102,8 @@ private:
     void hover(QPoint p);
     void dragTo(QPoint p);
     void stretch(const Stretch& rule);
+    [[nodiscard]] double mostGrowth() const;
+    void catchUp();
     void display(const QPixmap& zoomed);
     void foldBack();
 
@@ -103,5 +114,7 @@ private:
     Zone m_zone = Inside;
     bool m_pressed = false;
     int m_zoom = 100;
+    QSize m_unseenZoom; ///< in percent, what setZoom() was given while the item was hidden; else invalid
     QMenu* m_menu;
+    QPointer<QAction> m_pasteAction;
 };

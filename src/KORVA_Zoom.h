@@ -39,6 +39,12 @@ public:
                 static_cast<int>(static_cast<float>(picture.height()) * factor())};
     }
 
+    /// How many pixels zoomed() has, of any picture at any zoom.
+    [[nodiscard]] constexpr double zoomedPixels(QSize picture) const
+    {
+        return picture.width() * (m_percent / 100.0) * picture.height() * (m_percent / 100.0);
+    }
+
     /// The width on screen of a pen that is `width` picture pixels wide, 0 or more; 0 is the thin pen of
     /// one pixel.
     [[nodiscard]] int penWidth(int width) const

@@ -1,5 +1,6 @@
 #include "UTIL_Dialog.h"
 #include "UTIL_Geometry.h"
+#include "UTIL_Overlay.h"
 #include "UTIL_PushButton.h"
 #include "support/Modal.h"
 #include "support/TestCase.h"
@@ -190,6 +191,31 @@ private slots:
         Dialog dialog;
         support::whenOpen([](QDialog& open) { open.close(); });
         QCOMPARE(dialog.exec(), 0);
+    }
+
+    // Where no program places its windows, the dialog is no child of who asked while it is open.
+    void asAPartOfTheWindowItGoesWithWhoAsked()
+    {
+        QWidget window;
+        window.resize(240, 320);
+        window.show();
+        QPointer<QWidget> asker = new QWidget(&window);
+        Dialog dialog(asker);
+        UTIL_Overlay overlay(dialog, window);
+        QCOMPARE(dialog.parentWidget(), &window);
+        int seen = 0;
+        QTimer::singleShot(0, &dialog, [&] {
+            ++seen;
+            delete asker;
+        });
+        QTimer::singleShot(2000, &dialog, [&] {
+            QTest::qFail("the dialog stayed open", __FILE__, __LINE__);
+            dialog.reject();
+        });
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        QCOMPARE(seen, 1);
+        QVERIFY(!asker);
+        QVERIFY(dialog.isHidden());
     }
 };
 

@@ -35,6 +35,8 @@ private slots:
     void depth();
     void resizeImageScales();
     void setCanvasSize();
+    void setCanvasSizeToWhatItHas_data();
+    void setCanvasSizeToWhatItHas();
     void setZoom();
     void clearCanvasIsAlwaysWhite();
     void insertStampFloats();
@@ -137,6 +139,27 @@ void tst_EditorCommands::resizeImageScales()
     desk.setPicture(support::mosaic({40, 30}));
     desk.editor->resizeImage(80, 60);
     QVERIFY(support::sameImage(desk.picture(), support::scaled(support::mosaic({40, 30}), 200)));
+}
+
+void tst_EditorCommands::setCanvasSizeToWhatItHas_data()
+{
+    QTest::addColumn<int>("zoom");
+    for (const int zoom : {50, 100, 150, 200, 77})
+        QTest::addRow("%d", zoom) << zoom;
+}
+
+void tst_EditorCommands::setCanvasSizeToWhatItHas()
+{
+    QFETCH(const int, zoom);
+    EditorDesk desk;
+    desk.editor->setZoom(zoom);
+    const QSize shown = desk.canvas().size();
+    (void)desk.log.taken();
+    desk.editor->setCanvasSize(200, 170);
+    QCOMPARE(desk.canvas().size(), shown);
+    QCOMPARE(desk.canvas().zoomedPixmap()->size(), shown);
+    QCOMPARE(desk.log.taken(), QStringList());
+    QVERIFY(!desk.editor->isModified());
 }
 
 void tst_EditorCommands::setCanvasSize()

@@ -1,13 +1,15 @@
-#include "EditorFixtures.h"
+#include "HostFixtures.h"
 
 Q_DECLARE_METATYPE(fixtures::ToolID)
 
 using fixtures::EditorDesk;
+using fixtures::toolCount;
+using fixtures::trouble;
+using fixtures::typeLetter;
 using support::Gestures;
 
 namespace {
 
-constexpr int toolCount = 8;
 constexpr int firstTool = 100; ///< of the menu
 constexpr int pencilEntry = 103;
 constexpr int textEntry = 104;
@@ -24,38 +26,12 @@ void connectTo(Editor& editor, const std::function<void()>& slot)
     QObject::connect(&editor, signal, &editor, slot);
 }
 
-void typeLetter(KORVA_Canvas& canvas, const QString& letter)
-{
-    QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, letter);
-    QCoreApplication::sendEvent(&canvas, &key);
-}
-
 /// Gives a tool an event that no canvas hands on.
 void send(KORVA_Tool& tool, void (KORVA_Tool::*handler)(QMouseEvent*), QPoint at)
 {
     QMouseEvent event(QEvent::MouseMove, QPointF(at), QPointF(at), Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
     (tool.*handler)(&event);
-}
-
-/// Of one mind: one tool, one size, one picture.
-QString trouble(Editor& editor)
-{
-    KORVA_Canvas& canvas = *editor.canvas();
-    KORVA_Manager& manager = *editor.manager();
-    int active = 0;
-    for (int id = 0; id < toolCount; ++id)
-        active += manager.tool(id)->isActive();
-    if (active != 1 || canvas.getCurrentTool() != manager.currentTool())
-        return QString("%1 tools").arg(active);
-    if (canvas.size() != canvas.zoomedPixmap()->size())
-        return "the widget has another size than what it shows";
-    manager.setCurrentTool(fixtures::Hand); // leaves no preview, no cursor, no piece
-    canvas.updateZoomed();
-    const QImage picture = canvas.pixmap()->toImage();
-    if (!support::sameImage(*canvas.zoomedPixmap(), support::scaled(picture, canvas.zoom())))
-        return "the screen shows another picture";
-    return {};
 }
 
 /// What a person does with a tool, and then with the commands.

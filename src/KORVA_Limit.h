@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QScreen>
+#include <QWidget>
+
+/// How large something on a widget's screen may become by zooming and stretching.
+namespace limit {
+
+/// In pixels: 16 megapixels, or twice the screen's area where that is more.
+[[nodiscard]] inline qint64 shownPixels(const QWidget& widget)
+{
+    constexpr qint64 always = 16'000'000;
+    const QSize screen = widget.screen() ? widget.screen()->size() : QSize();
+    return qMax(always, 2 * qint64(screen.width()) * screen.height());
+}
+
+} // namespace limit
