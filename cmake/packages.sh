@@ -15,4 +15,4 @@ need_packages() {
 }
 
 build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-dev libxcb-randr0-dev qt6-tools-dev qt6-l10n-tools
-    qt6-image-formats-plugins qt6-wayland libgif-dev libpng-dev fonts-dejavu-core)
+    qt6-image-formats-plugins qt6-wayland libgif-dev libjpeg-dev libpng-dev fonts-dejavu-core)

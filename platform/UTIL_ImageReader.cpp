@@ -1,5 +1,9 @@
 #include "UTIL_ImageReader.h"
 
+#include "UTIL_Bmp.h"
+#include "UTIL_Exif.h"
+#include "UTIL_Gif.h"
+#include "UTIL_Jpeg.h"
 #include "UTIL_PictureProbe.h"
 #include "UTIL_PictureSource.h"
 #include "UTIL_Platform.h"
@@ -10,81 +14,19 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QMutex>
 
-#include <atomic>
+#include <limits>
 #include <utility>
 
 namespace {
 
-/// Up to here a picture is decoded as it is: 16 MB at four bytes a pixel.
+/// Up to here what is no JPEG is decoded as it is: 16 MB at four bytes a pixel.
 constexpr qint64 mostPixelsAtOnce = 4'000'000;
 
 qint64 area(QSize size)
 {
     return size.isValid() ? qint64(size.width()) * size.height() : 0;
 }
-
-/// What is changed for the whole program while any thread reads: a decoder may allocate what the pixel
-/// limit calls for (the toolkit's own 128 MB would refuse pictures well within it), and what it warns of is
-/// kept from the log.
-class Reading
-{
-public:
-    explicit Reading(qint64 pixels)
-    {
-        const QMutexLocker locker(&mutex);
-        if (readers++ == 0) {
-            limitBefore = QImageReader::allocationLimit();
-            previous = qInstallMessageHandler(handle);
-        }
-        current = this;
-        constexpr qint64 bytesPerPixel = 8; // sixteen bits for each of four channels
-        constexpr qint64 megabyte = 1 << 20;
-        const qint64 wanted = qMin<qint64>((pixels / megabyte + 1) * bytesPerPixel, INT_MAX);
-        const int limit = QImageReader::allocationLimit();
-        if (limit > 0 && limit < wanted)
-            QImageReader::setAllocationLimit(int(wanted));
-    }
-    ~Reading()
-    {
-        const QMutexLocker locker(&mutex);
-        current = nullptr;
-        if (--readers == 0) {
-            QImageReader::setAllocationLimit(limitBefore);
-            qInstallMessageHandler(previous);
-        }
-    }
-    Reading(const Reading&) = delete;
-    Reading& operator=(const Reading&) = delete;
-
-    /// Whether this reader's decoder warned of lost picture data, which is all that a JPEG with a hole in
-    /// it gives away.
-    [[nodiscard]] bool hasLostData() const { return m_hasLostData; }
-
-private:
-    static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
-    {
-        if (!current || type == QtCriticalMsg || type == QtFatalMsg) {
-            if (const QtMessageHandler handler = previous)
-                handler(type, context, text);
-            return;
-        }
-        // Bytes too many between the parts of a file are common and do no harm.
-        if (text.contains(QLatin1String("Corrupt JPEG data")) &&
-            !text.contains(QLatin1String("extraneous")))
-            current->m_hasLostData = true;
-    }
-
-    static inline QMutex mutex;
-    static inline int readers = 0;
-    static inline int limitBefore = 0;
-    static inline std::atomic<QtMessageHandler> previous = nullptr;
-    static thread_local Reading* current; ///< this thread's
-    bool m_hasLostData = false;
-};
-
-thread_local Reading* Reading::current = nullptr;
 
 QByteArray normalized(const char* format)
 {
@@ -93,6 +35,12 @@ QByteArray normalized(const char* format)
 }
 
 } // namespace
+
+UTIL_ImageReader::Allowance UTIL_ImageReader::Allowance::ofPlatform()
+{
+    const UTIL_Platform* platform = UTIL_Platform::instance();
+    return {platform->pixelLimit(), platform->otherFormats()};
+}
 
 UTIL_ImageReader::UTIL_ImageReader(const QString& fileName, const char* format)
     : m_fileName(fileName), m_format(normalized(format))
@@ -161,47 +109,81 @@ bool UTIL_ImageReader::read()
 
 UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
 {
-    const qint64 limit = m_pixelLimit ? *m_pixelLimit : UTIL_Platform::instance()->pixelLimit();
+    const Allowance allowance = m_allowance ? *m_allowance : Allowance::ofPlatform();
     const UTIL_PictureProbe probe = UTIL_PictureProbe::of(device);
-    const bool isTold = !probe.format.isEmpty() || UTIL_PictureProbe::knows(m_format);
-    if (isTold && !m_format.isEmpty() && m_format != probe.format)
+    if (probe.format.isEmpty())
+        return readOther(device, allowance);
+    if (!m_format.isEmpty() && m_format != probe.format)
         return Failed;
-    if (area(probe.size) > limit)
+    if (area(probe.size) > allowance.pixels)
         return TooLarge;
-    if (!probe.format.isEmpty() && !probe.sound)
+    if (!probe.sound)
         return Failed;
 
-    const Reading reading(limit);
+    const bool isTurned = exif::isTurned(probe.orientation);
+    m_sourceSize = isTurned ? probe.size.transposed() : probe.size;
+    const QSize wanted = m_reduction && !m_sourceSize.isEmpty() ? m_reduction(m_sourceSize) : m_sourceSize;
+    std::optional<QSize> target; // as the picture lies in the file
+    if (wanted != m_sourceSize)
+        target = isTurned ? wanted.transposed() : wanted;
+    const bool isCheap = probe.format == "JPEG" && probe.passes == 1 && target;
+    if (!isCheap && area(probe.size) * probe.passes > m_workLimit)
+        return TooLarge;
+
     UTIL_PictureSource source(device, probe.kept, m_isCancelled);
-    QImageReader reader(&source, probe.format.isEmpty() ? m_format : probe.format);
-    const bool isUnknown = probe.format.isEmpty() && m_format.isEmpty();
-    reader.setAutoDetectImageFormat(isUnknown);
-    reader.setDecideFormatFromContent(isUnknown);
-    reader.setAutoTransform(true);
-    const QSize stored = reader.size().expandedTo(probe.size);
-    if (area(stored) > limit)
-        return TooLarge;
-
-    const bool isTurned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-    const QSize upright = isTurned ? stored.transposed() : stored;
-    const QSize wanted = m_reduction && upright.isValid() ? m_reduction(upright) : upright;
-    m_sourceSize = upright;
-    const bool isReduced = wanted != upright;
-    if (isReduced && probe.format == "JPEG")
-        reader.setScaledSize(isTurned ? wanted.transposed() : wanted);
-    if (isReduced && probe.format == "PNG" && area(stored) > mostPixelsAtOnce) {
-        source.seek(0);
-        m_image = png::readReduced(source, wanted);
-        return m_image.isNull() ? Failed : Ok;
-    }
-    if (!reader.read(&m_image) || reading.hasLostData() || (m_isCancelled && m_isCancelled()))
+    m_image = exif::upright(decoded(source, probe, target), probe.orientation);
+    if (m_image.isNull() || source.isCancelled())
         return Failed;
-    if (area(m_image.size()) > limit)
-        return TooLarge;
-    if (isReduced && m_image.size() == upright && area(upright) > mostPixelsAtOnce)
-        m_image = UTIL_Reducer::reduced(m_image, wanted, m_background);
-    if (!m_sourceSize.isValid()) // some formats tell it only with the pixels
-        m_sourceSize = m_image.size();
-    m_isWhole = m_image.size() == m_sourceSize && reader.imageCount() <= 1;
+    m_isWhole = m_image.size() == m_sourceSize && m_isWhole;
     return Ok;
+}
+
+QImage UTIL_ImageReader::decoded(UTIL_PictureSource& source, const UTIL_PictureProbe& probe,
+                                 const std::optional<QSize>& target)
+{
+    m_isWhole = true;
+    if (probe.format == "JPEG")
+        return target ? jpeg::readReduced(source, *target) : jpeg::read(source);
+    const bool isGreat = area(probe.size) > mostPixelsAtOnce;
+    const bool isReduced = isGreat && target;
+    if (probe.format == "PNG")
+        return isReduced ? png::readReduced(source, *target) : png::read(source);
+    if (probe.format == "BMP" && isGreat && !probe.hasRuns)
+        return isReduced ? bmp::readReduced(source, *target, m_background) : bmp::read(source);
+
+    QImageReader reader(&source, probe.format);
+    reader.setAutoDetectImageFormat(false);
+    m_isWhole = reader.imageCount() <= 1;
+    if (probe.format == "GIF" && isGreat) {
+        source.seek(0);
+        return isReduced ? gif::readReduced(source, *target, m_background) : gif::read(source);
+    }
+    const QImage image = reader.read();
+    return isReduced && !image.isNull() ? UTIL_Reducer::reduced(image, *target, m_background) : image;
+}
+
+UTIL_ImageReader::Status UTIL_ImageReader::readOther(QIODevice& device, const Allowance& allowance)
+{
+    for (const QByteArray& name : allowance.otherFormats) {
+        const QByteArray format = normalized(name.constData());
+        if (!m_format.isEmpty() && m_format != format)
+            continue;
+        UTIL_PictureSource source(device, {{0, device.size()}}, m_isCancelled);
+        QImageReader reader(&source, format);
+        reader.setAutoDetectImageFormat(false);
+        reader.setAutoTransform(true);
+        if (!reader.canRead())
+            continue;
+        const qint64 pixels = area(reader.size());
+        if (pixels > allowance.pixels || pixels > m_workLimit)
+            return TooLarge;
+        if (!reader.read(&m_image) || source.isCancelled())
+            return Failed;
+        if (area(m_image.size()) > allowance.pixels)
+            return TooLarge;
+        m_sourceSize = m_image.size();
+        m_isWhole = reader.imageCount() <= 1;
+        return Ok;
+    }
+    return Failed;
 }

@@ -5,14 +5,19 @@
 #include <QString>
 
 #include <functional>
+#include <limits>
 #include <optional>
 
 class QIODevice;
 
-/// Reads a picture, from a file or from memory, the right way up as its camera noted it. The pixel limit of
-/// UTIL_Platform is held against the header, before a pixel is decoded; a file that stops half way or is
-/// made to exhaust the reader is a failure like any other. Nothing is logged. For use in the GUI thread,
-/// and in any other after setPixelLimit().
+struct UTIL_PictureProbe;
+class UTIL_PictureSource;
+
+/// Reads a picture, from a file or from memory, the right way up as its camera noted it: PNG, JPEG, GIF,
+/// BMP or WBMP, and what else the host allows. The pixel limit is held against the header, before a pixel
+/// is decoded; a file that stops half way or is made to exhaust the reader is a failure like any other.
+/// Nothing is logged, and nothing of the program's is changed or depended on. For use in the GUI thread,
+/// and in any other after setAllowance().
 class UTIL_ImageReader
 {
 public:
@@ -20,6 +25,16 @@ public:
         Ok = 0,
         TooLarge = -100, ///< more pixels than the platform's limit
         Failed = 1,      ///< missing, unreadable, damaged, or not of the format asked for
+    };
+
+    /// What UTIL_Platform allows to be read.
+    struct Allowance
+    {
+        qint64 pixels = 0; ///< the most that a picture may have
+        QList<QByteArray> otherFormats;
+
+        /// Asked for in the GUI thread.
+        [[nodiscard]] static Allowance ofPlatform();
     };
 
     /// The size that a picture of the given size is wanted in; no greater in either direction.
@@ -38,12 +53,16 @@ public:
 
     /// Asked again and again while the file is read; reading fails as soon as it says true.
     void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
-    /// What holds instead of the platform's limit.
-    void setPixelLimit(qint64 pixels) { m_pixelLimit = pixels; }
+    /// What holds instead of the platform's.
+    void setAllowance(const Allowance& allowance) { m_allowance = allowance; }
+    /// The most pixels that may be gone over to read the picture, those of every pass counted; above it is
+    /// too large. A JPEG in one pass that comes reduced costs little and is never too large.
+    void setWorkLimit(qint64 pixels) { m_workLimit = pixels; }
     /// "16" asks for a picture of 16 bits a pixel; anything else asks for nothing.
     void setParameters(const char* parameters) { m_parameters = parameters; }
     /// Where reading at the wanted size saves memory (JPEG, and whatever has millions of pixels), the
-    /// picture comes in exactly that size, laid on `background`; otherwise in its own.
+    /// picture comes in exactly that size, each pixel the mean of what it covers, laid on `background` (a
+    /// PNG always on white); otherwise in its own.
     void setReduction(const Reduction& reduction, QRgb background = 0xffffffff);
 
     /// Reads the picture; true when image() holds it.
@@ -58,6 +77,9 @@ public:
 
 private:
     [[nodiscard]] Status readFrom(QIODevice& device);
+    [[nodiscard]] Status readOther(QIODevice& device, const Allowance& allowance);
+    [[nodiscard]] QImage decoded(UTIL_PictureSource& source, const UTIL_PictureProbe& probe,
+                                 const std::optional<QSize>& target);
 
     QString m_fileName;
     QByteArray m_data;
@@ -65,7 +87,8 @@ private:
     QByteArray m_format;
     QByteArray m_parameters;
     std::function<bool()> m_isCancelled;
-    std::optional<qint64> m_pixelLimit;
+    std::optional<Allowance> m_allowance;
+    qint64 m_workLimit = std::numeric_limits<qint64>::max();
     Reduction m_reduction;
     QRgb m_background = 0xffffffff;
     Status m_status = Failed;

@@ -1,9 +1,13 @@
 #include "UTIL_PictureProbe.h"
 
+#include "UTIL_Exif.h"
+
 #include <QIODevice>
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -11,7 +15,9 @@ namespace {
 using Probe = UTIL_PictureProbe;
 
 /// A progressive photograph is sent in about ten passes; each costs a walk over the whole picture.
-constexpr int mostScans = 64;
+constexpr int mostPasses = 64;
+/// Of all passes together: about a second's work.
+constexpr qint64 mostPixelsPassed = 1'000'000'000;
 
 /// Reads numbers and skips bytes of a device, forwards only, from its start.
 class Bytes
@@ -162,14 +168,14 @@ void probeJpeg(Bytes& bytes, Probe& probe)
         Sof15 = 0xcf,
         Soi = 0xd8,
         Eoi = 0xd9,
-        Sos = 0xda
+        Sos = 0xda,
+        App1 = 0xe1
     };
-    int scans = 0;
-    while (const std::optional<quint8> marker = nextMarker(bytes)) {
-        if (*marker == Eoi) {
-            probe.sound = scans > 0 && scans <= mostScans;
-            return;
-        }
+    constexpr QByteArrayView exifMark("Exif\0\0", 6);
+    probe.passes = 0;
+    bool isOriented = false;
+    for (std::optional<quint8> marker = nextMarker(bytes); marker && *marker != Eoi;
+         marker = nextMarker(bytes)) {
         if (*marker == Soi || *marker == Tem)
             continue;
         const std::optional<quint16> length = bytes.number<quint16>(qFromBigEndian<quint16>);
@@ -184,10 +190,19 @@ void probeJpeg(Bytes& bytes, Probe& probe)
                 return;
             probe.size = validSize(*width, *height);
         }
-        scans += *marker == Sos;
+        if (*marker == App1 && !isOriented && *length > 2) {
+            const QByteArray note = bytes.take(*length - 2);
+            isOriented = note.startsWith(exifMark);
+            if (isOriented)
+                probe.orientation = exif::orientation(QByteArrayView(note).sliced(exifMark.size()));
+        }
+        probe.passes += *marker == Sos;
         if (!bytes.skip(end - bytes.position()))
-            return;
+            break;
     }
+    const qint64 pixels = qint64(probe.size.width()) * probe.size.height();
+    probe.sound = probe.passes > 0 && probe.passes <= mostPasses && probe.size.isValid() &&
+                  pixels <= mostPixelsPassed / probe.passes;
 }
 
 /// The frames may reach over the screen that the header gives, and decoders go by either.
@@ -239,11 +254,40 @@ void probeBmp(Bytes& bytes, Probe& probe)
     const quint32 compression = isOld ? quint32(Plain) : number().value_or(Plain);
     const qint64 packedSize = isOld ? 0 : number().value_or(0);
 
+    constexpr std::array depths{1, 4, 8, 16, 24, 32};
     probe.size = validSize(width, qAbs(height));
+    probe.hasRuns = compression != Plain && compression != Bits;
+    if (!probe.size.isValid() || std::find(depths.begin(), depths.end(), depth) == depths.end())
+        return;
     const qint64 stride = (width * depth + 31) / 32 * 4;
-    const bool isPacked = compression != Plain && compression != Bits;
-    probe.sound = probe.size.isValid() && depth > 0 &&
-                  offset + (isPacked ? packedSize : stride * qAbs(height)) <= fileSize;
+    const qint64 room = fileSize - offset;
+    // By division: there are headers whose product no number would hold.
+    probe.sound = probe.hasRuns ? packedSize <= room : room >= 0 && stride <= room / qAbs(height);
+}
+
+/// Two zeros begin many files: it is one only if it ends where its header says.
+void probeWbmp(Bytes& bytes, Probe& probe)
+{
+    constexpr int mostBytes = 5; // of seven bits
+    const auto number = [&bytes]() -> qint64 {
+        qint64 result = 0;
+        for (int i = 0; i < mostBytes; ++i) {
+            const std::optional<quint8> byte = bytes.byte();
+            if (!byte)
+                return 0;
+            result = result << 7 | (*byte & 0x7f);
+            if (*byte < 0x80)
+                return result;
+        }
+        return 0;
+    };
+    const qint64 width = number();
+    const qint64 height = number();
+    const qint64 stride = (width + 7) / 8;
+    probe.size = validSize(width, height);
+    probe.sound = probe.size.isValid() && bytes.left() % height == 0 && stride == bytes.left() / height;
+    if (!probe.sound)
+        probe = {};
 }
 
 struct Kind
@@ -258,15 +302,10 @@ constexpr Kind kinds[] = {
     {"JPEG", "\xff\xd8", probeJpeg},
     {"GIF", "GIF8", probeGif},
     {"BMP", "BM", probeBmp},
+    {"WBMP", QByteArrayView("\0\0", 2), probeWbmp},
 };
 
 } // namespace
-
-bool UTIL_PictureProbe::knows(const QByteArray& format)
-{
-    return std::any_of(std::begin(kinds), std::end(kinds),
-                       [&](const Kind& kind) { return format == kind.format; });
-}
 
 UTIL_PictureProbe UTIL_PictureProbe::of(QIODevice& device)
 {

@@ -17,13 +17,16 @@ struct UTIL_PictureProbe
         qint64 length;
     };
 
-    QByteArray format;  ///< "PNG", "JPEG", "GIF" or "BMP"; empty when the first bytes are of none of them
-    QSize size;         ///< in pixels, as stored; invalid when it was not found
-    bool sound = false; ///< the file reaches its end mark and is no trap; a GIF's frames are not looked at
-    QList<Range> kept;  ///< the parts of the file that hold the picture, in order
+    QByteArray format;    ///< "PNG", "JPEG", "GIF", "BMP" or "WBMP"; empty when it is none of them
+    QSize size;           ///< in pixels, as stored; invalid when it was not found
+    bool sound = false;   ///< the file is long enough and no trap; see below
+    int passes = 1;       ///< how often a JPEG goes over the picture
+    bool hasRuns = false; ///< a BMP's rows are packed
+    int orientation = 1;  ///< how its camera was held, as EXIF numbers it
+    QList<Range> kept;    ///< the parts of the file that hold the picture, in order
 
-    /// Whether files of the format are told by their first bytes.
-    [[nodiscard]] static bool knows(const QByteArray& format);
+    // What sound does not tell: whether a GIF's frames, or a JPEG's data, are all there.
+
     /// Reads `device` from its start; the device's position afterwards is undefined.
     [[nodiscard]] static UTIL_PictureProbe of(QIODevice& device);
 };

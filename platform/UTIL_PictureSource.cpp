@@ -21,7 +21,7 @@ bool UTIL_PictureSource::seek(qint64 position)
 
 qint64 UTIL_PictureSource::readData(char* data, qint64 most)
 {
-    if (m_isCancelled && m_isCancelled())
+    if (isCancelled())
         return -1;
     qint64 done = 0;
     while (done < most && m_part < m_parts.size()) {

@@ -18,6 +18,8 @@ public:
 
     [[nodiscard]] qint64 size() const override { return m_size; }
     bool seek(qint64 position) override;
+    /// For who decodes long on what was read.
+    [[nodiscard]] bool isCancelled() const { return m_isCancelled && m_isCancelled(); }
 
 protected:
     qint64 readData(char* data, qint64 most) override;

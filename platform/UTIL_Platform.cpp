@@ -88,6 +88,11 @@ qint64 UTIL_Platform::pixelLimit() const
     return 64 * megapixel;
 }
 
+QList<QByteArray> UTIL_Platform::otherFormats() const
+{
+    return {};
+}
+
 bool UTIL_Platform::removePicture(const QString& name)
 {
     return QFile::remove(name);

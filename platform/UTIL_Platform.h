@@ -2,7 +2,9 @@
 
 #include "KORVA_Export.h"
 
+#include <QByteArray>
 #include <QFuture>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -68,6 +70,10 @@ public:
     [[nodiscard]] virtual QString iconFolder() const;
     /// The most pixels (width × height) a picture file may have to be decoded: 64 000 000.
     [[nodiscard]] virtual qint64 pixelLimit() const;
+    /// What else than PNG, JPEG, GIF, BMP and WBMP is read, by the toolkit's names ("tiff"): nothing.
+    /// Whatever a file's name is, its content goes to no other decoder that happens to be installed. The
+    /// toolkit's own limit on memory holds for these.
+    [[nodiscard]] virtual QList<QByteArray> otherFormats() const;
 
     /// Removes a picture file for KORVA_EditCanvas::slotDelete(), which has asked before; false when it is
     /// still there. The desktop's is QFile::remove(); a host with a trash overrides it.

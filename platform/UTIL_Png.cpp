@@ -1,11 +1,9 @@
 #include "UTIL_Png.h"
 
-#include "UTIL_Reducer.h"
+#include "UTIL_PngSession.h"
 
 #include <QHash>
-#include <QIODevice>
 
-#include <png.h>
 #include <zlib.h>
 
 #include <optional>
@@ -13,81 +11,18 @@
 
 namespace {
 
-/// The library's two structures, and its way of reporting errors: a jump back into attempt().
-class Session
-{
-public:
-    enum Direction { Reading, Writing };
-
-    explicit Session(Direction direction)
-        : m_isWriting(direction == Writing),
-          m_png(m_isWriting ? png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, ignore)
-                            : png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, fail, ignore)),
-          m_info(m_png ? png_create_info_struct(m_png) : nullptr)
-    {
-    }
-    ~Session()
-    {
-        if (m_isWriting) {
-            png_destroy_write_struct(&m_png, &m_info);
-        } else {
-            png_destroy_read_struct(&m_png, &m_info, nullptr);
-        }
-    }
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-
-    /// False when the library gave up within `step`, whose own variables must need no destructor.
-    template <typename Step>
-    bool attempt(Step step)
-    {
-        if (!m_info || setjmp(png_jmpbuf(m_png)) != 0) // NOLINT: the library knows no other way
-            return false;
-        step();
-        return true;
-    }
-
-    [[nodiscard]] png_structp png() const { return m_png; }
-    [[nodiscard]] png_infop info() const { return m_info; }
-
-private:
-    [[noreturn]] static void fail(png_structp png, png_const_charp) { png_longjmp(png, 1); }
-    static void ignore(png_structp, png_const_charp) {}
-
-    bool m_isWriting;
-    png_structp m_png;
-    png_infop m_info;
-};
-
-void readBytes(png_structp png, png_bytep data, size_t count)
-{
-    auto* device = static_cast<QIODevice*>(png_get_io_ptr(png));
-    if (device->read(reinterpret_cast<char*>(data), qint64(count)) != qint64(count))
-        png_error(png, "the file ends too early");
-}
-
 void appendBytes(png_structp png, png_bytep data, size_t count)
 {
-    static_cast<QByteArray*>(png_get_io_ptr(png))
-        ->append(reinterpret_cast<const char*>(data), qsizetype(count));
-}
-
-/// Pixels of straight alpha laid on white, in place.
-void layOnWhite(QRgb* row, int width)
-{
-    for (QRgb* pixel = row; pixel != row + width; ++pixel) {
-        const int alpha = qAlpha(*pixel);
-        if (alpha == 255)
-            continue;
-        const auto mix = [alpha](int channel) {
-            return (channel * alpha + 255 * (255 - alpha) + 127) / 255;
-        };
-        *pixel = qRgb(mix(qRed(*pixel)), mix(qGreen(*pixel)), mix(qBlue(*pixel)));
+    auto* file = static_cast<QByteArray*>(png_get_io_ptr(png));
+    bool isAppended = false;
+    try { // no exception may pass through the library
+        file->append(reinterpret_cast<const char*>(data), qsizetype(count));
+        isAppended = true;
+    } catch (...) {
     }
+    if (!isAppended)
+        png_error(png, "no memory left");
 }
-
-// --- Writing
-// ----------------------------------------------------------------------------------------------
 
 /// Samples as they go into the file, unpacked: one byte each.
 struct Pixels
@@ -184,7 +119,7 @@ QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing)
     for (const QRgb color : std::as_const(pixels.palette))
         palette.push_back({png_byte(qRed(color)), png_byte(qGreen(color)), png_byte(qBlue(color))});
 
-    Session session(Session::Writing);
+    UTIL_PngSession session(UTIL_PngSession::Writing);
     png_structp png = session.png();
     const bool complete = session.attempt([&] {
         png_set_write_fn(png, &file, appendBytes, nullptr);
@@ -207,48 +142,6 @@ QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing)
 }
 
 } // namespace
-
-QImage png::readReduced(QIODevice& device, QSize target)
-{
-    Session session(Session::Reading);
-    png_structp png = session.png();
-    QSize size;
-    int passes = 1;
-    const bool begun = session.attempt([&] {
-        png_set_read_fn(png, &device, readBytes);
-        png_read_info(png, session.info());
-        size = QSize(int(png_get_image_width(png, session.info())),
-                     int(png_get_image_height(png, session.info())));
-        // Everything becomes eight bits a channel, in the order of QRgb.
-        png_set_expand(png);
-        png_set_scale_16(png);
-        png_set_gray_to_rgb(png);
-        png_set_bgr(png);
-        png_set_add_alpha(png, 0xff, PNG_FILLER_AFTER);
-        passes = png_set_interlace_handling(png);
-        png_read_update_info(png, session.info());
-    });
-    QImage rows(size.width(), passes > 1 ? size.height() : 1, QImage::Format_ARGB32);
-    if (!begun || rows.isNull())
-        return {};
-
-    UTIL_Reducer reducer(size, target);
-    const bool complete = session.attempt([&] {
-        for (int pass = 1; pass < passes; ++pass) {
-            for (int y = 0; y < size.height(); ++y)
-                png_read_row(png, rows.scanLine(y), nullptr);
-        }
-        for (int y = 0; y < size.height(); ++y) {
-            uchar* row = rows.scanLine(passes > 1 ? y : 0);
-            png_read_row(png, row, nullptr);
-            auto* pixels = reinterpret_cast<QRgb*>(row);
-            layOnWhite(pixels, size.width());
-            reducer.addRow(pixels);
-        }
-        png_read_end(png, nullptr);
-    });
-    return complete ? reducer.image() : QImage();
-}
 
 QByteArray png::encoded(const QImage& image)
 {

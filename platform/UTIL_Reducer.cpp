@@ -5,6 +5,36 @@
 // A source pixel weighs as many units as the target has pixels in that direction, so a target pixel holds
 // as many units as the source has: whole numbers, and no source pixel touches more than two target pixels.
 
+namespace {
+
+struct Sums
+{
+    quint64 red = 0;
+    quint64 green = 0;
+    quint64 blue = 0;
+
+    /// So many pixels, each of this weight.
+    void add(const QRgb* pixel, int count, int weight)
+    {
+        constexpr int mostAtOnce = 256; // of which red and blue have room in sixteen bits each
+        while (count > 0) {
+            const QRgb* const end = pixel + qMin(count, mostAtOnce);
+            count -= qMin(count, mostAtOnce);
+            quint32 redAndBlue = 0;
+            quint32 greens = 0;
+            for (; pixel != end; ++pixel) {
+                redAndBlue += *pixel & 0xff00ff;
+                greens += *pixel >> 8 & 0xff;
+            }
+            red += quint64(redAndBlue >> 16) * quint64(weight);
+            green += quint64(greens) * quint64(weight);
+            blue += quint64(redAndBlue & 0xffff) * quint64(weight);
+        }
+    }
+};
+
+} // namespace
+
 UTIL_Reducer::UTIL_Reducer(QSize from, QSize to)
     : m_from(from),
       m_image(to, QImage::Format_RGB32),
@@ -16,30 +46,31 @@ UTIL_Reducer::UTIL_Reducer(QSize from, QSize to)
 
 void UTIL_Reducer::addRow(const QRgb* row)
 {
-    std::fill(m_row.begin(), m_row.end(), 0);
-    quint32* sum = m_row.data();
-    int room = m_from.width();
-    const auto add = [&sum](QRgb color, int weight) {
-        sum[0] += quint32(qRed(color) * weight);
-        sum[1] += quint32(qGreen(color) * weight);
-        sum[2] += quint32(qBlue(color) * weight);
-    };
-    for (const QRgb* pixel = row; pixel != row + m_from.width(); ++pixel) {
-        const int weight = qMin(m_image.width(), room);
-        add(*pixel, weight);
-        room -= weight;
+    const int across = m_image.width();
+    const QRgb* pixel = row;
+    int rest = 0; // what of the pixel's weight the target pixel before had no room for
+    for (quint64* sum = m_row.data(); sum != m_row.data() + m_row.size(); sum += 3) {
+        Sums sums;
+        int room = m_from.width();
+        if (rest > 0) {
+            sums.add(pixel++, 1, rest);
+            room -= rest;
+        }
+        const int whole = room / across;
+        sums.add(pixel, whole, across);
+        pixel += whole;
+        room -= whole * across;
         if (room > 0)
-            continue;
-        sum += 3;
-        const int rest = m_image.width() - weight;
-        room = m_from.width() - rest;
-        if (rest > 0)
-            add(*pixel, rest);
+            sums.add(pixel, 1, room);
+        rest = room > 0 ? across - room : 0;
+        sum[0] = sums.red;
+        sum[1] = sums.green;
+        sum[2] = sums.blue;
     }
 
     const auto addSums = [this](int weight) {
         for (size_t i = 0; i < m_row.size(); ++i)
-            m_rows[i] += quint64(m_row[i]) * quint64(weight);
+            m_rows[i] += m_row[i] * quint64(weight);
     };
     const int weight = qMin(m_image.height(), m_room);
     addSums(weight);
@@ -47,10 +78,10 @@ void UTIL_Reducer::addRow(const QRgb* row)
     if (m_room > 0)
         return;
     finishRow();
-    const int rest = m_image.height() - weight;
-    m_room = m_from.height() - rest;
-    if (rest > 0)
-        addSums(rest);
+    const int below = m_image.height() - weight;
+    m_room = m_from.height() - below;
+    if (below > 0)
+        addSums(below);
 }
 
 void UTIL_Reducer::finishRow()
@@ -63,16 +94,21 @@ void UTIL_Reducer::finishRow()
     std::fill(m_rows.begin(), m_rows.end(), 0);
 }
 
+void UTIL_Reducer::addRows(const QImage& rows, QRgb background)
+{
+    QImage row(rows.width(), 1, QImage::Format_RGB32);
+    for (int y = 0; y < rows.height(); ++y) {
+        QImage source(rows.constScanLine(y), rows.width(), 1, rows.bytesPerLine(), rows.format());
+        source.setColorTable(rows.colorTable());
+        row.fill(background);
+        QPainter(&row).drawImage(0, 0, source);
+        addRow(reinterpret_cast<const QRgb*>(row.constScanLine(0)));
+    }
+}
+
 QImage UTIL_Reducer::reduced(const QImage& image, QSize to, QRgb background)
 {
     UTIL_Reducer reducer(image.size(), to);
-    QImage row(image.width(), 1, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        QImage source(image.constScanLine(y), image.width(), 1, image.bytesPerLine(), image.format());
-        source.setColorTable(image.colorTable());
-        row.fill(background);
-        QPainter(&row).drawImage(0, 0, source);
-        reducer.addRow(reinterpret_cast<const QRgb*>(row.constScanLine(0)));
-    }
+    reducer.addRows(image, background);
     return reducer.image();
 }

@@ -14,6 +14,8 @@ public:
 
     /// The next row, from the top: opaque pixels, as many as `from` is wide.
     void addRow(const QRgb* row);
+    /// The next rows, in any format, laid on `background`.
+    void addRows(const QImage& rows, QRgb background);
     /// The result (QImage::Format_RGB32), complete when every row was added.
     [[nodiscard]] const QImage& image() const { return m_image; }
 
@@ -25,7 +27,7 @@ private:
 
     QSize m_from;
     QImage m_image;
-    std::vector<quint32> m_row;  ///< the sums of the row at hand, red, green and blue of each target pixel
+    std::vector<quint64> m_row;  ///< the sums of the row at hand, red, green and blue of each target pixel
     std::vector<quint64> m_rows; ///< the same over the rows that the target row covers so far
     int m_y = 0;                 ///< the target row
     int m_room;                  ///< what of its weight is still to come

@@ -1,7 +1,6 @@
 #include "UTIL_Thumbnails.h"
 
 #include "UTIL_ImageReader.h"
-#include "UTIL_Platform.h"
 #include "UTIL_Skin.h"
 
 #include <QCoreApplication>
@@ -18,6 +17,8 @@ namespace {
 
 constexpr qsizetype mostWanted = 40; ///< more than a screen shows
 constexpr int mostMade = 600;
+/// A folder is full of pictures that nobody has asked for.
+constexpr qint64 mostPixels = 16'000'000;
 constexpr QSize box(UTIL_Skin::Size::thumbnailWidth, UTIL_Skin::Size::thumbnailHeight);
 
 QSize thumbnailSize(QSize size)
@@ -39,11 +40,13 @@ QThreadPool& pool()
     return *pool;
 }
 
-QImage made(const QString& fileName, qint64 pixelLimit, const std::function<bool()>& isCancelled)
+QImage made(const QString& fileName, const UTIL_ImageReader::Allowance& allowance,
+            const std::function<bool()>& isCancelled)
 {
     UTIL_ImageReader reader(fileName);
     reader.setIsCancelled(isCancelled);
-    reader.setPixelLimit(pixelLimit);
+    reader.setAllowance(allowance);
+    reader.setWorkLimit(mostPixels);
     reader.setReduction(thumbnailSize);
     reader.read();
     const QImage& image = reader.image();
@@ -86,9 +89,9 @@ void UTIL_Thumbnails::makeNext()
     const auto promise = std::make_shared<QPromise<QImage>>();
     promise->start();
     m_maker.setFuture(promise->future());
-    pool().start([promise, fileName = m_making, limit = UTIL_Platform::instance()->pixelLimit()] {
+    pool().start([promise, fileName = m_making, allowance = UTIL_ImageReader::Allowance::ofPlatform()] {
         if (!promise->isCanceled())
-            promise->addResult(made(fileName, limit, [&promise] { return promise->isCanceled(); }));
+            promise->addResult(made(fileName, allowance, [&promise] { return promise->isCanceled(); }));
         promise->finish();
     });
 }

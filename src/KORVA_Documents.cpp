@@ -39,7 +39,7 @@ auto patiently(KORVA_EditCanvas& editor, const KORVA_PictureFile& file, const Wo
     KORVA_PictureFile own = file;
     if (own.isSmall())
         return work(own);
-    own.setPixelLimit(UTIL_Platform::instance()->pixelLimit());
+    own.setAllowance(UTIL_ImageReader::Allowance::ofPlatform());
     const QPointer<KORVA_EditCanvas> asker = &editor;
     auto result = util::waitFor(&editor, KORVA_EditCanvas::tr("Opening picture", "WAIT_BOX"),
                                 [own, work](const util::IsCancelled& isCancelled) {

@@ -1,9 +1,7 @@
 #include "KORVA_PictureFile.h"
 
 #include "UTIL_GifParser.h"
-#include "UTIL_ImageReader.h"
 #include "UTIL_PictureProbe.h"
-#include "UTIL_Platform.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -48,8 +46,6 @@ const Kind& kindOf(const QString& fileName)
 
 constexpr QSize workingBox(352, 288);
 constexpr int workingDepth = 16;
-/// A damaged GIF of more pixels is not even tried.
-constexpr qint64 greatScreen = 4'000'000;
 /// Up to here a picture is decoded before anybody could wonder, on a slow device, too.
 constexpr qint64 smallFile = 64 * 1024;
 constexpr qint64 smallPicture = 1'000'000;
@@ -174,16 +170,9 @@ bool KORVA_PictureFile::isSmall() const
     return qint64(size.width()) * size.height() <= smallPicture;
 }
 
-qint64 KORVA_PictureFile::pixelLimit() const
-{
-    return m_pixelLimit ? *m_pixelLimit : UTIL_Platform::instance()->pixelLimit();
-}
-
 int KORVA_PictureFile::check(const char* format)
 {
     examine();
-    if (m_isTrap)
-        return UTIL_ImageReader::Failed;
     const Kind& kind = kindOf(m_name);
     const bool isWhatTakeReads =
         format ? QByteArrayView(format) == kind.readFormat : kind.opening == Opening::ByContent;
@@ -218,16 +207,14 @@ QImage KORVA_PictureFile::take()
 void KORVA_PictureFile::examine()
 {
     m_version = versionOf(m_name);
-    m_isDamaged = m_isTrap = false;
+    m_isDamaged = false;
     m_transparentColor.reset();
     if (kindOf(m_name).opening != Opening::AsGif)
         return;
     UTIL_GifParser parser(m_name, UTIL_GifParser::WholeFile);
-    if (m_pixelLimit)
-        parser.setPixelLimit(*m_pixelLimit);
+    if (m_allowance)
+        parser.setPixelLimit(m_allowance->pixels);
     m_isDamaged = parser.parse() != UTIL_GifParser::NoError;
-    const qint64 pixels = qint64(parser.screenSize().width()) * parser.screenSize().height();
-    m_isTrap = m_isDamaged && pixels > greatScreen && pixels <= pixelLimit();
     if (parser.transparentIndex() >= 0)
         m_transparentColor = parser.transparentColor().rgb();
 }
@@ -236,8 +223,8 @@ UTIL_ImageReader KORVA_PictureFile::reader(const char* format) const
 {
     UTIL_ImageReader reader(m_name, format);
     reader.setIsCancelled(m_isCancelled);
-    if (m_pixelLimit)
-        reader.setPixelLimit(*m_pixelLimit);
+    if (m_allowance)
+        reader.setAllowance(*m_allowance);
     if (kindOf(m_name).opening == Opening::AsJpeg)
         reader.setParameters("16");
     if (m_scale == Working)

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "UTIL_ImageReader.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QStringList>
 
 #include <functional>
 #include <optional>
-
-class UTIL_ImageReader;
 
 /// What picture files a drawing can come from and go to, and how a picture becomes fit for the canvas.
 /// Values in, values out: nothing here shows a message.
@@ -61,8 +61,8 @@ public:
     /// Whether it is read in no time: a short file with a small picture, or no file at all.
     [[nodiscard]] bool isSmall() const;
 
-    /// What holds instead of the platform's limit, which only the GUI thread may ask for.
-    void setPixelLimit(qint64 pixels) { m_pixelLimit = pixels; }
+    /// What holds instead of the platform's, which only the GUI thread may ask for.
+    void setAllowance(const UTIL_ImageReader::Allowance& allowance) { m_allowance = allowance; }
     /// Asked again and again while the file is read; nothing can be read once it says true.
     void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
 
@@ -78,17 +78,15 @@ public:
 
 private:
     void examine();
-    [[nodiscard]] qint64 pixelLimit() const;
     [[nodiscard]] UTIL_ImageReader reader(const char* format) const;
 
     QString m_name;
     Scale m_scale = Working;
-    std::optional<qint64> m_pixelLimit;
+    std::optional<UTIL_ImageReader::Allowance> m_allowance;
     std::function<bool()> m_isCancelled;
     QImage m_checked;                       ///< what check() decoded; null when take() must decode itself
     QString m_version;                      ///< of the file when it was examined; null when it was not
     bool m_isDamaged = false;               ///< a GIF that is not sound to its end
-    bool m_isTrap = false;                  ///< and whose screen it would be a waste to decode
     std::optional<QRgb> m_transparentColor; ///< a GIF's
     picturefile::Origin m_origin;
 };

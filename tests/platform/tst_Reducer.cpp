@@ -36,6 +36,7 @@ private slots:
     void everyPixelIsTheMeanOfItsArea_data();
     void everyPixelIsTheMeanOfItsArea();
     void transparencyShowsTheBackground();
+    void longRowsAreSummedUp();
 };
 
 void tst_Reducer::everyPixelIsTheMeanOfItsArea_data()
@@ -70,6 +71,17 @@ void tst_Reducer::transparencyShowsTheBackground()
     const QImage reduced = UTIL_Reducer::reduced(image, QSize(2, 2), qRgb(10, 200, 30));
     QCOMPARE(reduced,
              support::sheet(QSize(2, 2), QColor(10, 200, 30)).convertToFormat(QImage::Format_RGB32));
+}
+
+/// Their sums pass 32 bits.
+void tst_Reducer::longRowsAreSummedUp()
+{
+    constexpr int width = 20'000'000;
+    const std::vector<QRgb> row(width, qRgb(250, 130, 10));
+    UTIL_Reducer reducer(QSize(width, 2), QSize(1, 1));
+    reducer.addRow(row.data());
+    reducer.addRow(row.data());
+    QCOMPARE(reducer.image().pixel(0, 0), row.front());
 }
 
 int main(int argc, char** argv)
