@@ -67,9 +67,12 @@ void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
     if (!canvas() || m_state != Dragging || event->button() != Qt::LeftButton)
         return;
     const QPoint corner = limited(pixel::at(event->position()));
-    anchor();
-    if (corner != m_start)
-        select(corner);
+    if (corner == m_start) {
+        anchor();
+        return;
+    }
+    toggleFrame(m_end);
+    select(corner);
 }
 
 void KORVA_AreaSelect::anchor()

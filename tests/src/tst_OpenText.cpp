@@ -8,6 +8,9 @@ using support::sameImage;
 
 namespace {
 
+using Use = void (*)(WritingDesk&);
+using Way = void (*)(WritingDesk&, const QString& text);
+
 int compositionsEnded = 0;
 
 } // namespace
@@ -39,9 +42,8 @@ private slots:
 
 void tst_OpenText::withoutATextKeysAreTheHosts_data()
 {
-    using Way = void (*)(WritingDesk&);
-    QTest::addColumn<Way>("way");
-    const auto row = [](const char* name, Way way) { QTest::newRow(name) << way; };
+    QTest::addColumn<Use>("use");
+    const auto row = [](const char* name, Use use) { QTest::newRow(name) << use; };
     row("before the first tap", [](WritingDesk&) {});
     row("after a drag", [](WritingDesk& desk) { desk.stylus.drag({{20, 20}, {60, 40}}); });
     row("after a text and a drag", [](WritingDesk& desk) {
@@ -57,9 +59,9 @@ void tst_OpenText::withoutATextKeysAreTheHosts_data()
 
 void tst_OpenText::withoutATextKeysAreTheHosts()
 {
-    QFETCH(void (*)(WritingDesk&), way);
+    QFETCH(const Use, use);
     WritingDesk desk;
-    way(desk);
+    use(desk);
     desk.canvas.clearModified();
     const QImage before = desk.canvas.shown();
 
@@ -181,7 +183,6 @@ void tst_OpenText::leavingTheToolEndsAComposition()
 
 void tst_OpenText::longTextsTakeNoLongerALetter_data()
 {
-    using Way = void (*)(WritingDesk&, const QString&);
     QTest::addColumn<Way>("way");
     const auto row = [](const char* name, Way way) { QTest::newRow(name) << way; };
     row("committed by an input method",
@@ -195,7 +196,7 @@ void tst_OpenText::longTextsTakeNoLongerALetter_data()
 
 void tst_OpenText::longTextsTakeNoLongerALetter()
 {
-    QFETCH(void (*)(WritingDesk&, const QString&), way);
+    QFETCH(const Way, way);
     const auto timeOf = [&](int lines) {
         qint64 best = std::numeric_limits<qint64>::max();
         for (int i = 0; i < 3; ++i) {

@@ -6,6 +6,8 @@ using namespace support;
 
 namespace {
 
+using Paint = void (*)(QPixmap& picture);
+
 constexpr QSize size(60, 50);
 constexpr QSize pieceSize(16, 12);
 
@@ -96,9 +98,8 @@ void tst_WhatComesIn::translucentColorIsLaidOnWhite()
 
 void tst_WhatComesIn::whatAHostPaintsIsLaidOnWhite_data()
 {
-    using Way = void (*)(QPixmap & picture);
-    QTest::addColumn<Way>("paint");
-    const auto row = [](const char* name, Way paint) { QTest::newRow(name) << paint; };
+    QTest::addColumn<Paint>("paint");
+    const auto row = [](const char* name, Paint paint) { QTest::newRow(name) << paint; };
     row("filled", [](QPixmap& picture) { picture.fill(QColor(0, 0, 0, 51)); });
     row("replaced", [](QPixmap& picture) {
         QImage other(size, QImage::Format_ARGB32);
@@ -109,7 +110,7 @@ void tst_WhatComesIn::whatAHostPaintsIsLaidOnWhite_data()
 
 void tst_WhatComesIn::whatAHostPaintsIsLaidOnWhite()
 {
-    QFETCH(void (*)(QPixmap&), paint);
+    QFETCH(const Paint, paint);
     const QImage expected = sheet(size, QColor(204, 204, 204));
     const QTemporaryDir folder;
     PictureCanvas canvas(mosaic(size));
