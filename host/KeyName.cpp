@@ -58,11 +58,21 @@ std::optional<QKeyCombination> keyFromName(const QString& name)
     return QKeyCombination(held, *key);
 }
 
+QKeyCombination withoutItself(QKeyCombination key)
+{
+    for (const auto& row : modifiers) {
+        if (key.key() == row.key)
+            return QKeyCombination(key.keyboardModifiers() & ~Qt::KeyboardModifiers(row.modifier),
+                                   key.key());
+    }
+    return key;
+}
+
 QString keyName(QKeyCombination key)
 {
     QString name;
     for (const auto& row : modifiers) {
-        if (key.keyboardModifiers().testFlag(row.modifier) && key.key() != row.key)
+        if (key.keyboardModifiers().testFlag(row.modifier))
             name += QLatin1String(row.name) + QLatin1Char('+');
     }
     const char* plain = QMetaEnum::fromType<Qt::Key>().valueToKey(key.key());

@@ -1,5 +1,7 @@
 #include "Recorder.h"
 
+#include "KeyName.h"
+
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_PasteLabel.h>
@@ -90,7 +92,7 @@ void Recorder::writeKey(const QKeyEvent& event)
     Command command;
     command.verb = isText ? Verb::Type : Verb::Key;
     command.text = event.text();
-    command.key = event.keyCombination();
+    command.key = withoutItself(event.keyCombination());
     if (isText || event.key() != Qt::Key_unknown)
         write(command);
 }

@@ -615,8 +615,11 @@ bool KORVA_EditCanvas::isPicSizeNotOver(const QString& name, const char* format)
 
 bool KORVA_EditCanvas::getImage(QImage* image, const QString& name)
 {
-    *image = KORVA_PictureFile(name, KORVA_PictureFile::Full).take();
-    return !image->isNull();
+    const QImage read = KORVA_PictureFile(name, KORVA_PictureFile::Full).take();
+    if (read.isNull())
+        return false;
+    *image = read;
+    return true;
 }
 
 bool KORVA_EditCanvas::convertScaleImage(QImage* image, QPixmap* pixmap)

@@ -217,11 +217,16 @@ QByteArray bestWithin(int lowest, int highest, const Attempt& attempt)
     return best;
 }
 
+bool isReplaceable(const QString& target)
+{
+    return isQuotable(target) && isQuotable(picturesave::temporaryPath()) && !QFileInfo(target).isDir() &&
+           !isWriteProtected(target) && !isWriteProtected(QFileInfo(target).path());
+}
+
 bool saveUnder(const QString& target, const QByteArray& bytes)
 {
     if (bytes.isEmpty())
         return false;
-    QFile::remove(picturesave::temporaryPath()); // what an earlier run left, or someone planted
     const Ownership before = Ownership::of(target);
     NewFile temporary(picturesave::temporaryPath());
     if (!temporary.write(bytes, before))
@@ -290,17 +295,14 @@ bool picturesave::write(const QImage& image, const QString& fileName, const char
 
 bool picturesave::replace(const QString& name, const std::function<QByteArray()>& encode)
 {
-    if (!isQuotable(name))
-        return false;
-    const QString target = behindLinks(name);
-    const QString folder = QFileInfo(target).path();
-    if (!isQuotable(target) || !isQuotable(temporaryPath()) || QFileInfo(target).isDir() ||
-        isWriteProtected(target) || isWriteProtected(folder))
-        return false;
-
     // Another program may share the download folder.
     UTIL_FileLock lock(temporaryPath() + ".lock");
-    const bool isSaved = lock.lock(lockTime) && saveUnder(target, encode());
+    bool isSaved = false;
+    if (lock.lock(lockTime)) {
+        QFile::remove(temporaryPath()); // what an earlier run left, or someone planted
+        const QString target = isQuotable(name) ? behindLinks(name) : QString();
+        isSaved = isReplaceable(target) && saveUnder(target, encode());
+    }
     lock.remove();
     return isSaved;
 }

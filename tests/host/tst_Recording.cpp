@@ -135,6 +135,14 @@ void tst_Recording::understands_data()
     QTest::newRow("key in other case") << QByteArray("key BackSpace") << withKey(Qt::Key_Backspace);
     QTest::newRow("key with modifiers")
         << QByteArray("key Ctrl+Shift+Left") << withKey(Qt::CTRL | Qt::SHIFT | Qt::Key_Left);
+    QTest::newRow("a modifier") << QByteArray("key Shift") << withKey(Qt::Key_Shift);
+    QTest::newRow("Shift held with itself")
+        << QByteArray("key Shift+Shift") << withKey(Qt::SHIFT | Qt::Key_Shift);
+    QTest::newRow("Ctrl held with itself")
+        << QByteArray("key Ctrl+Control") << withKey(Qt::CTRL | Qt::Key_Control);
+    QTest::newRow("Alt held with itself") << QByteArray("key Alt+Alt") << withKey(Qt::ALT | Qt::Key_Alt);
+    QTest::newRow("Meta held with itself")
+        << QByteArray("key Meta+Meta") << withKey(Qt::META | Qt::Key_Meta);
     QTest::newRow("a word as text") << QByteArray("type abc") << withText(Verb::Type, "abc");
     QTest::newRow("text with blanks") << QByteArray("type \" a  b \"") << withText(Verb::Type, " a  b ");
     QTest::newRow("every escape") << QByteArray(R"(type "\"\\\n\t")") << withText(Verb::Type, "\"\\\n\t");

@@ -36,6 +36,7 @@ void tst_MainView::constructionCentresWithoutCorrection()
     QCOMPARE(view.objectName(), "view");
     QCOMPARE(view.canvas()->pos(), place);
     QCOMPARE(view.canvas()->size(), QSize(200, 170));
+    QCOMPARE(view.scrollView()->size(), QSize(200, 170));
 }
 
 void tst_MainView::widgetsAreNestedAsHostsReckon()

@@ -25,6 +25,7 @@ private slots:
     void sizeAndDepth_data();
     void sizeAndDepth();
     void nullPictureIsNotConverted();
+    void failedReadLeavesTheImage();
     void everyFormatOpens_data();
     void everyFormatOpens();
 };
@@ -158,6 +159,15 @@ void tst_OpenedPicture::nullPictureIsNotConverted()
     QPixmap pixmap;
     QVERIFY(!editor.convertScaleImage(&none, &pixmap));
     QVERIFY(pixmap.isNull());
+}
+
+void tst_OpenedPicture::failedReadLeavesTheImage()
+{
+    EditorDesk desk;
+    const QImage before = fixtures::flag();
+    QImage image = before;
+    QVERIFY(!desk.editor->getImage(&image, "/nowhere/missing.png"));
+    QCOMPARE(image, before);
 }
 
 void tst_OpenedPicture::everyFormatOpens_data()

@@ -26,6 +26,8 @@ private slots:
     void transparencyComesOutWhite();
     void transparentColorOfAGifShows();
     void gifNeedsEveryFrameSound();
+    void damagedGifFailsAlikeAtEverySize_data();
+    void damagedGifFailsAlikeAtEverySize();
     void extensionDecidesHowAFileIsOpened_data();
     void extensionDecidesHowAFileIsOpened();
     void checkTellsWhatIsWrong_data();
@@ -227,6 +229,33 @@ void tst_PictureFile::gifNeedsEveryFrameSound()
     KORVA_PictureFile cut(path("cut.gif"));
     QCOMPARE(cut.check("GIF"), 0); // its first frame can be read
     QVERIFY(cut.take().isNull());
+}
+
+void tst_PictureFile::damagedGifFailsAlikeAtEverySize_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<bool>("isInterlaced");
+    for (const char* size : {"60x40", "2500x2000"})
+        for (const bool isInterlaced : {false, true})
+            QTest::addRow("%s%s", size, isInterlaced ? ", interlaced" : "")
+                << QString(size) << isInterlaced;
+}
+
+void tst_PictureFile::damagedGifFailsAlikeAtEverySize()
+{
+    QFETCH(QString, size);
+    QFETCH(bool, isInterlaced);
+    QVERIFY(support::convert({"-size", size, "gradient:red-blue", "-interlace",
+                              isInterlaced ? "GIF" : "None", path("sound.gif")}));
+    const QByteArray whole = contents(path("sound.gif"));
+    for (const QByteArray& damaged : {whole.first(whole.size() / 2), whole.first(whole.size() * 9 / 10)}) {
+        for (const auto scale : {KORVA_PictureFile::Full, KORVA_PictureFile::Working}) {
+            write(path("damaged.gif"), damaged);
+            KORVA_PictureFile file(path("damaged.gif"), scale);
+            QCOMPARE(file.check("GIF"), 0); // a part of it can be read
+            QVERIFY(file.take().isNull());
+        }
+    }
 }
 
 void tst_PictureFile::extensionDecidesHowAFileIsOpened_data()

@@ -20,6 +20,8 @@ class tst_PictureSave : public support::SaveTest
 private slots:
     void temporaryPath_data();
     void temporaryPath();
+    void staleTemporaryFileGoes_data();
+    void staleTemporaryFileGoes();
     void roundTripIsExact_data();
     void roundTripIsExact();
     void jpegIsGood();
@@ -94,6 +96,31 @@ void tst_PictureSave::temporaryPath()
     else
         qputenv(variable, value);
     QTEST(picturesave::temporaryPath(), "path");
+}
+
+void tst_PictureSave::staleTemporaryFileGoes_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("isEncoded");
+    QTest::addRow("saved") << "a.png" << true;
+    QTest::addRow("a quote in the name") << "it's.png" << true;
+    QTest::addRow("the target is a folder") << "." << true;
+    QTest::addRow("write-protected") << "protected.png" << true;
+    QTest::addRow("not encoded") << "a.png" << false;
+}
+
+/// Whatever becomes of the save.
+void tst_PictureSave::staleTemporaryFileGoes()
+{
+    QFETCH(QString, target);
+    QFETCH(bool, isEncoded);
+    support::write(path("protected.png"), "old");
+    QVERIFY(QFile::setPermissions(path("protected.png"), QFile::ReadOwner));
+    const QString stale = picturesave::temporaryPath();
+    support::write(stale, "half a picture of an earlier run");
+    const bool isSaved = saved(path(target), isEncoded ? fixtures::red() : QImage());
+    QCOMPARE(isSaved, isEncoded && target == "a.png");
+    QVERIFY(!QFile::exists(stale));
 }
 
 void tst_PictureSave::roundTripIsExact_data()
