@@ -1,6 +1,7 @@
 #include "EarlierDialog.h"
 
 #include <UTIL_PushButton.h>
+#include <UTIL_ScrollBar.h>
 #include <UTIL_Skin.h>
 
 #include <QFileInfo>
@@ -83,6 +84,7 @@ EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>&
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, m_list));
     for (const KORVA_Journal::Entry& entry : m_entries) {
         const QString name = QFileInfo(entry.pictureName).fileName();
         const QString size =

@@ -1,6 +1,7 @@
 #include "KeysDialog.h"
 
 #include <UTIL_PushButton.h>
+#include <UTIL_ScrollBar.h>
 #include <UTIL_Skin.h>
 
 #include <QHeaderView>
@@ -16,6 +17,7 @@ namespace {
 using Size = UTIL_Skin::Size;
 
 constexpr int keyWidth = 96;
+constexpr int rowHeight = 24;
 
 } // namespace
 
@@ -37,8 +39,12 @@ KeysDialog::KeysDialog(QWidget* parent, const QList<Row>& rows) : UTIL_Dialog(Fr
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     QScroller::grabGesture(list->viewport(), QScroller::TouchGesture);
-    for (const Row& row : rows)
-        list->addTopLevelItem(new QTreeWidgetItem({row.key, row.text}));
+    list->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, list));
+    for (const Row& row : rows) {
+        auto* item = new QTreeWidgetItem({row.key, row.text});
+        item->setSizeHint(0, QSize(0, rowHeight));
+        list->addTopLevelItem(item);
+    }
     list->header()->resizeSection(0, keyWidth);
     list->setSelectionMode(QAbstractItemView::NoSelection);
     auto* close = new UTIL_PushButton(QString(), tr("Close", "keys"), this);
