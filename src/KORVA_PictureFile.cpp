@@ -1,5 +1,6 @@
 #include "KORVA_PictureFile.h"
 
+#include "KORVA_Formats.h"
 #include "UTIL_GifParser.h"
 #include "UTIL_PictureProbe.h"
 
@@ -9,39 +10,31 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <array>
 #include <utility>
+
+namespace formats = KORVA_Formats;
 
 namespace {
 
-/// How a file of an extension is opened.
-enum class Opening {
-    ByContent,
-    AsJpeg,
-    AsGif, ///< only with every frame sound
-};
-
-struct Kind
+const formats::Row& kindOf(const QString& fileName)
 {
-    const char* extension;
-    const char* readFormat;
-    const char* writeFormat; ///< null: never written
-    Opening opening;
-};
+    const QString extension = QFileInfo(fileName).suffix();
+    const auto* const row = std::find_if(formats::rows.begin(), formats::rows.end(), [&](const auto& each) {
+        return extension.compare(QLatin1String(each.extension), Qt::CaseInsensitive) == 0;
+    });
+    return row != formats::rows.end() ? *row : formats::anyOther;
+}
 
-constexpr std::array kinds{
-    Kind{"BMP", "BMP", "BMP", Opening::ByContent}, Kind{"JPG", "JPEG", "JPEG", Opening::AsJpeg},
-    Kind{"JPE", "JPEG", "JPEG", Opening::AsJpeg},  Kind{"JPEG", "JPEG", "JPEG", Opening::AsJpeg},
-    Kind{"GIF", "GIF", nullptr, Opening::AsGif},   Kind{"WBMP", "WBMP", "PNG", Opening::ByContent},
-};
-constexpr Kind anyOther{nullptr, "PNG", "PNG", Opening::ByContent};
-
-const Kind& kindOf(const QString& fileName)
+/// Of the rows that are offered and for which a condition holds.
+template <typename Condition>
+QStringList patterns(const Condition& holds)
 {
-    const QByteArray extension = QFileInfo(fileName).suffix().toUpper().toUtf8();
-    const auto* const kind = std::find_if(
-        kinds.begin(), kinds.end(), [&extension](const Kind& each) { return extension == each.extension; });
-    return kind != kinds.end() ? *kind : anyOther;
+    QStringList found;
+    for (const formats::Row& row : formats::rows) {
+        if (row.isOffered && holds(row))
+            found.append(QStringLiteral("*.%1").arg(QLatin1String(row.extension)));
+    }
+    return found;
 }
 
 constexpr QSize workingBox(352, 288);
@@ -96,22 +89,22 @@ QImage inWorkingDepth(const QImage& image)
 
 QStringList picturefile::openPatterns()
 {
-    return {"*.png", "*.gif", "*.jpeg", "*.jpg", "*.bmp", "*.wbmp"};
+    return patterns([](const formats::Row&) { return true; });
 }
 
 QStringList picturefile::savePatterns()
 {
-    return {"*.png", "*.jpeg", "*.jpg", "*.bmp"};
+    return patterns([](const formats::Row& row) { return qstrcmp(row.written, row.format) == 0; });
 }
 
 QByteArray picturefile::readFormat(const QString& fileName)
 {
-    return kindOf(fileName).readFormat;
+    return kindOf(fileName).format;
 }
 
 QByteArray picturefile::writeFormat(const QString& fileName)
 {
-    return kindOf(fileName).writeFormat;
+    return kindOf(fileName).written;
 }
 
 QSize picturefile::workingSize(QSize size)
@@ -173,9 +166,9 @@ bool KORVA_PictureFile::isSmall() const
 int KORVA_PictureFile::check(const char* format)
 {
     examine();
-    const Kind& kind = kindOf(m_name);
+    const formats::Row& kind = kindOf(m_name);
     const bool isWhatTakeReads =
-        format ? QByteArrayView(format) == kind.readFormat : kind.opening == Opening::ByContent;
+        format ? QByteArrayView(format) == kind.format : kind.opening == formats::Opening::ByContent;
     UTIL_ImageReader reader = this->reader(format);
     reader.read();
     m_checked = isWhatTakeReads ? reader.image() : QImage();
@@ -193,8 +186,9 @@ QImage KORVA_PictureFile::take()
     if (m_isDamaged)
         return {};
     if (image.isNull()) {
-        const Kind& kind = kindOf(m_name);
-        UTIL_ImageReader reader = this->reader(kind.opening == Opening::AsJpeg ? kind.readFormat : nullptr);
+        const formats::Row& kind = kindOf(m_name);
+        UTIL_ImageReader reader =
+            this->reader(kind.opening == formats::Opening::AsJpeg ? kind.format : nullptr);
         reader.read();
         image = reader.image();
         m_origin = originOf(reader);
@@ -209,7 +203,7 @@ void KORVA_PictureFile::examine()
     m_version = versionOf(m_name);
     m_isDamaged = false;
     m_transparentColor.reset();
-    if (kindOf(m_name).opening != Opening::AsGif)
+    if (kindOf(m_name).opening != formats::Opening::AsGif)
         return;
     UTIL_GifParser parser(m_name, UTIL_GifParser::WholeFile);
     if (m_allowance)
@@ -225,7 +219,7 @@ UTIL_ImageReader KORVA_PictureFile::reader(const char* format) const
     reader.setIsCancelled(m_isCancelled);
     if (m_allowance)
         reader.setAllowance(*m_allowance);
-    if (kindOf(m_name).opening == Opening::AsJpeg)
+    if (kindOf(m_name).opening == formats::Opening::AsJpeg)
         reader.setParameters("16");
     if (m_scale == Working)
         reader.setReduction(picturefile::workingSize, m_transparentColor.value_or(white));
