@@ -74,8 +74,7 @@ private:
     void breakLine();
     void deleteBackward();
     void insert(QString text);
-    void drawText(KORVA_ClassicPainter& painter, QPoint start, int margin, const QString& text,
-                  int fromLine = 0) const;
+    void drawText(KORVA_ClassicPainter& painter, QPoint start, int margin, const QString& text) const;
     void showText(const QString& text);
     void hideCursor();
     void endComposition();

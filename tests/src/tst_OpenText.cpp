@@ -187,7 +187,6 @@ void tst_OpenText::longTextsTakeNoLongerALetter_data()
     const auto row = [](const char* name, Way way) { QTest::newRow(name) << way; };
     row("committed by an input method",
         [](WritingDesk& desk, const QString& text) { desk.compose("", text); });
-    row("typed", [](WritingDesk& desk, const QString& text) { desk.type(text); });
     row("committed, and shown in another size", [](WritingDesk& desk, const QString& text) {
         desk.compose("", text);
         desk.resize(3);
