@@ -182,7 +182,7 @@ QAction* Commands::add(const Entry& entry, const QString& text, QMenu* page)
     return action;
 }
 
-// --- What is possible ----------------------------------------------------------------------------------
+// --- What is possible
 
 void Commands::follow()
 {
@@ -238,7 +238,7 @@ QAction* Commands::contextAction() const
     return m_redo->isEnabled() && !m_undo->isEnabled() ? m_redo : m_undo;
 }
 
-// --- What is done --------------------------------------------------------------------------------------
+// --- What is done
 
 void Commands::perform(Verb verb)
 {

@@ -40,7 +40,7 @@ Kind kindOf(const QByteArray& platform)
                                             : Kind::Other;
 }
 
-// --- X -------------------------------------------------------------------------------------------------
+// --- X
 
 /// Asked directly because that takes less than a millisecond. The connection stays: many a server starts
 /// anew when its last client leaves, and would turn away the program that comes right after.
@@ -82,7 +82,7 @@ Screen xScreen()
     return screen;
 }
 
-// --- Wayland -------------------------------------------------------------------------------------------
+// --- Wayland
 
 QString waylandName()
 {
@@ -121,7 +121,7 @@ bool waylandPluginIsThere()
     return false;
 }
 
-// --- Which ---------------------------------------------------------------------------------------------
+// --- Which
 
 /// Why the platform can't be used, as the end of a sentence that says what can't be done; none: it can.
 std::optional<QString> objection(const QByteArray& platform)

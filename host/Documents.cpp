@@ -119,7 +119,7 @@ void Documents::settle()
         m_journal->settle();
 }
 
-// --- Asking ---
+// --- Asking
 
 bool Documents::mayReplace(const QString& question)
 {
@@ -158,7 +158,7 @@ void Documents::tell(const WriteError& error)
                                 longTime);
 }
 
-// --- Folders ---
+// --- Folders
 
 namespace {
 
@@ -192,7 +192,7 @@ void Documents::noteFolder(const QString& fileName)
     settings.setValue(orderKey, int(UTIL_PictureDialog::order()));
 }
 
-// --- Another drawing ---
+// --- Another drawing
 
 void Documents::newDrawing()
 {
@@ -289,7 +289,7 @@ void Documents::takeBroughtBack(const QString& pictureName)
     emit changed();
 }
 
-// --- Saving ---
+// --- Saving
 
 QString Documents::whatReplacingLoses() const
 {
@@ -390,7 +390,7 @@ bool Documents::saveUnder(const QString& fileName)
     return true;
 }
 
-// --- Deleting ---
+// --- Deleting
 
 void Documents::deletePicture()
 {

@@ -16,7 +16,7 @@ namespace pad {
 
 namespace {
 
-// --- Arguments: how each kind is read from its word and written back -------------------------------------
+// --- Arguments: how each kind is read from its word and written back
 
 using Names = std::span<const char* const>;
 
@@ -152,7 +152,6 @@ constexpr Argument text{"a text", readText, writeText};
 constexpr Argument fileName{"a file name", readFileName, writeText};
 
 // --- The language
-// ------------------------------------------------------------------------------------------
 
 struct Rule
 {

@@ -94,7 +94,6 @@ void KORVA_Documents::noteSaved(const QString& name)
 }
 
 // --- Opening
-// ---------------------------------------------------------------------------------------------------
 
 void KORVA_Documents::startOpen()
 {
@@ -273,7 +272,6 @@ void KORVA_Documents::setBuffer(const QByteArray& data)
 }
 
 // --- Saving
-// ----------------------------------------------------------------------------------------------------
 
 void KORVA_Documents::nameAndSave(int action)
 {
@@ -332,7 +330,6 @@ void KORVA_Documents::saveAndTell()
 }
 
 // --- Deleting
-// --------------------------------------------------------------------------------------------------
 
 void KORVA_Documents::askAndDelete()
 {

@@ -138,7 +138,7 @@ KORVA_EditCanvas* KORVA_Journal::editor() const
     return qobject_cast<KORVA_EditCanvas*>(m_editor.data());
 }
 
-// --- Following the drawing ---
+// --- Following the drawing
 
 bool KORVA_Journal::eventFilter(QObject*, QEvent* event)
 {
@@ -251,7 +251,7 @@ bool KORVA_Journal::flush()
     return !m_hasFailed || !editor() || !editor()->hasChanges();
 }
 
-// --- What is done with it ---
+// --- What is done with it
 
 void KORVA_Journal::noteSettled()
 {
@@ -326,7 +326,7 @@ void KORVA_Journal::end()
     m_state = State::Nothing;
 }
 
-// --- What is found ---
+// --- What is found
 
 std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
 {
@@ -398,7 +398,7 @@ QString KORVA_Journal::pictureName() const
     return name.isEmpty() ? m_proposal : name;
 }
 
-// --- The folder ---
+// --- The folder
 
 QString KORVA_Journal::livingFile() const
 {

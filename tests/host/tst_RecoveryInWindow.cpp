@@ -112,7 +112,7 @@ void tst_RecoveryInWindow::cleanup()
     m_home.reset();
 }
 
-// --- After a crash ---
+// --- After a crash
 
 void tst_RecoveryInWindow::killedDrawingIsBroughtBack_data()
 {
@@ -290,7 +290,7 @@ void tst_RecoveryInWindow::replayWritesNoneAndIsOfferedNone()
     QCOMPARE(earlier(), QStringList());
 }
 
-// --- What is given up ---
+// --- What is given up
 
 namespace {
 
@@ -429,7 +429,7 @@ void tst_RecoveryInWindow::theNewestTwentyAreKept()
     QTRY_COMPARE_WITH_TIMEOUT(earlier(), all.last(KORVA_Journal::mostEarlier), patience);
 }
 
-// --- Kills ---
+// --- Kills
 
 namespace {
 

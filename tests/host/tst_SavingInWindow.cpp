@@ -141,7 +141,7 @@ void tst_SavingInWindow::cleanup()
     m_home.reset();
 }
 
-// --- Saving ---
+// --- Saving
 
 void tst_SavingInWindow::reducedPhotographIsAskedAbout_data()
 {
@@ -305,7 +305,7 @@ void tst_SavingInWindow::formatThatIsOnlyReadGetsANewFile()
     QVERIFY(support::sameImage(inRgb(path("old.png")), withStroke(support::sheet(exactSize))));
 }
 
-// --- Opening ---
+// --- Opening
 
 void tst_SavingInWindow::refusedOpenChangesNothing_data()
 {
@@ -343,7 +343,7 @@ void tst_SavingInWindow::refusedOpenChangesNothing()
     QCOMPARE(m_pad->title(), "old.png - Korva");
 }
 
-// --- Failing ---
+// --- Failing
 
 namespace {
 
@@ -438,7 +438,7 @@ void tst_SavingInWindow::nothingFollowsAFailedSave()
     QVERIFY(m_pad->process().isRunning());
 }
 
-// --- Save as ---
+// --- Save as
 
 void tst_SavingInWindow::saveAsProposesAFreeName()
 {
@@ -485,7 +485,7 @@ void tst_SavingInWindow::saveAsAsksBeforeItReplaces()
     QCOMPARE(modeOf(path("a.png")), privately);
 }
 
-// --- Deleting ---
+// --- Deleting
 
 void tst_SavingInWindow::deleteKeyRemovesTheSelection()
 {
@@ -558,7 +558,7 @@ void tst_SavingInWindow::withoutATrashItIsAskedAgain()
     QCOMPARE(files(), QStringList());
 }
 
-// --- Others ---
+// --- Others
 
 void tst_SavingInWindow::anotherProgramsChangeIsAskedAbout()
 {

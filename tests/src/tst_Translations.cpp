@@ -75,7 +75,7 @@ QStringList placeholders(const QString& text)
     return found;
 }
 
-// --- What of a window's texts cannot be seen whole ---
+// --- What of a window's texts cannot be seen whole
 
 bool isCutOff(const QLabel& label)
 {
@@ -139,7 +139,7 @@ bool holdsTexts(const QWidget& window)
     return !window.findChildren<QAbstractButton*>().isEmpty();
 }
 
-// --- The library's windows ---
+// --- The library's windows
 
 struct WindowRow
 {
