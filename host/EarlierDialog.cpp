@@ -30,12 +30,9 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override
     {
-        const bool isChosen = option.state & QStyle::State_Selected;
-        const UTIL_Skin::Look look = UTIL_Skin::look(
-            UTIL_Skin::Control::Row, isChosen ? UTIL_Skin::State::Checked : UTIL_Skin::State::Resting);
-        UTIL_Skin::paintBox(*painter, option.rect, look);
-        if (isChosen && option.state & QStyle::State_HasFocus)
-            UTIL_Skin::paintFocus(*painter, option.rect);
+        const UTIL_Skin::Look look =
+            UTIL_Skin::paintRow(*painter, option.rect, option.state & QStyle::State_Selected,
+                                option.state & QStyle::State_HasFocus);
 
         QRect picture(QPoint(), thumbnailSize);
         picture.moveCenter(option.rect.center());

@@ -317,6 +317,15 @@ void UTIL_Skin::paintChevron(QPainter& painter, const QPoint& centre, const Look
     painter.restore();
 }
 
+UTIL_Skin::Look UTIL_Skin::paintRow(QPainter& painter, const QRect& row, bool isChosen, bool hasFocus)
+{
+    const Look rowLook = look(Control::Row, isChosen ? State::Checked : State::Resting);
+    paintBox(painter, row, rowLook);
+    if (isChosen && hasFocus)
+        paintFocus(painter, row);
+    return rowLook;
+}
+
 void UTIL_Skin::paintRadio(QPainter& painter, const QRectF& box, bool marked, bool enabled)
 {
     const QColor mark = color(!enabled ? Color::QuietInk : marked ? Color::Accent : Color::Edge);

@@ -113,6 +113,9 @@ public:
     static void paintBox(QPainter& painter, const QRectF& box, const Look& look);
     /// The ring that shows the keyboard focus, inside `box`.
     static void paintFocus(QPainter& painter, const QRectF& box);
+    /// The ground of a list's row, with the ring where it is chosen and has the keyboard. How what stands
+    /// on it looks.
+    static Look paintRow(QPainter& painter, const QRect& row, bool isChosen, bool hasFocus);
     /// The round mark of a radio row, centred in `box`.
     static void paintRadio(QPainter& painter, const QRectF& box, bool marked, bool enabled);
 
