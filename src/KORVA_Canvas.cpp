@@ -82,7 +82,7 @@ void KORVA_Canvas::connectSignals(KORVA_EditCanvas* editor)
     connect(this, &KORVA_Canvas::clipboard, this, &KORVA_Canvas::slotClipBoard);
 }
 
-// --- Tools and events
+// --- The tool
 
 void KORVA_Canvas::activate(KORVA_Tool* tool)
 {
@@ -108,6 +108,8 @@ int KORVA_Canvas::getCurrentToolID() const
     return m_tool ? m_tool->id() : -1;
 }
 
+// --- The screen
+
 void KORVA_Canvas::paintEvent(QPaintEvent* event)
 {
     classic::bitBlt(this, 0, 0, m_zoomed, event->rect());
@@ -129,12 +131,6 @@ void KORVA_Canvas::refresh(const QRect& changed)
     m_repainter->add(changed & rect());
 }
 
-void KORVA_Canvas::markModified()
-{
-    m_picture->markModified();
-    emit modified();
-}
-
 // --- The picture
 
 bool KORVA_Canvas::isModified() const
@@ -145,6 +141,12 @@ bool KORVA_Canvas::isModified() const
 void KORVA_Canvas::clearModified()
 {
     m_picture->clearModified();
+}
+
+void KORVA_Canvas::markModified()
+{
+    m_picture->markModified();
+    emit modified();
 }
 
 QPixmap* KORVA_Canvas::pixmap()
