@@ -154,6 +154,10 @@ public:
     [[nodiscard]] static QStringList openPatterns();
     /// What save dialogs offer; only formats that can be written.
     [[nodiscard]] static QStringList savePatterns();
+    /// What a person calls a tool, by its identifier and in the language in force; empty for none.
+    [[nodiscard]] static QString toolName(int tool);
+    /// What a recording calls it, such as "pencil"; empty for none.
+    [[nodiscard]] static QString toolWord(int tool);
 
     // --- Documents ---
     /// Merges a floating piece, asks before 0, 1 and 4 whether changes are to be saved, saves them with

@@ -7,8 +7,10 @@
 #include "KORVA_PictureFile.h"
 #include "KORVA_PictureSave.h"
 #include "KORVA_Text.h"
+#include "KORVA_ToolTable.h"
 
-// What a host must know: whether there is anything to lose, and what a save would write.
+// What a host must know: whether there is anything to lose, what a save would write, what things are
+// called.
 
 bool KORVA_EditCanvas::isModified() const
 {
@@ -62,4 +64,16 @@ QStringList KORVA_EditCanvas::openPatterns()
 QStringList KORVA_EditCanvas::savePatterns()
 {
     return picturefile::savePatterns();
+}
+
+QString KORVA_EditCanvas::toolName(int tool)
+{
+    const KORVA_ToolTable::ToolRow* row = KORVA_ToolTable::toolRow(tool);
+    return row ? tr(row->name.text, row->name.comment) : QString();
+}
+
+QString KORVA_EditCanvas::toolWord(int tool)
+{
+    const KORVA_ToolTable::ToolRow* row = KORVA_ToolTable::toolRow(tool);
+    return row ? QString::fromLatin1(row->word) : QString();
 }

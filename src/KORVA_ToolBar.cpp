@@ -50,9 +50,11 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
     m_toolButton =
         createButton(&editor, "toolButton", layout::toolButton, KORVA_EditCanvas::tr("Tool", "tool bar"));
     auto* toolMenu = new UTIL_PopupMenu(m_toolButton);
-    int id = tables::toolMenuBase;
-    for (const tables::ToolRow& row : tables::tools)
-        addEntry(toolMenu, id++, row.icon, KORVA_EditCanvas::tr(row.name.text, row.name.comment));
+    for (int place = 0; tables::toolAt(place) >= 0; ++place) {
+        const tables::ToolRow& row = *tables::toolRow(tables::toolAt(place));
+        addEntry(toolMenu, tables::toolMenuBase + place, row.icon,
+                 KORVA_EditCanvas::tr(row.name.text, row.name.comment));
+    }
     m_toolButton->setMenu(toolMenu);
 
     m_optionButton = createButton(&editor, "optionButton", layout::optionButton,
@@ -102,12 +104,9 @@ void KORVA_ToolBar::showColor(const QColor& color)
 void KORVA_ToolBar::loadOptions(int tool)
 {
     m_optionMenu->clear();
-    int id = tables::optionMenuBase;
-    for (const tables::OptionRow& row : tables::options) {
-        if (row.tool == tool)
-            addEntry(m_optionMenu, id, row.icon, KORVA_EditCanvas::tr(row.name.text, row.name.comment));
-        ++id;
-    }
+    int id = tables::firstOptionId(tool);
+    for (const tables::OptionRow& row : tables::toolRow(tool)->options)
+        addEntry(m_optionMenu, id++, row.icon, KORVA_EditCanvas::tr(row.name.text, row.name.comment));
 }
 
 int KORVA_ToolBar::optionId(int entry) const

@@ -9,7 +9,7 @@
 
 #include <QScopedValueRollback>
 
-#include <iterator>
+#include <span>
 
 namespace tables = KORVA_ToolTable;
 
@@ -18,14 +18,13 @@ KORVA_ToolChoice::KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar)
 {
     m_bar.showTool(tables::Pencil);
     m_bar.loadOptions(tables::Pencil);
-    m_bar.showOption(tables::options[0].icon);
+    m_bar.showOption(tables::toolRow(tables::Pencil)->options.front().icon);
 }
 
 void KORVA_ToolChoice::selectEntry(int menuId)
 {
-    const int row = menuId - tables::toolMenuBase;
-    const bool known = row >= 0 && row < int(std::size(tables::tools));
-    selectTool(known ? tables::tools[row].tool : int(tables::Line));
+    const int tool = tables::toolAt(menuId - tables::toolMenuBase);
+    selectTool(tool >= 0 ? tool : int(tables::Line));
 }
 
 void KORVA_ToolChoice::selectAreaTool()
@@ -80,34 +79,27 @@ void KORVA_ToolChoice::selectOption(int menuId)
 
     // The hand is the select tool's other half. What is none of a tool's options counts as its last one.
     const int tool = m_tool == tables::Drag ? int(tables::AreaSelect) : m_tool;
-    const tables::OptionRow* chosen = nullptr;
-    for (const tables::OptionRow& row : tables::options) {
-        if (row.tool != tool)
-            continue;
-        chosen = &row;
-        if (menuId == tables::optionMenuBase + int(&row - tables::options))
-            break;
-    }
-    if (!chosen) {
-        m_bar.showOption(nullptr);
-        return;
-    }
+    const std::span<const tables::OptionRow> options = tables::toolRow(tool)->options;
+    const int entry = menuId - tables::firstOptionId(tool);
+    const int last = int(options.size()) - 1;
+    const int value = entry >= 0 && entry < last ? entry : last;
+    const tables::OptionRow& chosen = options[std::size_t(value)];
 
     const int choice = m_choices;
-    remembered(tool) = chosen->value;
+    remembered(tool) = value;
     if (tool == tables::AreaSelect) {
-        m_tool = chosen->value == 0 ? tables::AreaSelect : tables::Drag;
+        m_tool = value == 0 ? tables::AreaSelect : tables::Drag;
         if (m_tool == tables::AreaSelect) {
-            manager->setPenWidth(chosen->penWidth);
+            manager->setPenWidth(chosen.penWidth);
             manager->setLMBColor(Qt::black);
             manager->setBrush(Qt::NoBrush);
         }
         manager->setCurrentTool(m_tool);
     } else {
-        manager->setPenWidth(chosen->penWidth);
+        manager->setPenWidth(chosen.penWidth);
     }
     if (tool == tables::Rectangle || tool == tables::Ellipse)
-        manager->setBrush(chosen->value == 0 ? Qt::NoBrush : Qt::SolidPattern);
+        manager->setBrush(value == 0 ? Qt::NoBrush : Qt::SolidPattern);
     if (tool == tables::Eraser)
         manager->setLMBColor(Qt::white);
     if (KORVA_Text* text = m_editor.currentText();
@@ -117,7 +109,7 @@ void KORVA_ToolChoice::selectOption(int menuId)
     }
     updateRubberCursor();
     if (choice == m_choices)
-        m_bar.showOption(chosen->icon);
+        m_bar.showOption(chosen.icon);
 }
 
 void KORVA_ToolChoice::updateRubberCursor()
