@@ -4,7 +4,6 @@
 #include "EditCommand.h"
 #include "PictureFile.h"
 #include "Platform.h"
-#include "Settings.h"
 
 #include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_EditCanvas.h>
@@ -15,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QSettings>
 
 #include <cerrno>
 
@@ -158,40 +156,6 @@ void Documents::tell(const WriteError& error)
                                 longTime);
 }
 
-// --- Folders
-
-namespace {
-
-const QString folderKey = QStringLiteral("folders/last");
-const QString orderKey = QStringLiteral("folders/order");
-
-} // namespace
-
-void Documents::rememberFolders()
-{
-    m_remembersFolders = true;
-    const QSettings settings(settingsFile(), QSettings::IniFormat);
-    m_folder = settings.value(folderKey).toString();
-    const int order = settings.value(orderKey).toInt();
-    UTIL_PictureDialog::setOrder(order == UTIL_PictureDialog::NewestFirst ? UTIL_PictureDialog::NewestFirst
-                                                                          : UTIL_PictureDialog::ByName);
-}
-
-QString Documents::folder() const
-{
-    return !m_folder.isEmpty() && QFileInfo(m_folder).isDir() ? m_folder : m_platform.photoFolder();
-}
-
-void Documents::noteFolder(const QString& fileName)
-{
-    m_folder = QFileInfo(fileName).absolutePath();
-    if (!m_remembersFolders)
-        return;
-    QSettings settings(settingsFile(), QSettings::IniFormat);
-    settings.setValue(folderKey, m_folder);
-    settings.setValue(orderKey, int(UTIL_PictureDialog::order()));
-}
-
 // --- Another drawing
 
 void Documents::newDrawing()
@@ -224,7 +188,7 @@ void Documents::open()
 QString Documents::pick(const std::optional<Purpose>& purpose)
 {
     const QPointer<UTIL_PictureDialog> dialog =
-        m_platform.createPickDialog(m_window, folder(), KORVA_EditCanvas::openPatterns());
+        m_platform.createPickDialog(m_window, m_folder.path(m_platform), KORVA_EditCanvas::openPatterns());
     if (purpose)
         dialog->setPurpose(purpose->title, purpose->verb);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
@@ -233,7 +197,7 @@ QString Documents::pick(const std::optional<Purpose>& purpose)
     const QString name = isAccepted ? dialog->fileName() : QString();
     delete dialog;
     if (!name.isEmpty())
-        noteFolder(name);
+        m_folder.note(name);
     return name;
 }
 
@@ -348,7 +312,7 @@ bool Documents::saveAs()
 {
     const QFileInfo named(name());
     const bool isPlaced = !name().isEmpty() && QFileInfo(named.path()).isWritable();
-    const QDir place(isPlaced ? named.path() : folder());
+    const QDir place(isPlaced ? named.path() : m_folder.path(m_platform));
     const QPointer<UTIL_PictureDialog> dialog =
         m_platform.createSaveDialog(m_window, place.path(), KORVA_EditCanvas::savePatterns());
     dialog->setTakesAnyName(true);
@@ -361,7 +325,7 @@ bool Documents::saveAs()
     delete dialog;
     if (chosen.isEmpty())
         return false;
-    noteFolder(chosen);
+    m_folder.note(chosen);
     return saveUnder(chosen);
 }
 

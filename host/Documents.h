@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LastFolder.h"
 #include "PictureFile.h"
 #include "Recording.h"
 
@@ -32,7 +33,7 @@ public:
     void setJournal(KORVA_Journal* journal) { m_journal = journal; }
 
     /// Keeps the folder and the order of the folder dialogs in the settings, for the next start.
-    void rememberFolders();
+    void rememberFolders() { m_folder.remember(); }
 
     void newDrawing();
     /// Lets the person pick.
@@ -92,9 +93,6 @@ private:
 
     /// A picture file that the person picks; empty for none.
     [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
-    /// Where folder dialogs begin: where the last one ended.
-    [[nodiscard]] QString folder() const;
-    void noteFolder(const QString& fileName);
     bool openFile(const QString& fileName);
     [[nodiscard]] QString whatReplacingLoses() const;
     bool askAndSave(const QString& loss);
@@ -109,8 +107,7 @@ private:
     QWidget* m_window;
     Writer m_write = writeFile;
     KORVA_Journal* m_journal = nullptr;
-    QString m_folder; ///< empty: the user's pictures
-    bool m_remembersFolders = false;
+    LastFolder m_folder;
     QString m_proposal;        ///< of a drawing without a name
     bool m_mayReplace = false; ///< the person has agreed to lose what opening took away
     Version m_version;

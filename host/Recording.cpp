@@ -3,6 +3,7 @@
 #include "KeyName.h"
 #include "RecordingLine.h"
 
+#include <KORVA_EditCanvas.h>
 #include <UTIL_Platform.h>
 
 #include <QFile>
@@ -82,6 +83,20 @@ QString writeName(const Command& command)
     return QLatin1String(names[std::size_t(command.number)]);
 }
 
+bool readTool(const QString& word, Command& command)
+{
+    for (command.number = 0; !KORVA_EditCanvas::toolWord(command.number).isEmpty(); ++command.number) {
+        if (KORVA_EditCanvas::toolWord(command.number) == word)
+            return true;
+    }
+    return false;
+}
+
+QString writeTool(const Command& command)
+{
+    return KORVA_EditCanvas::toolWord(command.number);
+}
+
 bool readButton(const QString& word, Command& command)
 {
     command.button = Qt::RightButton;
@@ -143,7 +158,7 @@ constexpr Argument height{"H", readSide<&QSize::setHeight>,
                           [](const Command& c) { return QString::number(c.size.height()); }};
 constexpr Argument button{"'right'", readButton, writeButton, true};
 constexpr Argument number{"a number", readNumber, writeNumber};
-constexpr Argument tool{"a tool", readName<toolNames>, writeName<toolNames>};
+constexpr Argument tool{"a tool", readTool, writeTool};
 constexpr Argument zoom{"a zoom", readName<zoomNames>, writeName<zoomNames>};
 constexpr Argument canvasType{"a canvas type", readName<canvasNames>, writeName<canvasNames>};
 constexpr Argument color{"a colour #rrggbb", readColor, [](const Command& c) { return c.color.name(); }};

@@ -56,8 +56,6 @@ struct Command
 };
 
 /// The words of the language, by the numbers they stand for.
-inline constexpr const char* toolNames[] = {"pencil",    "select",  "line",   "text",
-                                            "rectangle", "ellipse", "eraser", "hand"};
 inline constexpr const char* zoomNames[] = {"50", "100", "150", "200", "fit"};
 inline constexpr const char* canvasNames[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
 

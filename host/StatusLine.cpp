@@ -15,22 +15,6 @@ namespace pad {
 
 namespace {
 
-constexpr struct
-{
-    const char* text;
-    const char* comment;
-} toolLabels[] = {
-    // By identifier.
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Pencil", "tool"),
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Select", "tool"),
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Line", "tool"),
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Text", "tool"),
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Rectangle", "tool"),
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Ellipse", "tool"),
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Eraser", "tool"),
-    QT_TRANSLATE_NOOP3("pad::StatusLine", "Hand", "tool"),
-};
-
 constexpr int pace = 200; // ms
 constexpr int margin = 8;
 constexpr int spacing = 4;
@@ -99,8 +83,7 @@ void StatusLine::refresh()
     const KORVA_Zoom zoom(m_editor.canvas()->zoom());
     const QSize size = pictureSize();
     const QPoint at = zoom.toPicture(m_pointer);
-    const auto& tool = toolLabels[m_editor.canvas()->getCurrentToolID()];
-    m_tool->setText(tr(tool.text, tool.comment));
+    m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
     m_size->setText(tr("%1 × %2", "picture size").arg(size.width()).arg(size.height()));
     m_zoom->setText(tr("%1 %", "zoom").arg(zoom.percent()));
     m_position->setText(m_isOver ? tr("%1, %2", "position").arg(at.x()).arg(at.y()) : QString());

@@ -5,21 +5,15 @@
 #include "KORVA_EditCanvas.h"
 #include "KORVA_Limit.h"
 #include "KORVA_PasteLabel.h"
+#include "KORVA_Picture.h"
 #include "KORVA_PictureSave.h"
-#include "KORVA_Pixel.h"
 #include "KORVA_Repainter.h"
 #include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
 #include "UTIL_ImageReader.h"
 #include "UTIL_Platform.h"
-#include "UTIL_PopupMenu.h"
 
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QGuiApplication>
-#include <QKeyEvent>
-#include <QMenu>
-#include <QMouseEvent>
+#include <QPaintEvent>
 
 #include <utility>
 
@@ -33,13 +27,15 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, int width, int height, QWid
 
 KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QString& fileName, QWidget* parent,
                            const char* name)
-    : KORVA_Canvas(editor, classic::opaque(UTIL_ImageReader::pixmap(fileName)), true, parent, name)
+    : KORVA_Canvas(editor, UTIL_ImageReader::pixmap(fileName), true, parent, name)
 {
 }
 
 KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize,
                            QWidget* parent, const char* name)
-    : QWidget(parent), m_picture(picture), m_repainter(std::make_unique<KORVA_Repainter>(this))
+    : QWidget(parent),
+      m_picture(std::make_unique<KORVA_Picture>(picture)),
+      m_repainter(std::make_unique<KORVA_Repainter>(this))
 {
     setObjectName(name);
     UTIL_Platform::instance()->setMouseMode(this, 1);
@@ -48,7 +44,7 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
     setPalette(colors);
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (takeItsSize)
-        resize(m_picture.size());
+        resize(pictureSize());
 
     m_pasteLabel = new KORVA_PasteLabel(this);
     connect(m_pasteLabel, &KORVA_PasteLabel::signalCut, this, &KORVA_Canvas::slotCut);
@@ -71,19 +67,6 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
 
 KORVA_Canvas::~KORVA_Canvas() = default;
 
-void KORVA_Canvas::createMenu()
-{
-    m_menu = new UTIL_PopupMenu(this);
-    m_cutAction = m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_Canvas::slotCut);
-    m_copyAction = m_menu->addAction(tr("Copy", "2.11.1;MENU"), this, &KORVA_Canvas::slotCopy);
-    m_pasteAction = m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_Canvas::slotPaste);
-    m_cutAction->setData(0);
-    m_copyAction->setData(1);
-    m_pasteAction->setData(2);
-    slotSelection(false);
-    slotClipBoard(false);
-}
-
 void KORVA_Canvas::connectSignals(KORVA_EditCanvas* editor)
 {
     if (editor) {
@@ -99,8 +82,7 @@ void KORVA_Canvas::connectSignals(KORVA_EditCanvas* editor)
     connect(this, &KORVA_Canvas::clipboard, this, &KORVA_Canvas::slotClipBoard);
 }
 
-// --- Tools and events
-// ------------------------------------------------------------------------------------------
+// --- The tool
 
 void KORVA_Canvas::activate(KORVA_Tool* tool)
 {
@@ -126,112 +108,7 @@ int KORVA_Canvas::getCurrentToolID() const
     return m_tool ? m_tool->id() : -1;
 }
 
-namespace {
-
-QMouseEvent movedTo(const QPointF& position, const QMouseEvent& event)
-{
-    return {event.type(),   position,        event.scenePosition(), event.globalPosition(),
-            event.button(), event.buttons(), event.modifiers(),     event.pointingDevice()};
-}
-
-} // namespace
-
-template <typename Handler, typename LabelHandler>
-void KORVA_Canvas::handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel)
-{
-    const QPointF pointer = pixel::pointer(*event, *this);
-    if (ptInPasteLabel(pixel::at(pointer))) {
-        QMouseEvent local = movedTo(pointer - m_pasteLabel->pos(), *event);
-        (m_pasteLabel->*toLabel)(&local);
-        return;
-    }
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
-        mergePastePixmap();
-    if (m_tool) {
-        QMouseEvent exact = movedTo(pointer, *event);
-        exact.setTimestamp(event->timestamp());
-        (m_tool.data()->*toTool)(&exact);
-        event->setAccepted(exact.isAccepted());
-    }
-}
-
-void KORVA_Canvas::mousePressEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::RightButton) {
-        m_menu->popup(mapToGlobal(pixel::under(*event, *this)), m_menu->actions().value(0));
-    } else if (event->button() == Qt::LeftButton) {
-        handOn(event, &KORVA_Tool::mousePressEvent, &KORVA_PasteLabel::mousePressEvent);
-    }
-}
-
-void KORVA_Canvas::mouseMoveEvent(QMouseEvent* event)
-{
-    handOn(event, &KORVA_Tool::mouseMoveEvent, &KORVA_PasteLabel::mouseMoveEvent);
-}
-
-void KORVA_Canvas::mouseReleaseEvent(QMouseEvent* event)
-{
-    handOn(event, &KORVA_Tool::mouseReleaseEvent, &KORVA_PasteLabel::mouseReleaseEvent);
-}
-
-void KORVA_Canvas::keyPressEvent(QKeyEvent* event)
-{
-    if (m_tool)
-        m_tool->keyPressEvent(event);
-    else
-        event->ignore();
-}
-
-void KORVA_Canvas::keyReleaseEvent(QKeyEvent* event)
-{
-    if (m_tool)
-        m_tool->keyReleaseEvent(event);
-    else
-        event->ignore();
-}
-
-bool KORVA_Canvas::event(QEvent* event)
-{
-    // Shortcuts of the host wait while a text is typed; what is no text is still theirs.
-    if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText() &&
-        KORVA_Text::isTyping(*static_cast<QKeyEvent*>(event))) {
-        event->accept();
-        return true;
-    }
-    return QWidget::event(event);
-}
-
-bool KORVA_Canvas::focusNextPrevChild(bool next)
-{
-    return !(m_tool && m_tool->takesText()) && QWidget::focusNextPrevChild(next);
-}
-
-void KORVA_Canvas::inputMethodEvent(QInputMethodEvent* event)
-{
-    if (m_tool)
-        m_tool->inputMethodEvent(event);
-    else
-        event->ignore();
-}
-
-QVariant KORVA_Canvas::inputMethodQuery(Qt::InputMethodQuery query) const
-{
-    if (query == Qt::ImEnabled)
-        return m_tool && m_tool->takesText();
-    const QVariant answer = m_tool ? m_tool->inputMethodQuery(query) : QVariant();
-    return answer.isValid() ? answer : QWidget::inputMethodQuery(query);
-}
-
-void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
-{
-    // The right button has opened its menu on the press; what is left is the menu key.
-    if (event->reason() != QContextMenuEvent::Keyboard)
-        return;
-    if (isFloating())
-        m_pasteLabel->menu()->popup(m_pasteLabel->mapToGlobal(m_pasteLabel->rect().center()));
-    else
-        m_menu->popup(mapToGlobal(visibleRegion().boundingRect().center()));
-}
+// --- The screen
 
 void KORVA_Canvas::paintEvent(QPaintEvent* event)
 {
@@ -254,36 +131,41 @@ void KORVA_Canvas::refresh(const QRect& changed)
     m_repainter->add(changed & rect());
 }
 
-void KORVA_Canvas::markModified()
+// --- The picture
+
+bool KORVA_Canvas::isModified() const
 {
-    m_modified = true;
-    emit modified();
+    return m_picture->isModified();
 }
 
-// --- The picture
-// -----------------------------------------------------------------------------------------------
+void KORVA_Canvas::clearModified()
+{
+    m_picture->clearModified();
+}
+
+void KORVA_Canvas::markModified()
+{
+    m_picture->markModified();
+    emit modified();
+}
 
 QPixmap* KORVA_Canvas::pixmap()
 {
     mergePastePixmap();
-    keepOpaque();
-    return &m_picture;
+    return m_picture->pixmap();
+}
+
+QSize KORVA_Canvas::pictureSize() const
+{
+    return m_picture->size();
 }
 
 QPixmap KORVA_Canvas::snapshot() const
 {
-    QPixmap picture = classic::opaque(m_picture);
-    if (isFloating())
-        paintPiece(&picture);
+    QPixmap picture = withPiece();
     if (m_tool)
         m_tool->paintPending(&picture);
     return picture;
-}
-
-// What was painted on it from outside may have left it otherwise.
-void KORVA_Canvas::keepOpaque()
-{
-    m_picture = classic::opaque(m_picture);
 }
 
 void KORVA_Canvas::setPixmap(QPixmap* picture)
@@ -291,14 +173,14 @@ void KORVA_Canvas::setPixmap(QPixmap* picture)
     if (!picture)
         return;
     m_pasteLabel->hide();
-    m_picture = classic::opaque(*picture);
-    emit pixmapChanged(&m_picture);
+    m_picture->take(*picture);
+    emit pixmapChanged(m_picture->pixmap());
     showAnew();
 }
 
 int KORVA_Canvas::getDepth() const
 {
-    return m_picture.depth();
+    return m_picture->depth();
 }
 
 void KORVA_Canvas::setDepth(int d)
@@ -307,7 +189,7 @@ void KORVA_Canvas::setDepth(int d)
     if (d == getDepth())
         return;
     saveOldPix();
-    QPixmap unchanged = m_picture; // the toolkit keeps every picture at its own depth
+    QPixmap unchanged = *m_picture->pixmap(); // the toolkit keeps every picture at its own depth
     setPixmap(&unchanged);
     markModified();
 }
@@ -315,7 +197,7 @@ void KORVA_Canvas::setDepth(int d)
 void KORVA_Canvas::clearCanvas(const QColor& color)
 {
     saveOldPix();
-    m_picture.fill(color);
+    m_picture->fill(color);
     paintZoomed();
     markModified();
     refresh();
@@ -326,20 +208,11 @@ void KORVA_Canvas::clearCanvas(const QColor& color)
 
 void KORVA_Canvas::resizeImage(int w, int h)
 {
-    if (QSize(w, h) != m_picture.size()) {
+    if (QSize(w, h) != pictureSize()) {
         saveOldPix();
-        QPixmap resized = classic::filled(QSize(w, h), Qt::white);
-        if (!m_picture.isNull()) {
-            const float horizontal = static_cast<float>(w) / static_cast<float>(m_picture.width());
-            const float vertical = static_cast<float>(h) / static_cast<float>(m_picture.height());
-            KORVA_ClassicPainter painter(&resized);
-            painter.setWorldMatrix(
-                QTransform::fromScale(static_cast<double>(horizontal), static_cast<double>(vertical)));
-            painter.drawPixmap(0, 0, m_picture);
-        }
-        m_picture = std::move(resized);
+        m_picture->scale(QSize(w, h));
         setZoom(zoom());
-        emit pixmapChanged(&m_picture);
+        emit pixmapChanged(m_picture->pixmap());
         markModified();
     }
     refresh();
@@ -360,11 +233,15 @@ bool KORVA_Canvas::load(const QString& fileName, const char* format)
 bool KORVA_Canvas::save(const QString& fileName, const char* format)
 {
     mergePastePixmap();
-    return picturesave::write(pixmap()->toImage(), fileName, format);
+    return picturesave::write(m_picture->image(), fileName, format);
 }
 
 // --- Undo
-// ------------------------------------------------------------------------------------------------------
+
+void KORVA_Canvas::saveOldPix()
+{
+    m_picture->takeSnapshot();
+}
 
 void KORVA_Canvas::record()
 {
@@ -375,7 +252,7 @@ void KORVA_Canvas::record()
 
 void KORVA_Canvas::undo()
 {
-    exchangeWithSnapshot();
+    step(&KORVA_Picture::undo);
     m_undoFlag = 2;
     emit canUndo(false);
     emit canRedo(true);
@@ -383,20 +260,19 @@ void KORVA_Canvas::undo()
 
 void KORVA_Canvas::redo()
 {
-    exchangeWithSnapshot();
-    m_undoFlag = 1;
-    emit canUndo(true);
-    emit canRedo(false);
+    step(&KORVA_Picture::redo);
+    record();
 }
 
-void KORVA_Canvas::exchangeWithSnapshot()
+void KORVA_Canvas::step(void (KORVA_Picture::*direction)())
 {
     mergePastePixmap();
     m_pasteLabel->hide();
     if (m_tool && m_tool->getTextKey())
         return;
-    m_picture.swap(m_previous);
-    if (m_picture.size() == m_previous.size()) {
+    const QSize before = pictureSize();
+    (m_picture.get()->*direction)();
+    if (pictureSize() == before) {
         updateZoomed();
     } else { // back over a resize: the screen follows
         showAnew();
@@ -421,7 +297,6 @@ void KORVA_Canvas::setUndoFlag(int flag)
 }
 
 // --- Zoom
-// ------------------------------------------------------------------------------------------------------
 
 void KORVA_Canvas::setZoom(int percent)
 {
@@ -429,7 +304,7 @@ void KORVA_Canvas::setZoom(int percent)
         return;
     mergePastePixmap();
     m_zoom = KORVA_Zoom(percent);
-    keepZoomWithinLimit(m_picture.size());
+    keepZoomWithinLimit(pictureSize());
     m_pasteLabel->setZoom(zoom(), zoom());
     showAnew();
 }
@@ -459,27 +334,22 @@ void KORVA_Canvas::updateZoomed()
 
 void KORVA_Canvas::rebuildZoomed()
 {
-    keepZoomWithinLimit(m_picture.size());
+    keepZoomWithinLimit(pictureSize());
     m_zoomed = QPixmap(); // the new one may take its place in memory
-    m_zoomed = QPixmap(m_zoom.zoomed(m_picture.size()));
+    m_zoomed = QPixmap(m_zoom.zoomed(pictureSize()));
     paintZoomed();
 }
 
 void KORVA_Canvas::paintZoomed()
 {
-    keepOpaque();
+    const QPixmap& picture = *m_picture->pixmap();
     if (zoom() == 100) {
-        m_zoomed = m_picture; // one picture in memory until either is painted on
-    } else {                  // the picture covers it and is opaque
+        m_zoomed = picture; // one picture in memory until either is painted on
+    } else {                // the picture covers it and is opaque
         KORVA_ClassicPainter painter(&m_zoomed);
         painter.setWorldMatrix(m_zoom.toWidgetMatrix());
-        painter.drawPixmap(0, 0, m_picture);
+        painter.drawPixmap(0, 0, picture);
     }
-    tellZoomedRebuilt();
-}
-
-void KORVA_Canvas::tellZoomedRebuilt()
-{
     if (m_tool)
         m_tool->zoomedRebuilt();
 }
@@ -503,184 +373,4 @@ void KORVA_Canvas::updateZoomedClipboard()
     KORVA_ClassicPainter painter(&m_clipboard);
     painter.setWorldMatrix(m_zoom.toWidgetMatrix());
     painter.drawPixmap(0, 0, unscaled);
-}
-
-// --- Selection and clipboard
-// -----------------------------------------------------------------------------------
-
-void KORVA_Canvas::setSelection(const QRect& rect)
-{
-    constexpr int margin = 2; // at 150 and 200 % the piece takes a little more along than was marked
-    const QRect marked = classic::normalized(rect) & this->rect();
-    if (marked.isEmpty())
-        return;
-    m_selection = marked;
-    m_hasSelection = true;
-
-    QRect lifted = m_zoom.toPicture(m_selection);
-    if (zoom() == 150 || zoom() == 200)
-        lifted.setSize(lifted.size() + QSize(margin, margin));
-    QPixmap piece = classic::filled(lifted.size(), Qt::white);
-    classic::bitBlt(&piece, -lifted.left(), -lifted.top(), m_picture);
-
-    fillSelection();
-    floatPiece(m_selection.topLeft(), piece, Lifted);
-    updateZoomed();
-    emit selection(true);
-}
-
-void KORVA_Canvas::fillSelection()
-{
-    KORVA_ClassicPainter painter(pixmap());
-    painter.setWorldMatrix(m_zoom.toPictureMatrix());
-    painter.fillRect(m_selection, Qt::white);
-}
-
-void KORVA_Canvas::clearSelection()
-{
-    m_hasSelection = false;
-    m_selection = QRect();
-    emit selection(false);
-}
-
-void KORVA_Canvas::copy()
-{
-    QGuiApplication::clipboard()->setPixmap(m_pasteLabel->getImage());
-    emit clipboard(true);
-}
-
-void KORVA_Canvas::cut()
-{
-    saveOldPix();
-    copy();
-    QGuiApplication::clipboard()->setPixmap(
-        m_pasteLabel->getImage()); // kept: a cut has always announced itself twice
-    m_pasteLabel->hide();
-    if (m_origin == Lifted)
-        fillSelection();
-    clearSelection();
-    markModified();
-    updateZoomed();
-    emit clipboard(true);
-}
-
-void KORVA_Canvas::deleteSelection()
-{
-    if (!isFloating())
-        return;
-    saveOldPix();
-    paintPiece(&m_previous);
-    m_pasteLabel->hide();
-    clearSelection();
-    markModified();
-    updateZoomed();
-}
-
-void KORVA_Canvas::paste()
-{
-    saveOldPix();
-    if (isFloating()) {
-        mergePastePixmap();
-        markModified();
-        updateZoomed();
-    }
-    const QPixmap piece = QGuiApplication::clipboard()->pixmap();
-    if (piece.width() != 0)
-        floatAtOrigin(piece);
-}
-
-void KORVA_Canvas::paste(int x, int y)
-{
-    QPixmap piece = QGuiApplication::clipboard()->pixmap();
-    if (piece.width() == 0)
-        return;
-    piece.setDevicePixelRatio(1);
-    saveOldPix();
-    classic::bitBlt(&m_picture, x, y, piece);
-    markModified();
-    updateZoomed();
-}
-
-void KORVA_Canvas::insertStamp(QPixmap& stamp)
-{
-    mergePastePixmap();
-    floatAtOrigin(stamp);
-}
-
-void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
-{
-    keepZoomWithinLimit(piece.size());
-    if (m_hasFallenBack)
-        showAnew();
-    floatPiece(QPoint(0, 0), piece, Pasted);
-    if (KORVA_ScrollView* view = scrollView())
-        view->setContentsPos(0, 0);
-    markModified();
-    updateZoomed();
-}
-
-void KORVA_Canvas::floatPiece(const QPoint& at, const QPixmap& piece, Origin origin)
-{
-    m_origin = origin;
-    m_pasteLabel->setImage(piece);
-    m_pasteLabel->move(at);
-    m_pasteLabel->show();
-}
-
-bool KORVA_Canvas::isFloating() const
-{
-    return !m_pasteLabel->isHidden();
-}
-
-void KORVA_Canvas::mergePastePixmap()
-{
-    if (!isFloating())
-        return;
-    m_pasteLabel->hide();
-    paintPiece(&m_picture);
-    saveOldPix();
-    markModified();
-    updateZoomed();
-    emit selection(false);
-}
-
-void KORVA_Canvas::paintPiece(QPixmap* picture) const
-{
-    const QPoint place = m_zoom.toPicture(m_pasteLabel->pos());
-    classic::bitBlt(picture, place.x(), place.y(), m_pasteLabel->getImage());
-}
-
-bool KORVA_Canvas::ptInPasteLabel(const QPoint& p) const
-{
-    return isFloating() && m_pasteLabel->geometry().contains(p);
-}
-
-void KORVA_Canvas::slotCut()
-{
-    cut();
-}
-
-void KORVA_Canvas::slotCopy()
-{
-    copy();
-}
-
-void KORVA_Canvas::slotPaste()
-{
-    paste();
-}
-
-void KORVA_Canvas::slotSelection(bool exists)
-{
-    for (QAction* action : {m_cutAction.data(), m_copyAction.data()}) {
-        if (action)
-            action->setEnabled(exists);
-    }
-}
-
-void KORVA_Canvas::slotClipBoard(bool filled)
-{
-    if (m_pasteAction)
-        m_pasteAction->setEnabled(filled);
-    m_pasteLabel->setPasteItem(filled);
 }

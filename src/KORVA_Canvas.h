@@ -11,17 +11,18 @@
 
 class KORVA_EditCanvas;
 class KORVA_PasteLabel;
+class KORVA_Picture;
 class KORVA_Repainter;
 class KORVA_ScrollView;
 class KORVA_Tool;
 class QAction;
 class QMenu;
 
-/// The picture being edited and the widget that shows it.
+/// The widget that shows the drawing being edited.
 ///
-/// It owns the picture at real size, its zoomed copy, which is what is on screen, one undo snapshot and the
-/// floating piece, and hands stylus and key events to the one active tool. "Widget coordinates" are pixels
-/// of the zoomed picture, "picture coordinates" of the real one.
+/// It owns the drawing, which is a picture at real size with one undo snapshot, its zoomed copy, which is
+/// what is on screen, and the floating piece, and hands stylus and key events to the one active tool.
+/// "Widget coordinates" are pixels of the zoomed picture, "picture coordinates" of the real one.
 ///
 /// Every operation that changes the picture takes the snapshot before and calls markModified() after, which
 /// makes undo possible; what does otherwise says so. undo(), redo() and a picture taken in leave the
@@ -49,9 +50,9 @@ public:
     static int inst;
 
     /// Whether markModified() came after the last clearModified().
-    [[nodiscard]] bool isModified() const { return m_modified; }
+    [[nodiscard]] bool isModified() const;
     /// For who has saved the picture. Undo is still possible; no signal.
-    void clearModified() { m_modified = false; }
+    void clearModified();
 
     /// The canvas's half of a tool change, made by KORVA_Manager; the tool's own activate() comes before.
     /// The tool is not owned. Aborts when a tool is active.
@@ -78,7 +79,7 @@ public:
     /// the zoom or the picture's size.
     QPixmap* zoomedPixmap() { return &m_zoomed; }
     /// The size of the picture, in picture pixels.
-    [[nodiscard]] QSize pictureSize() const { return m_picture.size(); }
+    [[nodiscard]] QSize pictureSize() const;
     /// Copies a picture in; transparent pixels come out white. A floating piece is dropped. Not a
     /// modification, and no snapshot is taken. Emits pixmapChanged(), then sizeChanged() where the size on
     /// screen is another. Null is ignored.
@@ -106,7 +107,7 @@ public:
 
     /// Takes the undo snapshot: what undo() brings back, in place of the one before. Undo becomes possible
     /// with markModified().
-    void saveOldPix() { m_previous = m_picture; }
+    void saveOldPix();
     /// Tells the host what to offer: 0 neither undo nor redo, 1 redo, 2 undo, the other way round than
     /// undoFlag(). Emits canRedo(), then canUndo(); other numbers are kept and emit nothing.
     void setUndoFlag(int flag);
@@ -259,15 +260,13 @@ private:
     void handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel);
     void connectSignals(KORVA_EditCanvas* editor);
 
-    void keepOpaque();
     void paintZoomed();
     void rebuildZoomed();
-    void tellZoomedRebuilt();
     void fitToZoomed();
     void showAnew();
     void keepZoomWithinLimit(QSize enlarged);
-    void exchangeWithSnapshot();
-    void fillSelection();
+    void step(void (KORVA_Picture::*direction)());
+    void eraseSelection();
     /// Where a floating piece comes from.
     enum Origin {
         Pasted, ///< from outside: the picture below it is whole
@@ -275,17 +274,16 @@ private:
     };
     void floatPiece(const QPoint& at, const QPixmap& piece, Origin origin);
     void floatAtOrigin(const QPixmap& piece);
-    void paintPiece(QPixmap* picture) const;
+    [[nodiscard]] QPoint piecePlace() const;
+    [[nodiscard]] QPixmap withPiece() const;
     [[nodiscard]] bool isFloating() const;
 
     KORVA_Zoom m_zoom;
     QPointer<KORVA_Tool> m_tool;
+    std::unique_ptr<KORVA_Picture> m_picture;
     QPixmap m_zoomed;
-    QPixmap m_picture;
-    QPixmap m_previous;
-    int m_undoFlag = 0;
+    int m_undoFlag = 0; ///< what the host was last told to offer
     QPixmap m_clipboard;
-    bool m_modified = false;
     bool m_hasFallenBack = false; ///< and nobody has been told yet
     bool m_toolActive = false;
     QRect m_selection;

@@ -13,9 +13,9 @@ class KORVA_Documents;
 class KORVA_MainView;
 class KORVA_Manager;
 class KORVA_Text;
-class QComboBox;
-class QMenu;
-class QPushButton;
+class KORVA_ToolBar;
+class KORVA_ToolChoice;
+class KORVA_ZoomChoice;
 
 /// The one widget that a host embeds to have a picture edited: tool, option, zoom and colour controls above
 /// the canvas, 240 × 225 pixels; what it is given beyond that goes to the canvas's view. The host wires its
@@ -154,6 +154,10 @@ public:
     [[nodiscard]] static QStringList openPatterns();
     /// What save dialogs offer; only formats that can be written.
     [[nodiscard]] static QStringList savePatterns();
+    /// What a person calls a tool, by its identifier and in the language in force; empty for none.
+    [[nodiscard]] static QString toolName(int tool);
+    /// What a recording calls it, such as "pencil"; empty for none.
+    [[nodiscard]] static QString toolWord(int tool);
 
     // --- Documents ---
     /// Merges a floating piece, asks before 0, 1 and 4 whether changes are to be saved, saves them with
@@ -260,39 +264,14 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    struct Remembered
-    {
-        int selectionMode = 0; ///< 0 rectangle, 1 hand
-        int size = 0;          ///< 0 small, 1 medium, 2 large
-        int fill = 0;          ///< 0 outline, 1 filled
-    };
-
-    void createControls();
-    void connectControls();
-    void selectTool(int tool);
-    [[nodiscard]] int& remembered(int tool);
-    [[nodiscard]] int zoomRate(int index);
-    [[nodiscard]] int fittingRate();
-    [[nodiscard]] int zoomRow() const;
-    void fitAgain();
-    void updateRubberCursor();
-
-    QComboBox* m_zoomBox;
-    QPushButton* m_toolButton;
-    QPushButton* m_optionButton;
-    QMenu* m_toolMenu;
-    QMenu* m_optionMenu;
-    QPushButton* m_colorButton;
+    std::unique_ptr<KORVA_ToolBar> m_toolBar;
+    std::unique_ptr<KORVA_ToolChoice> m_toolChoice;
+    std::unique_ptr<KORVA_ZoomChoice> m_zoomChoice;
     KORVA_MainView* m_mainView;
     std::unique_ptr<KORVA_Manager> m_manager;
     QWidget* m_ownerWindow;
-    int m_fittedRate = 0; ///< in percent, by "Fit to page"; 0 after another choice
-    int m_choices = 0;    ///< of a tool, counted
-    bool m_isChangingPen = false;
-    int m_tool = 0; ///< the identifier in the manager; 7 while select is in hand mode
     QColor m_color{255, 0, 0};
     size_t m_saved = 0; ///< a hash of the drawing that counts as saved
     KORVA_COLORTYPE m_colorType;
-    Remembered m_remembered;
     std::unique_ptr<KORVA_Documents> m_documents;
 };

@@ -3,108 +3,31 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_EditCanvas.h"
+#include "KORVA_JournalFolder.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Text.h"
 #include "UTIL_FileLock.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFileInfo>
-#include <QImageReader>
-#include <QImageWriter>
+#include <QFile>
 #include <QMouseEvent>
-#include <QRandomGenerator>
-#include <QSaveFile>
 
-#include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <utility>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 
 constexpr int shortestPause = 1000; // milliseconds
 constexpr int stillness = 700;      // after the last change nobody is drawing any more
 constexpr int longestPause = 10000;
-constexpr int leftoverAge = 60;  // seconds; no write takes as long
 constexpr int pausePerWork = 10; // a great drawing or a slow disk shall not keep the program busy
-
-const QString livingPrefix = QStringLiteral("living-");
-const QString earlierPrefix = QStringLiteral("earlier-");
-const QString pictureSuffix = QStringLiteral(".png");
-const QString nameKey = QStringLiteral("PictureName");
-
-/// How small a file is made.
-enum class Size : int { Quick = 100, Small = -1 };
-
-/// Sorts by time, within a moment by the order in which it was asked for, and is no other program's.
-QString newId()
-{
-    static int count = 0;
-    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss-zzz-")) +
-           QStringLiteral("%1-%2")
-               .arg(++count, 6, 10, QLatin1Char('0'))
-               .arg(QRandomGenerator::global()->generate(), 0, 16);
-}
-
-QString systemError()
-{
-    return QString::fromLocal8Bit(std::strerror(errno));
-}
-
-void flushFolder(const QString& folder)
-{
-    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    fsync(handle);
-    close(handle);
-}
-
-/// Writes the whole picture or nothing, onto the disk; what went wrong, or an empty text. For any thread.
-QString store(const QImage& picture, const QString& fileName, const QString& pictureName, Size size)
-{
-    QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    QImageWriter writer(&file, "png");
-    writer.setText(nameKey, pictureName);
-    writer.setQuality(int(size));
-    if (!writer.write(picture))
-        return file.error() == QFile::NoError ? writer.errorString() : file.errorString();
-    if (!file.flush())
-        return file.errorString();
-    if (fsync(file.handle()) != 0)
-        return systemError();
-    if (!file.commit())
-        return file.errorString();
-    flushFolder(QFileInfo(fileName).path());
-    return {};
-}
-
-KORVA_Journal::Entry entryOf(const QFileInfo& file)
-{
-    const QImageReader reader(file.filePath());
-    return {file.filePath(), reader.text(nameKey), file.lastModified(), reader.size()};
-}
-
-QFileInfoList filesIn(const QString& folder, const QString& prefix)
-{
-    return QDir(folder).entryInfoList({prefix + '*' + pictureSuffix}, QDir::Files,
-                                      QDir::Name | QDir::Reversed);
-}
 
 } // namespace
 
 KORVA_Journal::KORVA_Journal(KORVA_EditCanvas* editor, const QString& folder, QObject* parent)
     : QObject(parent),
       m_editor(editor),
-      m_folder(QDir::cleanPath(QDir(folder).absolutePath())),
+      m_folder(std::make_unique<KORVA_JournalFolder>(folder)),
       m_written(classic::hash(editor->snapshot())),
       m_pause(shortestPause)
 {
@@ -196,15 +119,15 @@ void KORVA_Journal::write()
     if (m_state == State::Adopted)
         shelve();
     if (m_state == State::Nothing && !begin()) {
-        finishWrite(systemError(), 0);
+        finishWrite(KORVA_JournalFolder::systemError(), 0);
         return;
     }
     m_written = hash;
     m_sinceWrite.start();
-    m_writer.start([this, picture, file = livingFile(), name = pictureName()] {
+    m_writer.start([this, picture, file = m_folder->livingFile(m_id), name = pictureName()] {
         QElapsedTimer timer;
         timer.start();
-        const QString error = store(picture, file, name, Size::Quick);
+        const QString error = KORVA_JournalFolder::store(picture, file, name, KORVA_JournalFolder::Quick);
         QMetaObject::invokeMethod(
             this, [this, error, time = int(timer.elapsed())] { finishWrite(error, time); },
             Qt::QueuedConnection);
@@ -213,10 +136,10 @@ void KORVA_Journal::write()
 
 bool KORVA_Journal::begin()
 {
-    if (!makeFolder())
+    if (!m_folder->make())
         return false;
-    const QString id = newId();
-    auto lock = std::make_unique<UTIL_FileLock>(lockFile(id));
+    const QString id = KORVA_JournalFolder::newId();
+    auto lock = std::make_unique<UTIL_FileLock>(m_folder->lockFile(id));
     if (!lock->lock())
         return false;
     m_id = id;
@@ -269,7 +192,7 @@ void KORVA_Journal::settle()
     m_proposal.clear();
     if (m_state == State::Nothing)
         return;
-    QFile::remove(livingFile());
+    QFile::remove(m_folder->livingFile(m_id));
     end();
 }
 
@@ -277,20 +200,20 @@ void KORVA_Journal::shelve()
 {
     if (m_state != State::Adopted)
         return;
-    moveAmongEarlier(m_id);
+    m_folder->moveAmongEarlier(m_id);
     end();
-    prune();
+    m_folder->prune(mostEarlier);
 }
 
 bool KORVA_Journal::keep(const Entry& spared)
 {
-    if (!makeFolder()) {
-        finishWrite(systemError(), 0);
+    if (!m_folder->make()) {
+        finishWrite(KORVA_JournalFolder::systemError(), 0);
         return false;
     }
-    const QString file = m_folder + '/' + earlierPrefix + newId() + pictureSuffix;
-    const QString error = store(editor()->snapshot(), file, pictureName(), Size::Small);
-    prune(spared.file);
+    const QString error = KORVA_JournalFolder::store(editor()->snapshot(), m_folder->newEarlierFile(),
+                                                     pictureName(), KORVA_JournalFolder::Small);
+    m_folder->prune(mostEarlier, spared.file);
     if (!error.isEmpty())
         finishWrite(error, 0);
     return error.isEmpty();
@@ -301,7 +224,7 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     QPixmap found = QPixmap::fromImage(picture(entry));
     if (found.isNull() || !editor())
         return false;
-    const bool isAdopted = m_state == State::Adopted && entry.file == livingFile();
+    const bool isAdopted = m_state == State::Adopted && entry.file == m_folder->livingFile(m_id);
     if (isAdopted)
         m_state = State::Living;
     if (KORVA_Text* text = editor()->currentText())
@@ -332,42 +255,38 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
 {
     if (m_state != State::Nothing)
         return {};
-    removeLeftovers();
-    QFileInfoList left = filesIn(m_folder, livingPrefix);
-    std::sort(left.begin(), left.end(), [](const QFileInfo& one, const QFileInfo& other) {
-        return one.lastModified() < other.lastModified();
-    });
+    m_folder->removeLeftovers();
     std::optional<Entry> newest;
-    for (const QFileInfo& file : left) {
-        const QString id = file.completeBaseName().sliced(livingPrefix.size());
-        auto lock = std::make_unique<UTIL_FileLock>(lockFile(id));
+    for (const QString& id : m_folder->livingIds()) {
+        const QString file = m_folder->livingFile(id);
+        auto lock = std::make_unique<UTIL_FileLock>(m_folder->lockFile(id));
         if (!lock->lock())
             continue; // somebody is drawing it
-        if (!QFile::exists(file.filePath())) {
+        if (!QFile::exists(file)) {
             lock->remove(); // somebody has just had it
-        } else if (QImage(file.filePath()).isNull()) {
-            moveAmongEarlier(id); // damaged: nothing to offer
+        } else if (QImage(file).isNull()) {
+            m_folder->moveAmongEarlier(id); // damaged: nothing to offer
             lock->remove();
         } else {
             shelve();
-            newest = entryOf(file);
+            newest = KORVA_JournalFolder::entryOf(file);
             m_id = id;
             m_lock = std::move(lock);
             m_state = State::Adopted;
         }
     }
-    prune();
+    m_folder->prune(mostEarlier);
     return newest;
 }
 
 QList<KORVA_Journal::Entry> KORVA_Journal::earlier() const
 {
-    QList<Entry> entries;
-    for (const QFileInfo& file : filesIn(m_folder, earlierPrefix)) {
-        if (const Entry entry = entryOf(file); entry.size.isValid())
-            entries.append(entry);
-    }
-    return entries;
+    return m_folder->earlier();
+}
+
+QString KORVA_Journal::folder() const
+{
+    return m_folder->path();
 }
 
 QImage KORVA_Journal::picture(const Entry& entry)
@@ -375,62 +294,8 @@ QImage KORVA_Journal::picture(const Entry& entry)
     return QImage(entry.file);
 }
 
-/// What programs left that ended in the middle of something.
-void KORVA_Journal::removeLeftovers() const
-{
-    const QDateTime lately = QDateTime::currentDateTime().addSecs(-leftoverAge);
-    for (const QFileInfo& file : QDir(m_folder).entryInfoList({'*' + pictureSuffix + ".*"}, QDir::Files)) {
-        if (file.lastModified() < lately)
-            QFile::remove(file.filePath());
-    }
-    for (const QFileInfo& file : QDir(m_folder).entryInfoList({livingPrefix + "*.lock"}, QDir::Files)) {
-        if (QFile::exists(m_folder + '/' + file.completeBaseName() + pictureSuffix))
-            continue;
-        UTIL_FileLock lock(file.filePath());
-        if (lock.lock())
-            lock.remove();
-    }
-}
-
 QString KORVA_Journal::pictureName() const
 {
     const QString name = editor()->fileName();
     return name.isEmpty() ? m_proposal : name;
-}
-
-// --- The folder
-
-QString KORVA_Journal::livingFile() const
-{
-    return m_folder + '/' + livingPrefix + m_id + pictureSuffix;
-}
-
-QString KORVA_Journal::lockFile(const QString& id) const
-{
-    return m_folder + '/' + livingPrefix + id + ".lock";
-}
-
-bool KORVA_Journal::makeFolder() const
-{
-    if (QFileInfo(m_folder).isDir())
-        return true;
-    return QDir().mkpath(m_folder) &&
-           QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-void KORVA_Journal::moveAmongEarlier(const QString& id) const
-{
-    // Under a new number: one that was begun long ago would be the first to be pruned.
-    const QString prefix = m_folder + '/';
-    QFile::rename(prefix + livingPrefix + id + pictureSuffix,
-                  prefix + earlierPrefix + newId() + pictureSuffix);
-}
-
-void KORVA_Journal::prune(const QString& spared) const
-{
-    const QFileInfoList files = filesIn(m_folder, earlierPrefix);
-    for (qsizetype i = mostEarlier; i < files.size(); ++i) {
-        if (files[i].filePath() != spared)
-            QFile::remove(files[i].filePath());
-    }
 }

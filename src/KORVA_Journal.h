@@ -18,6 +18,7 @@
 #include <optional>
 
 class KORVA_EditCanvas;
+class KORVA_JournalFolder;
 class UTIL_FileLock;
 
 /// Keeps an editor's unsaved drawing in a folder while it is being drawn, so that a crash, a kill or an
@@ -52,7 +53,7 @@ public:
     ~KORVA_Journal() override;
 
     /// The folder's absolute path.
-    [[nodiscard]] QString folder() const { return m_folder; }
+    [[nodiscard]] QString folder() const;
 
     /// The newest drawing that a program left behind, which is this journal's own from now on, so that no
     /// other program finds it; older ones go among the earlier ones. Nothing when there is none, or when
@@ -106,16 +107,10 @@ private:
     void end();
     void noteSettled();
     void finishWrite(const QString& error, int milliseconds);
-    void moveAmongEarlier(const QString& id) const;
-    void removeLeftovers() const;
-    void prune(const QString& spared = {}) const;
-    [[nodiscard]] bool makeFolder() const;
     [[nodiscard]] QString pictureName() const;
-    [[nodiscard]] QString livingFile() const;
-    [[nodiscard]] QString lockFile(const QString& id) const;
 
     QPointer<QWidget> m_editor;
-    QString m_folder;
+    std::unique_ptr<KORVA_JournalFolder> m_folder;
     State m_state = State::Nothing;
     QString m_id;
     QString m_proposal; ///< the name of a drawing that was brought back

@@ -3,37 +3,9 @@
 #include "KORVA_AreaSelect.h"
 #include "KORVA_Assert.h"
 #include "KORVA_Canvas.h"
-#include "KORVA_Drag.h"
-#include "KORVA_Ellipse.h"
-#include "KORVA_Line.h"
-#include "KORVA_Pen.h"
-#include "KORVA_Rectangle.h"
-#include "KORVA_Rubber.h"
-#include "KORVA_Text.h"
+#include "KORVA_ToolTable.h"
 
 #include <QScopedValueRollback>
-
-namespace {
-
-template <typename Tool>
-std::unique_ptr<KORVA_Tool> make(const QString& name)
-{
-    return std::make_unique<Tool>(name);
-}
-
-constexpr struct
-{
-    std::unique_ptr<KORVA_Tool> (*make)(const QString& name);
-    const char* name;
-} toolTable[] = {
-    // The row's number is the tool's identifier.
-    {make<KORVA_Pen>, "Pencil"},          {make<KORVA_AreaSelect>, "Area Select"},
-    {make<KORVA_Line>, "Line"},           {make<KORVA_Text>, "Text"},
-    {make<KORVA_Rectangle>, "Rectangle"}, {make<KORVA_Ellipse>, "Ellipse"},
-    {make<KORVA_Rubber>, "Rubber"},       {make<KORVA_Drag>, "Drag"},
-};
-
-} // namespace
 
 KORVA_Manager::KORVA_Manager(KORVA_Canvas* c)
 {
@@ -56,8 +28,8 @@ KORVA_Manager::~KORVA_Manager()
 
 void KORVA_Manager::createTools()
 {
-    for (const auto& row : toolTable) {
-        m_tools.push_back(row.make(QString::fromLatin1(row.name)));
+    for (const KORVA_ToolTable::ToolRow& row : KORVA_ToolTable::tools()) {
+        m_tools.push_back(row.make(QString::fromLatin1(row.toolName)));
         m_tools.back()->setId(static_cast<int>(m_tools.size()) - 1);
         if (auto* areaSelect = qobject_cast<KORVA_AreaSelect*>(m_tools.back().get()))
             connect(m_canvas, qOverload<bool>(&KORVA_Canvas::selection), areaSelect,

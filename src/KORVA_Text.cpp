@@ -20,19 +20,6 @@ constexpr int blinkTime = 500; // milliseconds
 constexpr int tapRadius = 3;   // pixels; a release as far away as this is a drag
 constexpr int tabWidth = 8;    // letters x
 
-// The labels of the options say 7, 9 and 11; the pens 1, 3 and 5 that they set have always meant these.
-int pointSize(int penWidth)
-{
-    switch (penWidth) {
-    case 3:
-        return 16;
-    case 5:
-        return 20;
-    default:
-        return 12;
-    }
-}
-
 // As a person counts: a letter with its accents, an emoji of several code points.
 QString lastCharacter(const QString& text)
 {
@@ -312,6 +299,7 @@ void KORVA_Text::insert(QString text)
     setText(m_text + text);
 }
 
+<<<<<<< HEAD
 QFont KORVA_Text::textFont() const
 {
     QFont font(QApplication::font().family() + "_ns", pointSize(leftPen().width()), QFont::Normal);
@@ -406,6 +394,8 @@ void KORVA_Text::zoomedRebuilt()
     m_shown.clear();
 }
 
+=======
+>>>>>>> f22e0f2 (Part the journal, the text tool and the pad's documents by idea)
 // --- The input method
 
 void KORVA_Text::endComposition()

@@ -223,6 +223,11 @@
         <translation>Rechteck</translation>
     </message>
     <message>
+        <source>Hand</source>
+        <comment>tool</comment>
+        <translation>Hand</translation>
+    </message>
+    <message>
         <source>Ellipse</source>
         <comment>tool</comment>
         <translation>Ellipse</translation>

@@ -223,6 +223,11 @@
         <translation>矩形</translation>
     </message>
     <message>
+        <source>Hand</source>
+        <comment>tool</comment>
+        <translation>抓手</translation>
+    </message>
+    <message>
         <source>Ellipse</source>
         <comment>tool</comment>
         <translation>椭圆</translation>

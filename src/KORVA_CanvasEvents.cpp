@@ -1,0 +1,119 @@
+#include "KORVA_Canvas.h"
+
+#include "KORVA_PasteLabel.h"
+#include "KORVA_Pixel.h"
+#include "KORVA_Text.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+// Which event goes to the floating piece, which to the tool, which opens a menu.
+
+namespace {
+
+QMouseEvent movedTo(const QPointF& position, const QMouseEvent& event)
+{
+    return {event.type(),   position,        event.scenePosition(), event.globalPosition(),
+            event.button(), event.buttons(), event.modifiers(),     event.pointingDevice()};
+}
+
+} // namespace
+
+template <typename Handler, typename LabelHandler>
+void KORVA_Canvas::handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel)
+{
+    const QPointF pointer = pixel::pointer(*event, *this);
+    if (ptInPasteLabel(pixel::at(pointer))) {
+        QMouseEvent local = movedTo(pointer - m_pasteLabel->pos(), *event);
+        (m_pasteLabel->*toLabel)(&local);
+        return;
+    }
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
+        mergePastePixmap();
+    if (m_tool) {
+        QMouseEvent exact = movedTo(pointer, *event);
+        exact.setTimestamp(event->timestamp());
+        (m_tool.data()->*toTool)(&exact);
+        event->setAccepted(exact.isAccepted());
+    }
+}
+
+void KORVA_Canvas::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::RightButton) {
+        m_menu->popup(mapToGlobal(pixel::under(*event, *this)), m_menu->actions().value(0));
+    } else if (event->button() == Qt::LeftButton) {
+        handOn(event, &KORVA_Tool::mousePressEvent, &KORVA_PasteLabel::mousePressEvent);
+    }
+}
+
+void KORVA_Canvas::mouseMoveEvent(QMouseEvent* event)
+{
+    handOn(event, &KORVA_Tool::mouseMoveEvent, &KORVA_PasteLabel::mouseMoveEvent);
+}
+
+void KORVA_Canvas::mouseReleaseEvent(QMouseEvent* event)
+{
+    handOn(event, &KORVA_Tool::mouseReleaseEvent, &KORVA_PasteLabel::mouseReleaseEvent);
+}
+
+void KORVA_Canvas::keyPressEvent(QKeyEvent* event)
+{
+    if (m_tool)
+        m_tool->keyPressEvent(event);
+    else
+        event->ignore();
+}
+
+void KORVA_Canvas::keyReleaseEvent(QKeyEvent* event)
+{
+    if (m_tool)
+        m_tool->keyReleaseEvent(event);
+    else
+        event->ignore();
+}
+
+bool KORVA_Canvas::event(QEvent* event)
+{
+    // Shortcuts of the host wait while a text is typed; what is no text is still theirs.
+    if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText() &&
+        KORVA_Text::isTyping(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+bool KORVA_Canvas::focusNextPrevChild(bool next)
+{
+    return !(m_tool && m_tool->takesText()) && QWidget::focusNextPrevChild(next);
+}
+
+void KORVA_Canvas::inputMethodEvent(QInputMethodEvent* event)
+{
+    if (m_tool)
+        m_tool->inputMethodEvent(event);
+    else
+        event->ignore();
+}
+
+QVariant KORVA_Canvas::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    if (query == Qt::ImEnabled)
+        return m_tool && m_tool->takesText();
+    const QVariant answer = m_tool ? m_tool->inputMethodQuery(query) : QVariant();
+    return answer.isValid() ? answer : QWidget::inputMethodQuery(query);
+}
+
+void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The right button has opened its menu on the press; what is left is the menu key.
+    if (event->reason() != QContextMenuEvent::Keyboard)
+        return;
+    if (isFloating())
+        m_pasteLabel->menu()->popup(m_pasteLabel->mapToGlobal(m_pasteLabel->rect().center()));
+    else
+        m_menu->popup(mapToGlobal(visibleRegion().boundingRect().center()));
+}

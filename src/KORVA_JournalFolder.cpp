@@ -1,0 +1,168 @@
+#include "KORVA_JournalFolder.h"
+
+#include "UTIL_FileLock.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QRandomGenerator>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int leftoverAge = 60; // seconds; no write takes as long
+
+const QString livingPrefix = QStringLiteral("living-");
+const QString earlierPrefix = QStringLiteral("earlier-");
+const QString pictureSuffix = QStringLiteral(".png");
+const QString lockSuffix = QStringLiteral(".lock");
+const QString nameKey = QStringLiteral("PictureName");
+
+void flushFolder(const QString& folder)
+{
+    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    fsync(handle);
+    close(handle);
+}
+
+QFileInfoList filesIn(const QString& folder, const QString& prefix)
+{
+    return QDir(folder).entryInfoList({prefix + '*' + pictureSuffix}, QDir::Files,
+                                      QDir::Name | QDir::Reversed);
+}
+
+} // namespace
+
+KORVA_JournalFolder::KORVA_JournalFolder(const QString& path)
+    : m_path(QDir::cleanPath(QDir(path).absolutePath()))
+{
+}
+
+bool KORVA_JournalFolder::make() const
+{
+    if (QFileInfo(m_path).isDir())
+        return true;
+    return QDir().mkpath(m_path) &&
+           QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+QString KORVA_JournalFolder::newId()
+{
+    static int count = 0;
+    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss-zzz-")) +
+           QStringLiteral("%1-%2")
+               .arg(++count, 6, 10, QLatin1Char('0'))
+               .arg(QRandomGenerator::global()->generate(), 0, 16);
+}
+
+QString KORVA_JournalFolder::livingFile(const QString& id) const
+{
+    return m_path + '/' + livingPrefix + id + pictureSuffix;
+}
+
+QString KORVA_JournalFolder::lockFile(const QString& id) const
+{
+    return m_path + '/' + livingPrefix + id + lockSuffix;
+}
+
+QString KORVA_JournalFolder::newEarlierFile() const
+{
+    return m_path + '/' + earlierPrefix + newId() + pictureSuffix;
+}
+
+QString KORVA_JournalFolder::store(const QImage& picture, const QString& fileName,
+                                   const QString& pictureName, Size size)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString();
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    QImageWriter writer(&file, "png");
+    writer.setText(nameKey, pictureName);
+    writer.setQuality(size);
+    if (!writer.write(picture))
+        return file.error() == QFile::NoError ? writer.errorString() : file.errorString();
+    if (!file.flush())
+        return file.errorString();
+    if (fsync(file.handle()) != 0)
+        return systemError();
+    if (!file.commit())
+        return file.errorString();
+    flushFolder(QFileInfo(fileName).path());
+    return {};
+}
+
+QString KORVA_JournalFolder::systemError()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
+KORVA_Journal::Entry KORVA_JournalFolder::entryOf(const QString& fileName)
+{
+    const QImageReader reader(fileName, "png");
+    return {fileName, reader.text(nameKey), QFileInfo(fileName).lastModified(), reader.size()};
+}
+
+QStringList KORVA_JournalFolder::livingIds() const
+{
+    QFileInfoList files = filesIn(m_path, livingPrefix);
+    std::sort(files.begin(), files.end(), [](const QFileInfo& one, const QFileInfo& other) {
+        return one.lastModified() < other.lastModified();
+    });
+    QStringList ids;
+    for (const QFileInfo& file : files)
+        ids.append(file.completeBaseName().sliced(livingPrefix.size()));
+    return ids;
+}
+
+QList<KORVA_Journal::Entry> KORVA_JournalFolder::earlier() const
+{
+    QList<KORVA_Journal::Entry> entries;
+    for (const QFileInfo& file : filesIn(m_path, earlierPrefix)) {
+        if (const KORVA_Journal::Entry entry = entryOf(file.filePath()); entry.size.isValid())
+            entries.append(entry);
+    }
+    return entries;
+}
+
+void KORVA_JournalFolder::moveAmongEarlier(const QString& id) const
+{
+    // Under a new number: one that was begun long ago would be the first to be pruned.
+    QFile::rename(livingFile(id), newEarlierFile());
+}
+
+void KORVA_JournalFolder::prune(int most, const QString& spared) const
+{
+    const QFileInfoList files = filesIn(m_path, earlierPrefix);
+    for (qsizetype i = most; i < files.size(); ++i) {
+        if (files[i].filePath() != spared)
+            QFile::remove(files[i].filePath());
+    }
+}
+
+void KORVA_JournalFolder::removeLeftovers() const
+{
+    const QDateTime lately = QDateTime::currentDateTime().addSecs(-leftoverAge);
+    for (const QFileInfo& file : QDir(m_path).entryInfoList({'*' + pictureSuffix + ".*"}, QDir::Files)) {
+        if (file.lastModified() < lately)
+            QFile::remove(file.filePath());
+    }
+    for (const QFileInfo& file :
+         QDir(m_path).entryInfoList({livingPrefix + '*' + lockSuffix}, QDir::Files)) {
+        if (QFile::exists(m_path + '/' + file.completeBaseName() + pictureSuffix))
+            continue;
+        UTIL_FileLock lock(file.filePath());
+        if (lock.lock())
+            lock.remove();
+    }
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+class KORVA_EditCanvas;
+class QColor;
+class QMenu;
+class QPushButton;
+class UTIL_ComboBox;
+
+/// The editor's four controls as they look: the tool and the option button with their pop-ups, the zoom box
+/// and the colour button. They are the editor's own children, and what is chosen in them goes to its slots.
+class KORVA_ToolBar
+{
+public:
+    /// The zoom box is empty, and no option is shown.
+    explicit KORVA_ToolBar(KORVA_EditCanvas& editor);
+
+    [[nodiscard]] UTIL_ComboBox& zoomBox() const { return *m_zoomBox; }
+
+    /// The icon of a tool that has a row in the tool pop-up.
+    void showTool(int tool);
+    /// An icon by its file's name; null takes it away.
+    void showOption(const char* icon);
+    void showColor(const QColor& color);
+
+    /// Fills the option pop-up with a tool's options; empty for tools without.
+    void loadOptions(int tool);
+    /// The identifier of an entry of the option pop-up, which has to exist.
+    [[nodiscard]] int optionId(int entry) const;
+
+private:
+    KORVA_EditCanvas& m_editor;
+    QPushButton* m_toolButton;
+    QPushButton* m_optionButton;
+    QMenu* m_optionMenu;
+    UTIL_ComboBox* m_zoomBox;
+    QPushButton* m_colorButton;
+};
