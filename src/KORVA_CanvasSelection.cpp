@@ -1,5 +1,6 @@
 #include "KORVA_Canvas.h"
 
+#include "KORVA_ClassicPainter.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Picture.h"
 #include "KORVA_ScrollView.h"

@@ -1,10 +1,18 @@
 #include "KORVA_Picture.h"
 
+#include "KORVA_ClassicPainter.h"
+
 #include <utility>
 
 KORVA_Picture::KORVA_Picture(const QPixmap& pixels)
     : m_picture(classic::opaque(pixels)), m_snapshot(m_picture)
 {
+}
+
+QPixmap* KORVA_Picture::pixmap()
+{
+    m_picture = classic::opaque(m_picture);
+    return &m_picture;
 }
 
 QImage KORVA_Picture::image() const
@@ -63,4 +71,9 @@ void KORVA_Picture::lay(const QPixmap& piece, QPoint at)
     QPixmap pixelByPixel = piece;
     pixelByPixel.setDevicePixelRatio(1.0);
     classic::bitBlt(&m_picture, at.x(), at.y(), pixelByPixel);
+}
+
+void KORVA_Picture::takeSnapshot(const QPixmap& picture)
+{
+    m_snapshot = classic::opaque(picture);
 }

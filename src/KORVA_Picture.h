@@ -1,9 +1,8 @@
 #pragma once
 
-#include "KORVA_ClassicPainter.h"
-
 #include <QImage>
 #include <QPixmap>
+#include <QTransform>
 
 /// A drawing without its view: the picture at real size, what undo brings back, and whether anything was
 /// changed since the last save.
@@ -20,11 +19,7 @@ public:
 
     /// To be painted on; the same object for the drawing's life. What a painter left transparent is white
     /// with the next call.
-    [[nodiscard]] QPixmap* pixmap()
-    {
-        m_picture = classic::opaque(m_picture);
-        return &m_picture;
-    }
+    [[nodiscard]] QPixmap* pixmap();
     [[nodiscard]] QSize size() const { return m_picture.size(); }
     /// In bits a pixel: the toolkit's, whatever came in.
     [[nodiscard]] int depth() const { return m_picture.depth(); }
@@ -55,7 +50,7 @@ public:
     /// The picture as it is now is what undo() brings back, in place of what was kept before.
     void takeSnapshot() { m_snapshot = m_picture; }
     /// The same with a picture that never was on the paper as a whole.
-    void takeSnapshot(const QPixmap& picture) { m_snapshot = classic::opaque(picture); }
+    void takeSnapshot(const QPixmap& picture);
     /// Back to the snapshot, and forward again. As there is one step, both exchange it with the picture,
     /// which may get another size; the modified flag stays.
     void undo() { m_picture.swap(m_snapshot); }
