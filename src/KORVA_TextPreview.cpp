@@ -41,9 +41,9 @@ int KORVA_Text::advance(const QString& character) const
     return QFontMetrics(textFont()).horizontalAdvance(character);
 }
 
-// From a line on; the first begins at `start`, the others at the margin below it.
-void KORVA_Text::drawText(KORVA_ClassicPainter& painter, QPoint start, int margin, const QString& text,
-                          int fromLine) const
+// The first line begins at `start`, the others at the margin below it.
+void KORVA_Text::drawText(KORVA_ClassicPainter& painter, QPoint start, int margin,
+                          const QString& text) const
 {
     const QFont font = textFont();
     const QFontMetrics metrics(font);
@@ -53,33 +53,28 @@ void KORVA_Text::drawText(KORVA_ClassicPainter& painter, QPoint start, int margi
         painter.drawText(QRect(baseline - QPoint(0, metrics.ascent()), QSize(10, 10)),
                          Qt::TextDontClip | Qt::TextExpandTabs, lines);
     };
-    const bool isIndented = fromLine == 0 && start.x() != margin;
-    if (isIndented)
-        draw(start, text.section('\n', 0, 0));
-    const int line = isIndented ? 1 : fromLine;
-    draw(QPoint(margin, start.y() + line * metrics.lineSpacing()), text.section('\n', line));
+    const bool isOneBlock = start.x() == margin;
+    draw(start, isOneBlock ? text : text.section('\n', 0, 0));
+    if (!isOneBlock)
+        draw(QPoint(margin, start.y() + metrics.lineSpacing()), text.section('\n', 1));
 }
 
-// Whole lines: letters that join or carry accents look as they will when committed. The line above the
-// first one that changes may share pixels with it, which are inverted once.
+// The whole text each time: letters that join or carry accents look as they will when committed, and a line
+// with a letter of another font is higher.
 void KORVA_Text::showText(const QString& text)
 {
     if (text == m_shown)
         return;
-    const auto end = std::mismatch(m_shown.cbegin(), m_shown.cend(), text.cbegin(), text.cend()).first;
-    const auto linesBefore = std::count(m_shown.cbegin(), end, QLatin1Char('\n'));
-    const int line = qMax(0, int(linesBefore) - 1);
     {
         KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
-        drawText(painter, m_start, m_margin, m_shown, line);
-        drawText(painter, m_start, m_margin, text, line);
+        drawText(painter, m_start, m_margin, m_shown);
+        drawText(painter, m_start, m_margin, text);
     }
     m_shown = text;
     canvas()->refresh();
 }
 
 // --- The I-beam
-// ------------------------------------------------------------------------------------------------
 
 void KORVA_Text::clearOldCursor()
 {
