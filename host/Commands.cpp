@@ -79,6 +79,12 @@ void Commands::addEntries()
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "Save &as ...", "menu"), "Ctrl+Shift+S",
          Needs::Nothing, [](C& c, int) { c.m_documents.saveAs(); }},
 
+        // Not last, where the key lies that opens the menu: a double tap shall not quit.
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Keys ...", "menu"), "F1", Needs::Nothing,
+         [](C& c, int) { c.showKeys(); }},
+        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Quit", "menu"), "Ctrl+Q", Needs::Nothing,
+         [](C& c, int) { c.m_window->close(); }},
+
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Picture", "menu"), "", Needs::Nothing, nullptr,
          0, Page::Picture},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I",
@@ -142,11 +148,6 @@ void Commands::addEntries()
          option, 1},
         {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "Third option", "menu"), "3", Needs::Nothing,
          option, 2},
-
-        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Keys ...", "menu"), "F1", Needs::Nothing,
-         [](C& c, int) { c.showKeys(); }},
-        {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Quit", "menu"), "Ctrl+Q", Needs::Nothing,
-         [](C& c, int) { c.m_window->close(); }},
     };
     m_menu->setStyle(new MenuStyle(m_menu));
     std::map<Page, QMenu*> pages{{Page::Main, m_menu}};

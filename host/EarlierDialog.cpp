@@ -65,7 +65,9 @@ EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>&
 {
     const QString title = tr("Earlier drawings", "earlier drawings");
     setWindowTitle(title);
-    setFixedSize(QSize(Size::screenWidth, Size::screenHeight).boundedTo(parent->window()->size()));
+    setFixedSize(QSize(Size::screenWidth, Size::screenHeight)
+                     .boundedTo(parent->window()->size())
+                     .boundedTo(screenArea().size()));
     auto* heading = new QLabel(title, this);
     heading->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
     auto* empty = new QLabel(tr("None was kept so far.", "earlier drawings"), this);

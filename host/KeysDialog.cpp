@@ -25,7 +25,9 @@ KeysDialog::KeysDialog(QWidget* parent, const QList<Row>& rows) : UTIL_Dialog(Fr
 {
     const QString title = tr("Keys", "keys");
     setWindowTitle(title);
-    setFixedSize(QSize(Size::screenWidth, Size::screenHeight).boundedTo(parent->window()->size()));
+    setFixedSize(QSize(Size::screenWidth, Size::screenHeight)
+                     .boundedTo(parent->window()->size())
+                     .boundedTo(screenArea().size()));
     auto* heading = new QLabel(title, this);
     heading->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
     auto* list = new QTreeWidget(this);

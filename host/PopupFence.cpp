@@ -24,12 +24,17 @@ PopupFence::PopupFence(QWidget& window) : QObject(&window), m_window(window)
 
 bool PopupFence::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == &m_window && event->type() == QEvent::Resize) {
+        while (QWidget* popup = QApplication::activePopupWidget()) // it would stay where the window was
+            if (!popup->close())
+                break;
+    }
     const bool isShown = event->type() == QEvent::Show;
     const bool isHidden = event->type() == QEvent::Hide;
     if ((!isShown && !isHidden) || !watched->isWidgetType() || watched == &m_window)
         return false;
     auto& popup = static_cast<QWidget&>(*watched);
-    if (isHidden && popup.isWindow() && popup.isActiveWindow())
+    if (isHidden && popup.isWindow() && QGuiApplication::applicationState() == Qt::ApplicationActive)
         QMetaObject::invokeMethod(this, &PopupFence::takeKeyboard, Qt::QueuedConnection);
     if (isShown && popup.isWindow()) {
         const QRect area(m_window.mapToGlobal(QPoint(0, 0)), m_window.size());
@@ -42,7 +47,7 @@ bool PopupFence::eventFilter(QObject* watched, QEvent* event)
 
 void PopupFence::takeKeyboard()
 {
-    if (!QApplication::activeWindow() && m_window.isVisible())
+    if (!QApplication::activeModalWidget() && !QApplication::activePopupWidget() && m_window.isVisible())
         m_window.activateWindow();
 }
 

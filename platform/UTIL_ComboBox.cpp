@@ -85,7 +85,7 @@ bool UTIL_ComboBox::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != view()->viewport())
         return QComboBox::eventFilter(watched, event);
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+    if (event->type() == QEvent::MouseButtonPress) { // a double tap on the box is meant for no row
         m_pressedRow = view()->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
     } else if (event->type() == QEvent::MouseButtonRelease) {
         const QModelIndex row = std::exchange(m_pressedRow, {});

@@ -87,6 +87,8 @@ void UTIL_Dialog::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
         place();
+        if (QWidget* window = owner())
+            window->installEventFilter(this);
         if (QWidget* veiled = isVeiling() ? owner() : nullptr)
             m_veil = new UTIL_Veil(veiled);
         if (QWidget* window = anchor(); UTIL_Overlay::suits(*this, window))
@@ -95,10 +97,21 @@ void UTIL_Dialog::setVisible(bool visible)
     QDialog::setVisible(visible);
     if (visible)
         return;
+    if (QWidget* window = owner())
+        window->removeEventFilter(this);
     if (m_overlay)
         m_overlay->giveBack();
     delete m_overlay;
     delete m_veil;
+}
+
+bool UTIL_Dialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize && watched == owner() && isVisible() && !m_overlay) {
+        fit();
+        place();
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void UTIL_Dialog::paintEvent(QPaintEvent*)

@@ -44,6 +44,8 @@ public:
 
     /// Puts the dialog in its place, and the veil over the window, before it is shown.
     void setVisible(bool visible) override;
+    /// Keeps the dialog in the middle of its parent's window while that changes its size.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     /// What the derived class puts its parts on, in the dialog's coordinates: the dialog itself, or what
@@ -57,6 +59,8 @@ protected:
     UTIL_PushButton* createSoftKey(const QString& text, int flags);
 
     void paintEvent(QPaintEvent* event) override;
+    /// Gives the dialog the size that suits its window, whose size has changed; the base leaves it alone.
+    virtual void fit() {}
     /// Whether the parent's window is veiled while the dialog is open: when the dialog is modal.
     [[nodiscard]] virtual bool isVeiling() const;
 

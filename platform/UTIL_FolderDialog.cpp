@@ -148,18 +148,18 @@ void UTIL_FolderDialog::setVisible(bool visible)
 {
     const bool appears = visible && !isVisible();
     if (appears)
-        fitWindow();
+        fit();
     UTIL_PictureDialog::setVisible(visible);
     if (const Place& place = placeOf(*this); appears && place.folder == m_folder->folder())
         if (const QModelIndex first = m_folder->find(place.first); first.isValid())
             m_view->scrollTo(first, QAbstractItemView::PositionAtTop);
 }
 
-void UTIL_FolderDialog::fitWindow()
+void UTIL_FolderDialog::fit()
 {
     const QWidget* window = parentWidget() ? parentWidget()->window() : nullptr;
     if (window && window->isVisible())
-        setFixedSize(window->size().boundedTo(most).expandedTo(least));
+        setFixedSize(window->size().boundedTo(most).boundedTo(screenArea().size()).expandedTo(least));
     if (height() < lowest) { // the title takes the place of the folder's name
         m_place->hide();
         m_caption->setContentsMargins({});

@@ -42,13 +42,13 @@ protected:
     virtual void choose(const QString& path) = 0;
     /// The confirm key, or a picture opened.
     virtual void confirm() = 0;
+    void fit() override;
 
 private:
     void open(const QModelIndex& index);
     void goUp();
     void createOrderMenu(UTIL_PushButton& key);
     void sortBy(Order order);
-    void fitWindow();
     void showPlace();
 
     UTIL_PictureFolder* m_folder;

@@ -16,11 +16,16 @@ using Size = UTIL_Skin::Size;
 
 constexpr int arrowHeight = 16;
 
+/// What of the window lies on its screen.
 QRect roomOf(const QWidget* owner)
 {
     while (owner && owner->windowType() == Qt::Popup)
         owner = owner->parentWidget();
-    return owner ? owner->window()->geometry() : QRect();
+    if (!owner)
+        return {};
+    const QRect window = owner->window()->geometry();
+    const QRect seen = window & owner->screen()->availableGeometry();
+    return seen.isEmpty() ? window : seen;
 }
 
 } // namespace
@@ -46,6 +51,7 @@ void UTIL_PopupMenu::keepInWindow(QWidget& popup, const QWidget* owner)
 void UTIL_PopupMenu::showEvent(QShowEvent* event)
 {
     QMenu::showEvent(event);
+    m_sinceOpened.start();
     const QRect room = roomOf(parentWidget());
     const int whole = sizeHint().height();
     // What is higher than the screen, too, the toolkit scrolls.
@@ -55,6 +61,14 @@ void UTIL_PopupMenu::showEvent(QShowEvent* event)
     keepInWindow(*this, parentWidget());
     if (scrolls())
         scrollTo(0);
+}
+
+// The second half of a double tap on the key that opened the menu is meant for no row.
+void UTIL_PopupMenu::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_isUnmeant = m_sinceOpened.elapsed() < QApplication::doubleClickInterval();
+    if (!m_isUnmeant)
+        QMenu::mouseDoubleClickEvent(event);
 }
 
 void UTIL_PopupMenu::hideEvent(QHideEvent* event)
@@ -159,6 +173,8 @@ void UTIL_PopupMenu::mouseMoveEvent(QMouseEvent* event)
 
 void UTIL_PopupMenu::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (std::exchange(m_isUnmeant, false))
+        return;
     const std::optional<Press> press = std::exchange(m_press, {});
     if (press && press->isDrag) {
         setActiveAction(nullptr);

@@ -2,6 +2,7 @@
 
 #include "KORVA_Export.h"
 
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QPoint>
 #include <QRect>
@@ -10,7 +11,8 @@
 
 /// A pop-up menu in the skin, with icons at their full size, that stays inside the window it belongs to.
 /// One with more rows than fit there scrolls: by the wheel, by a finger, and with the row that the keys
-/// choose; arrows at its edges say that there is more, and are tapped, too.
+/// choose; arrows at its edges say that there is more, and are tapped, too. A double tap on what opens it
+/// chooses nothing.
 class KORVA_EXPORT UTIL_PopupMenu : public QMenu
 {
     Q_OBJECT
@@ -30,6 +32,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
@@ -51,4 +54,6 @@ private:
     QRect m_room; ///< on the screen, while the menu is higher than that; else invalid
     int m_scroll = 0;
     std::optional<Press> m_press;
+    QElapsedTimer m_sinceOpened;
+    bool m_isUnmeant = false; ///< the press that is held
 };

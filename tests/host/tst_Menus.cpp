@@ -61,6 +61,9 @@ private slots:
     void toolPage();
     void viewPage();
     void quit();
+    void aDoubleTapChoosesNothing_data();
+    void aDoubleTapChoosesNothing();
+    void keysWorkAfterEveryDialog();
     void toolPopup();
     void optionPopups();
     void zoomList();
@@ -68,7 +71,7 @@ private slots:
     void pieceMenu();
 
 private:
-    enum MainRow { New, Open, Save, SaveAs, Picture, Edit, Tool, View, Keys, Quit, MainRows };
+    enum MainRow { New, Open, Save, SaveAs, Keys, Quit, Picture, Edit, Tool, View, MainRows };
 
     [[nodiscard]] bool start(const QStringList& arguments = {});
     [[nodiscard]] QString lastLine() const;
@@ -288,6 +291,45 @@ void tst_Menus::quit()
     QCOMPARE(m_pad->process().exitCode(), 0);
 }
 
+void tst_Menus::aDoubleTapChoosesNothing_data()
+{
+    QTest::addColumn<QPoint>("key");
+    QTest::newRow("menu") << menuKey;
+    QTest::newRow("menu's lower edge") << menuKey + QPoint(0, 15);
+    QTest::newRow("tools") << toolButton;
+    QTest::newRow("options") << optionButton;
+    QTest::newRow("zoom") << zoomBox;
+}
+
+void tst_Menus::aDoubleTapChoosesNothing()
+{
+    QFETCH(const QPoint, key);
+    QVERIFY(start());
+    m_pad->click(key);
+    m_pad->click(key);
+    QTest::qWait(QApplication::doubleClickInterval());
+    QVERIFY(m_pad->process().isRunning());
+    QVERIFY(over().size() <= 1); // open, or closed again
+    QCOMPARE(m_pad->box(), QString());
+    QCOMPARE(lastLine(), QString());
+}
+
+void tst_Menus::keysWorkAfterEveryDialog()
+{
+    QVERIFY(start());
+    // Without a window manager, and with the pointer where it is.
+    m_pad->server().moveTo(onDrawing);
+    m_pad->server().activateTopWindow();
+    for (int i = 0; i < 2; ++i) {
+        for (const auto& [name, title] : {std::pair("F1", "Keys"), std::pair("c", "Color")}) {
+            m_pad->server().key(name);
+            QVERIFY(m_pad->waitForBox(title));
+            m_pad->server().key("Escape");
+            QVERIFY(m_pad->waitForNoBox());
+        }
+    }
+}
+
 void tst_Menus::toolPopup()
 {
     constexpr const char* tools[] = {"select", "eraser", "line", "pencil", "text", "rectangle", "ellipse"};
@@ -336,6 +378,7 @@ void tst_Menus::zoomList()
     for (const char* zoom : zooms) {
         m_pad->click(zoomBox);
         QVERIFY(waitForPopups(1));
+        QTest::qWait(QApplication::doubleClickInterval()); // the first row lies where the tap was
         QVERIFY(tapRow(row++, std::size(zooms), zoom));
         QVERIFY(takesEffect(line(QString("zoom %1").arg(zoom))));
     }
