@@ -170,6 +170,7 @@ bool KORVA_Documents::open(int action, const QString& name)
         return false;
     if (opened && action == Open) {
         m_opened = source;
+        resetTypedText(); // it belonged to the drawing before
         m_editor.setPixmap(&picture);
         m_editor.clearModified();
         m_editor.mainView()->scrollView()->setContentsPos(0, 0);

@@ -7,6 +7,7 @@
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Text.h"
 #include "UTIL_FileLock.h"
+#include "UTIL_ImageReader.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -264,7 +265,7 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
             continue; // somebody is drawing it
         if (!QFile::exists(file)) {
             lock->remove(); // somebody has just had it
-        } else if (QImage(file).isNull()) {
+        } else if (picture(KORVA_JournalFolder::entryOf(file)).isNull()) {
             m_folder->moveAmongEarlier(id); // damaged: nothing to offer
             lock->remove();
         } else {
@@ -291,7 +292,8 @@ QString KORVA_Journal::folder() const
 
 QImage KORVA_Journal::picture(const Entry& entry)
 {
-    return QImage(entry.file);
+    UTIL_ImageReader reader(entry.file, "PNG");
+    return reader.read() ? reader.image() : QImage();
 }
 
 QString KORVA_Journal::pictureName() const

@@ -3,6 +3,7 @@
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Limit.h"
 #include "KORVA_Pixel.h"
+#include "UTIL_ImageReader.h"
 #include "UTIL_Platform.h"
 #include "UTIL_PopupMenu.h"
 
@@ -55,7 +56,7 @@ KORVA_PasteLabel::KORVA_PasteLabel(QWidget* parent, const char* name, Qt::Window
 
 void KORVA_PasteLabel::setImage(const char* fileName)
 {
-    setImage(QPixmap::fromImage(QImage(QString::fromUtf8(fileName))));
+    setImage(UTIL_ImageReader::pixmap(QString::fromUtf8(fileName)));
 }
 
 void KORVA_PasteLabel::setImage(const QPixmap& pixmap)

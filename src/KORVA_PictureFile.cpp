@@ -173,7 +173,11 @@ int KORVA_PictureFile::check(const char* format)
     reader.read();
     m_checked = isWhatTakeReads ? reader.image() : QImage();
     m_origin = originOf(reader);
-    return reader.status();
+    // How far a decoder gets with a damaged one depends on its size; take() refuses them all.
+    const bool isLeftToTake = m_isDamaged && reader.status() == UTIL_ImageReader::Failed &&
+                              reader.sourceSize().isValid() &&
+                              (!format || kind.format == QByteArray(format));
+    return isLeftToTake ? int(UTIL_ImageReader::Ok) : int(reader.status());
 }
 
 QImage KORVA_PictureFile::take()

@@ -186,10 +186,14 @@ void KORVA_Text::mousePressEvent(QMouseEvent* event)
         m_keys.clear();
     }
     m_cursor = pixel::at(event->position());
+    m_button = event->button();
 }
 
 void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
 {
+    if (event->button() != m_button)
+        return; // the canvas hands no other press on, but every release
+    m_button = Qt::NoButton;
     const QPoint p = pixel::at(event->position());
     const QPoint moved = p - m_cursor;
     if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius) {
@@ -324,7 +328,7 @@ void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
     }
     if (!keys.empty())
         typeKeys(keys);
-    if (canvas())
+    if (canvas() && m_started) // who has heard of it may have left the tool
         showText(m_text + event->preeditString());
 }
 

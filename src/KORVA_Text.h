@@ -85,6 +85,7 @@ private:
     QPoint m_start;   ///< of what is typed; where the line goes on after a commit in the middle of it
     int m_margin = 0; ///< the x of new lines: the tap's
     QPoint m_cursor;  ///< between press and release: the press
+    Qt::MouseButton m_button = Qt::NoButton; ///< of the press that is held
     bool m_started = false;
     bool m_cursorShown = false;
     bool m_proportionPainted = false;

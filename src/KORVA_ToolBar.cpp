@@ -105,7 +105,8 @@ void KORVA_ToolBar::loadOptions(int tool)
 {
     m_optionMenu->clear();
     int id = tables::firstOptionId(tool);
-    for (const tables::OptionRow& row : tables::toolRow(tool)->options)
+    const tables::ToolRow* const known = tables::toolRow(tool);
+    for (const tables::OptionRow& row : known ? known->options : std::span<const tables::OptionRow>())
         addEntry(m_optionMenu, id++, row.icon, KORVA_EditCanvas::tr(row.name.text, row.name.comment));
 }
 

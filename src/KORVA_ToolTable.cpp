@@ -107,7 +107,7 @@ int toolAt(int place)
 int firstOptionId(int tool)
 {
     int id = optionMenuBase;
-    for (int before = 0; before < tool; ++before)
+    for (int before = 0; before < qMin(tool, int(std::size(rows))); ++before)
         id += int(rows[before].options.size());
     return id;
 }

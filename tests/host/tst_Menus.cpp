@@ -309,23 +309,26 @@ void tst_Menus::aDoubleTapChoosesNothing()
     m_pad->click(key);
     QTest::qWait(QApplication::doubleClickInterval());
     QVERIFY(m_pad->process().isRunning());
-    QVERIFY(over().size() <= 1); // open, or closed again
-    QCOMPARE(m_pad->box(), QString());
+    QVERIFY(over().size() <= 1);                                    // open, or closed again
+    QVERIFY(QStringList({"", "korva-pad"}).contains(m_pad->box())); // which a pop-up is called
     QCOMPARE(lastLine(), QString());
 }
 
 void tst_Menus::keysWorkAfterEveryDialog()
 {
+    constexpr int settled = 200; // ms; until the keyboard has come
     QVERIFY(start());
+    QTest::qWait(settled);
     // Without a window manager, and with the pointer where it is.
     m_pad->server().moveTo(onDrawing);
-    m_pad->server().activateTopWindow();
     for (int i = 0; i < 2; ++i) {
         for (const auto& [name, title] : {std::pair("F1", "Keys"), std::pair("c", "Color")}) {
             m_pad->server().key(name);
             QVERIFY(m_pad->waitForBox(title));
+            QTest::qWait(settled);
             m_pad->server().key("Escape");
             QVERIFY(m_pad->waitForNoBox());
+            QTest::qWait(settled);
         }
     }
 }

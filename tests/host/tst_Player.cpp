@@ -196,14 +196,14 @@ void tst_Player::everyToolIsReached_data()
 {
     QTest::addColumn<int>("id");
     for (int id = 0; id < 8; ++id)
-        QTest::newRow(pad::toolNames[id]) << id;
+        QTest::newRow(qPrintable(KORVA_EditCanvas::toolWord(id))) << id;
 }
 
 void tst_Player::everyToolIsReached()
 {
     QFETCH(int, id);
     Pad pad;
-    QCOMPARE(pad.play(QByteArray("tool ") + pad::toolNames[id]), "");
+    QCOMPARE(pad.play("tool " + KORVA_EditCanvas::toolWord(id).toLatin1()), "");
     QCOMPARE(pad.editor.canvas()->getCurrentToolID(), id);
 }
 

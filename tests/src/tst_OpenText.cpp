@@ -35,6 +35,8 @@ private slots:
     void aTabAfterACommitCountsFromWhereTheLineGoesOn();
     void resetBufferTakesTheLettersOffTheScreen_data();
     void resetBufferTakesTheLettersOffTheScreen();
+    void anotherButtonLeavesTheTextAlone();
+    void lettersGoWithTheTextThatAHostEnds();
     void leavingTheToolEndsAComposition();
     void longTextsTakeNoLongerALetter_data();
     void longTextsTakeNoLongerALetter();
@@ -167,6 +169,31 @@ void tst_OpenText::resetBufferTakesTheLettersOffTheScreen()
     desk.tool().resetBuffer();
     QVERIFY(sameImage(desk.screen(), desk.start));
     QVERIFY(sameImage(desk.canvas.merged(), desk.base));
+}
+
+void tst_OpenText::anotherButtonLeavesTheTextAlone()
+{
+    WritingDesk desk(support::mosaic(QSize(160, 100)));
+    desk.tap({20, 50});
+    desk.type("abc");
+    for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::BackButton})
+        desk.stylus.click({20, 50}, button);
+    QVERIFY(sameImage(desk.screen(), desk.previewed("abc")));
+    desk.stylus.press({150, 90});
+    QVERIFY(sameImage(desk.canvas.merged(), desk.written("abc")));
+}
+
+void tst_OpenText::lettersGoWithTheTextThatAHostEnds()
+{
+    WritingDesk desk(support::mosaic(QSize(160, 100)));
+    desk.tap({20, 50});
+    const auto leave = [&] {
+        desk.manager.setCurrentTool(fixtures::Pencil);
+        desk.manager.setCurrentTool(fixtures::Text);
+    };
+    connect(&desk.canvas, &KORVA_Canvas::modified, this, leave, Qt::SingleShotConnection);
+    desk.compose("", "abc");
+    QVERIFY(sameImage(desk.canvas.shown(), desk.canvas.merged()));
 }
 
 void tst_OpenText::leavingTheToolEndsAComposition()

@@ -248,7 +248,10 @@ void tst_PictureFile::damagedGifFailsAlikeAtEverySize()
     QVERIFY(support::convert({"-size", size, "gradient:red-blue", "-interlace",
                               isInterlaced ? "GIF" : "None", path("sound.gif")}));
     const QByteArray whole = contents(path("sound.gif"));
-    for (const QByteArray& damaged : {whole.first(whole.size() / 2), whole.first(whole.size() * 9 / 10)}) {
+    const QByteArray scratched =
+        QByteArray(whole).replace(whole.size() * 3 / 10, 6, "\xff\xff\xff\xff\xff\xff");
+    for (const QByteArray& damaged :
+         {whole.first(whole.size() / 2), whole.first(whole.size() * 9 / 10), scratched}) {
         for (const auto scale : {KORVA_PictureFile::Full, KORVA_PictureFile::Working}) {
             write(path("damaged.gif"), damaged);
             KORVA_PictureFile file(path("damaged.gif"), scale);

@@ -34,6 +34,7 @@ private slots:
     void translucentColorIsLaidOnWhite();
     void whatAHostPaintsIsLaidOnWhite_data();
     void whatAHostPaintsIsLaidOnWhite();
+    void aPieceOfAForeignFormatIsNone();
     void aCutPieceLeavesAHoleWhereItWasLifted_data();
     void aCutPieceLeavesAHoleWhereItWasLifted();
 };
@@ -127,6 +128,20 @@ void tst_WhatComesIn::whatAHostPaintsIsLaidOnWhite()
         QVERIFY(!picture.hasAlphaChannel());
         QVERIFY(sameImage(picture, expected));
     }
+}
+
+void tst_WhatComesIn::aPieceOfAForeignFormatIsNone()
+{
+    const QTemporaryDir folder;
+    const QByteArray name = folder.filePath("a.png").toUtf8();
+    QVERIFY(mosaic(pieceSize).save(QString::fromUtf8(name), "WEBP"));
+    QVERIFY(!QImage(QString::fromUtf8(name)).isNull()); // an installed decoder could
+    KORVA_PasteLabel piece(nullptr, nullptr, {});
+    piece.setImage(name.constData());
+    QVERIFY(piece.getImage().isNull());
+    QVERIFY(mosaic(pieceSize).save(QString::fromUtf8(name), "PNG"));
+    piece.setImage(name.constData());
+    QVERIFY(sameImage(piece.getImage(), mosaic(pieceSize)));
 }
 
 void tst_WhatComesIn::aCutPieceLeavesAHoleWhereItWasLifted_data()
