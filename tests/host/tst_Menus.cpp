@@ -308,7 +308,7 @@ void tst_Menus::aDoubleTapChoosesNothing()
     m_pad->click(key);
     m_pad->click(key);
     QTest::qWait(QApplication::doubleClickInterval());
-    QVERIFY(m_pad->process().isRunning());
+    QVERIFY2(m_pad->process().isRunning(), qPrintable(m_pad->process().errors()));
     QVERIFY(over().size() <= 1);                                    // open, or closed again
     QVERIFY(QStringList({"", "korva-pad"}).contains(m_pad->box())); // which a pop-up is called
     QCOMPARE(lastLine(), QString());
