@@ -73,7 +73,6 @@ UTIL_FolderDialog::UTIL_FolderDialog(QWidget* parent, const QString& title, cons
     auto* orderKey = new UTIL_PushButton(QString(), QString(), this);
     auto* cancelKey = new UTIL_PushButton(QString(), tr("Cancel", "FOLDER_DIALOG;SOFTKEY_2BUTTON"), this);
     setFixedSize(Size::screenWidth, Size::screenHeight);
-    m_caption->setContentsMargins(Size::spacing, 0, Size::spacing, 0);
     m_caption->setFont(UTIL_Skin::font(UTIL_Skin::Font::Title));
     m_caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -98,7 +97,6 @@ UTIL_FolderDialog::UTIL_FolderDialog(QWidget* parent, const QString& title, cons
     keys->addWidget(cancelKey, 1);
     m_layout->setContentsMargins(Size::hairline, Size::spacing, Size::hairline, Size::spacing);
     m_layout->setSpacing(Size::spacing);
-    m_layout->addWidget(m_caption);
     m_layout->addLayout(m_head);
     m_layout->addWidget(m_view, 1); // from edge to edge: names need the width
     m_layout->addLayout(keys);
@@ -160,11 +158,14 @@ void UTIL_FolderDialog::fit()
     const QWidget* window = parentWidget() ? parentWidget()->window() : nullptr;
     if (window && window->isVisible())
         setFixedSize(window->size().boundedTo(most).boundedTo(screenArea().size()).expandedTo(least));
-    if (height() < lowest) { // the title takes the place of the folder's name
-        m_place->hide();
-        m_caption->setContentsMargins({});
+    // On a low screen the title takes the place of the folder's name.
+    const bool isLow = height() < lowest;
+    m_place->setHidden(isLow);
+    m_caption->setContentsMargins(isLow ? 0 : Size::spacing, 0, isLow ? 0 : Size::spacing, 0);
+    if (isLow)
         m_head->insertWidget(0, m_caption, 1);
-    }
+    else
+        m_layout->insertWidget(0, m_caption);
     showPlace();
 }
 

@@ -172,8 +172,7 @@ public:
     /// The floating piece; hidden while there is none. The canvas owns it.
     [[nodiscard]] KORVA_PasteLabel* pasteLabel() const { return m_pasteLabel; }
     /// The menu of the right button, with the actions Cut, Copy and Paste, whose QAction::data() is 0, 1
-    /// and
-    /// 2. A host may add entries of its own, and take away any. The canvas owns it.
+    /// and 2. A host may add entries of its own, and take away any. The canvas owns it.
     [[nodiscard]] QMenu* contextMenu() const { return m_menu; }
 
     /// The scroll view that holds the canvas; null when there is none.

@@ -61,6 +61,7 @@ private slots:
     void samePlaceTheSecondTime();
     void fillsItsWindow_data();
     void fillsItsWindow();
+    void followsItsWindow();
 
 private:
     Photos m_photos;
@@ -510,6 +511,30 @@ void tst_PickDialog::fillsItsWindow()
     auto* view = dialog.findChild<UTIL_PictureView*>();
     const int columns = view->viewport()->width() / view->gridSize().width();
     QCOMPARE(columns, dialog.width() / 74);
+}
+
+void tst_PickDialog::followsItsWindow()
+{
+    QWidget window;
+    window.resize(500, 420);
+    window.show();
+    UTIL_PickDialog dialog(&window, m_photos.path(), patterns);
+    dialog.show();
+    QLabel* caption = nullptr;
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        if (label->text() == dialog.windowTitle())
+            caption = label;
+    }
+    QVERIFY(caption);
+    const QRect atFirst = caption->geometry();
+    for (const QSize size : {QSize(300, 360), QSize(240, 200), QSize(500, 420)}) {
+        window.resize(size);
+        QTRY_COMPARE(dialog.size(), size);
+        QCOMPARE(dialog.geometry().center(), window.geometry().center());
+        for (const QAbstractButton* key : dialog.findChildren<QAbstractButton*>())
+            QVERIFY(dialog.rect().contains(key->geometry()));
+    }
+    QTRY_COMPARE(caption->geometry(), atFirst); // on a low one it was beside the keys
 }
 
 int main(int argc, char** argv)
