@@ -1,8 +1,8 @@
 #include "Documents.h"
 
 #include "DocumentAction.h"
+#include "DrawingFile.h"
 #include "EditCommand.h"
-#include "PictureFile.h"
 #include "Platform.h"
 
 #include <KORVA_ChooseCanvasDlg.h>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "DrawingFile.h"
 #include "LastFolder.h"
-#include "PictureFile.h"
 #include "Recording.h"
 
 #include <KORVA_Journal.h>

@@ -1,8 +1,8 @@
 #include "Player.h"
 
 #include "DocumentAction.h"
+#include "DrawingFile.h"
 #include "EditCommand.h"
-#include "PictureFile.h"
 
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>

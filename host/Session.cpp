@@ -2,7 +2,7 @@
 
 #include "Commands.h"
 #include "Documents.h"
-#include "PictureFile.h"
+#include "DrawingFile.h"
 #include "Player.h"
 #include "Recovery.h"
 

@@ -1,5 +1,5 @@
 #include "Documents.h"
-#include "PictureFile.h"
+#include "DrawingFile.h"
 #include "Platform.h"
 
 #include "support/Gestures.h"

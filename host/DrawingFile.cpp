@@ -1,4 +1,4 @@
-#include "PictureFile.h"
+#include "DrawingFile.h"
 
 #include <KORVA_EditCanvas.h>
 #include <UTIL_Platform.h>
@@ -33,15 +33,15 @@ struct Reason
 };
 
 constexpr Reason reasons[] = {
-    {ENOSPC, QT_TRANSLATE_NOOP3("pad::PictureFile", "The disk is full.", "saving")},
-    {EDQUOT, QT_TRANSLATE_NOOP3("pad::PictureFile", "The disk is full.", "saving")},
-    {EACCES, QT_TRANSLATE_NOOP3("pad::PictureFile", "No permission to write in %1.", "saving")},
-    {EPERM, QT_TRANSLATE_NOOP3("pad::PictureFile", "No permission to write in %1.", "saving")},
-    {EROFS, QT_TRANSLATE_NOOP3("pad::PictureFile", "%1 is on a disk that can only be read.", "saving")},
-    {ENOENT, QT_TRANSLATE_NOOP3("pad::PictureFile", "The folder %1 is not there.", "saving")},
-    {ENOTDIR, QT_TRANSLATE_NOOP3("pad::PictureFile", "The folder %1 is not there.", "saving")},
-    {EISDIR, QT_TRANSLATE_NOOP3("pad::PictureFile", "There is a folder of this name.", "saving")},
-    {ENAMETOOLONG, QT_TRANSLATE_NOOP3("pad::PictureFile", "The name is too long.", "saving")},
+    {ENOSPC, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The disk is full.", "saving")},
+    {EDQUOT, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The disk is full.", "saving")},
+    {EACCES, QT_TRANSLATE_NOOP3("pad::DrawingFile", "No permission to write in %1.", "saving")},
+    {EPERM, QT_TRANSLATE_NOOP3("pad::DrawingFile", "No permission to write in %1.", "saving")},
+    {EROFS, QT_TRANSLATE_NOOP3("pad::DrawingFile", "%1 is on a disk that can only be read.", "saving")},
+    {ENOENT, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The folder %1 is not there.", "saving")},
+    {ENOTDIR, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The folder %1 is not there.", "saving")},
+    {EISDIR, QT_TRANSLATE_NOOP3("pad::DrawingFile", "There is a folder of this name.", "saving")},
+    {ENAMETOOLONG, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The name is too long.", "saving")},
 };
 
 /// Why a file or folder cannot be written, as in errno; 0 where it can, or is not there. Even who may do
@@ -76,7 +76,7 @@ QString WriteError::sentence() const
         if (reason.code != code)
             continue;
         const QString text =
-            QCoreApplication::translate("pad::PictureFile", reason.label.text, reason.label.comment);
+            QCoreApplication::translate("pad::DrawingFile", reason.label.text, reason.label.comment);
         return text.contains(QLatin1String("%1")) ? text.arg(folder) : text;
     }
     return detail;
@@ -168,7 +168,7 @@ std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QStr
         saving->error = draft.write(write, [&saving] { return saving->decide(); });
         saving->promise.finish();
     });
-    const QString text = QCoreApplication::translate("pad::PictureFile", "Saving drawing", "saving");
+    const QString text = QCoreApplication::translate("pad::DrawingFile", "Saving drawing", "saving");
     if (!platform.waitFor(window, text, work) && saving->decide())
         return systemError(ECANCELED, fileName);
     work.waitForFinished(); // a cancel that came too late: only the last step is left
