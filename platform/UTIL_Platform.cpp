@@ -88,6 +88,16 @@ qint64 UTIL_Platform::pixelLimit() const
     return 64 * megapixel;
 }
 
+QSize UTIL_Platform::workingBox() const
+{
+    return {352, 288};
+}
+
+int UTIL_Platform::workingDepth() const
+{
+    return 16;
+}
+
 QList<QByteArray> UTIL_Platform::otherFormats() const
 {
     return {};

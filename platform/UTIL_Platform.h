@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QFuture>
 #include <QList>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -70,6 +71,10 @@ public:
     [[nodiscard]] virtual QString iconFolder() const;
     /// The most pixels (width × height) a picture file may have to be decoded: 64 000 000.
     [[nodiscard]] virtual qint64 pixelLimit() const;
+    /// What an opened picture of more pixels is fitted to, at most 4096 × 4096: 352 × 288.
+    [[nodiscard]] virtual QSize workingBox() const;
+    /// The bits a pixel that an opened picture keeps: 16, or 24 for all of its colours.
+    [[nodiscard]] virtual int workingDepth() const;
     /// What else than PNG, JPEG, GIF, BMP and WBMP is read, by the toolkit's names ("tiff"): nothing.
     /// Whatever a file's name is, its content goes to no other decoder that happens to be installed. The
     /// toolkit's own limit on memory holds for these.

@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_EditCanvas.h"
+#include "KORVA_Formats.h"
 #include "KORVA_MainView.h"
 #include "KORVA_PictureFile.h"
 #include "KORVA_ScrollView.h"
@@ -141,7 +142,7 @@ bool KORVA_Documents::pickAndOpen(int action)
     delete m_pickDialog;
     UTIL_Platform* platform = UTIL_Platform::instance();
     UTIL_Modal dialog(
-        platform->createPickDialog(&m_editor, platform->photoFolder(), picturefile::openPatterns()));
+        platform->createPickDialog(&m_editor, platform->photoFolder(), KORVA_Formats::openPatterns()));
     if (action == InsertStamp)
         dialog->setPurpose(KORVA_EditCanvas::tr("Insert stamp", "PICK_DIALOG;TITLE"),
                            KORVA_EditCanvas::tr("Insert", "PICK_DIALOG;SOFTKEY_2BUTTON"));
@@ -155,7 +156,7 @@ bool KORVA_Documents::pickAndOpen(int action)
 
 bool KORVA_Documents::open(int action, const QString& name)
 {
-    const std::optional<Contents> contents = contentsOf(name, picturefile::readFormat(name));
+    const std::optional<Contents> contents = contentsOf(name, KORVA_Formats::readFormat(name));
     if (!contents)
         return false;
     if (action != InsertStamp)
@@ -189,7 +190,7 @@ void KORVA_Documents::openAtConstruction(const QString& name)
 {
     const bool isHandedOver = name == QLatin1String(handedOver) || name == QLatin1String(handedOverFile);
     const std::optional<Contents> contents =
-        contentsOf(name, isHandedOver ? QByteArray() : picturefile::readFormat(name));
+        contentsOf(name, isHandedOver ? QByteArray() : KORVA_Formats::readFormat(name));
     QPixmap picture;
     if (!contents || !check(contents->status))
         return;
@@ -215,13 +216,16 @@ bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
 std::optional<KORVA_Documents::Contents> KORVA_Documents::contentsOf(const QString& name,
                                                                      const QByteArray& format)
 {
-    return patiently(m_editor, KORVA_PictureFile(name), [format](KORVA_PictureFile& file) {
+    const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
+    KORVA_PictureFile picture(name);
+    picture.setLimits(limits);
+    return patiently(m_editor, picture, [format, limits](KORVA_PictureFile& file) {
         Contents contents;
         contents.status = file.check(format.isEmpty() ? nullptr : format.constData());
         if (contents.status != UTIL_ImageReader::Ok)
             return contents;
         contents.image = file.take();
-        contents.working = picturefile::workingImage(contents.image);
+        contents.working = limits.fitted(contents.image);
         contents.opened = {file.name(), file.origin().size, !file.origin().isWhole};
         return contents;
     });
@@ -243,7 +247,7 @@ bool KORVA_Documents::check(int status)
 
 bool KORVA_Documents::take(const Contents& contents, QPixmap* picture, Opened* opened)
 {
-    if (contents.image.isNull() || !picturefile::convert(contents.working, picture))
+    if (contents.image.isNull() || !KORVA_WorkingLimits::ofPlatform().convert(contents.working, picture))
         return false;
     *opened = contents.opened;
     opened->isReduced = opened->isReduced || !UTIL_ImageReader::isSame(contents.image, picture->toImage());
@@ -261,9 +265,10 @@ void KORVA_Documents::tellUnreadable()
 void KORVA_Documents::setBuffer(const QByteArray& data)
 {
     QPixmap picture;
-    picturefile::Origin origin;
-    const QImage image = picturefile::decoded(data, &origin);
-    if (picturefile::convert(image, &picture)) {
+    KORVA_PictureFile::Origin origin;
+    const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
+    const QImage image = KORVA_PictureFile::decoded(data, limits, &origin);
+    if (limits.convert(image, &picture)) {
         m_opened = {m_fileName, origin.size,
                     !origin.isWhole || !UTIL_ImageReader::isSame(image, picture.toImage())};
         m_editor.setPixmap(&picture);
@@ -290,7 +295,7 @@ void KORVA_Documents::askForName()
 {
     UTIL_Platform* platform = UTIL_Platform::instance();
     UTIL_Modal dialog(
-        platform->createSaveDialog(&m_editor, platform->photoFolder(), picturefile::savePatterns()));
+        platform->createSaveDialog(&m_editor, platform->photoFolder(), KORVA_Formats::savePatterns()));
     m_saveDialog = dialog.operator->();
     bool isAccepted = false;
     if (!survives([&] { isAccepted = dialog.isAccepted(); }))
@@ -317,7 +322,7 @@ void KORVA_Documents::saveAndTell()
         emit m_editor.canDelete(false);
         return;
     }
-    const QByteArray format = picturefile::writeFormat(m_fileName);
+    const QByteArray format = KORVA_Formats::writeFormat(m_fileName);
     const bool canBeWritten = !format.isEmpty(); // a GIF never is, and keeps its name
     std::pair outcome{errorIcon, KORVA_EditCanvas::tr("Saved Failed", "2.11.2.10;DIALOG_ICON_50")};
     if (canBeWritten && m_editor.save(m_fileName, format.constData())) {

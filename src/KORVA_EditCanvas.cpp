@@ -6,6 +6,7 @@
 #include "KORVA_ColorPicker.h"
 #include "KORVA_Documents.h"
 #include "KORVA_EditorLayout.h"
+#include "KORVA_Formats.h"
 #include "KORVA_MainView.h"
 #include "KORVA_Manager.h"
 #include "KORVA_PasteLabel.h"
@@ -300,7 +301,7 @@ bool KORVA_EditCanvas::openNewFilePrivate(int flag, const QString& openDocFile)
 
 void KORVA_EditCanvas::getFileFormat(const QString& name, QString& format) const
 {
-    format = QString::fromLatin1(picturefile::readFormat(name));
+    format = QString::fromLatin1(KORVA_Formats::readFormat(name));
 }
 
 bool KORVA_EditCanvas::isPicSizeNotOver(const QString& name, const char* format)
@@ -310,7 +311,9 @@ bool KORVA_EditCanvas::isPicSizeNotOver(const QString& name, const char* format)
 
 bool KORVA_EditCanvas::getImage(QImage* image, const QString& name)
 {
-    const QImage read = KORVA_PictureFile(name, KORVA_PictureFile::Full).take();
+    KORVA_PictureFile file(name, KORVA_PictureFile::Full);
+    file.setLimits(KORVA_WorkingLimits::ofPlatform());
+    const QImage read = file.take();
     if (read.isNull())
         return false;
     *image = read;
@@ -319,8 +322,9 @@ bool KORVA_EditCanvas::getImage(QImage* image, const QString& name)
 
 bool KORVA_EditCanvas::convertScaleImage(QImage* image, QPixmap* pixmap)
 {
-    *image = picturefile::workingImage(*image);
-    return picturefile::convert(*image, pixmap);
+    const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
+    *image = limits.fitted(*image);
+    return limits.convert(*image, pixmap);
 }
 
 void KORVA_EditCanvas::setBuffer(const QByteArray& encoded)

@@ -3,8 +3,8 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Documents.h"
+#include "KORVA_Formats.h"
 #include "KORVA_PasteLabel.h"
-#include "KORVA_PictureFile.h"
 #include "KORVA_PictureSave.h"
 #include "KORVA_Text.h"
 #include "KORVA_ToolTable.h"
@@ -38,7 +38,7 @@ QImage KORVA_EditCanvas::snapshot() const
 QByteArray KORVA_EditCanvas::encoded(const char* format, qsizetype mostBytes) const
 {
     return picturesave::encodedWithin(
-        snapshot(), format ? QByteArray(format) : picturefile::writeFormat(fileName()), mostBytes);
+        snapshot(), format ? QByteArray(format) : KORVA_Formats::writeFormat(fileName()), mostBytes);
 }
 
 QByteArray KORVA_EditCanvas::encoded(const QImage& snapshot, const char* format, qsizetype mostBytes)
@@ -58,12 +58,12 @@ bool KORVA_EditCanvas::isReduced() const
 
 QStringList KORVA_EditCanvas::openPatterns()
 {
-    return picturefile::openPatterns();
+    return KORVA_Formats::openPatterns();
 }
 
 QStringList KORVA_EditCanvas::savePatterns()
 {
-    return picturefile::savePatterns();
+    return KORVA_Formats::savePatterns();
 }
 
 QString KORVA_EditCanvas::toolName(int tool)

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QByteArray>
+#include <QStringList>
+
 #include <array>
 
 /// The picture files that a drawing comes from and goes to. Patterns, dialogs, what a file is read as and
@@ -36,5 +39,15 @@ inline constexpr std::array rows{
 
 /// A file of any other extension, or of none, is one of these.
 inline constexpr const Row& anyOther = rows[0];
+
+/// The row of a file by its last extension.
+[[nodiscard]] const Row& rowOf(const QString& fileName);
+/// What such a file is read as, and what is written into it: an empty one cannot be written.
+[[nodiscard]] QByteArray readFormat(const QString& fileName);
+[[nodiscard]] QByteArray writeFormat(const QString& fileName);
+
+/// What is offered for opening and for saving: "*.png" and the like.
+[[nodiscard]] QStringList openPatterns();
+[[nodiscard]] QStringList savePatterns();
 
 } // namespace KORVA_Formats

@@ -1,48 +1,12 @@
 #pragma once
 
+#include "KORVA_WorkingLimits.h"
 #include "UTIL_ImageReader.h"
 
 #include <QImage>
-#include <QPixmap>
-#include <QStringList>
 
 #include <functional>
 #include <optional>
-
-/// What picture files a drawing can come from and go to, and how a picture becomes fit for the canvas.
-/// Values in, values out: nothing here shows a message.
-namespace picturefile {
-
-/// What is offered for opening and for saving, in the dialogs' order.
-[[nodiscard]] QStringList openPatterns();
-[[nodiscard]] QStringList savePatterns();
-
-/// The format of a file by its last extension, whatever its case: what it is read as, and what is written
-/// into it. An empty one to write means that it cannot be written (GIF).
-[[nodiscard]] QByteArray readFormat(const QString& fileName);
-[[nodiscard]] QByteArray writeFormat(const QString& fileName);
-
-/// The size in which a picture is worked on: its own, or the greatest of its shape within 352 × 288 when it
-/// has more pixels than that.
-[[nodiscard]] QSize workingSize(QSize size);
-/// The picture in its working size and depth: 16 bits, or 8 where it has that and keeps its size. What is
-/// transparent comes out white. Null in, null out.
-[[nodiscard]] QImage workingImage(const QImage& image);
-/// The same as a pixmap; false when the picture is null or cannot be converted.
-[[nodiscard]] bool convert(const QImage& image, QPixmap* pixmap);
-
-/// What a picture was before it was decoded and made fit.
-struct Origin
-{
-    QSize size;           ///< upright, in pixels
-    bool isWhole = false; ///< every pixel of every frame came through in its colour
-};
-
-/// A picture in memory, recognised by its content; null when it cannot be decoded. A great one comes in its
-/// working size.
-[[nodiscard]] QImage decoded(const QByteArray& data, Origin* origin = nullptr);
-
-} // namespace picturefile
 
 /// A picture file on its way in. Checking it decodes it; opening it then takes what the check decoded, as
 /// long as the file was not changed in between and the outcome would be the same.
@@ -54,6 +18,13 @@ public:
         Working, ///< what may be decoded smaller comes in its working size: enough for the canvas
     };
 
+    /// What a picture was before it was decoded and made fit.
+    struct Origin
+    {
+        QSize size;           ///< upright, in pixels
+        bool isWhole = false; ///< every pixel of every frame came through in its colour
+    };
+
     KORVA_PictureFile() = default;
     explicit KORVA_PictureFile(const QString& name, Scale scale = Working);
 
@@ -61,6 +32,13 @@ public:
     /// Whether it is read in no time: a short file with a small picture, or no file at all.
     [[nodiscard]] bool isSmall() const;
 
+    /// A picture in memory, recognised by its content; null when it cannot be decoded. A great one comes in
+    /// its working size.
+    [[nodiscard]] static QImage decoded(const QByteArray& data, const KORVA_WorkingLimits& limits,
+                                        Origin* origin = nullptr);
+
+    /// What is enough for the canvas; the classic limits unless told.
+    void setLimits(const KORVA_WorkingLimits& limits) { m_limits = limits; }
     /// What holds instead of the platform's, which only the GUI thread may ask for.
     void setAllowance(const UTIL_ImageReader::Allowance& allowance) { m_allowance = allowance; }
     /// Asked again and again while the file is read; nothing can be read once it says true.
@@ -70,11 +48,11 @@ public:
     /// has too many pixels to be decoded, another number for every other failure.
     int check(const char* format);
     /// The picture, read by the file's extension: a GIF with all its frames sound and its transparent
-    /// colour shown as any other, a JPEG in 16 bits, anything else by its content. Null when it cannot be
-    /// read.
+    /// colour shown as any other, a JPEG in the working depth, anything else by its content. Null when it
+    /// cannot be read.
     [[nodiscard]] QImage take();
     /// What the picture that take() gave was in the file.
-    [[nodiscard]] const picturefile::Origin& origin() const { return m_origin; }
+    [[nodiscard]] const Origin& origin() const { return m_origin; }
 
 private:
     void examine();
@@ -82,11 +60,12 @@ private:
 
     QString m_name;
     Scale m_scale = Working;
+    KORVA_WorkingLimits m_limits;
     std::optional<UTIL_ImageReader::Allowance> m_allowance;
     std::function<bool()> m_isCancelled;
     QImage m_checked;                       ///< what check() decoded; null when take() must decode itself
     QString m_version;                      ///< of the file when it was examined; null when it was not
     bool m_isDamaged = false;               ///< a GIF that is not sound to its end
     std::optional<QRgb> m_transparentColor; ///< a GIF's
-    picturefile::Origin m_origin;
+    Origin m_origin;
 };

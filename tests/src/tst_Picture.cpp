@@ -374,7 +374,7 @@ void tst_Picture::aFileIsConvertedWithoutAScreen()
     QVERIFY(withHole().save(from));
 
     QPixmap pixels;
-    QVERIFY(picturefile::convert(KORVA_PictureFile(from).take(), &pixels));
+    QVERIFY(KORVA_WorkingLimits().convert(KORVA_PictureFile(from).take(), &pixels));
     KORVA_Picture drawing(pixels);
     drawing.scale(size * 2);
     QVERIFY(picturesave::write(drawing.image(), to, nullptr));

@@ -1,3 +1,4 @@
+#include "KORVA_Formats.h"
 #include "KORVA_PictureFile.h"
 #include "support/Images.h"
 #include "support/PictureFiles.h"
@@ -13,15 +14,8 @@ class tst_PictureFile : public support::TestCase
 private slots:
     void initTestCase();
 
-    void patterns();
-    void formats_data();
-    void formats();
-    void workingSize_data();
-    void workingSize();
     void pictureIsScaledToTheWorkingSize_data();
     void pictureIsScaledToTheWorkingSize();
-    void workingDepth_data();
-    void workingDepth();
     void transparencyComesOutWhite_data();
     void transparencyComesOutWhite();
     void transparentColorOfAGifShows();
@@ -37,7 +31,6 @@ private slots:
     void takeWithoutCheckReadsTheFile();
     void fullScaleKeepsTheSize();
     void memoryIsRecognisedByItsContent();
-    void nullPictureIsNotConverted();
 
 private:
     [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
@@ -51,64 +44,6 @@ void tst_PictureFile::initTestCase()
     for (const char* name : {"a.png", "a.jpg", "a.gif", "a.bmp"})
         QVERIFY(support::convert(source + QStringList{path(name)}));
     QVERIFY(support::convert(source + QStringList{"-monochrome", path("a.wbmp")}));
-}
-
-void tst_PictureFile::patterns()
-{
-    QCOMPARE(picturefile::openPatterns(),
-             QStringList({"*.png", "*.gif", "*.jpeg", "*.jpg", "*.bmp", "*.wbmp"}));
-    QCOMPARE(picturefile::savePatterns(), QStringList({"*.png", "*.jpeg", "*.jpg", "*.bmp"}));
-}
-
-void tst_PictureFile::formats_data()
-{
-    QTest::addColumn<QByteArray>("read");
-    QTest::addColumn<QByteArray>("written");
-    const QByteArray none;
-    const std::tuple<const char*, QByteArray, QByteArray> rows[] = {
-        {"a.bmp", "BMP", "BMP"},    {"a.BMP", "BMP", "BMP"},     {"a.jpg", "JPEG", "JPEG"},
-        {"a.Jpe", "JPEG", "JPEG"},  {"a.JPEG", "JPEG", "JPEG"},  {"a.gif", "GIF", none},
-        {"a.Gif", "GIF", none},     {"a.wbmp", "WBMP", "PNG"},   {"a.png", "PNG", "PNG"},
-        {"a.tif", "PNG", "PNG"},    {"a", "PNG", "PNG"},         {"gif", "PNG", "PNG"},
-        {"a.", "PNG", "PNG"},       {"a.gif.png", "PNG", "PNG"}, {"a.png.gif", "GIF", none},
-        {"/b.gif/a", "PNG", "PNG"}, {"", "PNG", "PNG"},          {".gif", "GIF", none},
-    };
-    for (const auto& [name, read, written] : rows)
-        QTest::addRow("\"%s\"", name) << read << written;
-}
-
-void tst_PictureFile::formats()
-{
-    QFETCH(QByteArray, read);
-    QFETCH(QByteArray, written);
-    const QString name = QString(QTest::currentDataTag()).remove('"');
-    QCOMPARE(picturefile::readFormat(name), read);
-    QCOMPARE(picturefile::writeFormat(name), written);
-}
-
-void tst_PictureFile::workingSize_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("working");
-    QTest::addRow("the box itself") << QSize(352, 288) << QSize(352, 288);
-    QTest::addRow("of the same shape") << QSize(704, 576) << QSize(352, 288);
-    QTest::addRow("wide") << QSize(1000, 200) << QSize(352, 70);
-    QTest::addRow("tall") << QSize(200, 1000) << QSize(57, 288);
-    QTest::addRow("wider than the box but of fewer pixels") << QSize(400, 250) << QSize(400, 250);
-    QTest::addRow("one row too many") << QSize(352, 289) << QSize(350, 288);
-    QTest::addRow("one column too many") << QSize(353, 288) << QSize(352, 287);
-    QTest::addRow("a long strip of as many pixels") << QSize(101376, 1) << QSize(101376, 1);
-    QTest::addRow("a strip one pixel longer") << QSize(101377, 1) << QSize(352, 1);
-    QTest::addRow("an upright one") << QSize(1, 101377) << QSize(1, 288);
-    QTest::addRow("a photograph") << QSize(4000, 3000) << QSize(352, 264);
-    QTest::addRow("an upright photograph") << QSize(3000, 4000) << QSize(216, 288);
-    QTest::addRow("sides whose product passes 32 bits") << QSize(60000, 60000) << QSize(288, 288);
-}
-
-void tst_PictureFile::workingSize()
-{
-    QFETCH(QSize, size);
-    QTEST(picturefile::workingSize(size), "working");
 }
 
 void tst_PictureFile::pictureIsScaledToTheWorkingSize_data()
@@ -133,44 +68,10 @@ void tst_PictureFile::pictureIsScaledToTheWorkingSize()
     QFETCH(QSize, working);
     QVERIFY(support::mosaic(size).scaled(size).save(path(file), nullptr, 96));
     KORVA_PictureFile picture(path(file));
-    QCOMPARE(picture.check(picturefile::readFormat(file)), 0);
+    QCOMPARE(picture.check(KORVA_Formats::readFormat(file)), 0);
     QPixmap pixmap;
-    QVERIFY(picturefile::convert(picture.take(), &pixmap));
+    QVERIFY(KORVA_WorkingLimits().convert(picture.take(), &pixmap));
     QCOMPARE(pixmap.size(), working);
-}
-
-void tst_PictureFile::workingDepth_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("to");
-    const QSize small(30, 20);
-    const QSize great(400, 300);
-    const std::tuple<const char*, QImage::Format, int> rows[] = {
-        {"1 bit", QImage::Format_Mono, 16},     {"1 bit, reversed", QImage::Format_MonoLSB, 16},
-        {"8 bits", QImage::Format_Indexed8, 8}, {"8 bits of grey", QImage::Format_Grayscale8, 8},
-        {"16 bits", QImage::Format_RGB16, 16},  {"24 bits", QImage::Format_RGB888, 16},
-        {"32 bits", QImage::Format_RGB32, 16},  {"32 bits with alpha", QImage::Format_ARGB32, 16},
-        {"64 bits", QImage::Format_RGBA64, 16},
-    };
-    for (const auto& [name, format, depth] : rows) {
-        QTest::addRow("%s", name) << int(format) << small << depth;
-        QTest::addRow("%s, scaled", name)
-            << int(format) << great << (format == QImage::Format_Grayscale8 ? 8 : 16);
-    }
-}
-
-void tst_PictureFile::workingDepth()
-{
-    QFETCH(int, from);
-    QFETCH(QSize, size);
-    QFETCH(int, to);
-    const QImage image = support::mosaic(size).convertToFormat(QImage::Format(from));
-    const QImage working = picturefile::workingImage(image);
-    QCOMPARE(working.depth(), to);
-    if (to == 16)
-        QCOMPARE(working.format(), QImage::Format_RGB16);
-    QCOMPARE(working.size(), picturefile::workingSize(size));
 }
 
 void tst_PictureFile::transparencyComesOutWhite_data()
@@ -190,7 +91,7 @@ void tst_PictureFile::transparencyComesOutWhite()
     QFETCH(QString, file);
     QVERIFY(support::convert(making + QStringList{file.replace(':', ':' + m_folder.path() + '/')}));
     QPixmap pixmap;
-    QVERIFY(picturefile::convert(KORVA_PictureFile(path("clear.png")).take(), &pixmap));
+    QVERIFY(KORVA_WorkingLimits().convert(KORVA_PictureFile(path("clear.png")).take(), &pixmap));
     const QImage image = pixmap.toImage();
     QCOMPARE(image.pixelColor(image.width() / 4, 5), QColor(Qt::blue));
     QCOMPARE(image.pixelColor(image.width() * 3 / 4, 5), QColor(Qt::white));
@@ -309,7 +210,7 @@ void tst_PictureFile::checkTellsWhatIsWrong()
     const QString name = path(QTest::currentDataTag());
     write(name, bytes);
     KORVA_PictureFile file(name);
-    QTEST(file.check(picturefile::readFormat(name)), "status");
+    QTEST(file.check(KORVA_Formats::readFormat(name)), "status");
 }
 
 void tst_PictureFile::takeDecodesOnce()
@@ -357,15 +258,9 @@ void tst_PictureFile::fullScaleKeepsTheSize()
 void tst_PictureFile::memoryIsRecognisedByItsContent()
 {
     for (const char* name : {"a.png", "a.jpg", "a.gif", "a.bmp", "a.wbmp"})
-        QCOMPARE(picturefile::decoded(contents(path(name))).size(), QSize(60, 40));
-    QVERIFY(picturefile::decoded({}).isNull());
-    QVERIFY(picturefile::decoded("no picture").isNull());
-}
-
-void tst_PictureFile::nullPictureIsNotConverted()
-{
-    QPixmap pixmap;
-    QVERIFY(!picturefile::convert({}, &pixmap));
+        QCOMPARE(KORVA_PictureFile::decoded(contents(path(name)), {}).size(), QSize(60, 40));
+    QVERIFY(KORVA_PictureFile::decoded({}, {}).isNull());
+    QVERIFY(KORVA_PictureFile::decoded("no picture", {}).isNull());
 }
 
 int main(int argc, char** argv)

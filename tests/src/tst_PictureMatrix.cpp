@@ -1,3 +1,4 @@
+#include "KORVA_Formats.h"
 #include "KORVA_PictureFile.h"
 #include "support/PictureFiles.h"
 #include "support/TestCase.h"
@@ -111,9 +112,9 @@ void tst_PictureMatrix::openedPictureIsWhatOthersSee()
         support::write(name, support::withOrientation(support::contents(name), orientation));
 
     KORVA_PictureFile picture(name);
-    QCOMPARE(picture.check(picturefile::readFormat(name)), 0);
+    QCOMPARE(picture.check(KORVA_Formats::readFormat(name)), 0);
     QPixmap opened;
-    QVERIFY(picturefile::convert(picture.take(), &opened));
+    QVERIFY(KORVA_WorkingLimits().convert(picture.take(), &opened));
     const support::Distance distance = support::distance(opened.toImage(), support::converted(name));
     QVERIFY2(distance.greatest <= tolerance,
              qPrintable(QString("%1, on the average %2").arg(distance.greatest).arg(distance.mean)));

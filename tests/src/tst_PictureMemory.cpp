@@ -1,3 +1,4 @@
+#include "KORVA_Formats.h"
 #include "KORVA_PictureFile.h"
 #include "support/PictureFiles.h"
 #include "support/TestCase.h"
@@ -120,9 +121,9 @@ void tst_PictureMemory::openingStaysSmall()
                              QStringList{"-define", "png:compression-level=1", variety + name}));
     const Peak peak;
     KORVA_PictureFile picture(name);
-    QCOMPARE(picture.check(picturefile::readFormat(name)), 0);
+    QCOMPARE(picture.check(KORVA_Formats::readFormat(name)), 0);
     QPixmap opened;
-    QVERIFY(picturefile::convert(picture.take(), &opened));
+    QVERIFY(KORVA_WorkingLimits().convert(picture.take(), &opened));
     const qint64 bytes = peak.bytes();
     qInfo("%lld bytes", static_cast<long long>(bytes));
     QCOMPARE(opened.size(), QSize(352, 264));

@@ -1,5 +1,6 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_EditCanvas.h"
+#include "KORVA_Formats.h"
 #include "KORVA_PictureFile.h"
 #include "KORVA_PictureSave.h"
 #include "support/Images.h"
@@ -83,8 +84,8 @@ void tst_Surroundings::results()
     const QDir folder(QFile::decodeName(qgetenv(folderVariable)));
     for (const QString& name : folder.entryList({"*a.*", "*p.*"}, QDir::Files, QDir::Name)) {
         KORVA_PictureFile file(folder.filePath(name));
-        const int status = file.check(picturefile::readFormat(name));
-        tell(name, QByteArray::number(status) + ' ' + digest(picturefile::workingImage(file.take())));
+        const int status = file.check(KORVA_Formats::readFormat(name));
+        tell(name, QByteArray::number(status) + ' ' + digest(KORVA_WorkingLimits().fitted(file.take())));
     }
     for (const char* format : {"PNG", "JPEG", "BMP"}) {
         const QString name = folder.filePath(QString("saved.") + format);
