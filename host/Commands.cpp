@@ -30,9 +30,8 @@ struct Label
     const char* comment;
 };
 
-constexpr int realSize = 1; // as fitToPage, an index in the zoom box
-constexpr int largest = 3;
-constexpr int fitToPage = 4;
+/// The rows of the zoom box that have a rate of their own, in percent.
+constexpr int rates[] = {50, 100, 150, 200};
 
 } // namespace
 
@@ -55,7 +54,6 @@ Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* wind
       m_editor(editor),
       m_documents(documents),
       m_window(window),
-      m_controls(editor),
       m_menu(new UTIL_PopupMenu(window))
 {
     addEntries();
@@ -66,9 +64,9 @@ void Commands::addEntries()
 {
     using C = Commands;
     static constexpr auto doing = [](C& c, int verb) { c.perform(Verb(verb)); };
-    static constexpr auto tool = [](C& c, int number) { c.chooseTool(number); };
-    static constexpr auto zoom = [](C& c, int number) { c.chooseZoom(number); };
-    static constexpr auto option = [](C& c, int number) { c.m_controls.chooseOption(number); };
+    static constexpr auto tool = [](C& c, int number) { c.m_editor.selectTool(number); };
+    static constexpr auto zoom = [](C& c, int number) { c.m_editor.selectZoom(number); };
+    static constexpr auto option = [](C& c, int number) { c.m_editor.selectOption(number); };
     static constexpr Entry entries[] = {
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&New ...", "menu"), "Ctrl+N", Needs::Nothing,
          [](C& c, int) { c.m_documents.newDrawing(); }},
@@ -115,29 +113,35 @@ void Commands::addEntries()
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Tool", "menu"), "", Needs::Nothing, nullptr, 0,
          Page::Tool},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "Pe&ncil", "menu"), "P", Needs::Nothing, tool, 0},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Line", "menu"), "L", Needs::Nothing, tool, 2},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "Pe&ncil", "menu"), "P", Needs::Nothing, tool,
+         KORVA_TOOL_PENCIL},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Line", "menu"), "L", Needs::Nothing, tool,
+         KORVA_TOOL_LINE},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Rectangle", "menu"), "R", Needs::Nothing, tool,
-         4},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Ellipse", "menu"), "O", Needs::Nothing, tool, 5},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "E&raser", "menu"), "E", Needs::Nothing, tool, 6},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Text", "menu"), "T", Needs::Nothing, tool, 3},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Select", "menu"), "S", Needs::Nothing, tool, 1},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Hand", "menu"), "H", Needs::Nothing, tool, 7},
+         KORVA_TOOL_RECTANGLE},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Ellipse", "menu"), "O", Needs::Nothing, tool,
+         KORVA_TOOL_ELLIPSE},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "E&raser", "menu"), "E", Needs::Nothing, tool,
+         KORVA_TOOL_ERASER},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Text", "menu"), "T", Needs::Nothing, tool,
+         KORVA_TOOL_TEXT},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Select", "menu"), "S", Needs::Nothing, tool,
+         KORVA_TOOL_SELECT},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Hand", "menu"), "H", Needs::Nothing, tool,
+         KORVA_TOOL_HAND},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Color ...", "menu"), "C", Needs::Nothing,
-         [](C& c, int) { c.m_controls.pickColor(); }},
+         [](C& c, int) { c.m_editor.slotColor(); }},
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&View", "menu"), "", Needs::Nothing, nullptr, 0,
          Page::View},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Larger", "menu"),
-         "Ctrl++; Ctrl+=", Needs::Nothing,
-         [](C& c, int) { c.chooseZoom(std::min(c.m_controls.zoom() % fitToPage + 1, largest)); }},
+         "Ctrl++; Ctrl+=", Needs::Nothing, [](C& c, int) { c.m_editor.selectZoom(c.nextZoom(1)); }},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Smaller", "menu"), "Ctrl+-", Needs::Nothing,
-         [](C& c, int) { c.chooseZoom(std::max(c.m_controls.zoom() % fitToPage - 1, 0)); }},
+         [](C& c, int) { c.m_editor.selectZoom(c.nextZoom(-1)); }},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Real size", "menu"), "Ctrl+0", Needs::Nothing,
-         zoom, realSize},
+         zoom, KORVA_ZOOM_100},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Fit to page", "menu"), "Ctrl+9", Needs::Nothing,
-         zoom, fitToPage},
+         zoom, KORVA_ZOOM_FIT},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "Full s&creen", "menu"), "F11", Needs::Nothing,
          [](C& c, int) { c.m_window->setWindowState(c.m_window->windowState() ^ Qt::WindowFullScreen); }},
 
@@ -247,14 +251,14 @@ void Commands::perform(Verb verb)
     emit performed(Command{.verb = verb});
 }
 
-void Commands::chooseTool(int tool)
+// From a rate that has no row, such as one that fits the page, to the row beside it.
+int Commands::nextZoom(int direction) const
 {
-    m_controls.chooseTool(tool);
-}
-
-void Commands::chooseZoom(int index)
-{
-    m_controls.chooseZoom(index);
+    const int rate = m_editor.canvas()->zoom();
+    const auto* const larger = std::upper_bound(std::begin(rates), std::end(rates), rate);
+    const auto* const same = std::lower_bound(std::begin(rates), std::end(rates), rate);
+    const auto row = direction > 0 ? larger - rates : same - rates - 1;
+    return std::clamp(int(row), int(KORVA_ZOOM_50), int(KORVA_ZOOM_200));
 }
 
 void Commands::showKeys()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "EditorControls.h"
 #include "Recording.h"
 
 #include <QObject>
@@ -64,15 +63,13 @@ private:
     void perform(Verb verb);
     void removeSelection();
     void paste();
-    void chooseTool(int tool);
-    void chooseZoom(int index);
+    [[nodiscard]] int nextZoom(int direction) const;
     void showKeys();
 
     KORVA_EditCanvas& m_editor;
     Documents& m_documents;
     Recovery* m_recovery = nullptr;
     QWidget* m_window; // the parent
-    EditorControls m_controls;
     QMenu* m_menu;
     std::vector<Dependent> m_dependents;
     QAction* m_undo = nullptr;

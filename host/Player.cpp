@@ -35,7 +35,7 @@ QString textOf(QKeyCombination key)
 } // namespace
 
 Player::Player(KORVA_EditCanvas& editor, Platform& platform)
-    : m_editor(editor), m_platform(platform), m_controls(editor), m_pointer(editor.canvas())
+    : m_editor(editor), m_platform(platform), m_pointer(editor.canvas())
 {
 }
 
@@ -61,10 +61,10 @@ struct Player::Action
 void Player::perform(const Command& command)
 {
     static constexpr Action actions[] = {
-        {Verb::Tool, [](Player& p, const Command& c) { p.m_controls.chooseTool(c.number); }},
+        {Verb::Tool, [](Player& p, const Command& c) { p.m_editor.selectTool(c.number); }},
         {Verb::Option, [](Player& p, const Command& c) { p.option(c.number); }},
         {Verb::Color, [](Player& p, const Command& c) { p.m_editor.setColor(c.color); }},
-        {Verb::Zoom, [](Player& p, const Command& c) { p.m_controls.chooseZoom(c.number); }},
+        {Verb::Zoom, [](Player& p, const Command& c) { p.m_editor.selectZoom(c.number); }},
         {Verb::Press, [](Player& p, const Command& c) { p.m_pointer.press(c.point, c.button); }},
         {Verb::Move, [](Player& p, const Command& c) { p.m_pointer.move(c.point); }},
         {Verb::Release, [](Player& p, const Command& c) { p.m_pointer.release(c.point, c.button); }},
@@ -87,7 +87,8 @@ void Player::perform(const Command& command)
 
 void Player::option(int option)
 {
-    if (!m_controls.chooseOption(option))
+    m_editor.selectOption(option);
+    if (m_editor.option() != option)
         stop(QStringLiteral("the tool has no option %1").arg(option));
 }
 

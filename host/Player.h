@@ -1,6 +1,5 @@
 #pragma once
 
-#include "EditorControls.h"
 #include "Failure.h"
 #include "Platform.h"
 #include "Pointer.h"
@@ -43,7 +42,6 @@ private:
 
     KORVA_EditCanvas& m_editor;
     Platform& m_platform;
-    EditorControls m_controls;
     Pointer m_pointer;
     Script m_script;
 };

@@ -14,10 +14,7 @@
 
 namespace pad {
 
-Recorder::Recorder(KORVA_EditCanvas& editor, QObject* parent)
-    : QObject(parent), m_editor(editor), m_controls(editor)
-{
-}
+Recorder::Recorder(KORVA_EditCanvas& editor, QObject* parent) : QObject(parent), m_editor(editor) {}
 
 std::optional<Failure> Recorder::start(const QString& fileName)
 {
@@ -26,7 +23,7 @@ std::optional<Failure> Recorder::start(const QString& fileName)
         return Failure{QStringLiteral("cannot write '%1': %2").arg(fileName, m_file.errorString())};
     m_editor.canvas()->installEventFilter(this);
     m_editor.canvas()->pasteLabel()->installEventFilter(this);
-    connect(&m_controls, &EditorControls::chosen, this, &Recorder::write);
+    connect(&m_editor, &KORVA_EditCanvas::chosen, this, &Recorder::writeChoice);
     watchMenus();
     return {};
 }
@@ -70,6 +67,12 @@ bool Recorder::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     return false;
+}
+
+void Recorder::writeChoice(KORVA_CHOICETYPE what, int which)
+{
+    static constexpr Verb verbs[] = {Verb::Tool, Verb::Option, Verb::Zoom, Verb::Color};
+    write(Command{.verb = verbs[what], .number = which, .color = m_editor.color()});
 }
 
 void Recorder::writeMouse(const QWidget& receiver, const QMouseEvent& event)

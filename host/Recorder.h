@@ -1,7 +1,8 @@
 #pragma once
 
-#include "EditorControls.h"
 #include "Recording.h"
+
+#include <KORVA_Types.h>
 
 #include <QFile>
 #include <QObject>
@@ -31,12 +32,12 @@ public slots:
     void write(const pad::Command& command);
 
 private:
+    void writeChoice(KORVA_CHOICETYPE what, int which);
     void writeMouse(const QWidget& receiver, const QMouseEvent& event);
     void writeKey(const QKeyEvent& event);
     void watchMenus();
 
     KORVA_EditCanvas& m_editor;
-    EditorControls m_controls;
     QFile m_file;
 };
 

@@ -362,6 +362,8 @@ void KORVA_Canvas::fitToZoomed()
     }
     if (std::exchange(m_hasFallenBack, false))
         emit zoomFellBack();
+    if (std::exchange(m_toldZoom, zoom()) != zoom())
+        emit zoomChanged(zoom());
 }
 
 void KORVA_Canvas::updateZoomedClipboard()

@@ -213,6 +213,8 @@ public slots:
 signals:
     /// The zoom or the picture's size gave the widget another size.
     void sizeChanged();
+    /// Another zoom is in force. Comes after sizeChanged() where that is emitted, too.
+    void zoomChanged(int percent);
     /// The zoom became 100 % because the zoomed picture would have been too large: see setZoom().
     void zoomFellBack();
     /// Another picture was taken in, or the picture was scaled. Painting, undo and redo do not emit it.
@@ -283,6 +285,7 @@ private:
     QPixmap m_zoomed;
     int m_undoFlag = 0; ///< what the host was last told to offer
     QPixmap m_clipboard;
+    int m_toldZoom = 100;         ///< what listeners know
     bool m_hasFallenBack = false; ///< and nobody has been told yet
     bool m_toolActive = false;
     QRect m_selection;

@@ -22,6 +22,7 @@
 
 #include <cstdio>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -63,6 +64,10 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
     connect(canvas(), &KORVA_Canvas::zoomFellBack, this, [this] {
         m_zoomChoice->fallBack();
         m_toolChoice->updateRubberCursor();
+    });
+    connect(canvas(), &KORVA_Canvas::zoomChanged, this, [this](int percent) {
+        m_toolChoice->updateRubberCursor();
+        emit zoomChanged(percent);
     });
     resize(layout::editor);
 
@@ -228,12 +233,39 @@ void KORVA_EditCanvas::slotSelChangeTool(int menuId)
 
 void KORVA_EditCanvas::slotSelChangeToolOptions(int menuId)
 {
-    m_toolChoice->selectOption(menuId);
+    m_toolChoice->selectOptionEntry(menuId);
 }
 
 void KORVA_EditCanvas::slotSelZoomRate(int index)
 {
     m_zoomChoice->select(index);
+    emit chosen(KORVA_CHOICE_ZOOM, index);
+}
+
+void KORVA_EditCanvas::selectTool(int tool)
+{
+    m_toolChoice->select(tool);
+}
+
+void KORVA_EditCanvas::selectOption(int option)
+{
+    m_toolChoice->selectOption(option);
+}
+
+void KORVA_EditCanvas::selectZoom(int index)
+{
+    if (m_zoomChoice->show(index))
+        slotSelZoomRate(index);
+}
+
+int KORVA_EditCanvas::tool() const
+{
+    return m_toolChoice->tool();
+}
+
+int KORVA_EditCanvas::option() const
+{
+    return m_toolChoice->option();
 }
 
 void KORVA_EditCanvas::loadToolOptions(int tool)
@@ -254,15 +286,19 @@ void KORVA_EditCanvas::slotColor()
 {
     const QPointer<KORVA_EditCanvas> self = this; // the picker runs an event loop
     const QColor picked = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
-    if (self)
-        setColor(picked);
+    if (!self)
+        return;
+    setColor(picked);
+    emit chosen(KORVA_CHOICE_COLOR, 0);
 }
 
 void KORVA_EditCanvas::setColor(const QColor& color)
 {
-    m_color = color;
+    const bool isOther = std::exchange(m_color, color) != color;
     fillColorButton(m_color);
     m_manager->setLMBColor(m_color);
+    if (isOther)
+        emit colorChanged(m_color);
 }
 
 void KORVA_EditCanvas::fillColorButton(const QColor& color)

@@ -24,7 +24,7 @@ class KORVA_ZoomChoice;
 /// What asks or tells the user something runs UTIL_Platform's boxes and dialogs and returns after them. The
 /// editor may be deleted while one is open: the call then returns at once, as after a refusal. Who hears a
 /// signal may call everything here, or delete the editor later.
-/// `action` and `flag` mean: 0 open, 1 choose a canvas, 2 save, 3 insert a stamp, 4 create.
+/// `action` and `flag` are KORVA_ACTIONTYPE.
 class KORVA_EXPORT KORVA_EditCanvas : public QWidget
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ public:
     [[nodiscard]] KORVA_COLORTYPE colorType() const { return m_colorType; }
     /// The drawing colour.
     [[nodiscard]] QColor color() const { return m_color; }
-    /// Takes a drawing colour as if it had been picked. No signal.
+    /// Takes a drawing colour as if it had been picked. Emits colorChanged() for another one.
     void setColor(const QColor& color);
     /// The picture file being edited; empty for a drawing that was never saved.
     [[nodiscard]] QString fileName() const;
@@ -118,6 +118,19 @@ public:
     void commitText();
     /// The text tool while it is current; null otherwise.
     [[nodiscard]] KORVA_Text* currentText() const;
+
+    // --- Choosing, as a person does in the controls, with all that follows from it ---
+    /// Commits typed text, merges a floating piece and makes a tool current, in the option that was last
+    /// chosen for it. `tool` is a KORVA_TOOLTYPE; nothing for one that does not exist.
+    void selectTool(int tool);
+    /// An option of the current tool, by its row in the pop-up; nothing for one that does not exist.
+    void selectOption(int option);
+    /// A row of the zoom box: a KORVA_ZOOMTYPE; nothing for one that does not exist.
+    void selectZoom(int index);
+    /// The current tool; the hand is one, too.
+    [[nodiscard]] int tool() const;
+    /// The row of its option; -1 for a tool without.
+    [[nodiscard]] int option() const;
 
     // --- The controls ---
     /// Shows a colour on the colour button; the drawing colour stays.
@@ -255,6 +268,17 @@ signals:
     void canDelete(bool possible);
     /// A tool was chosen: true for text.
     void signalTextTool(bool chosen);
+    /// Another tool is current, in its option, which optionChanged() tells next.
+    void toolChanged(int tool);
+    /// Another option is in force, or that of another tool: its row in the pop-up, or -1.
+    void optionChanged(int option);
+    /// The picture is shown at another zoom, by whatever caused it.
+    void zoomChanged(int percent);
+    /// Another drawing colour is in force.
+    void colorChanged(const QColor& color);
+    /// Something was chosen in the controls or by selectTool(), selectOption() or selectZoom(), even if it
+    /// was in force before. After everything that it caused: for who writes down what is done.
+    void chosen(KORVA_CHOICETYPE what, int which);
     /// The stylus was lifted from the canvas while the text tool is current: a host may show its keyboard.
     void TextToolClicked();
 

@@ -10,6 +10,7 @@
 #include <QScopedValueRollback>
 
 #include <span>
+#include <utility>
 
 namespace tables = KORVA_ToolTable;
 
@@ -25,12 +26,71 @@ void KORVA_ToolChoice::selectEntry(int menuId)
 {
     const int tool = tables::toolAt(menuId - tables::toolMenuBase);
     selectTool(tool >= 0 ? tool : int(tables::Line));
+    tellChoice(KORVA_CHOICE_TOOL);
+}
+
+void KORVA_ToolChoice::select(int tool)
+{
+    if (!tables::toolRow(tool))
+        return;
+    if (tool == tables::AreaSelect || tool == tables::Drag)
+        m_remembered.selectionMode = tool == tables::Drag ? KORVA_OPTION_HAND : KORVA_OPTION_AREA;
+    selectTool(tool == tables::Drag ? int(tables::AreaSelect) : tool);
+    tellChoice(KORVA_CHOICE_TOOL);
 }
 
 void KORVA_ToolChoice::selectAreaTool()
 {
-    m_remembered.selectionMode = 0;
+    m_remembered.selectionMode = KORVA_OPTION_AREA;
     selectTool(tables::AreaSelect);
+    tellChanges();
+}
+
+void KORVA_ToolChoice::selectOptionEntry(int menuId)
+{
+    applyOption(menuId);
+    tellChoice(KORVA_CHOICE_OPTION);
+}
+
+void KORVA_ToolChoice::selectOption(int row)
+{
+    const int tool = optionTool();
+    if (row >= 0 && row < int(tables::toolRow(tool)->options.size()))
+        selectOptionEntry(tables::firstOptionId(tool) + row);
+}
+
+// The hand is the select tool's other half.
+int KORVA_ToolChoice::optionTool() const
+{
+    return m_tool == tables::Drag ? int(tables::AreaSelect) : m_tool;
+}
+
+int KORVA_ToolChoice::option() const
+{
+    return m_remembered.*memory(optionTool());
+}
+
+void KORVA_ToolChoice::tellChoice(KORVA_CHOICETYPE what)
+{
+    tellChanges();
+    const bool isMode = optionTool() == tables::AreaSelect;
+    if (what == KORVA_CHOICE_TOOL || isMode)
+        emit m_editor.chosen(KORVA_CHOICE_TOOL, m_tool);
+    else
+        emit m_editor.chosen(KORVA_CHOICE_OPTION, option());
+}
+
+void KORVA_ToolChoice::tellChanges()
+{
+    const int tool = m_tool;
+    const bool isOtherTool = std::exchange(m_toldTool, tool) != tool;
+    if (isOtherTool)
+        emit m_editor.toolChanged(tool);
+    if (tool != m_tool)
+        return; // who heard of it chose another one, and all is told
+    const bool isOtherOption = std::exchange(m_toldOption, option()) != option();
+    if (isOtherTool || isOtherOption)
+        emit m_editor.optionChanged(option());
 }
 
 void KORVA_ToolChoice::selectTool(int tool)
@@ -57,28 +117,27 @@ void KORVA_ToolChoice::selectTool(int tool)
         updateRubberCursor();
         return;
     }
-    selectOption(m_bar.optionId(remembered(tool)));
+    applyOption(m_bar.optionId(m_remembered.*memory(tool)));
 }
 
-int& KORVA_ToolChoice::remembered(int tool)
+int KORVA_ToolChoice::Remembered::*KORVA_ToolChoice::memory(int tool)
 {
     switch (tables::toolRow(tool)->option) {
     case tables::Option::SelectionMode:
-        return m_remembered.selectionMode;
+        return &Remembered::selectionMode;
     case tables::Option::Fill:
-        return m_remembered.fill;
+        return &Remembered::fill;
     default:
-        return m_remembered.size;
+        return &Remembered::size;
     }
 }
 
-void KORVA_ToolChoice::selectOption(int menuId)
+void KORVA_ToolChoice::applyOption(int menuId)
 {
     KORVA_Manager* const manager = m_editor.manager();
     manager->setLMBColor(m_editor.color());
 
-    // The hand is the select tool's other half. What is none of a tool's options counts as its last one.
-    const int tool = m_tool == tables::Drag ? int(tables::AreaSelect) : m_tool;
+    const int tool = optionTool(); // what is none of its options counts as its last one
     const std::span<const tables::OptionRow> options = tables::toolRow(tool)->options;
     const int entry = menuId - tables::firstOptionId(tool);
     const int last = int(options.size()) - 1;
@@ -86,7 +145,7 @@ void KORVA_ToolChoice::selectOption(int menuId)
     const tables::OptionRow& chosen = options[std::size_t(value)];
 
     const int choice = m_choices;
-    remembered(tool) = value;
+    m_remembered.*memory(tool) = value;
     if (tool == tables::AreaSelect) {
         m_tool = value == 0 ? tables::AreaSelect : tables::Drag;
         if (m_tool == tables::AreaSelect) {

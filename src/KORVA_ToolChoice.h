@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KORVA_Types.h"
+
 class KORVA_EditCanvas;
 class KORVA_ToolBar;
 
@@ -18,9 +20,17 @@ public:
     /// An entry of the tool pop-up; another number is the line.
     void selectEntry(int menuId);
     /// An entry of the option pop-up; another number is the tool's last option.
-    void selectOption(int menuId);
-    /// The select tool, set to frame an area and not to move the view.
+    void selectOptionEntry(int menuId);
+    /// A tool by its identifier; nothing for none.
+    void select(int tool);
+    /// An option by its row; nothing for none.
+    void selectOption(int row);
+    /// The select tool, set to frame an area and not to move the view; nobody has chosen it.
     void selectAreaTool();
+
+    [[nodiscard]] int tool() const { return m_tool; }
+    /// -1 for a tool without options.
+    [[nodiscard]] int option() const;
 
     /// The cursor of the eraser as large as the eraser and the zoom make it; nothing with other tools.
     void updateRubberCursor();
@@ -34,11 +44,17 @@ private:
     };
 
     void selectTool(int tool);
-    [[nodiscard]] int& remembered(int tool);
+    void applyOption(int menuId);
+    [[nodiscard]] static int Remembered::*memory(int tool);
+    [[nodiscard]] int optionTool() const;
+    void tellChanges();
+    void tellChoice(KORVA_CHOICETYPE what);
 
     KORVA_EditCanvas& m_editor;
     KORVA_ToolBar& m_bar;
     Remembered m_remembered;
+    int m_toldTool = 0; ///< what listeners know
+    int m_toldOption = 0;
     int m_tool = 0;    ///< the identifier in the manager; 7 while select is in hand mode
     int m_choices = 0; ///< of a tool, counted
     bool m_isChangingPen = false;

@@ -53,6 +53,14 @@ void KORVA_ZoomChoice::select(int row)
     m_editor.setZoom(chosen);
 }
 
+bool KORVA_ZoomChoice::show(int row)
+{
+    if (row < 0 || row > fitToPageRow)
+        return false;
+    m_box.setCurrentIndex(row);
+    return true;
+}
+
 int KORVA_ZoomChoice::shown() const
 {
     return m_box.currentIndex();

@@ -14,6 +14,8 @@ public:
 
     /// Commits typed text and zooms by a row; another number is 100 %. The box keeps what it shows.
     void select(int row);
+    /// Lets the box show a row; false for none.
+    bool show(int row);
     /// The row that the box shows.
     [[nodiscard]] int shown() const;
     /// Zooms anew where "Fit to page" is shown and in force and means another rate now.
