@@ -173,7 +173,9 @@ void KORVA_Canvas::setPixmap(QPixmap* picture)
     if (!picture)
         return;
     m_pasteLabel->hide();
+    m_picture->settle();
     m_picture->take(*picture);
+    offerSoon();
     emit pixmapChanged(m_picture->pixmap());
     showAnew();
 }
@@ -234,66 +236,6 @@ bool KORVA_Canvas::save(const QString& fileName, const char* format)
 {
     mergePastePixmap();
     return picturesave::write(m_picture->image(), fileName, format);
-}
-
-// --- Undo
-
-void KORVA_Canvas::saveOldPix()
-{
-    m_picture->takeSnapshot();
-}
-
-void KORVA_Canvas::record()
-{
-    m_undoFlag = 1;
-    emit canUndo(true);
-    emit canRedo(false);
-}
-
-void KORVA_Canvas::undo()
-{
-    step(&KORVA_Picture::undo);
-    m_undoFlag = 2;
-    emit canUndo(false);
-    emit canRedo(true);
-}
-
-void KORVA_Canvas::redo()
-{
-    step(&KORVA_Picture::redo);
-    record();
-}
-
-void KORVA_Canvas::step(void (KORVA_Picture::*direction)())
-{
-    mergePastePixmap();
-    m_pasteLabel->hide();
-    if (m_tool && m_tool->getTextKey())
-        return;
-    const QSize before = pictureSize();
-    (m_picture.get()->*direction)();
-    if (pictureSize() == before) {
-        updateZoomed();
-    } else { // back over a resize: the screen follows
-        showAnew();
-    }
-}
-
-void KORVA_Canvas::setUndoFlag(int flag)
-{
-    // Offered the other way round than record(), undo() and redo() do for the same flags: the editor relies
-    // on it.
-    static constexpr struct
-    {
-        bool redo;
-        bool undo;
-    } offered[] = {{false, false}, {true, false}, {false, true}};
-
-    m_undoFlag = flag;
-    if (flag < 0 || flag >= int(std::size(offered)))
-        return;
-    emit canRedo(offered[flag].redo);
-    emit canUndo(offered[flag].undo);
 }
 
 // --- Zoom

@@ -114,6 +114,19 @@ public:
     /// 0 nothing to undo, 1 undo possible, 2 redo possible; or what setUndoFlag() was given.
     [[nodiscard]] int undoFlag() const { return m_undoFlag; }
 
+    /// How many steps undo() walks back, and in how many bytes they are kept; forgets those there are. 1,
+    /// as at first: undo() and redo() exchange the picture with the snapshot.
+    ///
+    /// With more, a step is what changed between two calls of saveOldPix(); where no pixel did there is
+    /// none. The oldest go first, the newest stays however large it is. undo() and redo() mark the picture
+    /// modified, without a signal, and canUndo() and canRedo() tell what is possible: at once after them,
+    /// otherwise when control is back in the event loop.
+    void setUndoSteps(int steps, qint64 mostBytes);
+    [[nodiscard]] int undoSteps() const;
+    /// Whatever is changed between the two calls is one step; nothing where there is only one.
+    void beginStep();
+    void endStep();
+
     /// Sets the zoom in percent, 100 is real size; merges a floating piece first, which is a modification.
     /// Rates below 1 are ignored. Emits sizeChanged() where the size on screen is another.
     ///
@@ -267,6 +280,9 @@ private:
     void showAnew();
     void keepZoomWithinLimit(QSize enlarged);
     void step(void (KORVA_Picture::*direction)());
+    [[nodiscard]] bool hasHistory() const { return undoSteps() > 1; }
+    void offer();
+    void offerSoon();
     void eraseSelection();
     /// Where a floating piece comes from.
     enum Origin {
@@ -284,6 +300,7 @@ private:
     std::unique_ptr<KORVA_Picture> m_picture;
     QPixmap m_zoomed;
     int m_undoFlag = 0; ///< what the host was last told to offer
+    bool m_isOfferDue = false;
     QPixmap m_clipboard;
     int m_toldZoom = 100;         ///< what listeners know
     bool m_hasFallenBack = false; ///< and nobody has been told yet

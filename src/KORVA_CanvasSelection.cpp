@@ -35,6 +35,7 @@ void KORVA_Canvas::setSelection(const QRect& rect)
 void KORVA_Canvas::eraseSelection()
 {
     mergePastePixmap();
+    m_picture->settle();
     m_picture->erase(m_selection, m_zoom.toPictureMatrix());
 }
 
@@ -112,6 +113,7 @@ void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
     keepZoomWithinLimit(piece.size());
     if (m_hasFallenBack)
         showAnew();
+    m_picture->settle();
     floatPiece(QPoint(0, 0), piece, Pasted);
     if (KORVA_ScrollView* view = scrollView())
         view->setContentsPos(0, 0);

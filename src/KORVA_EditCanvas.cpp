@@ -3,7 +3,6 @@
 #include "KORVA_AreaSelect.h"
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
-#include "KORVA_ColorPicker.h"
 #include "KORVA_Documents.h"
 #include "KORVA_EditorLayout.h"
 #include "KORVA_Formats.h"
@@ -17,8 +16,6 @@
 #include "KORVA_ToolChoice.h"
 #include "KORVA_ZoomChoice.h"
 #include "UTIL_Skin.h"
-
-#include <QCursor>
 
 #include <cstdio>
 #include <string_view>
@@ -104,6 +101,16 @@ void KORVA_EditCanvas::undo()
 void KORVA_EditCanvas::redo()
 {
     canvas()->redo();
+}
+
+void KORVA_EditCanvas::setUndoSteps(int steps, qint64 mostBytes)
+{
+    canvas()->setUndoSteps(steps, mostBytes);
+}
+
+int KORVA_EditCanvas::undoSteps() const
+{
+    return canvas()->undoSteps();
 }
 
 void KORVA_EditCanvas::cut()
@@ -205,10 +212,12 @@ void KORVA_EditCanvas::chooseCanvas(KORVA_CANVASTYPE type, int w, int h)
         m_colorType = canvasTypes[type].colors;
     }
     m_documents->forgetOpened();
+    canvas()->beginStep();
     clearCanvas();
     setDepth(depth);
     clearModified();
     setCanvasSize(w, h);
+    canvas()->endStep();
     emit canvasChanged(m_zoomChoice->shown());
     canvas()->setUndoFlag(false);
 }
@@ -222,88 +231,6 @@ void KORVA_EditCanvas::commitText()
 {
     if (KORVA_Text* text = currentText())
         text->paintProportionBuffer();
-}
-
-// --- The controls
-
-void KORVA_EditCanvas::slotSelChangeTool(int menuId)
-{
-    m_toolChoice->selectEntry(menuId);
-}
-
-void KORVA_EditCanvas::slotSelChangeToolOptions(int menuId)
-{
-    m_toolChoice->selectOptionEntry(menuId);
-}
-
-void KORVA_EditCanvas::slotSelZoomRate(int index)
-{
-    m_zoomChoice->select(index);
-    emit chosen(KORVA_CHOICE_ZOOM, index);
-}
-
-void KORVA_EditCanvas::selectTool(int tool)
-{
-    m_toolChoice->select(tool);
-}
-
-void KORVA_EditCanvas::selectOption(int option)
-{
-    m_toolChoice->selectOption(option);
-}
-
-void KORVA_EditCanvas::selectZoom(int index)
-{
-    if (m_zoomChoice->show(index))
-        slotSelZoomRate(index);
-}
-
-int KORVA_EditCanvas::tool() const
-{
-    return m_toolChoice->tool();
-}
-
-int KORVA_EditCanvas::option() const
-{
-    return m_toolChoice->option();
-}
-
-void KORVA_EditCanvas::loadToolOptions(int tool)
-{
-    m_toolBar->loadOptions(tool);
-}
-
-void KORVA_EditCanvas::setRubberCursor(int width, int rate)
-{
-    const QPixmap paper = classic::filled(QSize(width, width), Qt::white)
-                              .transformed(QTransform::fromScale(rate / 100.0, rate / 100.0));
-    QPixmap cursor = classic::filled(paper.size() + QSize(2, 2), Qt::black);
-    classic::bitBlt(&cursor, 1, 1, paper);
-    canvas()->setCursor(QCursor(cursor, 0, 0));
-}
-
-void KORVA_EditCanvas::slotColor()
-{
-    const QPointer<KORVA_EditCanvas> self = this; // the picker runs an event loop
-    const QColor picked = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
-    if (!self)
-        return;
-    setColor(picked);
-    emit chosen(KORVA_CHOICE_COLOR, 0);
-}
-
-void KORVA_EditCanvas::setColor(const QColor& color)
-{
-    const bool isOther = std::exchange(m_color, color) != color;
-    fillColorButton(m_color);
-    m_manager->setLMBColor(m_color);
-    if (isOther)
-        emit colorChanged(m_color);
-}
-
-void KORVA_EditCanvas::fillColorButton(const QColor& color)
-{
-    m_toolBar->showColor(color);
 }
 
 // --- Documents

@@ -62,6 +62,11 @@ public:
     void undo();
     /// See KORVA_Canvas::redo().
     void redo();
+    /// How many steps undo() walks back, and in how many bytes they are kept: see
+    /// KORVA_Canvas::setUndoSteps(). 1 at first, the exchange of two pictures.
+    void setUndoSteps(int steps, qint64 mostBytes = 4 << 20);
+    /// See setUndoSteps().
+    [[nodiscard]] int undoSteps() const;
     /// See KORVA_Canvas::cut().
     void cut();
     /// See KORVA_Canvas::copy().

@@ -73,7 +73,73 @@ void KORVA_Picture::lay(const QPixmap& piece, QPoint at)
     classic::bitBlt(&m_picture, at.x(), at.y(), pixelByPixel);
 }
 
+// --- The way back
+
+void KORVA_Picture::takeSnapshot()
+{
+    if (hasHistory())
+        settle();
+    else
+        m_snapshot = m_picture;
+}
+
 void KORVA_Picture::takeSnapshot(const QPixmap& picture)
 {
-    m_snapshot = classic::opaque(picture);
+    const QPixmap kept = classic::opaque(picture);
+    if (hasHistory())
+        m_history.add(m_snapshot.toImage(), kept.toImage());
+    m_snapshot = kept;
+}
+
+void KORVA_Picture::setUndoSteps(int steps, qint64 mostBytes)
+{
+    m_history.clear();
+    m_history.setLimits(steps, mostBytes);
+    m_snapshot = m_picture;
+}
+
+void KORVA_Picture::settle()
+{
+    if (!hasHistory() || m_openSteps > 0)
+        return;
+    m_history.add(m_snapshot.toImage(), m_picture.toImage());
+    m_snapshot = m_picture;
+}
+
+void KORVA_Picture::beginStep()
+{
+    settle();
+    ++m_openSteps;
+}
+
+void KORVA_Picture::endStep()
+{
+    if (--m_openSteps == 0)
+        settle();
+}
+
+void KORVA_Picture::walk(QImage (KORVA_History::*direction)(const QImage& now))
+{
+    if (!hasHistory()) {
+        m_picture.swap(m_snapshot);
+        return;
+    }
+    settle();
+    m_picture.convertFromImage((m_history.*direction)(m_picture.toImage()));
+    m_snapshot = m_picture;
+}
+
+bool KORVA_Picture::isUnsettled() const
+{
+    return hasHistory() && KORVA_History::isChange(m_snapshot.toImage(), m_picture.toImage());
+}
+
+bool KORVA_Picture::canUndo() const
+{
+    return m_history.canUndo() || isUnsettled();
+}
+
+bool KORVA_Picture::canRedo() const
+{
+    return m_history.canRedo() && !isUnsettled();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KORVA_History.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QTransform>
@@ -48,16 +50,37 @@ public:
     void clearModified() { m_isModified = false; }
 
     /// The picture as it is now is what undo() brings back, in place of what was kept before.
-    void takeSnapshot() { m_snapshot = m_picture; }
+    void takeSnapshot();
     /// The same with a picture that never was on the paper as a whole.
     void takeSnapshot(const QPixmap& picture);
-    /// Back to the snapshot, and forward again. As there is one step, both exchange it with the picture,
-    /// which may get another size; the modified flag stays.
-    void undo() { m_picture.swap(m_snapshot); }
-    void redo() { m_picture.swap(m_snapshot); }
+    /// Back to the snapshot, and forward again. With one step, both exchange it with the picture. With
+    /// more, they walk through what the snapshots were taken between; where there is nothing on their side
+    /// they do nothing. The picture may get another size; the modified flag stays.
+    void undo() { walk(&KORVA_History::undo); }
+    void redo() { walk(&KORVA_History::redo); }
+
+    /// How many steps are kept, and in how many bytes; 1 at first. Forgets those there are.
+    void setUndoSteps(int steps, qint64 mostBytes);
+    [[nodiscard]] int undoSteps() const { return m_history.mostSteps(); }
+
+    // With one step, these do nothing and know nothing.
+    /// What was changed since the last snapshot becomes a step of its own.
+    void settle();
+    /// What is changed between the two is one step, whatever snapshots are taken.
+    void beginStep();
+    void endStep();
+    /// Whether undo() or redo() would change anything.
+    [[nodiscard]] bool canUndo() const;
+    [[nodiscard]] bool canRedo() const;
 
 private:
+    void walk(QImage (KORVA_History::*direction)(const QImage& now));
+    [[nodiscard]] bool hasHistory() const { return undoSteps() > 1; }
+    [[nodiscard]] bool isUnsettled() const;
+
     QPixmap m_picture;
-    QPixmap m_snapshot;
+    QPixmap m_snapshot; ///< with more steps than one: what the newest of them led to
+    KORVA_History m_history;
+    int m_openSteps = 0;
     bool m_isModified = false;
 };

@@ -1,0 +1,116 @@
+#include "KORVA_Canvas.h"
+
+#include "KORVA_PasteLabel.h"
+#include "KORVA_Picture.h"
+#include "KORVA_Tool.h"
+
+#include <QTimer>
+
+#include <utility>
+
+// The way back and forward again, and what is offered of it.
+
+void KORVA_Canvas::saveOldPix()
+{
+    m_picture->takeSnapshot();
+}
+
+void KORVA_Canvas::record()
+{
+    m_undoFlag = 1;
+    emit canUndo(true);
+    emit canRedo(false);
+    offerSoon();
+}
+
+void KORVA_Canvas::undo()
+{
+    step(&KORVA_Picture::undo);
+    if (hasHistory())
+        return offer();
+    m_undoFlag = 2;
+    emit canUndo(false);
+    emit canRedo(true);
+}
+
+void KORVA_Canvas::redo()
+{
+    step(&KORVA_Picture::redo);
+    if (hasHistory())
+        return offer();
+    record();
+}
+
+void KORVA_Canvas::step(void (KORVA_Picture::*direction)())
+{
+    mergePastePixmap();
+    m_pasteLabel->hide();
+    if (m_tool && m_tool->getTextKey())
+        return;
+    const QSize before = pictureSize();
+    (m_picture.get()->*direction)();
+    if (hasHistory())
+        m_picture->markModified();
+    if (pictureSize() == before) {
+        updateZoomed();
+    } else { // back over a resize: the screen follows
+        showAnew();
+    }
+}
+
+void KORVA_Canvas::setUndoFlag(int flag)
+{
+    // Offered the other way round than record(), undo() and redo() do for the same flags: the editor relies
+    // on it.
+    static constexpr struct
+    {
+        bool redo;
+        bool undo;
+    } offered[] = {{false, false}, {true, false}, {false, true}};
+
+    m_undoFlag = flag;
+    if (flag < 0 || flag >= int(std::size(offered)))
+        return;
+    emit canRedo(offered[flag].redo);
+    emit canUndo(offered[flag].undo);
+    offerSoon();
+}
+
+void KORVA_Canvas::setUndoSteps(int steps, qint64 mostBytes)
+{
+    const bool hadHistory = hasHistory();
+    m_picture->setUndoSteps(steps, mostBytes);
+    if (hadHistory || hasHistory())
+        offer();
+}
+
+int KORVA_Canvas::undoSteps() const
+{
+    return m_picture->undoSteps();
+}
+
+void KORVA_Canvas::beginStep()
+{
+    m_picture->beginStep();
+}
+
+void KORVA_Canvas::endStep()
+{
+    m_picture->endStep();
+}
+
+void KORVA_Canvas::offer()
+{
+    m_isOfferDue = false;
+    const bool isBackPossible = m_picture->canUndo();
+    m_undoFlag = isBackPossible ? 1 : m_picture->canRedo() ? 2 : 0;
+    emit canUndo(isBackPossible);
+    emit canRedo(m_picture->canRedo());
+}
+
+// A change is announced before its first pixel: whether there is one is known afterwards.
+void KORVA_Canvas::offerSoon()
+{
+    if (hasHistory() && !std::exchange(m_isOfferDue, true))
+        QTimer::singleShot(0, this, &KORVA_Canvas::offer);
+}

@@ -1,0 +1,96 @@
+#include "KORVA_EditCanvas.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_ClassicPainter.h"
+#include "KORVA_ColorPicker.h"
+#include "KORVA_Manager.h"
+#include "KORVA_ToolBar.h"
+#include "KORVA_ToolChoice.h"
+#include "KORVA_ZoomChoice.h"
+
+#include <QCursor>
+#include <QPointer>
+
+#include <utility>
+
+// What is chosen, in the controls or by a host: tool, option, zoom and colour.
+
+void KORVA_EditCanvas::slotSelChangeTool(int menuId)
+{
+    m_toolChoice->selectEntry(menuId);
+}
+
+void KORVA_EditCanvas::slotSelChangeToolOptions(int menuId)
+{
+    m_toolChoice->selectOptionEntry(menuId);
+}
+
+void KORVA_EditCanvas::slotSelZoomRate(int index)
+{
+    m_zoomChoice->select(index);
+    emit chosen(KORVA_CHOICE_ZOOM, index);
+}
+
+void KORVA_EditCanvas::selectTool(int tool)
+{
+    m_toolChoice->select(tool);
+}
+
+void KORVA_EditCanvas::selectOption(int option)
+{
+    m_toolChoice->selectOption(option);
+}
+
+void KORVA_EditCanvas::selectZoom(int index)
+{
+    if (m_zoomChoice->show(index))
+        slotSelZoomRate(index);
+}
+
+int KORVA_EditCanvas::tool() const
+{
+    return m_toolChoice->tool();
+}
+
+int KORVA_EditCanvas::option() const
+{
+    return m_toolChoice->option();
+}
+
+void KORVA_EditCanvas::loadToolOptions(int tool)
+{
+    m_toolBar->loadOptions(tool);
+}
+
+void KORVA_EditCanvas::setRubberCursor(int width, int rate)
+{
+    const QPixmap paper = classic::filled(QSize(width, width), Qt::white)
+                              .transformed(QTransform::fromScale(rate / 100.0, rate / 100.0));
+    QPixmap cursor = classic::filled(paper.size() + QSize(2, 2), Qt::black);
+    classic::bitBlt(&cursor, 1, 1, paper);
+    canvas()->setCursor(QCursor(cursor, 0, 0));
+}
+
+void KORVA_EditCanvas::slotColor()
+{
+    const QPointer<KORVA_EditCanvas> self = this; // the picker runs an event loop
+    const QColor picked = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
+    if (!self)
+        return;
+    setColor(picked);
+    emit chosen(KORVA_CHOICE_COLOR, 0);
+}
+
+void KORVA_EditCanvas::setColor(const QColor& color)
+{
+    const bool isOther = std::exchange(m_color, color) != color;
+    fillColorButton(m_color);
+    m_manager->setLMBColor(m_color);
+    if (isOther)
+        emit colorChanged(m_color);
+}
+
+void KORVA_EditCanvas::fillColorButton(const QColor& color)
+{
+    m_toolBar->showColor(color);
+}
