@@ -1,42 +1,113 @@
 #include "KORVA_Translations.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTranslator>
 
 #include <algorithm>
+#include <memory>
+
+#include <dlfcn.h>
 
 namespace {
 
 constexpr auto translatorName = "KORVA_Translations";
+constexpr auto english = "en";
 
-struct LanguageRow
+const QString prefix = QStringLiteral("korva_");
+const QString suffix = QStringLiteral(".qm");
+
+struct Language
 {
-    QLocale::Language language;
-    QLocale::Script script;
-    const char* file; // null for the language that the texts are written in
+    QString code;
+    QString file; ///< empty: the texts as they are written
 };
 
-constexpr LanguageRow languages[] = {
-    {QLocale::C, QLocale::AnyScript, nullptr},
-    {QLocale::English, QLocale::AnyScript, nullptr},
-    {QLocale::German, QLocale::AnyScript, ":/korva/translations/korva_de.qm"},
-    {QLocale::Chinese, QLocale::SimplifiedHanScript, ":/korva/translations/korva_zh_CN.qm"},
-};
-
-const LanguageRow* findLanguage(const QLocale& wanted)
+QStringList& addedFolders()
 {
-    for (const QString& name : wanted.uiLanguages()) {
-        const QLocale locale(name);
-        const auto fits = [&locale](const LanguageRow& row) {
-            return row.language == locale.language() &&
-                   (row.script == QLocale::AnyScript || row.script == locale.script());
-        };
-        const LanguageRow* row = std::find_if(std::begin(languages), std::end(languages), fits);
-        if (row != std::end(languages))
-            return row;
+    static QStringList folders;
+    return folders;
+}
+
+/// Where this code lies: the shared library, or the program that it was linked into.
+QString ownFolder()
+{
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<const void*>(&ownFolder), &info) == 0)
+        return {};
+    return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
+}
+
+QStringList folders()
+{
+    QStringList all = addedFolders();
+    if (const QDir own(ownFolder()); !own.path().isEmpty())
+        all << own.absoluteFilePath(QStringLiteral(KORVA_BUILT_TRANSLATIONS))
+            << own.absoluteFilePath(QStringLiteral(KORVA_INSTALLED_TRANSLATIONS));
+    return all + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
+                                           QStringLiteral("korva/translations"),
+                                           QStandardPaths::LocateDirectory);
+}
+
+/// What is there, the first choice first; a code may come several times.
+QList<Language> found()
+{
+    QList<Language> all;
+    for (const QString& folder : folders()) {
+        const QDir dir(folder);
+        for (const QString& name : dir.entryList({prefix + '*' + suffix}, QDir::Files)) {
+            const QString code = name.mid(prefix.size()).chopped(suffix.size());
+            all.append(Language{code, dir.absoluteFilePath(name)});
+        }
     }
-    return nullptr;
+    all.append(Language{english, {}});
+    return all;
+}
+
+/// How well a language's file suits a locale: 0 not at all.
+int suitability(const QString& code, const QLocale& wanted)
+{
+    const QLocale own(code);
+    if (own.language() != wanted.language() || own.script() != wanted.script())
+        return 0;
+    if (code == wanted.name())
+        return 4;
+    if (!code.contains('_')) // the language wherever it is spoken
+        return 3;
+    return own.territory() == wanted.territory() ? 2 : 1;
+}
+
+/// Those that suit the locale, the best first.
+QList<Language> suitable(const QList<Language>& all, const QString& localeName)
+{
+    QLocale locale(localeName);
+    if (locale.language() == QLocale::C)
+        locale = QLocale(QLocale::English);
+    QList<Language> fitting;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(fitting),
+                 [&locale](const Language& language) { return suitability(language.code, locale) > 0; });
+    std::stable_sort(fitting.begin(), fitting.end(), [&locale](const Language& a, const Language& b) {
+        return suitability(a.code, locale) > suitability(b.code, locale);
+    });
+    return fitting;
+}
+
+QTranslator* loaded()
+{
+    return QCoreApplication::instance()->findChild<QTranslator*>(translatorName,
+                                                                 Qt::FindDirectChildrenOnly);
+}
+
+bool install(const QString& file)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(file))
+        return false;
+    translator->setObjectName(translatorName);
+    translator->setParent(QCoreApplication::instance());
+    return QCoreApplication::installTranslator(translator.release());
 }
 
 } // namespace
@@ -44,17 +115,38 @@ const LanguageRow* findLanguage(const QLocale& wanted)
 bool KORVA_Translations::load(const QLocale& locale)
 {
     unload();
-    const LanguageRow* row = findLanguage(locale);
-    if (!row || !row->file)
-        return row;
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    translator->setObjectName(translatorName);
-    return translator->load(QLatin1String(row->file)) && QCoreApplication::installTranslator(translator);
+    const QList<Language> all = found();
+    for (const QString& name : locale.uiLanguages()) {
+        for (const Language& language : suitable(all, name)) {
+            if (language.file.isEmpty() || install(language.file))
+                return true;
+        }
+    }
+    return false;
 }
 
 void KORVA_Translations::unload()
 {
-    // Its destructor takes it out of the application.
-    delete QCoreApplication::instance()->findChild<QTranslator*>(translatorName,
-                                                                 Qt::FindDirectChildrenOnly);
+    delete loaded(); // its destructor takes it out of the application
+}
+
+QString KORVA_Translations::language()
+{
+    const QTranslator* translator = loaded();
+    return translator ? QFileInfo(translator->filePath()).completeBaseName().mid(prefix.size()) : english;
+}
+
+QStringList KORVA_Translations::languages()
+{
+    QStringList codes;
+    for (const Language& language : found())
+        codes.append(language.code);
+    codes.sort();
+    codes.removeDuplicates();
+    return codes;
+}
+
+void KORVA_Translations::addFolder(const QString& folder)
+{
+    addedFolders().prepend(folder);
 }
