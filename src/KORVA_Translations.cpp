@@ -6,7 +6,6 @@
 #include <QStandardPaths>
 #include <QTranslator>
 
-#include <algorithm>
 #include <memory>
 
 #include <dlfcn.h>
@@ -18,12 +17,6 @@ constexpr auto english = "en";
 
 const QString prefix = QStringLiteral("korva_");
 const QString suffix = QStringLiteral(".qm");
-
-struct Language
-{
-    QString code;
-    QString file; ///< empty: the texts as they are written
-};
 
 QStringList& addedFolders()
 {
@@ -51,47 +44,36 @@ QStringList folders()
                                            QStandardPaths::LocateDirectory);
 }
 
-/// What is there, the first choice first; a code may come several times.
-QList<Language> found()
+/// All languages' files, the first choice first; a language may come several times.
+QStringList files()
 {
-    QList<Language> all;
+    QStringList all;
     for (const QString& folder : folders()) {
         const QDir dir(folder);
-        for (const QString& name : dir.entryList({prefix + '*' + suffix}, QDir::Files)) {
-            const QString code = name.mid(prefix.size()).chopped(suffix.size());
-            all.append(Language{code, dir.absoluteFilePath(name)});
-        }
+        for (const QString& name : dir.entryList({prefix + '*' + suffix}, QDir::Files))
+            all.append(dir.absoluteFilePath(name));
     }
-    all.append(Language{english, {}});
     return all;
 }
 
-/// How well a language's file suits a locale: 0 not at all.
+QString codeOf(const QString& file)
+{
+    return QFileInfo(file).completeBaseName().mid(prefix.size());
+}
+
+constexpr int best = 4;
+
+/// How well a language suits a locale: 0 not at all.
 int suitability(const QString& code, const QLocale& wanted)
 {
     const QLocale own(code);
     if (own.language() != wanted.language() || own.script() != wanted.script())
         return 0;
     if (code == wanted.name())
-        return 4;
+        return best;
     if (!code.contains('_')) // the language wherever it is spoken
         return 3;
     return own.territory() == wanted.territory() ? 2 : 1;
-}
-
-/// Those that suit the locale, the best first.
-QList<Language> suitable(const QList<Language>& all, const QString& localeName)
-{
-    QLocale locale(localeName);
-    if (locale.language() == QLocale::C)
-        locale = QLocale(QLocale::English);
-    QList<Language> fitting;
-    std::copy_if(all.begin(), all.end(), std::back_inserter(fitting),
-                 [&locale](const Language& language) { return suitability(language.code, locale) > 0; });
-    std::stable_sort(fitting.begin(), fitting.end(), [&locale](const Language& a, const Language& b) {
-        return suitability(a.code, locale) > suitability(b.code, locale);
-    });
-    return fitting;
 }
 
 QTranslator* loaded()
@@ -110,17 +92,27 @@ bool install(const QString& file)
     return QCoreApplication::installTranslator(translator.release());
 }
 
+/// The one that suits best of those that can be read; English needs none.
+bool installFor(const QLocale& locale, const QStringList& all)
+{
+    for (int wanted = best; wanted > 0; --wanted) {
+        for (const QString& file : all) {
+            if (suitability(codeOf(file), locale) == wanted && install(file))
+                return true;
+        }
+    }
+    return locale.language() == QLocale::English || locale.language() == QLocale::C;
+}
+
 } // namespace
 
 bool KORVA_Translations::load(const QLocale& locale)
 {
     unload();
-    const QList<Language> all = found();
+    const QStringList all = files();
     for (const QString& name : locale.uiLanguages()) {
-        for (const Language& language : suitable(all, name)) {
-            if (language.file.isEmpty() || install(language.file))
-                return true;
-        }
+        if (installFor(QLocale(name), all))
+            return true;
     }
     return false;
 }
@@ -133,14 +125,14 @@ void KORVA_Translations::unload()
 QString KORVA_Translations::language()
 {
     const QTranslator* translator = loaded();
-    return translator ? QFileInfo(translator->filePath()).completeBaseName().mid(prefix.size()) : english;
+    return translator ? codeOf(translator->filePath()) : QString(english);
 }
 
 QStringList KORVA_Translations::languages()
 {
-    QStringList codes;
-    for (const Language& language : found())
-        codes.append(language.code);
+    QStringList codes{english};
+    for (const QString& file : files())
+        codes.append(codeOf(file));
     codes.sort();
     codes.removeDuplicates();
     return codes;

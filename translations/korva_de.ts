@@ -984,6 +984,59 @@
     </message>
 </context>
 <context>
+    <name>pad::DrawingFile</name>
+    <message>
+        <source>The disk is full.</source>
+        <comment>saving</comment>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message>
+        <source>No permission to write in %1.</source>
+        <comment>saving</comment>
+        <translation>Keine Berechtigung, in %1 zu schreiben.</translation>
+    </message>
+    <message>
+        <source>%1 is on a disk that can only be read.</source>
+        <comment>saving</comment>
+        <translation>%1 liegt auf einem Datenträger, der nur gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <comment>saving</comment>
+        <translation>Den Ordner %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>There is a folder of this name.</source>
+        <comment>saving</comment>
+        <translation>Es gibt einen Ordner dieses Namens.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <comment>saving</comment>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2</source>
+        <comment>command line</comment>
+        <translation>»%1« lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>cannot open &apos;%1&apos;: %2</source>
+        <comment>command line</comment>
+        <translation>»%1« lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>GIF pictures are only read</source>
+        <comment>command line</comment>
+        <translation>GIF-Bilder werden nur gelesen</translation>
+    </message>
+    <message>
+        <source>Saving drawing</source>
+        <comment>saving</comment>
+        <translation>Zeichnung wird gespeichert</translation>
+    </message>
+</context>
+<context>
     <name>pad::EarlierDialog</name>
     <message>
         <source>Earlier drawings</source>
@@ -1050,59 +1103,6 @@
         <source>%1[*] - Korva</source>
         <comment>window title</comment>
         <translation>%1[*] - Korva</translation>
-    </message>
-</context>
-<context>
-    <name>pad::PictureFile</name>
-    <message>
-        <source>The disk is full.</source>
-        <comment>saving</comment>
-        <translation>Der Datenträger ist voll.</translation>
-    </message>
-    <message>
-        <source>No permission to write in %1.</source>
-        <comment>saving</comment>
-        <translation>Keine Berechtigung, in %1 zu schreiben.</translation>
-    </message>
-    <message>
-        <source>%1 is on a disk that can only be read.</source>
-        <comment>saving</comment>
-        <translation>%1 liegt auf einem Datenträger, der nur gelesen werden kann.</translation>
-    </message>
-    <message>
-        <source>The folder %1 is not there.</source>
-        <comment>saving</comment>
-        <translation>Den Ordner %1 gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>There is a folder of this name.</source>
-        <comment>saving</comment>
-        <translation>Es gibt einen Ordner dieses Namens.</translation>
-    </message>
-    <message>
-        <source>The name is too long.</source>
-        <comment>saving</comment>
-        <translation>Der Name ist zu lang.</translation>
-    </message>
-    <message>
-        <source>cannot write &apos;%1&apos;: %2</source>
-        <comment>command line</comment>
-        <translation>»%1« lässt sich nicht schreiben: %2</translation>
-    </message>
-    <message>
-        <source>cannot open &apos;%1&apos;: %2</source>
-        <comment>command line</comment>
-        <translation>»%1« lässt sich nicht öffnen: %2</translation>
-    </message>
-    <message>
-        <source>GIF pictures are only read</source>
-        <comment>command line</comment>
-        <translation>GIF-Bilder werden nur gelesen</translation>
-    </message>
-    <message>
-        <source>Saving drawing</source>
-        <comment>saving</comment>
-        <translation>Zeichnung wird gespeichert</translation>
     </message>
 </context>
 <context>

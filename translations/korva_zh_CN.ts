@@ -983,6 +983,59 @@
     </message>
 </context>
 <context>
+    <name>pad::DrawingFile</name>
+    <message>
+        <source>The disk is full.</source>
+        <comment>saving</comment>
+        <translation>磁盘已满。</translation>
+    </message>
+    <message>
+        <source>No permission to write in %1.</source>
+        <comment>saving</comment>
+        <translation>没有写入 %1 的权限。</translation>
+    </message>
+    <message>
+        <source>%1 is on a disk that can only be read.</source>
+        <comment>saving</comment>
+        <translation>%1 位于只读磁盘上。</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <comment>saving</comment>
+        <translation>文件夹 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>There is a folder of this name.</source>
+        <comment>saving</comment>
+        <translation>有同名的文件夹。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <comment>saving</comment>
+        <translation>名称太长。</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2</source>
+        <comment>command line</comment>
+        <translation>无法写入“%1”:%2</translation>
+    </message>
+    <message>
+        <source>cannot open &apos;%1&apos;: %2</source>
+        <comment>command line</comment>
+        <translation>无法打开“%1”:%2</translation>
+    </message>
+    <message>
+        <source>GIF pictures are only read</source>
+        <comment>command line</comment>
+        <translation>GIF 图片只能读取</translation>
+    </message>
+    <message>
+        <source>Saving drawing</source>
+        <comment>saving</comment>
+        <translation>正在保存绘图</translation>
+    </message>
+</context>
+<context>
     <name>pad::EarlierDialog</name>
     <message>
         <source>Earlier drawings</source>
@@ -1049,59 +1102,6 @@
         <source>%1[*] - Korva</source>
         <comment>window title</comment>
         <translation>%1[*] - Korva</translation>
-    </message>
-</context>
-<context>
-    <name>pad::PictureFile</name>
-    <message>
-        <source>The disk is full.</source>
-        <comment>saving</comment>
-        <translation>磁盘已满。</translation>
-    </message>
-    <message>
-        <source>No permission to write in %1.</source>
-        <comment>saving</comment>
-        <translation>没有写入 %1 的权限。</translation>
-    </message>
-    <message>
-        <source>%1 is on a disk that can only be read.</source>
-        <comment>saving</comment>
-        <translation>%1 位于只读磁盘上。</translation>
-    </message>
-    <message>
-        <source>The folder %1 is not there.</source>
-        <comment>saving</comment>
-        <translation>文件夹 %1 不存在。</translation>
-    </message>
-    <message>
-        <source>There is a folder of this name.</source>
-        <comment>saving</comment>
-        <translation>有同名的文件夹。</translation>
-    </message>
-    <message>
-        <source>The name is too long.</source>
-        <comment>saving</comment>
-        <translation>名称太长。</translation>
-    </message>
-    <message>
-        <source>cannot write &apos;%1&apos;: %2</source>
-        <comment>command line</comment>
-        <translation>无法写入“%1”:%2</translation>
-    </message>
-    <message>
-        <source>cannot open &apos;%1&apos;: %2</source>
-        <comment>command line</comment>
-        <translation>无法打开“%1”:%2</translation>
-    </message>
-    <message>
-        <source>GIF pictures are only read</source>
-        <comment>command line</comment>
-        <translation>GIF 图片只能读取</translation>
-    </message>
-    <message>
-        <source>Saving drawing</source>
-        <comment>saving</comment>
-        <translation>正在保存绘图</translation>
     </message>
 </context>
 <context>
