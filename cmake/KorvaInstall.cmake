@@ -1,5 +1,5 @@
-# The installed tree, in the three parts that the packages are made of: runtime (the shared library), development
-# (headers, CMake and pkg-config) and pad (the programs).
+# The installed tree, in the four parts that the packages are made of: runtime (the shared library), development
+# (headers, CMake and pkg-config), pad (the programs) and translations (the languages of both).
 include(CMakePackageConfigHelpers)
 
 set(korva_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Korva)
@@ -23,6 +23,9 @@ set(korva_pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH korva_pc_prefix /${korva_pc_dir} /)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/korva.pc.in ${PROJECT_BINARY_DIR}/korva.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/korva.pc DESTINATION ${korva_pc_dir} COMPONENT development)
+
+install(FILES ${korva_messages}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/korva/translations COMPONENT translations)
 
 if(KORVA_BUILD_HOST)
     install(TARGETS korva-pad korva-preview COMPONENT pad)

@@ -1,5 +1,9 @@
 #include "CommandLine.h"
 
+#include "Wording.h"
+
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace pad {
@@ -11,7 +15,7 @@ constexpr int largestScale = 8;
 using Setter = std::optional<Failure> (*)(CommandLine&, const QString& value);
 
 template <QString CommandLine::*field>
-std::optional<Failure> setFile(CommandLine& line, const QString& value)
+std::optional<Failure> setText(CommandLine& line, const QString& value)
 {
     line.*field = value;
     return {};
@@ -29,8 +33,8 @@ std::optional<Failure> setScale(CommandLine& line, const QString& value)
     bool isNumber = false;
     const int scale = value.toInt(&isNumber);
     if (!isNumber || scale < 1 || scale > largestScale)
-        return Failure{
-            QStringLiteral("--scale takes a number from 1 to %1, not '%2'").arg(largestScale).arg(value)};
+        return Failure{CommandLine::tr("--scale takes a number from 1 to %1, not '%2'", "command line")
+                           .arg(QString::number(largestScale), value)};
     line.scale = scale;
     return {};
 }
@@ -41,19 +45,34 @@ struct Option
     char letter;       ///< 0: none
     const char* value; ///< null: takes none
     Setter set;
-    const char* help;
+    struct
+    {
+        const char* text;
+        const char* comment;
+    } help;
 };
 
 constexpr Option options[] = {
-    {"scale", 0, "N", setScale, "show every pixel N x N (default: as last time, or what suits the screen)"},
-    {"replay", 0, "FILE", setFile<&CommandLine::replay>, "play a recording; no pointer is needed"},
-    {"record", 0, "FILE", setFile<&CommandLine::record>, "write a recording of what is drawn"},
-    {"save", 0, "FILE", setFile<&CommandLine::save>, "save the drawing after the replay, then exit"},
-    {"screenshot", 0, "FILE", setFile<&CommandLine::screenshot>, "write the window as PNG, then exit"},
+    {"scale", 0, "N", setScale,
+     QT_TRANSLATE_NOOP3("pad::CommandLine",
+                        "show every pixel N x N (default: as last time, or what suits the screen)",
+                        "help")},
+    {"language", 0, "CODE", setText<&CommandLine::language>,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "speak this language, like de or pt_BR", "help")},
+    {"replay", 0, "FILE", setText<&CommandLine::replay>,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "play a recording; no pointer is needed", "help")},
+    {"record", 0, "FILE", setText<&CommandLine::record>,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "write a recording of what is drawn", "help")},
+    {"save", 0, "FILE", setText<&CommandLine::save>,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "save the drawing after the replay, then exit", "help")},
+    {"screenshot", 0, "FILE", setText<&CommandLine::screenshot>,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "write the window as PNG, then exit", "help")},
     {"no-recovery", 0, nullptr, setFlag<&CommandLine::noRecovery>,
-     "keep no copy of what is not saved, and offer none"},
-    {"help", 'h', nullptr, setFlag<&CommandLine::help>, "show this text"},
-    {"version", 'v', nullptr, setFlag<&CommandLine::version>, "show the version"},
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "keep no copy of what is not saved, and offer none", "help")},
+    {"help", 'h', nullptr, setFlag<&CommandLine::help>,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "show this text", "help")},
+    {"version", 'v', nullptr, setFlag<&CommandLine::version>,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "show the version", "help")},
 };
 
 const Option* findOption(const QString& dashed)
@@ -69,9 +88,9 @@ const Option* findOption(const QString& dashed)
 std::optional<Failure> setPicture(CommandLine& line, const QString& name)
 {
     if (name.isEmpty())
-        return Failure{QStringLiteral("the picture's name is empty")};
+        return wording::emptyName();
     if (!line.picture.isEmpty())
-        return Failure{QStringLiteral("one picture at a time: '%1' and '%2'").arg(line.picture, name)};
+        return wording::twoPictures(line.picture, name);
     line.picture = name;
     return {};
 }
@@ -85,21 +104,21 @@ std::optional<Failure> setOption(CommandLine& line, QStringList& rest, QStringLi
     const QString dashed = argument.left(equals);
     const Option* option = findOption(dashed);
     if (!option)
-        return Failure{QStringLiteral("unknown option '%1' (--help lists them)").arg(dashed)};
+        return wording::unknownOption(dashed);
     if (seen.contains(dashed) && option->value)
-        return Failure{QStringLiteral("%1 is given twice").arg(dashed)};
+        return Failure{CommandLine::tr("%1 is given twice", "command line").arg(dashed)};
     seen.append(dashed);
 
     if (!option->value) {
         if (equals >= 0)
-            return Failure{QStringLiteral("%1 takes no value").arg(dashed)};
+            return Failure{CommandLine::tr("%1 takes no value", "command line").arg(dashed)};
         return option->set(line, {});
     }
     const QString value = equals >= 0      ? argument.mid(equals + 1)
                           : rest.isEmpty() ? QString()
                                            : rest.takeFirst();
     if (value.isEmpty())
-        return Failure{QStringLiteral("%1 needs a value: %1 %2").arg(dashed, QLatin1String(option->value))};
+        return wording::noValue(dashed, QLatin1String(option->value));
     return option->set(line, value);
 }
 
@@ -127,18 +146,28 @@ Expected<CommandLine> CommandLine::parse(const QStringList& arguments)
     return line;
 }
 
+QString CommandLine::languageIn(const QStringList& arguments)
+{
+    const QLatin1String option("--language");
+    const qsizetype at = arguments.indexOf(option);
+    if (at >= 0)
+        return arguments.value(at + 1);
+    const QStringList joined = arguments.filter(QRegularExpression(QStringLiteral("^--language=")));
+    return joined.value(0).mid(option.size() + 1);
+}
+
 QString CommandLine::helpText()
 {
-    QString text = QStringLiteral("Usage: korva-pad [options] [picture]\n"
-                                  "A drawing pad: draws on a new canvas or on the picture given.\n\n"
-                                  "Options:\n");
+    QString text = tr("Usage: korva-pad [options] [picture]", "help") + QLatin1Char('\n') +
+                   tr("A drawing pad: draws on a new canvas or on the picture given.", "help") +
+                   QLatin1String("\n\n") + tr("Options:", "help") + QLatin1Char('\n');
     for (const Option& option : options) {
         QString usage = QLatin1String("--") + QLatin1String(option.name);
         if (option.letter)
             usage.prepend(QStringLiteral("-%1, ").arg(QLatin1Char(option.letter)));
         if (option.value)
             usage += QLatin1Char(' ') + QLatin1String(option.value);
-        text += QStringLiteral("  %1 %2\n").arg(usage, -18).arg(QLatin1String(option.help));
+        text += QStringLiteral("  %1 %2\n").arg(usage, -18).arg(tr(option.help.text, option.help.comment));
     }
     return text;
 }

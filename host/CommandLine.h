@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <optional>
@@ -11,7 +12,11 @@ namespace pad {
 /// What korva-pad was asked to do.
 struct CommandLine
 {
+    Q_DECLARE_TR_FUNCTIONS(pad::CommandLine)
+
+public:
     std::optional<int> scale; ///< every pixel is shown scale × scale; nothing: what suits the screen
+    QString language;         ///< a code; empty: the locale's
     QString replay;
     QString record;
     QString save;
@@ -25,6 +30,8 @@ struct CommandLine
     /// follows "--" is a picture whatever its name.
     [[nodiscard]] static Expected<CommandLine> parse(const QStringList& arguments);
     [[nodiscard]] static QString helpText();
+    /// The language asked for, wherever it stands in whatever is wrong; empty: none.
+    [[nodiscard]] static QString languageIn(const QStringList& arguments);
 
     /// Whether the program writes its results and ends by itself, with nobody at the window.
     [[nodiscard]] bool endsByItself() const { return !save.isEmpty() || !screenshot.isEmpty(); }

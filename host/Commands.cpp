@@ -5,6 +5,7 @@
 #include "KeysDialog.h"
 #include "MenuStyle.h"
 #include "Recovery.h"
+#include "Wording.h"
 
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
@@ -32,6 +33,12 @@ struct Label
 
 /// The rows of the zoom box that have a rate of their own, in percent.
 constexpr int rates[] = {50, 100, 150, 200};
+
+/// Without what only a menu tells: its letter, and that a dialog follows.
+QString keysPageText(const QAction& action)
+{
+    return wording::withoutMnemonic(action.text()).remove(QLatin1String(" ..."));
+}
 
 } // namespace
 
@@ -265,7 +272,7 @@ void Commands::showKeys()
 {
     QList<KeysDialog::Row> rows;
     for (const QAction* action : m_window->actions())
-        rows.append({action->shortcut().toString(QKeySequence::NativeText), action->iconText()});
+        rows.append({action->shortcut().toString(QKeySequence::NativeText), keysPageText(*action)});
     rows.append({QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText), tr("Menu", "keys")});
     KeysDialog(m_window, rows).exec();
 }

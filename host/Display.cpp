@@ -1,5 +1,6 @@
 #include "Display.h"
 
+#include "Language.h"
 #include "StartMessages.h"
 
 #include <QDir>
@@ -135,9 +136,12 @@ std::optional<QString> objection(const QByteArray& platform)
     case Kind::Wayland:
         if (!waylandAnswers())
             return display.arg(waylandName());
-        if (!waylandPluginIsThere())
-            return display.arg(waylandName()) +
-                   QStringLiteral(": the toolkit's plugin for Wayland (qt6-wayland) is not installed");
+        if (!waylandPluginIsThere()) {
+            const language::Early words;
+            return Display::tr("%1: the toolkit's plugin for Wayland (%2) is not installed",
+                               "display; %1: its name, %2: a package")
+                .arg(display.arg(waylandName()), QLatin1String("qt6-wayland"));
+        }
         break;
     case Kind::Other:
         break;
@@ -189,10 +193,15 @@ Expected<Display> Display::find(bool needsNobody)
         }
         objections.append(*reason);
     }
-    if (display.platform.isEmpty())
-        return Failure{objections.isEmpty()
-                           ? QStringLiteral("there is no display")
-                           : QStringLiteral("cannot open display ") + objections.join(" or ")};
+    if (display.platform.isEmpty()) {
+        const language::Early words;
+        if (objections.isEmpty())
+            return Failure{tr("there is no display", "display")};
+        QString names = objections.takeFirst();
+        for (const QString& next : std::as_const(objections))
+            names = tr("%1 or %2", "display; names of displays").arg(names, next);
+        return Failure{tr("cannot open display %1", "display").arg(names)};
+    }
     if (display.platform == "minimal")
         display.platform += ":enable_fonts"; // without it there are no letters
     qputenv("QT_QPA_PLATFORM", display.platform);
@@ -201,10 +210,11 @@ Expected<Display> Display::find(bool needsNobody)
         return display;
     display.screen = kindOf(display.platform) == Kind::X ? xScreen() : anyScreen();
     if (!display.screen) {
+        const language::Early words;
         const QString reason = startmessages::reason();
-        return Failure{QStringLiteral("cannot show anything on '%1': %2")
-                           .arg(QString::fromLatin1(display.platform),
-                                reason.isEmpty() ? QStringLiteral("there is no screen") : reason)};
+        return Failure{startmessages::nothingShown().arg(
+            QString::fromLatin1(display.platform),
+            reason.isEmpty() ? tr("there is no screen", "display") : reason)};
     }
     startmessages::forget(); // will be said again
     return display;

@@ -4,6 +4,7 @@
 #include "Screen.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 
 #include <optional>
 
@@ -12,6 +13,9 @@ namespace pad {
 /// Where the program shows itself.
 struct Display
 {
+    Q_DECLARE_TR_FUNCTIONS(pad::Display)
+
+public:
     QByteArray platform;          ///< as in QT_QPA_PLATFORM
     std::optional<Screen> screen; ///< none where nobody looks
 

@@ -4,6 +4,7 @@
 #include "DrawingFile.h"
 #include "EditCommand.h"
 #include "Platform.h"
+#include "Wording.h"
 
 #include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_EditCanvas.h>
@@ -13,7 +14,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 
 #include <cerrno>
 
@@ -31,23 +31,15 @@ constexpr int normalCanvas = 3;
 
 constexpr int longTime = 60;
 
-struct Label
+constexpr struct
 {
-    const char* text;
-    const char* comment;
-};
-
-struct CanvasType
-{
-    Label label;
+    int colors; ///< 2: black and white
     KORVA_CANVASTYPE type;
-};
-
-constexpr CanvasType canvasTypes[] = {
-    {QT_TRANSLATE_NOOP3("pad::Documents", "65,536 colors", "canvas type"), KORVA_CANVAS_16BIT},
-    {QT_TRANSLATE_NOOP3("pad::Documents", "256 colors", "canvas type"), KORVA_CANVAS_8BIT},
-    {QT_TRANSLATE_NOOP3("pad::Documents", "16 colors", "canvas type"), KORVA_CANVAS_4BIT},
-    {QT_TRANSLATE_NOOP3("pad::Documents", "Black and white", "canvas type"), KORVA_CANVAS_1BIT},
+} canvasTypes[] = {
+    {65536, KORVA_CANVAS_16BIT},
+    {256, KORVA_CANVAS_8BIT},
+    {16, KORVA_CANVAS_4BIT},
+    {2, KORVA_CANVAS_1BIT},
 };
 
 /// A name as a sentence can hold it.
@@ -57,14 +49,6 @@ QString fileNameOf(const QString& path)
     constexpr int end = 12; // with the extension
     const QString name = QFileInfo(path).fileName();
     return name.size() <= most ? name : name.left(most - end) + QChar(0x2026) + name.right(end);
-}
-
-QString inPixels(QSize size)
-{
-    const QLocale locale;
-    // Nothing of it goes to another line.
-    return QStringLiteral("%1\u00a0×\u00a0%2")
-        .arg(locale.toString(size.width()), locale.toString(size.height()));
 }
 
 } // namespace
@@ -141,8 +125,9 @@ bool Documents::mayClose()
 int Documents::askCanvasType()
 {
     QStringList buttons;
-    for (const CanvasType& row : canvasTypes)
-        buttons.append(tr(row.label.text, row.label.comment));
+    for (const auto& row : canvasTypes)
+        buttons.append(row.colors == 2 ? tr("Black and white", "canvas type")
+                                       : tr("%Ln colors", "canvas type", row.colors));
     buttons.append(tr("Cancel", "canvas type"));
     const int answer =
         m_platform.question(m_window, QString(), tr("How many colors?", "canvas type"), buttons);
@@ -262,17 +247,19 @@ QString Documents::whatReplacingLoses() const
     const QSize size = m_editor.snapshot().size();
     const QSize source = m_editor.sourceSize();
     if (!canBeWritten(path))
-        return tr("%1 pictures can only be opened: the drawing of %2 pixels needs a new file.", "saving")
-            .arg(QFileInfo(path).suffix().toUpper(), inPixels(size));
+        return tr("%1 pictures can only be opened: the drawing of %2 pixels needs a new file.",
+                  "saving; %1: 'GIF', %2: '300 × 200'")
+            .arg(QFileInfo(path).suffix().toUpper(), wording::inPixels(size));
     if (m_mayReplace)
         return {};
     if (m_editor.isReduced() && source != size)
-        return tr("%1 has %2 pixels and the drawing %3: replacing it would lose the rest.", "saving")
-            .arg(name, inPixels(source), inPixels(size));
+        return tr("%1 has %2 pixels and the drawing %3: replacing it would lose the rest.",
+                  "saving; %1: a file, %2 and %3: '300 × 200'")
+            .arg(name, wording::inPixels(source), wording::inPixels(size));
     if (m_editor.isReduced())
         return tr("%1 has more colors than the drawing of %2 pixels: replacing it would lose them.",
-                  "saving")
-            .arg(name, inPixels(size));
+                  "saving; %1: a file, %2: '300 × 200'")
+            .arg(name, wording::inPixels(size));
     const Version now = Version::of(path);
     if (now != Version() && now != m_version)
         return tr("%1 was changed since it was opened: replacing it would lose that.", "saving").arg(name);

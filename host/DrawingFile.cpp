@@ -84,7 +84,14 @@ QString WriteError::sentence() const
 
 QString WriteError::line() const
 {
-    return QStringLiteral("cannot write '%1': %2").arg(fileName, detail);
+    return QCoreApplication::translate("pad::DrawingFile", "cannot write '%1': %2", "command line")
+        .arg(fileName, detail);
+}
+
+QString openError(const QString& fileName, const QString& reason)
+{
+    return QCoreApplication::translate("pad::DrawingFile", "cannot open '%1': %2", "command line")
+        .arg(fileName, reason);
 }
 
 bool canBeWritten(const QString& fileName)
@@ -127,7 +134,10 @@ public:
     [[nodiscard]] std::optional<WriteError> write(const Writer& write, const MayReplace& mayReplace) const
     {
         if (m_format == QLatin1String("GIF"))
-            return WriteError{0, QStringLiteral("GIF pictures are only read"), m_fileName};
+            return WriteError{0,
+                              QCoreApplication::translate("pad::DrawingFile", "GIF pictures are only read",
+                                                          "command line"),
+                              m_fileName};
         const QByteArray bytes = KORVA_EditCanvas::encoded(m_picture, m_format.toLatin1().constData());
         if (bytes.isEmpty())
             return systemError(ENOMEM, m_fileName);

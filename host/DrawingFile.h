@@ -25,6 +25,9 @@ struct WriteError
     [[nodiscard]] QString line() const;
 };
 
+/// One line for the person at the keyboard: "cannot open 'a.png': ..."
+[[nodiscard]] QString openError(const QString& fileName, const QString& reason);
+
 /// Whether a drawing can be written into a file of this name: GIF and WBMP pictures are only read.
 [[nodiscard]] bool canBeWritten(const QString& fileName);
 

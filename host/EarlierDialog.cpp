@@ -1,5 +1,7 @@
 #include "EarlierDialog.h"
 
+#include "Wording.h"
+
 #include <UTIL_PushButton.h>
 #include <UTIL_ScrollBar.h>
 #include <UTIL_Skin.h>
@@ -86,8 +88,7 @@ EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>&
     m_list->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, m_list));
     for (const KORVA_Journal::Entry& entry : m_entries) {
         const QString name = QFileInfo(entry.pictureName).fileName();
-        const QString size =
-            QStringLiteral("%1\u00a0×\u00a0%2").arg(entry.size.width()).arg(entry.size.height());
+        const QString size = wording::inPixels(entry.size);
         auto* row =
             new QListWidgetItem(timeText(entry.time) + '\n' + (name.isEmpty() ? size : name), m_list);
         row->setData(Qt::DecorationRole, thumbnail(entry));
@@ -127,10 +128,11 @@ QString EarlierDialog::timeText(const QDateTime& time)
     const QString clock = locale.toString(time.time(), format);
     const qint64 days = time.date().daysTo(QDate::currentDate());
     if (days == 0)
-        return tr("today at %1", "time").arg(clock);
+        return tr("today at %1", "time, in a list and in a sentence; %1: '9:30'").arg(clock);
     if (days == 1)
-        return tr("yesterday at %1", "time").arg(clock);
-    return tr("%1 at %2", "time").arg(locale.toString(time.date(), QLocale::ShortFormat), clock);
+        return tr("yesterday at %1", "time, in a list and in a sentence; %1: '9:30'").arg(clock);
+    return tr("%1 at %2", "time, in a list and in a sentence; %1: a date, %2: '9:30'")
+        .arg(locale.toString(time.date(), QLocale::ShortFormat), clock);
 }
 
 QPixmap EarlierDialog::thumbnail(const KORVA_Journal::Entry& entry)

@@ -5,6 +5,7 @@
 #include "PopupFence.h"
 #include "StatusLine.h"
 #include "Theme.h"
+#include "Wording.h"
 
 #include <KORVA_EditCanvas.h>
 #include <UTIL_PushButton.h>
@@ -77,7 +78,7 @@ void PadWindow::openMenu()
 void PadWindow::updateContextKey()
 {
     const QAction* action = m_commands->contextAction();
-    m_contextKey->setText(action->text().remove(QLatin1Char('&')));
+    m_contextKey->setText(wording::withoutMnemonic(action->text()));
     m_contextKey->setEnabled(action->isEnabled());
 }
 

@@ -52,7 +52,7 @@ int Platform::question(QWidget* parent, const QString& icon, const QString& text
         return *answer;
     }
     if (m_script->stopped.isEmpty())
-        m_script->stopped = QStringLiteral("the question '%1' has no answer").arg(text);
+        m_script->stopped = tr("the question '%1' has no answer", "replay").arg(text);
     return refusal;
 }
 
@@ -98,7 +98,7 @@ UTIL_PictureDialog* Platform::createPickDialog(QWidget* parent, const QString& f
                                                const QStringList& patterns)
 {
     if (m_script)
-        return scriptedDialog(parent, QStringLiteral("no picture is named to open"));
+        return scriptedDialog(parent, tr("no picture is named to open", "replay"));
     return UTIL_Platform::createPickDialog(parent, folder, patterns);
 }
 
@@ -107,7 +107,7 @@ UTIL_PictureDialog* Platform::createSaveDialog(QWidget* parent, const QString& f
 {
     if (m_script) {
         m_script->fileName.clear(); // what is named is for opening
-        return scriptedDialog(parent, QStringLiteral("the drawing has no name to be saved under"));
+        return scriptedDialog(parent, tr("the drawing has no name to be saved under", "replay"));
     }
     return UTIL_Platform::createSaveDialog(parent, folder, patterns);
 }

@@ -2,6 +2,8 @@
 
 #include <UTIL_Platform.h>
 
+#include <QCoreApplication>
+
 #include <optional>
 #include <utility>
 
@@ -19,6 +21,8 @@ struct Script
 /// The program's services for the editor: the desktop's, or a script's.
 class Platform : public UTIL_Platform
 {
+    Q_DECLARE_TR_FUNCTIONS(pad::Platform)
+
 public:
     /// Puts a new one in force. It lives until another is installed.
     static Platform& install();

@@ -89,7 +89,7 @@ void Player::option(int option)
 {
     m_editor.selectOption(option);
     if (m_editor.option() != option)
-        stop(QStringLiteral("the tool has no option %1").arg(option));
+        stop(tr("the tool has no option %1", "replay").arg(option));
 }
 
 void Player::type(const QString& text)
@@ -117,7 +117,7 @@ void Player::canvas(int type, QSize size)
     if (mayReplaceDrawing(m_editor, m_platform))
         newCanvas(m_editor, type, size);
     else
-        stop(QStringLiteral("the drawing could not be saved"));
+        stop(tr("the drawing could not be saved", "replay"));
 }
 
 void Player::open(const QString& fileName)
@@ -128,13 +128,13 @@ void Player::open(const QString& fileName)
     m_editor.slotOpen();
     m_script.fileName.clear();
     if (m_editor.fileName() != fileName)
-        stopAt(QStringLiteral("open"), fileName);
+        stopAtPicture(fileName);
 }
 
 void Player::stamp(const QString& fileName)
 {
     if (isReadable(fileName) && !insertStamp(m_editor, fileName))
-        stopAt(QStringLiteral("open"), fileName);
+        stopAtPicture(fileName);
 }
 
 void Player::save(const QString& fileName)
@@ -161,7 +161,7 @@ bool Player::isReadable(const QString& fileName)
     m_editor.getFileFormat(fileName, format);
     const bool readable = m_editor.isPicSizeNotOver(fileName, format.toLatin1().constData());
     if (!readable)
-        stopAt(QStringLiteral("open"), fileName);
+        stopAtPicture(fileName);
     return readable;
 }
 
@@ -171,9 +171,9 @@ void Player::stop(const QString& reason)
         m_script.stopped = reason;
 }
 
-void Player::stopAt(const QString& what, const QString& fileName)
+void Player::stopAtPicture(const QString& fileName)
 {
-    stop(QStringLiteral("cannot %1 '%2': %3").arg(what, fileName, m_script.told));
+    stop(openError(fileName, m_script.told));
 }
 
 } // namespace pad

@@ -15,6 +15,8 @@ namespace pad {
 /// person chooses it. Questions take their answers from the recording; timed boxes are not shown.
 class Player
 {
+    Q_DECLARE_TR_FUNCTIONS(pad::Player)
+
 public:
     Player(KORVA_EditCanvas& editor, Platform& platform);
 
@@ -38,7 +40,7 @@ private:
     [[nodiscard]] bool isReadable(const QString& fileName);
     /// Stops the replay, unless it is stopped already.
     void stop(const QString& reason);
-    void stopAt(const QString& what, const QString& fileName);
+    void stopAtPicture(const QString& fileName);
 
     KORVA_EditCanvas& m_editor;
     Platform& m_platform;

@@ -1,5 +1,6 @@
 #include "Recorder.h"
 
+#include "DrawingFile.h"
 #include "KeyName.h"
 
 #include <KORVA_Canvas.h>
@@ -20,7 +21,7 @@ std::optional<Failure> Recorder::start(const QString& fileName)
 {
     m_file.setFileName(fileName);
     if (!m_file.open(QIODevice::WriteOnly))
-        return Failure{QStringLiteral("cannot write '%1': %2").arg(fileName, m_file.errorString())};
+        return failure();
     m_editor.canvas()->installEventFilter(this);
     m_editor.canvas()->pasteLabel()->installEventFilter(this);
     connect(&m_editor, &KORVA_EditCanvas::chosen, this, &Recorder::writeChoice);
@@ -31,10 +32,14 @@ std::optional<Failure> Recorder::start(const QString& fileName)
 std::optional<Failure> Recorder::finish()
 {
     if (m_file.isOpen() && (!m_file.flush() || m_file.error() != QFileDevice::NoError))
-        return Failure{
-            QStringLiteral("cannot write '%1': %2").arg(m_file.fileName(), m_file.errorString())};
+        return failure();
     m_file.close();
     return {};
+}
+
+Failure Recorder::failure() const
+{
+    return {WriteError{0, m_file.errorString(), m_file.fileName()}.line()};
 }
 
 void Recorder::watchMenus()

@@ -32,6 +32,7 @@ public slots:
     void write(const pad::Command& command);
 
 private:
+    [[nodiscard]] Failure failure() const;
     void writeChoice(KORVA_CHOICETYPE what, int which);
     void writeMouse(const QWidget& receiver, const QMouseEvent& event);
     void writeKey(const QKeyEvent& event);

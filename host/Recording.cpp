@@ -142,29 +142,49 @@ QString writeText(const Command& command)
 
 struct Argument
 {
-    const char* what; ///< for the messages
+    struct
+    {
+        const char* text;
+        const char* comment; ///< null: a word of the language, the same in all others
+    } what;                  ///< for the messages
     bool (*read)(const QString& word, Command& command);
     QString (*write)(const Command& command); ///< an empty word is left out
     bool optional = false;
 };
 
-constexpr Argument x{"X", readCoordinate<&QPoint::setX>,
-                     [](const Command& c) { return QString::number(c.point.x()); }};
-constexpr Argument y{"Y", readCoordinate<&QPoint::setY>,
-                     [](const Command& c) { return QString::number(c.point.y()); }};
-constexpr Argument width{"W", readSide<&QSize::setWidth>,
-                         [](const Command& c) { return QString::number(c.size.width()); }};
-constexpr Argument height{"H", readSide<&QSize::setHeight>,
-                          [](const Command& c) { return QString::number(c.size.height()); }};
-constexpr Argument button{"'right'", readButton, writeButton, true};
-constexpr Argument number{"a number", readNumber, writeNumber};
-constexpr Argument tool{"a tool", readTool, writeTool};
-constexpr Argument zoom{"a zoom", readName<zoomNames>, writeName<zoomNames>};
-constexpr Argument canvasType{"a canvas type", readName<canvasNames>, writeName<canvasNames>};
-constexpr Argument color{"a colour #rrggbb", readColor, [](const Command& c) { return c.color.name(); }};
-constexpr Argument key{"a key", readKey, [](const Command& c) { return keyName(c.key); }};
-constexpr Argument text{"a text", readText, writeText};
-constexpr Argument fileName{"a file name", readFileName, writeText};
+constexpr Argument x{{"X", nullptr}, readCoordinate<&QPoint::setX>, [](const Command& c) {
+                         return QString::number(c.point.x());
+                     }};
+constexpr Argument y{{"Y", nullptr}, readCoordinate<&QPoint::setY>, [](const Command& c) {
+                         return QString::number(c.point.y());
+                     }};
+constexpr Argument width{{"W", nullptr}, readSide<&QSize::setWidth>, [](const Command& c) {
+                             return QString::number(c.size.width());
+                         }};
+constexpr Argument height{{"H", nullptr}, readSide<&QSize::setHeight>, [](const Command& c) {
+                              return QString::number(c.size.height());
+                          }};
+constexpr Argument button{{"'right'", nullptr}, readButton, writeButton, true};
+constexpr Argument number{
+    QT_TRANSLATE_NOOP3("pad::Recording", "a number", "recording; what a command needs"), readNumber,
+    writeNumber};
+constexpr Argument tool{QT_TRANSLATE_NOOP3("pad::Recording", "a tool", "recording; what a command needs"),
+                        readTool, writeTool};
+constexpr Argument zoom{QT_TRANSLATE_NOOP3("pad::Recording", "a zoom", "recording; what a command needs"),
+                        readName<zoomNames>, writeName<zoomNames>};
+constexpr Argument canvasType{
+    QT_TRANSLATE_NOOP3("pad::Recording", "a canvas type", "recording; what a command needs"),
+    readName<canvasNames>, writeName<canvasNames>};
+constexpr Argument color{
+    QT_TRANSLATE_NOOP3("pad::Recording", "a colour #rrggbb", "recording; what a command needs"), readColor,
+    [](const Command& c) { return c.color.name(); }};
+constexpr Argument key{QT_TRANSLATE_NOOP3("pad::Recording", "a key", "recording; what a command needs"),
+                       readKey, [](const Command& c) { return keyName(c.key); }};
+constexpr Argument text{QT_TRANSLATE_NOOP3("pad::Recording", "a text", "recording; what a command needs"),
+                        readText, writeText};
+constexpr Argument fileName{
+    QT_TRANSLATE_NOOP3("pad::Recording", "a file name", "recording; what a command needs"), readFileName,
+    writeText};
 
 // --- The language
 
@@ -213,22 +233,24 @@ Expected<Command> understand(QStringList words)
     const QString word = words.takeFirst();
     const Rule* rule = findRule([&word](const Rule& r) { return word == QLatin1String(r.word); });
     if (!rule)
-        return Failure{QStringLiteral("unknown command '%1'").arg(word)};
+        return Failure{Recording::tr("unknown command '%1'", "recording").arg(word)};
 
     Command command;
     command.verb = rule->verb;
     for (const Argument* argument : rule->arguments) {
         if (!argument || (argument->optional && words.isEmpty()))
             break;
-        const QString what = QLatin1String(argument->what);
+        const auto& [name, comment] = argument->what;
+        const QString what = comment ? Recording::tr(name, comment) : QLatin1String(name);
         if (words.isEmpty())
-            return Failure{QStringLiteral("'%1' needs %2").arg(word, what)};
+            return Failure{Recording::tr("'%1' needs %2", "recording").arg(word, what)};
         const QString given = words.takeFirst();
         if (!argument->read(given, command))
-            return Failure{QStringLiteral("'%1' needs %2, not '%3'").arg(word, what, given)};
+            return Failure{Recording::tr("'%1' needs %2, not '%3'", "recording").arg(word, what, given)};
     }
     if (!words.isEmpty())
-        return Failure{QStringLiteral("'%1' is too much for '%2'").arg(words.constFirst(), word)};
+        return Failure{
+            Recording::tr("'%1' is too much for '%2'", "recording").arg(words.constFirst(), word)};
     return command;
 }
 
@@ -249,7 +271,7 @@ Expected<Recording> Recording::parse(const QByteArray& bytes, const QString& nam
         QStringDecoder decoder(QStringDecoder::Utf8);
         const QString decoded = decoder.decode(raw);
         if (decoder.hasError())
-            return failureIn(name, line, QStringLiteral("this is not UTF-8 text"));
+            return failureIn(name, line, tr("this is not UTF-8 text", "recording"));
         const auto words = splitLine(decoded);
         if (const auto* failure = std::get_if<Failure>(&words))
             return failureIn(name, line, failure->message);
@@ -268,10 +290,10 @@ Expected<Recording> Recording::read(const QString& fileName)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        return Failure{QStringLiteral("cannot read '%1': %2").arg(fileName, file.errorString())};
+        return Failure{tr("cannot read '%1': %2", "recording").arg(fileName, file.errorString())};
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        return Failure{QStringLiteral("cannot read '%1': %2").arg(fileName, file.errorString())};
+        return Failure{tr("cannot read '%1': %2", "recording").arg(fileName, file.errorString())};
     return parse(bytes, fileName);
 }
 

@@ -3,6 +3,7 @@
 #include "Failure.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QKeyCombination>
 #include <QPoint>
 #include <QSize>
@@ -63,6 +64,8 @@ inline constexpr const char* canvasNames[] = {"16bit", "1bit", "4bit", "8bit", "
 /// double quotes, with \" \\ \n \t inside.
 class Recording
 {
+    Q_DECLARE_TR_FUNCTIONS(pad::Recording)
+
 public:
     /// `name` is the file's, for the messages: "name:line: what is wrong".
     [[nodiscard]] static Expected<Recording> parse(const QByteArray& text, const QString& name);

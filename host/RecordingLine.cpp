@@ -1,5 +1,7 @@
 #include "RecordingLine.h"
 
+#include "Recording.h"
+
 namespace pad {
 
 namespace {
@@ -30,7 +32,8 @@ public:
                 takePlain();
             }
             if (!atEnd() && !isBlank(peek()) && peek() != QLatin1Char('#'))
-                return Failure{QStringLiteral("a blank is missing at '%1'").arg(m_line.mid(m_at))};
+                return Failure{
+                    Recording::tr("a blank is missing at '%1'", "recording").arg(m_line.mid(m_at))};
         }
         return m_words;
     }
@@ -75,10 +78,10 @@ private:
             } else if (++m_at; atEnd()) {
                 break;
             } else if (!takeEscape(word)) {
-                return Failure{QStringLiteral("unknown escape '\\%1'").arg(peek())};
+                return Failure{Recording::tr("unknown escape '\\%1'", "recording").arg(peek())};
             }
         }
-        return Failure{QStringLiteral("the closing quote is missing")};
+        return Failure{Recording::tr("the closing quote is missing", "recording")};
     }
 
     bool takeEscape(QString& word) const

@@ -39,8 +39,11 @@ void Recovery::offer()
     const bool areMore = m_journal.earlier().size() > before;
     const QString time = EarlierDialog::timeText(left->time);
     const QString name = QFileInfo(left->pictureName).fileName();
-    QString text = name.isEmpty() ? tr("A drawing of %1 was not saved.", "recovery").arg(time)
-                                  : tr("A drawing of %1 on %2 was not saved.", "recovery").arg(time, name);
+    QString text =
+        name.isEmpty()
+            ? tr("A drawing of %1 was not saved.", "recovery; %1: 'today at 9:30'").arg(time)
+            : tr("A drawing of %1 on %2 was not saved.", "recovery; %1: 'today at 9:30', %2: a file")
+                  .arg(time, name);
     if (areMore)
         text += QLatin1Char(' ') + tr("Older ones are among the earlier drawings.", "recovery");
     const int answer = m_platform.question(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"), text,

@@ -87,7 +87,7 @@ std::optional<Failure> Session::openPicture()
         return {};
     QFile file(m_line.picture);
     const QString reason = file.open(QIODevice::ReadOnly) ? script.told : file.errorString();
-    return Failure{QStringLiteral("cannot open '%1': %2").arg(m_line.picture, reason)};
+    return Failure{openError(m_line.picture, reason)};
 }
 
 std::optional<Failure> Session::startRecorder()

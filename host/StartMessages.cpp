@@ -1,5 +1,6 @@
 #include "StartMessages.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <cstdio>
@@ -14,6 +15,7 @@ struct State
     const char* program = "";
     bool isStarting = false;
     QStringList kept;
+    QString nothingShown = QStringLiteral("cannot show anything on '%1': %2");
 };
 
 State& state()
@@ -35,8 +37,8 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& mess
         state().kept.append(qFormatLogMessage(type, context, message));
     } else if (state().isStarting) {
         const QString told = reason().isEmpty() ? message.section(QLatin1Char('\n'), 0, 0) : reason();
-        std::fprintf(stderr, "%s: cannot show anything on '%s': %s\n", state().program,
-                     qgetenv("QT_QPA_PLATFORM").constData(), qPrintable(told));
+        const QString place = qEnvironmentVariable("QT_QPA_PLATFORM");
+        std::fprintf(stderr, "%s: %s\n", state().program, qPrintable(nothingShown().arg(place, told)));
         std::_Exit(1); // half-started, the toolkit cannot be taken down in order
     } else {
         say(qFormatLogMessage(type, context, message));
@@ -52,6 +54,17 @@ void keep(const char* program)
     state().program = program;
     state().isStarting = true;
     qInstallMessageHandler(hear);
+}
+
+void translate()
+{
+    state().nothingShown =
+        QCoreApplication::translate("pad::Display", "cannot show anything on '%1': %2", "display");
+}
+
+QString nothingShown()
+{
+    return state().nothingShown;
 }
 
 QString reason()

@@ -11,6 +11,11 @@ namespace startmessages {
 
 /// First of all; `program` is its name.
 void keep(const char* program);
+/// Takes the words for what would abort from the language that is loaded: when it comes to that, there is
+/// no application that could be asked.
+void translate();
+/// "cannot show anything on '%1': %2", the platform and the reason.
+[[nodiscard]] QString nothingShown();
 /// The reason that the toolkit gave first for what did not work; empty: none.
 [[nodiscard]] QString reason();
 /// Forgets what was kept.

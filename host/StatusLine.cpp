@@ -1,5 +1,7 @@
 #include "StatusLine.h"
 
+#include "Wording.h"
+
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_Pixel.h>
@@ -84,9 +86,12 @@ void StatusLine::refresh()
     const QSize size = pictureSize();
     const QPoint at = zoom.toPicture(m_pointer);
     m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
-    m_size->setText(tr("%1 × %2", "picture size").arg(size.width()).arg(size.height()));
-    m_zoom->setText(tr("%1 %", "zoom").arg(zoom.percent()));
-    m_position->setText(m_isOver ? tr("%1, %2", "position").arg(at.x()).arg(at.y()) : QString());
+    m_size->setText(tr("%1 × %2", "picture size")
+                        .arg(wording::plainNumber(size.width()), wording::plainNumber(size.height())));
+    m_zoom->setText(tr("%1 %", "zoom").arg(wording::plainNumber(zoom.percent())));
+    m_position->setText(
+        m_isOver ? tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()))
+                 : QString());
 }
 
 void StatusLine::refreshSoon()

@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "Display.h"
 #include "DownloadFolder.h"
+#include "Language.h"
 #include "Platform.h"
 #include "Recording.h"
 #include "Session.h"
@@ -35,19 +36,20 @@ int chooseScale(const pad::CommandLine& line, const std::optional<pad::Screen>& 
         return line.scale.value_or(screen->plainScale());
     const int wish = place->scale().value_or(screen->suitableScale());
     const int largest = screen->largestScale();
-    if (line.scale && wish > largest)
-        std::fprintf(stderr, "korva-pad: --scale %d does not fit a screen of %d x %d; taking %d\n", wish,
-                     screen->pixels.width(), screen->pixels.height(), largest);
+    if (line.scale && wish > largest) {
+        const pad::language::Early words;
+        pad::complain(
+            {pad::CommandLine::tr("--scale %1 does not fit a screen of %2 x %3; taking %4", "command line")
+                 .arg(wish)
+                 .arg(screen->pixels.width())
+                 .arg(screen->pixels.height())
+                 .arg(largest)});
+    }
     return std::min(wish, largest);
 }
 
-int run(char** argv, const pad::CommandLine& line)
+int run(char** argv, const pad::CommandLine& line, pad::Recording recording)
 {
-    pad::Expected<pad::Recording> recording = pad::Recording();
-    if (!line.replay.isEmpty())
-        recording = pad::Recording::read(line.replay);
-    if (const auto* failure = std::get_if<pad::Failure>(&recording))
-        return pad::complain(*failure);
     const auto found = pad::Display::find(line.endsByItself() || !line.replay.isEmpty());
     if (const auto* failure = std::get_if<pad::Failure>(&found))
         return pad::complain(*failure);
@@ -62,14 +64,14 @@ int run(char** argv, const pad::CommandLine& line)
     int only = 1; // the arguments are ours alone
     const QApplication app(only, argv);
     pad::startmessages::tell();
+    if (!pad::language::load())
+        pad::complain({pad::language::complaint()});
     QCoreApplication::setApplicationName(QStringLiteral("korva-pad"));
     // Takes effect only when the application object exists: every point of a stroke is drawn.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     pad::theme::apply();
     const pad::DownloadFolder downloads;
-    return pad::Session(line, std::get<pad::Recording>(std::move(recording)), pad::Platform::install(),
-                        std::move(place))
-        .run();
+    return pad::Session(line, std::move(recording), pad::Platform::install(), std::move(place)).run();
 }
 
 } // namespace
@@ -77,14 +79,29 @@ int run(char** argv, const pad::CommandLine& line)
 int main(int argc, char** argv)
 {
     pad::startmessages::keep("korva-pad");
-    const auto parsed = pad::CommandLine::parse(argumentsOf(argc, argv));
-    if (const auto* failure = std::get_if<pad::Failure>(&parsed))
-        return pad::complain(*failure);
-    const auto& line = std::get<pad::CommandLine>(parsed);
-    if (line.help || line.version) {
-        std::fputs(line.help ? qPrintable(pad::CommandLine::helpText()) : "korva-pad " KORVA_VERSION "\n",
-                   stdout);
-        return 0;
+    const QStringList arguments = argumentsOf(argc, argv);
+    pad::language::choose(pad::CommandLine::languageIn(arguments));
+    pad::CommandLine line;
+    pad::Recording recording;
+    {
+        const pad::language::Early words;
+        pad::startmessages::translate();
+        auto parsed = pad::CommandLine::parse(arguments);
+        if (const auto* failure = std::get_if<pad::Failure>(&parsed))
+            return pad::complain(*failure);
+        line = std::get<pad::CommandLine>(std::move(parsed));
+        if (line.help || line.version) {
+            std::fputs(line.help ? qPrintable(pad::CommandLine::helpText())
+                                 : "korva-pad " KORVA_VERSION "\n",
+                       stdout);
+            return 0;
+        }
+        if (!line.replay.isEmpty()) {
+            auto read = pad::Recording::read(line.replay);
+            if (const auto* failure = std::get_if<pad::Failure>(&read))
+                return pad::complain(*failure);
+            recording = std::get<pad::Recording>(std::move(read));
+        }
     }
-    return run(argv, line);
+    return run(argv, line, std::move(recording));
 }

@@ -1,42 +1,107 @@
 #include "KORVA_Translations.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTranslator>
 
-#include <algorithm>
+#include <memory>
+
+#include <dlfcn.h>
 
 namespace {
 
 constexpr auto translatorName = "KORVA_Translations";
+constexpr auto english = "en";
 
-struct LanguageRow
+const QString prefix = QStringLiteral("korva_");
+const QString suffix = QStringLiteral(".qm");
+
+QStringList& addedFolders()
 {
-    QLocale::Language language;
-    QLocale::Script script;
-    const char* file; // null for the language that the texts are written in
-};
+    static QStringList folders;
+    return folders;
+}
 
-constexpr LanguageRow languages[] = {
-    {QLocale::C, QLocale::AnyScript, nullptr},
-    {QLocale::English, QLocale::AnyScript, nullptr},
-    {QLocale::German, QLocale::AnyScript, ":/korva/translations/korva_de.qm"},
-    {QLocale::Chinese, QLocale::SimplifiedHanScript, ":/korva/translations/korva_zh_CN.qm"},
-};
-
-const LanguageRow* findLanguage(const QLocale& wanted)
+/// Where this code lies: the shared library, or the program that it was linked into.
+QString ownFolder()
 {
-    for (const QString& name : wanted.uiLanguages()) {
-        const QLocale locale(name);
-        const auto fits = [&locale](const LanguageRow& row) {
-            return row.language == locale.language() &&
-                   (row.script == QLocale::AnyScript || row.script == locale.script());
-        };
-        const LanguageRow* row = std::find_if(std::begin(languages), std::end(languages), fits);
-        if (row != std::end(languages))
-            return row;
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<const void*>(&ownFolder), &info) == 0)
+        return {};
+    return QFileInfo(QFile::decodeName(info.dli_fname)).canonicalPath();
+}
+
+QStringList folders()
+{
+    QStringList all = addedFolders();
+    if (const QDir own(ownFolder()); !own.path().isEmpty())
+        all << own.absoluteFilePath(QStringLiteral(KORVA_BUILT_TRANSLATIONS))
+            << own.absoluteFilePath(QStringLiteral(KORVA_INSTALLED_TRANSLATIONS));
+    return all + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
+                                           QStringLiteral("korva/translations"),
+                                           QStandardPaths::LocateDirectory);
+}
+
+/// All languages' files, the first choice first; a language may come several times.
+QStringList files()
+{
+    QStringList all;
+    for (const QString& folder : folders()) {
+        const QDir dir(folder);
+        for (const QString& name : dir.entryList({prefix + '*' + suffix}, QDir::Files))
+            all.append(dir.absoluteFilePath(name));
     }
-    return nullptr;
+    return all;
+}
+
+QString codeOf(const QString& file)
+{
+    return QFileInfo(file).completeBaseName().mid(prefix.size());
+}
+
+constexpr int best = 4;
+
+/// How well a language suits a locale: 0 not at all.
+int suitability(const QString& code, const QLocale& wanted)
+{
+    const QLocale own(code);
+    if (own.language() != wanted.language() || own.script() != wanted.script())
+        return 0;
+    if (code == wanted.name())
+        return best;
+    if (!code.contains('_')) // the language wherever it is spoken
+        return 3;
+    return own.territory() == wanted.territory() ? 2 : 1;
+}
+
+QTranslator* loaded()
+{
+    return QCoreApplication::instance()->findChild<QTranslator*>(translatorName,
+                                                                 Qt::FindDirectChildrenOnly);
+}
+
+bool install(const QString& file)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(file))
+        return false;
+    translator->setObjectName(translatorName);
+    translator->setParent(QCoreApplication::instance());
+    return QCoreApplication::installTranslator(translator.release());
+}
+
+/// The one that suits best of those that can be read; English needs none.
+bool installFor(const QLocale& locale, const QStringList& all)
+{
+    for (int wanted = best; wanted > 0; --wanted) {
+        for (const QString& file : all) {
+            if (suitability(codeOf(file), locale) == wanted && install(file))
+                return true;
+        }
+    }
+    return locale.language() == QLocale::English || locale.language() == QLocale::C;
 }
 
 } // namespace
@@ -44,17 +109,36 @@ const LanguageRow* findLanguage(const QLocale& wanted)
 bool KORVA_Translations::load(const QLocale& locale)
 {
     unload();
-    const LanguageRow* row = findLanguage(locale);
-    if (!row || !row->file)
-        return row;
-    auto* translator = new QTranslator(QCoreApplication::instance());
-    translator->setObjectName(translatorName);
-    return translator->load(QLatin1String(row->file)) && QCoreApplication::installTranslator(translator);
+    const QStringList all = files();
+    for (const QString& name : locale.uiLanguages()) {
+        if (installFor(QLocale(name), all))
+            return true;
+    }
+    return false;
 }
 
 void KORVA_Translations::unload()
 {
-    // Its destructor takes it out of the application.
-    delete QCoreApplication::instance()->findChild<QTranslator*>(translatorName,
-                                                                 Qt::FindDirectChildrenOnly);
+    delete loaded(); // its destructor takes it out of the application
+}
+
+QString KORVA_Translations::language()
+{
+    const QTranslator* translator = loaded();
+    return translator ? codeOf(translator->filePath()) : QString(english);
+}
+
+QStringList KORVA_Translations::languages()
+{
+    QStringList codes{english};
+    for (const QString& file : files())
+        codes.append(codeOf(file));
+    codes.sort();
+    codes.removeDuplicates();
+    return codes;
+}
+
+void KORVA_Translations::addFolder(const QString& folder)
+{
+    addedFolders().prepend(folder);
 }

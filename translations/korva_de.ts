@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de_DE" sourcelanguage="en">
+<TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name>KORVA_Canvas</name>
     <message>
@@ -463,6 +463,866 @@
         <source>Cancel</source>
         <comment>WAIT_BOX;SOFTKEY_1BUTTON</comment>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>desktop</name>
+    <message>
+        <source>Korva Pad</source>
+        <comment>Name</comment>
+        <translation>Korva-Zeichenblock</translation>
+    </message>
+    <message>
+        <source>Drawing Pad</source>
+        <comment>GenericName</comment>
+        <translation>Zeichenblock</translation>
+    </message>
+    <message>
+        <source>Draw and edit small pictures</source>
+        <comment>Comment</comment>
+        <translation>Kleine Bilder zeichnen und bearbeiten</translation>
+    </message>
+    <message>
+        <source>draw;paint;picture;bitmap;sketch;</source>
+        <comment>Keywords; each ends with a semicolon</comment>
+        <translation>zeichnen;malen;Bild;Skizze;</translation>
+    </message>
+    <message>
+        <source>A drawing pad for small touch screens, which works as well with a mouse: pencil, line, rectangle, ellipse, eraser, text and a selection that can be moved, stretched and turned.</source>
+        <comment>description</comment>
+        <translation>Ein Zeichenblock für kleine Touchscreens, der sich ebenso gut mit der Maus bedienen lässt: Stift, Linie, Rechteck, Ellipse, Radierer, Text und eine Auswahl, die verschoben, gedehnt und gedreht werden kann.</translation>
+    </message>
+    <message>
+        <source>It reads PNG, GIF, JPEG, BMP and WBMP pictures and writes PNG, JPEG and BMP.</source>
+        <comment>description</comment>
+        <translation>Er liest Bilder in den Formaten PNG, GIF, JPEG, BMP und WBMP und schreibt PNG, JPEG und BMP.</translation>
+    </message>
+</context>
+<context>
+    <name>pad::CommandLine</name>
+    <message>
+        <source>--scale takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--scale verlangt eine Zahl von 1 bis %1, nicht »%2«</translation>
+    </message>
+    <message>
+        <source>show every pixel N x N (default: as last time, or what suits the screen)</source>
+        <comment>help</comment>
+        <translation>jedes Pixel N x N zeigen (sonst: wie zuletzt, oder passend zum Bildschirm)</translation>
+    </message>
+    <message>
+        <source>speak this language, like de or pt_BR</source>
+        <comment>help</comment>
+        <translation>diese Sprache sprechen, etwa de oder pt_BR</translation>
+    </message>
+    <message>
+        <source>play a recording; no pointer is needed</source>
+        <comment>help</comment>
+        <translation>eine Aufnahme abspielen; ohne Maus oder Stift</translation>
+    </message>
+    <message>
+        <source>write a recording of what is drawn</source>
+        <comment>help</comment>
+        <translation>aufnehmen, was gezeichnet wird</translation>
+    </message>
+    <message>
+        <source>save the drawing after the replay, then exit</source>
+        <comment>help</comment>
+        <translation>die Zeichnung nach dem Abspielen speichern und enden</translation>
+    </message>
+    <message>
+        <source>write the window as PNG, then exit</source>
+        <comment>help</comment>
+        <translation>das Fenster als PNG schreiben und enden</translation>
+    </message>
+    <message>
+        <source>keep no copy of what is not saved, and offer none</source>
+        <comment>help</comment>
+        <translation>keine Kopie des Ungespeicherten aufheben oder anbieten</translation>
+    </message>
+    <message>
+        <source>show this text</source>
+        <comment>help</comment>
+        <translation>diesen Text zeigen</translation>
+    </message>
+    <message>
+        <source>show the version</source>
+        <comment>help</comment>
+        <translation>die Version zeigen</translation>
+    </message>
+    <message>
+        <source>%1 is given twice</source>
+        <comment>command line</comment>
+        <translation>%1 steht zweimal da</translation>
+    </message>
+    <message>
+        <source>%1 takes no value</source>
+        <comment>command line</comment>
+        <translation>%1 nimmt keinen Wert</translation>
+    </message>
+    <message>
+        <source>unknown option &apos;%1&apos; (--help lists them)</source>
+        <comment>command line</comment>
+        <translation>unbekannte Option »%1« (--help nennt alle)</translation>
+    </message>
+    <message>
+        <source>%1 needs a value: %1 %2</source>
+        <comment>command line</comment>
+        <translation>%1 braucht einen Wert: %1 %2</translation>
+    </message>
+    <message>
+        <source>one picture at a time: &apos;%1&apos; and &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>nur ein Bild auf einmal: »%1« und »%2«</translation>
+    </message>
+    <message>
+        <source>the picture&apos;s name is empty</source>
+        <comment>command line</comment>
+        <translation>der Name des Bildes ist leer</translation>
+    </message>
+    <message>
+        <source>Usage: korva-pad [options] [picture]</source>
+        <comment>help</comment>
+        <translation>Aufruf: korva-pad [Optionen] [Bild]</translation>
+    </message>
+    <message>
+        <source>A drawing pad: draws on a new canvas or on the picture given.</source>
+        <comment>help</comment>
+        <translation>Ein Zeichenblock: zeichnet auf einer neuen Leinwand oder auf dem genannten Bild.</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <comment>help</comment>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>--scale %1 does not fit a screen of %2 x %3; taking %4</source>
+        <comment>command line</comment>
+        <translation>--scale %1 passt nicht auf einen Bildschirm von %2 x %3, daher %4</translation>
+    </message>
+    <message>
+        <source>there is no language &apos;%1&apos;; taking English (known: %2)</source>
+        <comment>command line</comment>
+        <translation>die Sprache »%1« gibt es nicht, daher Englisch (bekannt: %2)</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Commands</name>
+    <message>
+        <source>&amp;New ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Neu ...</translation>
+    </message>
+    <message>
+        <source>&amp;Open ...</source>
+        <comment>menu</comment>
+        <translation>Ö&amp;ffnen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <comment>menu</comment>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;as ...</source>
+        <comment>menu</comment>
+        <translation>Speichern &amp;als ...</translation>
+    </message>
+    <message>
+        <source>&amp;Keys ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Tasten ...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <comment>menu</comment>
+        <translation>&amp;Ende</translation>
+    </message>
+    <message>
+        <source>&amp;Picture</source>
+        <comment>menu</comment>
+        <translation>&amp;Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Insert stamp ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Stempel einfügen ...</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <comment>menu</comment>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Earlier drawings ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Frühere Zeichnungen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete picture ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Bild löschen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <comment>menu</comment>
+        <translation>Bea&amp;rbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <comment>menu</comment>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <comment>menu</comment>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <comment>menu</comment>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <comment>menu</comment>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <comment>menu</comment>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <comment>menu</comment>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Select &amp;all</source>
+        <comment>menu</comment>
+        <translation>Alles a&amp;uswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Tool</source>
+        <comment>menu</comment>
+        <translation>&amp;Werkzeug</translation>
+    </message>
+    <message>
+        <source>Pe&amp;ncil</source>
+        <comment>menu</comment>
+        <translation>S&amp;tift</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <comment>menu</comment>
+        <translation>&amp;Linie</translation>
+    </message>
+    <message>
+        <source>&amp;Rectangle</source>
+        <comment>menu</comment>
+        <translation>&amp;Rechteck</translation>
+    </message>
+    <message>
+        <source>&amp;Ellipse</source>
+        <comment>menu</comment>
+        <translation>&amp;Ellipse</translation>
+    </message>
+    <message>
+        <source>E&amp;raser</source>
+        <comment>menu</comment>
+        <translation>Ra&amp;dierer</translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <comment>menu</comment>
+        <translation>Te&amp;xt</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <comment>menu</comment>
+        <translation>&amp;Auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Hand</source>
+        <comment>menu</comment>
+        <translation>&amp;Hand</translation>
+    </message>
+    <message>
+        <source>&amp;Color ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Farbe ...</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <comment>menu</comment>
+        <translation>Ans&amp;icht</translation>
+    </message>
+    <message>
+        <source>&amp;Larger</source>
+        <comment>menu</comment>
+        <translation>&amp;Größer</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller</source>
+        <comment>menu</comment>
+        <translation>&amp;Kleiner</translation>
+    </message>
+    <message>
+        <source>&amp;Real size</source>
+        <comment>menu</comment>
+        <translation>&amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to page</source>
+        <comment>menu</comment>
+        <translation>&amp;Einpassen</translation>
+    </message>
+    <message>
+        <source>Full s&amp;creen</source>
+        <comment>menu</comment>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>First option</source>
+        <comment>menu</comment>
+        <translation>Erste Option</translation>
+    </message>
+    <message>
+        <source>Second option</source>
+        <comment>menu</comment>
+        <translation>Zweite Option</translation>
+    </message>
+    <message>
+        <source>Third option</source>
+        <comment>menu</comment>
+        <translation>Dritte Option</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <comment>keys</comment>
+        <translation>Menü</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Display</name>
+    <message>
+        <source>there is no display</source>
+        <comment>display</comment>
+        <translation>es gibt keine Anzeige</translation>
+    </message>
+    <message>
+        <source>cannot open display %1</source>
+        <comment>display</comment>
+        <translation>die Anzeige %1 lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>there is no screen</source>
+        <comment>display</comment>
+        <translation>es gibt keinen Bildschirm</translation>
+    </message>
+    <message>
+        <source>cannot show anything on &apos;%1&apos;: %2</source>
+        <comment>display</comment>
+        <translation>auf »%1« lässt sich nichts zeigen: %2</translation>
+    </message>
+    <message>
+        <source>%1: the toolkit&apos;s plugin for Wayland (%2) is not installed</source>
+        <comment>display; %1: its name, %2: a package</comment>
+        <translation>%1: das Wayland-Plugin des Toolkits (%2) ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <comment>display; names of displays</comment>
+        <translation>%1 oder %2</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Documents</name>
+    <message>
+        <source>No copy of the drawing can be kept. Give it up?</source>
+        <comment>changes</comment>
+        <translation>Von der Zeichnung lässt sich keine Kopie aufheben. Aufgeben?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>changes</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Give it up</source>
+        <comment>changes</comment>
+        <translation>Aufgeben</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <comment>changes</comment>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <comment>changes</comment>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Save changes to drawing before closing?</source>
+        <comment>changes</comment>
+        <translation>Änderungen an der Zeichnung vor dem Schließen speichern?</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <comment>canvas type</comment>
+        <translation>Schwarz und weiß</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln colors</source>
+        <comment>canvas type</comment>
+        <translation>
+            <numerusform>%Ln Farbe</numerusform>
+            <numerusform>%Ln Farben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>canvas type</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>How many colors?</source>
+        <comment>canvas type</comment>
+        <translation>Wie viele Farben?</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <comment>saving</comment>
+        <translation>Nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>saving</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save changes to drawing before creating?</source>
+        <comment>changes</comment>
+        <translation>Änderungen an der Zeichnung vor dem Anlegen einer neuen speichern?</translation>
+    </message>
+    <message>
+        <source>Save changes to drawing before opening?</source>
+        <comment>changes</comment>
+        <translation>Änderungen an der Zeichnung vor dem Öffnen speichern?</translation>
+    </message>
+    <message>
+        <source>%1 was changed since it was opened: replacing it would lose that.</source>
+        <comment>saving</comment>
+        <translation>%1 wurde seit dem Öffnen geändert: Beim Ersetzen ginge das verloren.</translation>
+    </message>
+    <message>
+        <source>Save as new</source>
+        <comment>saving</comment>
+        <translation>Neu speichern</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <comment>saving</comment>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>saving</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>deleting</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Move %1 to the trash?</source>
+        <comment>deleting</comment>
+        <translation>%1 in den Papierkorb werfen?</translation>
+    </message>
+    <message>
+        <source>To the trash</source>
+        <comment>deleting</comment>
+        <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>There is no trash for %1. Delete it for good?</source>
+        <comment>deleting</comment>
+        <translation>Für %1 gibt es keinen Papierkorb. Endgültig löschen?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>deleting</comment>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Not deleted: %1</source>
+        <comment>deleting</comment>
+        <translation>Nicht gelöscht: %1</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>deleting</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>%1 pictures can only be opened: the drawing of %2 pixels needs a new file.</source>
+        <comment>saving; %1: &apos;GIF&apos;, %2: &apos;300 × 200&apos;</comment>
+        <translation>%1-Bilder können nur geöffnet werden: Die Zeichnung von %2 Pixeln braucht eine neue Datei.</translation>
+    </message>
+    <message>
+        <source>%1 has %2 pixels and the drawing %3: replacing it would lose the rest.</source>
+        <comment>saving; %1: a file, %2 and %3: &apos;300 × 200&apos;</comment>
+        <translation>%1 hat %2 Pixel und die Zeichnung %3: Beim Ersetzen ginge der Rest verloren.</translation>
+    </message>
+    <message>
+        <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
+        <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
+        <translation>%1 hat mehr Farben als die Zeichnung von %2 Pixeln: Beim Ersetzen gingen sie verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>pad::DrawingFile</name>
+    <message>
+        <source>The disk is full.</source>
+        <comment>saving</comment>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message>
+        <source>No permission to write in %1.</source>
+        <comment>saving</comment>
+        <translation>Keine Berechtigung, in %1 zu schreiben.</translation>
+    </message>
+    <message>
+        <source>%1 is on a disk that can only be read.</source>
+        <comment>saving</comment>
+        <translation>%1 liegt auf einem Datenträger, der nur gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>The folder %1 is not there.</source>
+        <comment>saving</comment>
+        <translation>Den Ordner %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>There is a folder of this name.</source>
+        <comment>saving</comment>
+        <translation>Es gibt einen Ordner dieses Namens.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <comment>saving</comment>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2</source>
+        <comment>command line</comment>
+        <translation>»%1« lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>cannot open &apos;%1&apos;: %2</source>
+        <comment>command line</comment>
+        <translation>»%1« lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>GIF pictures are only read</source>
+        <comment>command line</comment>
+        <translation>GIF-Bilder werden nur gelesen</translation>
+    </message>
+    <message>
+        <source>Saving drawing</source>
+        <comment>saving</comment>
+        <translation>Zeichnung wird gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>pad::EarlierDialog</name>
+    <message>
+        <source>Earlier drawings</source>
+        <comment>earlier drawings</comment>
+        <translation>Frühere Zeichnungen</translation>
+    </message>
+    <message>
+        <source>None was kept so far.</source>
+        <comment>earlier drawings</comment>
+        <translation>Bisher wurde keine aufgehoben.</translation>
+    </message>
+    <message>
+        <source>Bring it back</source>
+        <comment>earlier drawings</comment>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>earlier drawings</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>today at %1</source>
+        <comment>time, in a list and in a sentence; %1: &apos;9:30&apos;</comment>
+        <translation>heute um %1</translation>
+    </message>
+    <message>
+        <source>yesterday at %1</source>
+        <comment>time, in a list and in a sentence; %1: &apos;9:30&apos;</comment>
+        <translation>gestern um %1</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>time, in a list and in a sentence; %1: a date, %2: &apos;9:30&apos;</comment>
+        <translation>%1 um %2</translation>
+    </message>
+</context>
+<context>
+    <name>pad::KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <comment>keys</comment>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <comment>keys</comment>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PadWindow</name>
+    <message>
+        <source>Menu</source>
+        <comment>soft key</comment>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Drawing[*] - Korva</source>
+        <comment>window title</comment>
+        <translation>Zeichnung[*] - Korva</translation>
+    </message>
+    <message>
+        <source>%1[*] - Korva</source>
+        <comment>window title</comment>
+        <translation>%1[*] - Korva</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Platform</name>
+    <message>
+        <source>the question &apos;%1&apos; has no answer</source>
+        <comment>replay</comment>
+        <translation>die Frage »%1« hat keine Antwort</translation>
+    </message>
+    <message>
+        <source>no picture is named to open</source>
+        <comment>replay</comment>
+        <translation>kein Bild zum Öffnen ist genannt</translation>
+    </message>
+    <message>
+        <source>the drawing has no name to be saved under</source>
+        <comment>replay</comment>
+        <translation>die Zeichnung hat keinen Namen zum Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Player</name>
+    <message>
+        <source>the tool has no option %1</source>
+        <comment>replay</comment>
+        <translation>das Werkzeug hat keine Option %1</translation>
+    </message>
+    <message>
+        <source>the drawing could not be saved</source>
+        <comment>replay</comment>
+        <translation>die Zeichnung konnte nicht gespeichert werden</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Preview</name>
+    <message>
+        <source>Usage: korva-preview [options] PICTURE</source>
+        <comment>help</comment>
+        <translation>Aufruf: korva-preview [Optionen] PICTURE</translation>
+    </message>
+    <message>
+        <source>Shows a picture to be confirmed or cancelled: prints 900 and exits with 0 when it was
+confirmed, prints 902 and exits with 1 when it was cancelled.</source>
+        <comment>help</comment>
+        <translation>Zeigt ein Bild zum Bestätigen oder Abbrechen: gibt 900 aus und endet mit 0, wenn es
+bestätigt wurde, gibt 902 aus und endet mit 1, wenn abgebrochen wurde.</translation>
+    </message>
+    <message>
+        <source>which picture? korva-preview PICTURE</source>
+        <comment>command line</comment>
+        <translation>welches Bild? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Recording</name>
+    <message>
+        <source>a number</source>
+        <comment>recording; what a command needs</comment>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a tool</source>
+        <comment>recording; what a command needs</comment>
+        <translation>ein Werkzeug</translation>
+    </message>
+    <message>
+        <source>a zoom</source>
+        <comment>recording; what a command needs</comment>
+        <translation>eine Vergrößerung</translation>
+    </message>
+    <message>
+        <source>a canvas type</source>
+        <comment>recording; what a command needs</comment>
+        <translation>eine Art von Leinwand</translation>
+    </message>
+    <message>
+        <source>a colour #rrggbb</source>
+        <comment>recording; what a command needs</comment>
+        <translation>eine Farbe #rrggbb</translation>
+    </message>
+    <message>
+        <source>a key</source>
+        <comment>recording; what a command needs</comment>
+        <translation>eine Taste</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <comment>recording; what a command needs</comment>
+        <translation>einen Text</translation>
+    </message>
+    <message>
+        <source>a file name</source>
+        <comment>recording; what a command needs</comment>
+        <translation>einen Dateinamen</translation>
+    </message>
+    <message>
+        <source>unknown command &apos;%1&apos;</source>
+        <comment>recording</comment>
+        <translation>unbekannter Befehl »%1«</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs %2</source>
+        <comment>recording</comment>
+        <translation>»%1« braucht %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; needs %2, not &apos;%3&apos;</source>
+        <comment>recording</comment>
+        <translation>»%1« braucht %2, nicht »%3«</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is too much for &apos;%2&apos;</source>
+        <comment>recording</comment>
+        <translation>»%1« ist zu viel für »%2«</translation>
+    </message>
+    <message>
+        <source>this is not UTF-8 text</source>
+        <comment>recording</comment>
+        <translation>das ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>cannot read &apos;%1&apos;: %2</source>
+        <comment>recording</comment>
+        <translation>»%1« lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>a blank is missing at &apos;%1&apos;</source>
+        <comment>recording</comment>
+        <translation>bei »%1« fehlt ein Leerzeichen</translation>
+    </message>
+    <message>
+        <source>unknown escape &apos;\%1&apos;</source>
+        <comment>recording</comment>
+        <translation>unbekanntes Zeichen »\%1«</translation>
+    </message>
+    <message>
+        <source>the closing quote is missing</source>
+        <comment>recording</comment>
+        <translation>das schließende Anführungszeichen fehlt</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Recovery</name>
+    <message>
+        <source>Older ones are among the earlier drawings.</source>
+        <comment>recovery</comment>
+        <translation>Ältere sind unter den früheren Zeichnungen.</translation>
+    </message>
+    <message>
+        <source>Bring it back</source>
+        <comment>recovery</comment>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <comment>recovery</comment>
+        <translation>Jetzt nicht</translation>
+    </message>
+    <message>
+        <source>Save changes to drawing before bringing another one back?</source>
+        <comment>recovery</comment>
+        <translation>Änderungen an der Zeichnung speichern, bevor eine andere zurückgeholt wird?</translation>
+    </message>
+    <message>
+        <source>No copy of the drawing can be kept: %1</source>
+        <comment>recovery</comment>
+        <translation>Von der Zeichnung lässt sich keine Kopie aufheben: %1</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>recovery</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>A drawing of %1 was not saved.</source>
+        <comment>recovery; %1: &apos;today at 9:30&apos;</comment>
+        <translation>Eine Zeichnung von %1 wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>A drawing of %1 on %2 was not saved.</source>
+        <comment>recovery; %1: &apos;today at 9:30&apos;, %2: a file</comment>
+        <translation>Eine Zeichnung von %1 auf %2 wurde nicht gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>pad::StatusLine</name>
+    <message>
+        <source>Tool</source>
+        <comment>status line</comment>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>Picture size</source>
+        <comment>status line</comment>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <comment>status line</comment>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <comment>status line</comment>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <comment>picture size</comment>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <comment>zoom</comment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>position</comment>
+        <translation>%1, %2</translation>
     </message>
 </context>
 </TS>
