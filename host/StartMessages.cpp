@@ -37,7 +37,7 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& mess
         const QString told = reason().isEmpty() ? message.section(QLatin1Char('\n'), 0, 0) : reason();
         std::fprintf(stderr, "%s: cannot show anything on '%s': %s\n", state().program,
                      qgetenv("QT_QPA_PLATFORM").constData(), qPrintable(told));
-        std::_Exit(1); // half-started, the toolkit cannot be taken down in order
+        std::_Exit(1); // half-started, Qt cannot be taken down in order
     } else {
         say(qFormatLogMessage(type, context, message));
         if (type == QtFatalMsg)
