@@ -18,13 +18,13 @@ public:
                                    bool modal = true, Qt::WindowFlags flags = {});
 
     /// The index of the size chosen last. After a rejection, and before any choice, it is the constructor's
-    /// `index`.
+    /// index.
     [[nodiscard]] int getIndex() const { return m_index; }
     /// The size marked last, in pixels; 0 × 0 if none was marked. Unlike getIndex(), a rejection does not
     /// bring the first one back.
     [[nodiscard]] QSize canvasSize() const { return {m_width, m_height}; }
 
-    /// Comes from Cancel, Escape and closing. getIndex() is the constructor's `index` again.
+    /// Comes from Cancel, Escape and closing. getIndex() is the constructor's index again.
     void reject() override;
 
 private slots:
