@@ -1,6 +1,6 @@
-// The yardstick: the least that a Qt program can do to draw freehand. It shows a picture, paints each
-// segment into it and has the rectangle around the segment repainted. With --only-receive it takes the
-// events and does nothing.
+// The yardstick: the least that a Qt program must do to draw freehand. It shows a picture, paints each
+// segment into it and repaints the rectangle around the segment. With --only-receive it takes the events
+// and does nothing.
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -14,11 +14,11 @@
 #include <string>
 #include <vector>
 
-/// What happens inside the library, operation by operation, each beside its physical limit. A limit bears
-/// the name of its operation with "/limit" behind it; the report prints the two as a ratio.
+/// Benchmarks of the library's operations, each beside its physical limit. A limit has the name of its
+/// operation with "/limit" added; the report prints the two as a ratio.
 namespace bench {
 
-/// By the tool's number in the manager.
+/// The tools, by their identifiers.
 enum Tool { Pencil, Select, Line, Text, Rectangle, Ellipse, Eraser };
 
 /// An editor in a window of 240 × 320, with a picture of noise.
@@ -30,7 +30,7 @@ public:
     KORVA_EditCanvas* operator->() { return &m_editor; }
     KORVA_Canvas& canvas() { return *m_editor.canvas(); }
 
-    /// Widget coordinates, through the toolkit as a stylus's events.
+    /// Sends a stylus's events through Qt; widget coordinates.
     void press(QPoint at);
     void move(QPoint to);
     void release(QPoint at);
@@ -43,10 +43,10 @@ private:
     KORVA_EditCanvas m_editor;
 };
 
-/// A picture that no codec finds easy: soft shapes and noise, always the same for a size.
+/// A picture that is hard for every codec: soft shapes and noise, always the same for a size.
 [[nodiscard]] QImage noise(QSize size);
 
-/// A walk to and fro over an area, a few pixels at a time.
+/// A path to and fro over an area, in steps of a few pixels.
 [[nodiscard]] std::vector<QPoint> walk(QSize area);
 
 struct PictureSize
@@ -54,13 +54,13 @@ struct PictureSize
     QSize size;
     [[nodiscard]] std::string name() const;
 };
-/// Every quarter of the area, from the stamp to four times the working size in each direction.
+/// Sizes from the stamp to four times the working size in each direction.
 extern const std::vector<PictureSize> growingSizes;
 extern const std::vector<int> zoomRates;
 
-/// Copies so many bytes once a round, from memory to memory that were both touched before.
+/// Copies this many bytes once per round. Source and target memory were touched before.
 void copyBytes(benchmark::State& state, size_t bytes);
-/// The bytes of a picture on the screen or at real size: four a pixel.
+/// The bytes of a picture, on the screen or at real size: four per pixel.
 [[nodiscard]] size_t bytesOf(QSize size);
 
 using Body = std::function<void(benchmark::State&)>;

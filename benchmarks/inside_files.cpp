@@ -17,7 +17,7 @@ void fail(benchmark::State& state)
     state.SkipWithError("the picture could not be read or written");
 }
 
-/// As the editor opens a file: checked, read, brought to its working size, a pixmap in the end.
+/// Opens a file as the editor does: checks it, reads it, brings it to its working size and makes a pixmap.
 void open(benchmark::State& state, const QString& name)
 {
     for (auto _ : state) {

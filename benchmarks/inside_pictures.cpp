@@ -47,7 +47,7 @@ constexpr struct
     Operation operation;
 } operations[] = {{"undo", undo}, {"merge", merge}, {"zoom_change", zoomChange}};
 
-/// At the least the zoomed picture is written once.
+/// The limit: the zoomed picture must be written once.
 void addOperation(const std::string& prefix, const char* name, Operation operation, int zoom,
                   const PictureSize& picture)
 {

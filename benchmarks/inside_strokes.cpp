@@ -34,8 +34,8 @@ void motion(benchmark::State& state, Tool tool, int zoom, QSize picture)
     editor.release(points[next]);
 }
 
-/// What a motion changes at the least: the pixels around one step, in the picture, on the screen's copy of
-/// it and on the screen.
+/// The limit of a motion: it must change the pixels around one step, in the picture, in its zoomed copy and
+/// on the screen.
 void addMotion(const std::string& group, Tool tool, int zoom, const PictureSize& picture)
 {
     constexpr QSize step(4, 5);
@@ -45,8 +45,8 @@ void addMotion(const std::string& group, Tool tool, int zoom, const PictureSize&
         [](benchmark::State& state) { copyBytes(state, 3 * bytesOf(step)); });
 }
 
-/// Press, one move, release: a whole shape, with its snapshot and its signals. At the least the shape's box
-/// is inverted and painted on both pictures, and the screen shows it.
+/// Press, one move, release: a whole shape, with its snapshot and its signals. The limit: the shape's box
+/// must be inverted, painted on both pictures, and shown on the screen.
 void addCommit(Tool tool, int zoom, QSize picture)
 {
     const QPoint from(20, 20);
@@ -66,7 +66,7 @@ void addCommit(Tool tool, int zoom, QSize picture)
         });
 }
 
-/// A letter and its removal behind ten others.
+/// Types a letter after ten others, and removes it.
 void addTextKeys(int zoom, QSize picture)
 {
     add(

@@ -95,7 +95,7 @@ std::optional<Failure> setPicture(CommandLine& line, const QString& name)
     return {};
 }
 
-/// Reads one argument, and with it the next where that is its value.
+/// Reads one argument, and the next one if that is its value.
 std::optional<Failure> setOption(CommandLine& line, QStringList& rest, QStringList& seen)
 {
     const QString argument = rest.takeFirst();

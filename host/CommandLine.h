@@ -9,13 +9,13 @@
 
 namespace pad {
 
-/// What korva-pad was asked to do.
+/// The parsed command line of korva-pad.
 struct CommandLine
 {
     Q_DECLARE_TR_FUNCTIONS(pad::CommandLine)
 
 public:
-    std::optional<int> scale; ///< every pixel is shown scale × scale; nothing: what suits the screen
+    std::optional<int> scale; ///< every pixel is shown scale × scale; none means what suits the screen
     QString language;         ///< a code; empty: the locale's
     QString replay;
     QString record;
@@ -26,8 +26,8 @@ public:
     bool version = false;
     QString picture;
 
-    /// `arguments` without the program's name. An option's value follows it, or stands behind "="; what
-    /// follows "--" is a picture whatever its name.
+    /// `arguments` come without the program's name. An option's value follows it, or comes after "=". An
+    /// argument after "--" is a picture, whatever its name.
     [[nodiscard]] static Expected<CommandLine> parse(const QStringList& arguments);
     [[nodiscard]] static QString helpText();
     /// The language asked for, wherever it stands in whatever is wrong; empty: none.
@@ -35,7 +35,7 @@ public:
 
     /// Whether the program writes its results and ends by itself, with nobody at the window.
     [[nodiscard]] bool endsByItself() const { return !save.isEmpty() || !screenshot.isEmpty(); }
-    /// Whether its outcome is to be the same anywhere: the window has its plain size then, and nothing is
+    /// Whether the result must be the same anywhere. Then the window has its plain size, and nothing is
     /// remembered.
     [[nodiscard]] bool isScripted() const
     {

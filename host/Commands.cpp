@@ -31,7 +31,7 @@ struct Label
     const char* comment;
 };
 
-/// The rows of the zoom box that have a rate of their own, in percent.
+/// The fixed rates of the zoom box, in percent.
 constexpr int rates[] = {50, 100, 150, 200};
 
 /// Without what only a menu tells: its letter, and that a dialog follows.
@@ -42,7 +42,7 @@ QString keysPageText(const QAction& action)
 
 } // namespace
 
-/// One page of the menu. On a screen of 240 × 320 no page has more rows than fit.
+/// A page of the menu. No page has more rows than fit a screen of 240 × 320.
 enum class Commands::Page { None, Main, Picture, Edit, Tool, View };
 
 struct Commands::Entry
@@ -53,7 +53,7 @@ struct Commands::Entry
     Needs needs;
     void (*choose)(Commands& commands, int number);
     int number = 0;
-    std::optional<Page> opens = {}; ///< instead of being a command
+    std::optional<Page> opens = {}; ///< the entry opens this page instead of being a command
 };
 
 Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* window)
@@ -84,7 +84,7 @@ void Commands::addEntries()
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "Save &as ...", "menu"), "Ctrl+Shift+S",
          Needs::Nothing, [](C& c, int) { c.m_documents.saveAs(); }},
 
-        // Not last, where the key lies that opens the menu: a double tap shall not quit.
+        // Not last, because the key that opens the menu lies there: a double tap must not quit.
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Keys ...", "menu"), "F1", Needs::Nothing,
          [](C& c, int) { c.showKeys(); }},
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Quit", "menu"), "Ctrl+Q", Needs::Nothing,
@@ -152,7 +152,7 @@ void Commands::addEntries()
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "Full s&creen", "menu"), "F11", Needs::Nothing,
          [](C& c, int) { c.m_window->setWindowState(c.m_window->windowState() ^ Qt::WindowFullScreen); }},
 
-        // Their names differ from tool to tool, and stand in the editor's own menu.
+        // Their names differ from tool to tool, and are in the editor's own menu.
         {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "First option", "menu"), "1", Needs::Nothing,
          option, 0},
         {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "Second option", "menu"), "2", Needs::Nothing,
@@ -213,8 +213,8 @@ void Commands::follow()
     let(&KORVA_EditCanvas::canRedo, Needs::Redo);
     let(&KORVA_EditCanvas::selection, Needs::Selection);
 
-    // What is on the clipboard is found out when it matters: asking another program takes time and brings
-    // in every picture format that the toolkit knows.
+    // The clipboard is only examined when it matters: asking another program takes time, and loads every
+    // picture format that Qt knows.
     setAvailable(Needs::Clipboard, true);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
             [this] { setAvailable(Needs::Clipboard, true); });

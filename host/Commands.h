@@ -15,7 +15,7 @@ namespace pad {
 class Documents;
 class Recovery;
 
-/// The commands behind the menu, the keys and the right soft key, enabled as the editor says.
+/// The commands of the menu, the keys and the right soft key. The editor's signals enable them.
 class Commands : public QObject
 {
     Q_OBJECT
@@ -23,30 +23,30 @@ class Commands : public QObject
 public:
     Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* window);
 
-    /// Lets the person see the earlier drawings; null: there are none. Not owned.
+    /// Gives access to the earlier drawings; null if there are none. Not owned.
     void setRecovery(Recovery* recovery);
 
     [[nodiscard]] QMenu* menu() const { return m_menu; }
-    /// What the right soft key offers: the way back or, after an undo, forward again.
+    /// The action of the right soft key: undo or, after an undo, redo.
     [[nodiscard]] QAction* contextAction() const;
 
 signals:
-    /// A person chose something that a recording can hold; it is carried out already.
+    /// A person chose something that a recording can hold. It has already been carried out.
     void performed(const pad::Command& command);
     void contextActionChanged();
 
 private:
     enum class Page;
     struct Entry;
-    /// What must be there for a command to make sense.
+    /// What a command needs to be enabled.
     enum class Needs {
         Nothing,
-        File,      ///< one behind the drawing
+        File,      ///< the drawing has a file
         Recovery,  ///< a folder of earlier drawings
-        Undo,      ///< a change to take back
-        Redo,      ///< a change taken back
+        Undo,      ///< a change to undo
+        Redo,      ///< a change that was undone
         Selection, ///< a floating piece
-        Clipboard, ///< a picture on it; taken for granted until somebody asks
+        Clipboard, ///< a picture on the clipboard; assumed until somebody asks
     };
     struct Dependent
     {

@@ -43,8 +43,9 @@ Kind kindOf(const QByteArray& platform)
 
 // --- X
 
-/// Asked directly because that takes less than a millisecond. The connection stays: many a server starts
-/// anew when its last client leaves, and would turn away the program that comes right after.
+/// The server is asked directly, because that takes less than a millisecond. The connection stays open:
+/// many servers restart when their last client leaves, and would refuse a program that connects right
+/// after.
 xcb_connection_t* xConnection()
 {
     static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
@@ -124,7 +125,7 @@ bool waylandPluginIsThere()
 
 // --- Which
 
-/// Why the platform can't be used, as the end of a sentence that says what can't be done; none: it can.
+/// Why the platform can't be used, as the end of a sentence that says what can't be done; none if it can.
 std::optional<QString> objection(const QByteArray& platform)
 {
     const QString display = QStringLiteral("'%1'");
@@ -216,7 +217,7 @@ Expected<Display> Display::find(bool needsNobody)
             QString::fromLatin1(display.platform),
             reason.isEmpty() ? tr("there is no screen", "display") : reason)};
     }
-    startmessages::forget(); // will be said again
+    startmessages::forget(); // Qt will say them again
     return display;
 }
 

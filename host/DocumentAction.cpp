@@ -17,7 +17,7 @@ bool mayReplaceDrawing(KORVA_EditCanvas& editor, Platform& platform)
 void newCanvas(KORVA_EditCanvas& editor, int type, QSize size)
 {
     editor.chooseCanvas(KORVA_CANVASTYPE(type), size.width(), size.height());
-    editor.clearModified(); // one of another size counts as changed until its host says otherwise
+    editor.clearModified(); // a canvas of another size counts as changed until its host says otherwise
 }
 
 } // namespace pad

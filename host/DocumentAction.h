@@ -8,10 +8,10 @@ namespace pad {
 
 class Platform;
 
-/// What the editor's saveChangePic() and openNewFilePrivate() are asked for.
+/// The actions of the editor's saveChangePic() and openNewFilePrivate().
 enum DocumentAction : int { OpenPicture, ChooseCanvas, SavePicture, InsertStamp };
 
-/// Asks about unsaved changes and saves them if so answered. False when they would be lost.
+/// Asks about unsaved changes, and saves them if the answer is yes. False when they would be lost.
 bool mayReplaceDrawing(KORVA_EditCanvas& editor, Platform& platform);
 
 /// A new, unchanged canvas of a KORVA_CANVASTYPE.

@@ -42,7 +42,7 @@ constexpr struct
     {2, KORVA_CANVAS_1BIT},
 };
 
-/// A name as a sentence can hold it.
+/// A name shortened to fit into a sentence.
 QString fileNameOf(const QString& path)
 {
     constexpr int most = 40;
@@ -70,7 +70,7 @@ QString Documents::name() const
     return m_editor.fileName().isEmpty() ? m_proposal : m_editor.fileName();
 }
 
-/// The drawing has just become another one.
+/// Called when the drawing has just become another one.
 void Documents::beginDocument()
 {
     m_proposal.clear();
@@ -89,7 +89,7 @@ bool Documents::mayGo()
 {
     if (!m_journal || !m_editor.hasChanges() || m_journal->keep())
         return true;
-    constexpr int yes = 1; // the default, the first, loses nothing
+    constexpr int yes = 1; // the first button is the default, and loses nothing
     return m_platform.question(m_window, QLatin1String(warningIcon),
                                tr("No copy of the drawing can be kept. Give it up?", "changes"),
                                {tr("Cancel", "changes"), tr("Give it up", "changes")}) == yes;
@@ -195,12 +195,12 @@ void Documents::openNamed(const QString& fileName)
 bool Documents::openFile(const QString& fileName)
 {
     const QString before = m_editor.fileName();
-    // What the editor says right before it takes another picture in, and only then.
+    // The editor emits this right before it takes another picture in, and only then.
     const QMetaObject::Connection taking = connect(
         &m_editor, &KORVA_EditCanvas::canUndo, this, [this] { keep(); }, Qt::SingleShotConnection);
     const bool isOpened = m_editor.openNewFilePrivate(OpenPicture, fileName);
     disconnect(taking);
-    if (!isOpened) { // the editor has said why, and may have taken the name
+    if (!isOpened) { // the editor has told why, and may have taken the new name
         if (m_editor.fileName() != before)
             m_editor.setFileName(before);
         emit changed();
@@ -325,7 +325,7 @@ bool Documents::saveUnder(const QString& fileName)
             tell(*error);
         return false;
     }
-    if (isBeside && QFileInfo::exists(name())) // nobody else may see what nobody else could see before
+    if (isBeside && QFileInfo::exists(name())) // the new file must be no more public than the old one
         QFile::setPermissions(fileName, QFile::permissions(name()));
     if (fileName != m_editor.fileName())
         m_mayReplace = false;
@@ -345,7 +345,7 @@ bool Documents::saveUnder(const QString& fileName)
 
 void Documents::deletePicture()
 {
-    constexpr int yes = 1; // the default, the first, changes nothing
+    constexpr int yes = 1; // the first button is the default, and changes nothing
     const QString path = m_editor.fileName();
     const QString name = fileNameOf(path);
     const auto ask = [this](const QString& text, const QString& button) {
@@ -369,7 +369,7 @@ void Documents::deletePicture()
     }
     if (wasThere)
         keep();
-    else if (m_journal) // the drawing is all that is left of it
+    else if (m_journal) // the drawing is all that is left of the picture
         m_journal->keep();
     if (KORVA_Text* text = m_editor.currentText())
         text->resetBuffer();

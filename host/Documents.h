@@ -16,56 +16,56 @@ namespace pad {
 
 class Platform;
 
-/// The drawing as a document: made new, opened, saved and deleted, and what is asked before anything could
-/// be lost. In every question Return loses nothing and Escape changes nothing. Whatever fails leaves the
-/// drawing, its name and its changes as they were, and nothing follows it.
+/// The drawing as a document: makes, opens, saves and deletes it, and asks before anything could be lost.
+/// In every question Return loses nothing and Escape changes nothing. A failure leaves the drawing, its
+/// name and its changes as they were, and ends the command.
 class Documents : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All of them outlive the documents; the window is the parent.
+    /// All arguments outlive this object; the window is the parent.
     Documents(KORVA_EditCanvas& editor, Platform& platform, QWidget* window);
 
-    /// Writes what is saved from now on; for disks that are no disks.
+    /// Sets the function that writes files from now on, so that tests can replace the disk.
     void setWriter(const Writer& writer) { m_write = writer; }
-    /// Where what is given up is kept; null: nowhere. Not owned.
+    /// Sets the journal that keeps drawings that are given up; null for none. Not owned.
     void setJournal(KORVA_Journal* journal) { m_journal = journal; }
 
     /// Keeps the folder and the order of the folder dialogs in the settings, for the next start.
     void rememberFolders() { m_folder.remember(); }
 
     void newDrawing();
-    /// Lets the person pick.
+    /// Lets the person pick a picture and opens it.
     void open();
-    /// A picture by its name, after the question about changes.
+    /// Opens a picture by its name, after asking about changes.
     void openNamed(const QString& fileName);
-    /// Under the drawing's name; asks for one where it has none, and first where the name's file would lose
-    /// something. False when the drawing is not saved.
+    /// Saves under the drawing's name, or asks for one if it has none. If the file would lose something,
+    /// asks first. False when the drawing is not saved.
     bool save();
-    /// Under a name that the person chooses.
+    /// Saves under a name that the person chooses.
     bool saveAs();
     /// Lays a picture that the person picks over the drawing.
     void stamp();
-    /// The file behind the drawing goes to the trash.
+    /// Moves the drawing's file to the trash.
     void deletePicture();
     void clear();
-    /// Whether the window may go.
+    /// Whether the window may close, after any questions.
     [[nodiscard]] bool mayClose();
 
-    /// Asks about changes and saves them if so answered. False when the drawing must stay; otherwise keep()
-    /// comes right before it goes.
+    /// Asks about changes, and saves them if the answer is yes. False when the drawing must stay. Otherwise
+    /// call keep() right before it goes.
     [[nodiscard]] bool mayReplace(const QString& question);
     /// Puts a copy of a drawing with changes where it can be found again. See KORVA_Journal::keep().
     void keep(const KORVA_Journal::Entry& spared = {});
-    /// The same where the drawing goes for good; asks where no copy can be kept. False when the drawing
-    /// must stay.
+    /// The same for a drawing that goes for good: asks if no copy can be kept. False when the drawing must
+    /// stay.
     [[nodiscard]] bool mayGo();
-    /// The drawing is now one that was brought back; the picture that it was drawn on is the name to
-    /// propose.
+    /// Tells that the drawing was brought back. `pictureName`, the picture that it was drawn on, is
+    /// proposed as its name.
     void takeBroughtBack(const QString& pictureName);
 
-    /// What the drawing is called: its file's name, or what is proposed; empty for none.
+    /// The name of the drawing's file, or the name to propose; empty if there is none.
     [[nodiscard]] QString name() const;
 
 signals:
@@ -75,7 +75,7 @@ signals:
     void changed();
 
 private:
-    /// A file as it was when the drawing was last the same.
+    /// The state of the drawing's file when file and drawing were last the same.
     struct Version
     {
         QDateTime time;
@@ -84,14 +84,14 @@ private:
         [[nodiscard]] static Version of(const QString& fileName);
     };
 
-    /// What a dialog for picking is for, where it is not for opening.
+    /// The purpose of a pick dialog that is not for opening.
     struct Purpose
     {
         QString title;
         QString verb;
     };
 
-    /// A picture file that the person picks; empty for none.
+    /// Lets the person pick a picture file; empty if none was picked.
     [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
     bool openFile(const QString& fileName);
     [[nodiscard]] QString whatReplacingLoses() const;
@@ -109,7 +109,7 @@ private:
     KORVA_Journal* m_journal = nullptr;
     LastFolder m_folder;
     QString m_proposal;        ///< of a drawing without a name
-    bool m_mayReplace = false; ///< the person has agreed to lose what opening took away
+    bool m_mayReplace = false; ///< the person has agreed to lose what opening left out
     Version m_version;
 };
 

@@ -6,8 +6,8 @@
 
 namespace pad {
 
-/// Where drawings are encoded before they are moved into place: KIV_LOCAL_DOWNLOAD_PATH, and where that is
-/// unset a folder of this run's own under the user's cache, which goes with the object.
+/// The folder in which drawings are encoded before they are moved into place: KIV_LOCAL_DOWNLOAD_PATH. If
+/// that is unset, it is a folder for this run under the user's cache, which is removed with the object.
 class DownloadFolder
 {
 public:

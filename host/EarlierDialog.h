@@ -7,7 +7,7 @@ class QListWidget;
 
 namespace pad {
 
-/// The drawings that were kept, the newest first, with the time of each; one may be chosen.
+/// The dialog that shows the earlier drawings with their times, newest first. The person may choose one.
 class EarlierDialog : public UTIL_Dialog
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class EarlierDialog : public UTIL_Dialog
 public:
     EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>& entries);
 
-    /// After it was accepted.
+    /// The entry that was chosen; only after the dialog was accepted.
     [[nodiscard]] KORVA_Journal::Entry chosen() const;
 
     /// A time as people say it: "today at 14:32".

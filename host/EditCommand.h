@@ -7,11 +7,12 @@ namespace pad {
 
 enum class Verb;
 
-/// Carries out a command that is a plain operation of the editor. False, with nothing done, for any other.
+/// Carries out a command that is a plain operation of the editor. Any other command is not carried out, and
+/// gives false.
 bool performOn(KORVA_EditCanvas& editor, Verb verb);
 
-/// Lays a picture file over the drawing, and over a text that is open. False when it cannot be read; the
-/// editor has said so.
+/// Lays a picture file over the drawing, and over an open text. False when it cannot be read, after the
+/// editor has told the user.
 bool insertStamp(KORVA_EditCanvas& editor, const QString& fileName);
 
 } // namespace pad

@@ -6,13 +6,13 @@
 
 namespace pad {
 
-/// Why something could not be done: one line for the person at the keyboard, without the program's name.
+/// The reason of a failure: one line for the person at the keyboard, without the program's name.
 struct Failure
 {
     QString message;
 };
 
-/// A value, or why there is none.
+/// A value, or the reason why there is none.
 template <typename T>
 using Expected = std::variant<T, Failure>;
 

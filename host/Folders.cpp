@@ -6,7 +6,7 @@ namespace pad {
 
 QString recoveryFolder()
 {
-    const QString state = qEnvironmentVariable("XDG_STATE_HOME"); // must be absolute, or does not count
+    const QString state = qEnvironmentVariable("XDG_STATE_HOME"); // counts only if it is absolute
     return (QDir::isAbsolutePath(state) ? state : QDir::homePath() + "/.local/state") + "/korva";
 }
 

@@ -4,7 +4,7 @@
 
 namespace pad {
 
-/// Where drawings are kept that were not saved: in the user's folder for what programs remember.
+/// The folder for unsaved drawings, inside the user's folder for the state of programs.
 [[nodiscard]] QString recoveryFolder();
 
 } // namespace pad

@@ -7,10 +7,11 @@
 
 namespace pad {
 
-/// Keys by the names of Qt::Key without "Key_", in any case, after their modifiers: "Return", "Shift+Left".
+/// Names of keys: those of Qt::Key without "Key_", in upper or lower case, after their modifiers: "Return",
+/// "Shift+Left".
 [[nodiscard]] std::optional<QKeyCombination> keyFromName(const QString& name);
 [[nodiscard]] QString keyName(QKeyCombination key);
-/// A pressed modifier tells that it is held as well; this takes that away.
+/// The event of a modifier key also says that this modifier is held; this removes it.
 [[nodiscard]] QKeyCombination withoutItself(QKeyCombination key);
 
 } // namespace pad

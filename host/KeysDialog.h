@@ -6,7 +6,7 @@
 
 namespace pad {
 
-/// All keys on one page.
+/// The dialog that lists all keys on one page.
 class KeysDialog : public UTIL_Dialog
 {
     Q_OBJECT

@@ -6,16 +6,15 @@ class UTIL_Platform;
 
 namespace pad {
 
-/// Where the folder dialogs begin: where the last one ended.
+/// The folder in which folder dialogs begin: where the last one ended.
 class LastFolder
 {
 public:
-    /// Keeps the folder and the order of the dialogs in the settings from now on, beginning with what the
-    /// last run left there.
+    /// Loads the folder and the order of the dialogs from the settings, and keeps them there from now on.
     void remember();
-    /// The user's pictures as long as no dialog was used, or when the folder is gone.
+    /// The folder; the user's picture folder if no dialog was used yet, or if the folder is gone.
     [[nodiscard]] QString path(const UTIL_Platform& platform) const;
-    /// A dialog gave this file.
+    /// Notes that a dialog returned this file.
     void note(const QString& fileName);
 
 private:

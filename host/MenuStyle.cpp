@@ -14,7 +14,7 @@ using Size = UTIL_Skin::Size;
 
 constexpr int arrowWidth = 2 * Size::chevron;
 
-/// A triangle at the right that points to the page behind a row.
+/// A triangle at the right of a row that opens a page.
 void paintArrow(QPainter& painter, const QRect& row, const QColor& ink)
 {
     constexpr int half = Size::chevron;
@@ -49,7 +49,7 @@ int MenuStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
 int MenuStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* data) const
 {
-    // Rather than in columns beside the screen.
+    // Otherwise long menus get columns, which leave the screen.
     return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
 }
 

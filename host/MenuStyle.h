@@ -4,7 +4,7 @@
 
 namespace pad {
 
-/// Rows of menus without icons, narrow enough that a text and its key stand beside each other on a small
+/// The style of menus without icons. Rows are so narrow that a text and its key fit side by side on a small
 /// screen.
 class MenuStyle : public QProxyStyle
 {

@@ -97,7 +97,7 @@ void PadWindow::closeEvent(QCloseEvent* event)
 
 namespace {
 
-/// The first picture file among what is dragged; empty when there is none.
+/// The first picture file among the dragged files; empty if there is none.
 QString draggedPicture(const QMimeData* data)
 {
     for (const QUrl& url : data->urls()) {
@@ -119,7 +119,7 @@ void PadWindow::dragEnterEvent(QDragEnterEvent* event)
 void PadWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    // After the drop: whoever drags waits for it to end, and there may be a question.
+    // After the drop: there may be a question, and the program that drags waits until the drop ends.
     QMetaObject::invokeMethod(
         m_documents, [this, name = draggedPicture(event->mimeData())] { m_documents->openNamed(name); },
         Qt::QueuedConnection);

@@ -13,15 +13,15 @@ class Documents;
 class Platform;
 class StatusLine;
 
-/// The window of the device: the editor, the status line and two soft keys. It may be larger than the
-/// device's screen; F11 makes it as large as the screen that it is on.
+/// The window of korva-pad: the editor, the status line and two soft keys. It may be larger than the
+/// device's 240 × 320; F11 makes it fill its screen.
 class PadWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Opens a picture at once; an empty name means a new drawing. The editor tells what is wrong with it,
-    /// and has no file name then.
+    /// Opens a picture at once; an empty name means a new drawing. If the picture cannot be opened, the
+    /// editor tells why and has no file name.
     explicit PadWindow(Platform& platform, const QString& picture = {});
 
     [[nodiscard]] KORVA_EditCanvas& editor() const { return *m_editor; }
@@ -33,7 +33,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    /// A picture file that is dropped is opened.
+    /// Accepts picture files, which are opened when dropped.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

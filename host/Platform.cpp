@@ -19,7 +19,7 @@ public:
 
     int exec() override
     {
-        setFileName(m_name); // whatever was proposed
+        setFileName(m_name); // replaces the proposed name
         return m_name.isEmpty() ? Rejected : Accepted;
     }
 
@@ -83,7 +83,7 @@ bool Platform::waitFor(QWidget* parent, const QString& text, const QFuture<void>
 
 bool Platform::removePicture(const QString& name)
 {
-    // The toolkit takes the current folder for the trash where it cannot make one.
+    // Where Qt cannot make a trash it uses the current folder.
     const QString trash =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/Trash");
     if (!QFileInfo(trash).isDir()) {

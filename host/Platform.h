@@ -9,28 +9,28 @@
 
 namespace pad {
 
-/// What stands in for the person while nobody answers: during a replay, or before there is a window.
+/// Answers in place of the person: during a replay, or before there is a window.
 struct Script
 {
-    std::optional<int> answer; ///< for the next question; used up by it
-    QString fileName;          ///< what the next folder dialogs give; empty: none is chosen
-    QString told;              ///< what the last timed box said; none is shown
-    QString stopped;           ///< what could not be answered; from then on every question means "no"
+    std::optional<int> answer; ///< to the next question, which uses it up
+    QString fileName;          ///< returned by the next folder dialogs; empty rejects them
+    QString told;              ///< the text of the last timed box; none is shown
+    QString stopped;           ///< what could not be answered; after that every question gets "no"
 };
 
-/// The program's services for the editor: the desktop's, or a script's.
+/// The pad's services for the editor: the desktop's, or answers of a script.
 class Platform : public UTIL_Platform
 {
     Q_DECLARE_TR_FUNCTIONS(pad::Platform)
 
 public:
-    /// Puts a new one in force. It lives until another is installed.
+    /// Puts a new object in force. It lives until another one is installed.
     static Platform& install();
 
-    /// Lets a script answer; null lets the person. The script outlives its work here.
+    /// Lets a script answer; with null the person answers. The script must live as long as it is set.
     void obey(Script* script) { m_script = script; }
 
-    /// The answer to the question asked last since the last call; none when nothing was asked, or nobody
+    /// The answer to the last question since the previous call; none if nothing was asked, or nobody
     /// answered.
     std::optional<int> takeAnswer() { return std::exchange(m_lastAnswer, {}); }
 
@@ -40,7 +40,7 @@ public:
                           int timeout) override;
     void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout) override;
     bool waitFor(QWidget* parent, const QString& text, const QFuture<void>& work) override;
-    /// Into the trash; false where there is none, and the picture is still there.
+    /// Moves the picture to the trash. False if there is no trash; the picture is then still there.
     bool removePicture(const QString& name) override;
     UTIL_PictureDialog* createPickDialog(QWidget* parent, const QString& folder,
                                          const QStringList& patterns) override;

@@ -22,7 +22,7 @@ Qt::Key keyOf(char32_t letter)
     return letter > 0xffff ? Qt::Key_unknown : Qt::Key(QChar(char16_t(letter)).toUpper().unicode());
 }
 
-/// What a keyboard delivers with a key: letters and signs have a text, the others none.
+/// The text that a keyboard delivers with a key: letters and signs have one, other keys none.
 QString textOf(QKeyCombination key)
 {
     constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -139,7 +139,7 @@ void Player::stamp(const QString& fileName)
 
 void Player::save(const QString& fileName)
 {
-    m_editor.pixmap(); // what is pending goes in, as it does whenever the editor saves
+    m_editor.pixmap(); // merges and commits everything, as the editor's own save does
     if (const auto error = saveDrawing(m_editor, fileName)) {
         stop(error->line());
         return;

@@ -11,8 +11,8 @@ class KORVA_EditCanvas;
 
 namespace pad {
 
-/// Plays a recording on the editor: strokes and keys as the window system's own events, the rest as a
-/// person chooses it. Questions take their answers from the recording; timed boxes are not shown.
+/// Plays a recording on the editor: strokes and keys as events like those of the window system, all else
+/// like a person's choices. Questions take their answers from the recording; timed boxes are not shown.
 class Player
 {
     Q_DECLARE_TR_FUNCTIONS(pad::Player)
@@ -20,8 +20,7 @@ class Player
 public:
     Player(KORVA_EditCanvas& editor, Platform& platform);
 
-    /// Returns when the last command is done, or with the first that could not be. Runs the event loop
-    /// while it waits.
+    /// Returns after the last command, or at the first one that fails. Runs the event loop while it waits.
     std::optional<Failure> play(const Recording& recording);
 
 private:

@@ -40,7 +40,7 @@ QWidget* Pointer::widgetUnder(QPoint at) const
 
 void Pointer::send(QEvent::Type type, QPoint at, Qt::MouseButton button)
 {
-    // A pop-up that opened during the press takes what follows; a widget that was hidden hears no more.
+    // A pop-up that opened during the press gets the following events. A widget that was hidden gets none.
     const QPointer<QWidget> receiver =
         QApplication::activePopupWidget() ? widgetUnder(at) : m_pressed.data();
     if (!receiver || !receiver->isVisible())

@@ -7,8 +7,9 @@
 
 namespace pad {
 
-/// A pointer made of events: what the window system sends when a person works on a widget. An event goes to
-/// the widget under the point, or to an open pop-up; from a press to the release, to the widget pressed.
+/// A simulated pointer: it sends the events that the window system sends when a person works on a widget.
+/// An event goes to the widget under the point, or to an open pop-up. From a press to its release, events
+/// go to the widget that was pressed.
 class Pointer
 {
 public:
@@ -16,7 +17,7 @@ public:
     explicit Pointer(QWidget* surface) : m_surface(surface) {}
 
     void press(QPoint at, Qt::MouseButton button);
-    /// With no button held: a hover, which only a widget that tracks the mouse hears of.
+    /// Without a button held this is a hover, which only a widget that tracks the mouse receives.
     void move(QPoint to);
     void release(QPoint at, Qt::MouseButton button);
 

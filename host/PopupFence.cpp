@@ -25,7 +25,7 @@ PopupFence::PopupFence(QWidget& window) : QObject(&window), m_window(window)
 bool PopupFence::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == &m_window && event->type() == QEvent::Resize) {
-        while (QWidget* popup = QApplication::activePopupWidget()) // it would stay where the window was
+        while (QWidget* popup = QApplication::activePopupWidget()) // else it stays at the old place
             if (!popup->close())
                 break;
     }

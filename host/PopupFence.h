@@ -6,9 +6,9 @@ class QWidget;
 
 namespace pad {
 
-/// Keeps every pop-up and dialog inside the area of one window: on the device there is nothing beside it.
-/// The keyboard goes back to the window when the last of them goes, also where no window manager sees to
-/// that.
+/// Keeps every pop-up and dialog inside the area of one window, because on the device there is nothing
+/// beside it. When the last of them closes, the keyboard goes back to the window, even without a window
+/// manager.
 class PopupFence : public QObject
 {
     Q_OBJECT

@@ -83,7 +83,7 @@ void Recorder::writeChoice(KORVA_CHOICETYPE what, int which)
 void Recorder::writeMouse(const QWidget& receiver, const QMouseEvent& event)
 {
     if (event.button() != Qt::LeftButton && event.button() != Qt::NoButton)
-        return; // they open a menu, whose commands are written when they are chosen
+        return; // these keys open a menu, whose commands are recorded when they are chosen
     Command command;
     command.point = receiver.mapTo(m_editor.canvas(), pixel::under(event, receiver));
     command.verb = event.type() == QEvent::MouseMove            ? Verb::Move
@@ -111,7 +111,7 @@ void Recorder::write(const Command& command)
         return;
     m_file.write(Recording::toLine(command).toUtf8() + '\n');
     if (command.verb != Verb::Move)
-        m_file.flush(); // what has been drawn survives the end of the program, however it comes
+        m_file.flush(); // so that the recording survives however the program ends
 }
 
 } // namespace pad

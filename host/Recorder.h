@@ -13,7 +13,7 @@ class QMouseEvent;
 
 namespace pad {
 
-/// Writes down what a person does to the drawing, so that playing it gives the same picture.
+/// Records what a person does to the drawing, so that playing the recording gives the same picture.
 class Recorder : public QObject
 {
     Q_OBJECT
@@ -21,9 +21,9 @@ class Recorder : public QObject
 public:
     explicit Recorder(KORVA_EditCanvas& editor, QObject* parent = nullptr);
 
-    /// Begins a recording in this file, which is replaced.
+    /// Begins a recording in this file. An existing file is replaced.
     std::optional<Failure> start(const QString& fileName);
-    /// Ends the recording; a failure of any write comes out here at the latest.
+    /// Ends the recording. Reports a failure of any write.
     std::optional<Failure> finish();
 
     bool eventFilter(QObject* watched, QEvent* event) override;

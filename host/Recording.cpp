@@ -148,7 +148,7 @@ struct Argument
         const char* comment; ///< null: a word of the language, the same in all others
     } what;                  ///< for the messages
     bool (*read)(const QString& word, Command& command);
-    QString (*write)(const Command& command); ///< an empty word is left out
+    QString (*write)(const Command& command); ///< returns the word; an empty one is left out
     bool optional = false;
 };
 
@@ -192,7 +192,7 @@ struct Rule
 {
     const char* word;
     Verb verb;
-    std::array<const Argument*, 3> arguments = {}; ///< null where there are fewer
+    std::array<const Argument*, 3> arguments = {}; ///< null after the last one
 };
 
 constexpr Rule grammar[] = {

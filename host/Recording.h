@@ -47,7 +47,7 @@ struct Command
     QPoint point = {}; ///< Press, Move, Release: canvas widget coordinates
     Qt::MouseButton button = Qt::LeftButton;
     int number = 0;  ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
-                     ///< Option, Answer: an index; Wait: milliseconds
+                     ///< Option and Answer: an index; Wait: milliseconds
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);
@@ -56,21 +56,21 @@ struct Command
     bool operator==(const Command& other) const = default;
 };
 
-/// The words of the language, by the numbers they stand for.
+/// The words of the language, indexed by the numbers that they stand for.
 inline constexpr const char* zoomNames[] = {"50", "100", "150", "200", "fit"};
 inline constexpr const char* canvasNames[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
 
-/// A drawing session as text: a command a line, "#" begins a comment. A name or text with blanks stands in
-/// double quotes, with \" \\ \n \t inside.
+/// A drawing session as text: one command per line; "#" begins a comment. A name or text with blanks is
+/// written in double quotes, with \" \\ \n \t inside.
 class Recording
 {
     Q_DECLARE_TR_FUNCTIONS(pad::Recording)
 
 public:
-    /// `name` is the file's, for the messages: "name:line: what is wrong".
+    /// `name` is the file's name for the messages: "name:line: what is wrong".
     [[nodiscard]] static Expected<Recording> parse(const QByteArray& text, const QString& name);
     [[nodiscard]] static Expected<Recording> read(const QString& fileName);
-    /// The line, without its end, that parse() reads as this command.
+    /// The line, without a line end, that parse() reads as this command.
     [[nodiscard]] static QString toLine(const Command& command);
 
     [[nodiscard]] const std::vector<Command>& commands() const { return m_commands; }

@@ -49,7 +49,7 @@ private:
         return !atEnd() && !beginsComment();
     }
 
-    /// A colour is the one word that begins with the comment's sign.
+    /// A colour is the only word that begins with the sign of a comment.
     [[nodiscard]] bool beginsComment() const
     {
         const bool colorExpected = m_words == QStringList{QStringLiteral("color")};

@@ -49,7 +49,7 @@ void Recovery::offer()
     const int answer = m_platform.question(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"), text,
                                            {tr("Bring it back", "recovery"), tr("Not now", "recovery")});
     if (m_isEnding)
-        return; // nobody has answered: it is offered again
+        return; // nobody has answered; the next start offers it again
     if (answer == 0)
         bringBack(*left);
     else

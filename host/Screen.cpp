@@ -12,10 +12,10 @@ namespace {
 
 constexpr int pixelsAScale = 450; // of height
 constexpr int tallScreen = 2 * pixelsAScale;
-constexpr int smallestKey = 24;      // the tool bar's
+constexpr int smallestKey = 24;      // pixels: a key of the tool bar
 constexpr double fingertip = 7;      // mm
 constexpr double inch = 25.4;        // mm
-constexpr int assumed[] = {96, 100}; // pixels an inch, by displays that don't know
+constexpr int assumed[] = {96, 100}; // pixels per inch, told by displays that don't know
 
 } // namespace
 

@@ -4,23 +4,23 @@
 
 namespace pad {
 
-/// The screen that the program opens on.
+/// The screen on which the program opens.
 struct Screen
 {
-    QSize pixels;                ///< of the glass
-    double dotsPerMillimetre{};  ///< 0: nobody knows
-    double toolkitsOwnRatio = 1; ///< by which the toolkit enlarges everything there anyway
+    QSize pixels;                ///< physical pixels
+    double dotsPerMillimetre{};  ///< 0 if unknown
+    double toolkitsOwnRatio = 1; ///< the ratio by which Qt enlarges everything there anyway
 
-    /// Of the size in millimetres that the display tells; empty sizes, and those that are only counted from
-    /// an assumed density, tell nothing.
+    /// Sets the density from the size in millimetres that the display tells. An empty size, or one that is
+    /// only calculated from an assumed density, makes it unknown.
     void setMillimetres(const QSize& size);
 
-    /// What shows the pad at the size of a hand, by the screen's height; its keys are no smaller than 7 mm
-    /// where the density is known and the window still fits.
+    /// The scale that shows the pad at a good size, by the screen's height. If the density is known and the
+    /// window still fits, keys are at least 7 mm.
     [[nodiscard]] int suitableScale() const;
-    /// The largest at which the whole pad fits.
+    /// The largest scale at which the whole pad fits.
     [[nodiscard]] int largestScale() const;
-    /// 2 from a height of 900 pixels on: what a run that nobody looks at has.
+    /// The scale of a run that nobody looks at: 2 from a height of 900 pixels on, else 1.
     [[nodiscard]] int plainScale() const;
 };
 

@@ -46,7 +46,7 @@ int Session::run()
     m_window->show();
     m_window->activateWindow(); // not every desktop gives the keyboard to a new window
 
-    // Inside the event loop, so that closing the window ends the program while it plays, too.
+    // Inside the event loop, so that closing the window also ends the program while it plays.
     int result = 0;
     const auto workNow = [this, &result] {
         if (const auto failure = work())
@@ -78,7 +78,7 @@ std::optional<Failure> Session::openPicture()
 {
     Script script; // before there is a window, nobody can tap a box away
     m_platform.obey(&script);
-    // Whole, so that it is found again from any folder.
+    // An absolute path, so that the file is found from any folder.
     const QString picture =
         m_line.picture.isEmpty() ? QString() : QFileInfo(m_line.picture).absoluteFilePath();
     m_window = std::make_unique<PadWindow>(m_platform, picture);
@@ -125,7 +125,7 @@ std::optional<Failure> Session::writeResults()
     return m_line.save.isEmpty() ? std::nullopt : outcome(saveDrawing(m_window->editor(), m_line.save));
 }
 
-/// Only where a person draws: a replay leaves nothing behind, and is offered nothing.
+/// Only in a run that stays for a person to draw. A replay is offered no earlier drawing.
 void Session::startRecovery()
 {
     if (m_line.noRecovery)

@@ -13,16 +13,16 @@
 
 namespace pad {
 
-/// One run of the program: opens, plays, records and writes what the command line asks for.
+/// One run of the program: opens, plays, records and writes as the command line says.
 class Session : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Without a place the window has its plain size, and keeps it.
+    /// Without a `place` the window has its plain size, and its size is not saved.
     Session(CommandLine line, Recording recording, Platform& platform, std::optional<WindowPlace> place);
 
-    /// Runs until the window is closed or the work is done; the outcome is the program's exit code.
+    /// Runs until the window is closed or the work is done. Returns the program's exit code.
     int run();
 
 private:
@@ -42,7 +42,7 @@ private:
     std::unique_ptr<Recorder> m_recorder;
 };
 
-/// Tells the person at the keyboard, on one line of standard error. The result is the exit code for it.
+/// Prints the failure as one line on standard error. Returns the exit code for it.
 int complain(const Failure& failure);
 
 } // namespace pad

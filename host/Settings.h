@@ -4,8 +4,8 @@
 
 namespace pad {
 
-/// The file that holds what the pad remembers, in the folder "korva" of the user's settings; it need not be
-/// there. For QSettings, as QSettings::IniFormat. No application object is needed.
+/// The name of the file with the pad's settings, in the folder "korva" of the user's settings. The file
+/// need not exist. It is for QSettings, in QSettings::IniFormat. No application object is needed.
 [[nodiscard]] QString settingsFile();
 
 } // namespace pad

@@ -4,12 +4,12 @@
 
 namespace pad {
 
-/// Standard error is for the person. Until the program has started what the toolkit says is kept, and what
-/// would abort it ends it instead with exit code 1 and one line; afterwards the toolkit says it at once.
-/// What it has to say about the session's folders is dropped.
+/// Qt's messages at the start, because standard error is for the person. Until the program has started,
+/// messages are kept, and a message that would abort the program ends it with exit code 1 and one line.
+/// Later messages are printed at once. Messages about the session's folders are dropped.
 namespace startmessages {
 
-/// First of all; `program` is its name.
+/// Begins to keep messages; call it first of all. `program` is the program's name.
 void keep(const char* program);
 /// Takes the words for what would abort from the language that is loaded: when it comes to that, there is
 /// no application that could be asked.
@@ -18,9 +18,9 @@ void translate();
 [[nodiscard]] QString nothingShown();
 /// The reason that the toolkit gave first for what did not work; empty: none.
 [[nodiscard]] QString reason();
-/// Forgets what was kept.
+/// Forgets the kept messages.
 void forget();
-/// The program has started: tells what was kept.
+/// The program has started: prints the kept messages.
 void tell();
 
 } // namespace startmessages

@@ -20,7 +20,7 @@ namespace {
 constexpr int pace = 200; // ms
 constexpr int margin = 8;
 constexpr int spacing = 4;
-constexpr int shares[] = {58, 59, 40, 55}; // of the room, a field each
+constexpr int shares[] = {58, 59, 40, 55}; // each field's share of the width
 
 } // namespace
 
@@ -41,7 +41,8 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
         m_picture = picture->size();
         refreshSoon();
     });
-    // A hover over the canvas is seen only here: the canvas asks for moves with a button held.
+    // Only the application sees a hover over the canvas: the canvas itself gets moves only while a button
+    // is held.
     qApp->installEventFilter(this);
     refresh();
 }
@@ -55,7 +56,7 @@ QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment)
     return field;
 }
 
-// Not a layout: it would measure all texts anew whenever the pointer has moved.
+// A layout would measure all texts again whenever the pointer has moved.
 void StatusLine::resizeEvent(QResizeEvent*)
 {
     const int room = width() - 2 * margin - (int(std::size(shares)) - 1) * spacing;
@@ -112,7 +113,7 @@ bool StatusLine::eventFilter(QObject* watched, QEvent* event)
         m_pointer = pixel::under(*static_cast<const QMouseEvent*>(event), *m_editor.canvas());
     if (type != QEvent::MouseMove || !static_cast<const QMouseEvent*>(event)->buttons())
         refreshSoon();
-    else if (m_sinceRefresh.hasExpired(pace)) // a timer running would cost every event of a stroke
+    else if (m_sinceRefresh.hasExpired(pace)) // a running timer would cost every event of a stroke
         refresh();
     return false;
 }

@@ -11,9 +11,9 @@ class QLabel;
 
 namespace pad {
 
-/// The line below the editor: tool, size of the picture, zoom, and where the pointer is in the picture.
+/// The line below the editor: tool, size of the picture, zoom, and the pointer's position in the picture.
 ///
-/// It follows the pointer a few times a second, so that it costs a stroke nothing.
+/// It follows the pointer only a few times a second, so that it costs a stroke nothing.
 class StatusLine : public QWidget
 {
     Q_OBJECT

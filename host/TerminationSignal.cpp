@@ -12,7 +12,7 @@ namespace pad {
 namespace {
 
 constexpr int wishes[] = {SIGTERM, SIGINT, SIGHUP};
-int pipeEnds[2] = {-1, -1}; // a handler of signals may do little more than write
+int pipeEnds[2] = {-1, -1}; // a signal handler may do little more than write
 
 void handle(int)
 {

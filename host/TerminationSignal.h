@@ -4,8 +4,9 @@
 
 namespace pad {
 
-/// Turns the system's wish that the program end (SIGTERM, SIGINT, SIGHUP) into a signal of the event loop.
-/// One at a time; when it goes, the wishes are obeyed at once again.
+/// Turns the system's signals that end a program (SIGTERM, SIGINT, SIGHUP) into a Qt signal, emitted from
+/// the event loop. Only one object at a time. When it goes, the system's signals end the program at once
+/// again.
 class TerminationSignal : public QObject
 {
     Q_OBJECT

@@ -8,22 +8,22 @@ class QWidget;
 
 namespace pad {
 
-/// How the person left the window, kept in the settings from one start to the next; each size of screen has
-/// its own.
+/// The size, state and scale of the window as the person left them. The settings keep them for the next
+/// start, separately for each size of screen.
 class WindowPlace
 {
 public:
-    /// Reads what is kept for a screen of this many pixels.
+    /// Reads the settings for a screen of this many pixels.
     explicit WindowPlace(const QSize& screen);
 
-    /// What the person last asked for; none: what suits the screen.
+    /// The scale that the person last asked for; none means what suits the screen.
     [[nodiscard]] std::optional<int> scale() const { return m_scale; }
-    /// The person asked for it.
+    /// Sets the scale that the person asked for.
     void setScale(int scale) { m_scale = scale; }
 
     /// Gives the window, before it is shown, the size and state that it had.
     void restore(QWidget& window) const;
-    /// Keeps them, and the scale.
+    /// Saves the window's size and state, and the scale.
     void save(const QWidget& window) const;
 
 private:

@@ -25,8 +25,8 @@ QStringList argumentsOf(int argc, char** argv)
     return arguments;
 }
 
-/// What the person asked for, or left behind, or what suits the screen; the largest that fits where it
-/// doesn't. Runs that nobody looks at take what they are told.
+/// The scale that the person asks for, or used last, or that suits the screen; if that does not fit, the
+/// largest that does. A scripted run takes the scale that it is given, or the plain one.
 int chooseScale(const pad::CommandLine& line, const std::optional<pad::Screen>& screen,
                 const std::optional<pad::WindowPlace>& place)
 {
@@ -67,7 +67,7 @@ int run(char** argv, const pad::CommandLine& line, pad::Recording recording)
     if (!pad::language::load())
         pad::complain({pad::language::complaint()});
     QCoreApplication::setApplicationName(QStringLiteral("korva-pad"));
-    // Takes effect only when the application object exists: every point of a stroke is drawn.
+    // Lets every point of a stroke be drawn. It takes effect only when the application object exists.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     pad::theme::apply();
     const pad::DownloadFolder downloads;

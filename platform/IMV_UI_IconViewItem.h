@@ -4,8 +4,8 @@
 
 class QFileInfo;
 
-/// A picture file as media browsers show it: its thumbnail, as large as the item allows, and its name
-/// below. The file is read when the item comes on the screen; one that cannot be read has a mark for a
+/// A picture file as media browsers show it: a thumbnail as large as the item allows, with the name below.
+/// The file is read when the item comes on the screen. A file that cannot be read shows a mark instead of a
 /// thumbnail.
 class IMV_UI_IconViewItem : public QWidget
 {

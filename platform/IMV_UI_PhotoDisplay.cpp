@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The greatest size of the picture's shape within the frame, and no greater than the picture.
+/// The greatest size with the picture's proportions within the frame, but no greater than the picture.
 QSize fitted(QSize picture, QSize frame)
 {
     if (picture.width() <= frame.width() && picture.height() <= frame.height())
@@ -84,7 +84,7 @@ void IMV_UI_PhotoDisplay::loadGifAnimation(const QString& fileName)
     QFile file(fileName);
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
         return;
-    // From memory: for every round the movie would open the file anew, which may be gone by then.
+    // From memory: the movie would open the file again for every round, and it may be gone by then.
     auto buffer = std::make_unique<QBuffer>();
     buffer->setData(file.readAll());
     auto movie = std::make_unique<QMovie>(buffer.get(), "gif");
@@ -103,7 +103,7 @@ void IMV_UI_PhotoDisplay::loadGifAnimation(const QString& fileName)
 
 void IMV_UI_PhotoDisplay::setPlaying(bool isPlaying)
 {
-    if (m_movie && m_movie->state() != QMovie::NotRunning) // one that has ended would begin again
+    if (m_movie && m_movie->state() != QMovie::NotRunning) // an ended one would begin again
         m_movie->setPaused(!isPlaying);
 }
 
@@ -112,7 +112,7 @@ void IMV_UI_PhotoDisplay::showEvent(QShowEvent* event)
     QLabel::showEvent(event);
     setPlaying(true);
     if (m_content == Content::UnreadFile)
-        QTimer::singleShot(0, this, &IMV_UI_PhotoDisplay::readFile); // the window comes first
+        QTimer::singleShot(0, this, &IMV_UI_PhotoDisplay::readFile); // after the window is shown
 }
 
 void IMV_UI_PhotoDisplay::hideEvent(QHideEvent* event)

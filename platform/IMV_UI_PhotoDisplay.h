@@ -8,10 +8,10 @@
 
 class QMovie;
 
-/// Shows a picture in the middle, as large as the display allows but no larger than the picture is, smooth
-/// and on the skin's surface where it is transparent.
+/// A display with a picture in its middle. The picture is as large as the display allows, but not enlarged;
+/// it is scaled smoothly, and the skin's surface shows through its transparent parts.
 ///
-/// An animation runs while the display is on the screen; hidden, it stands still and costs nothing.
+/// An animation runs while the display is on the screen. While hidden it stands still and costs nothing.
 class IMV_UI_PhotoDisplay : public QLabel
 {
     Q_OBJECT
@@ -19,18 +19,18 @@ class IMV_UI_PhotoDisplay : public QLabel
 public:
     /// A null image leaves the display empty.
     explicit IMV_UI_PhotoDisplay(const QImage& image, QWidget* parent = nullptr);
-    /// The file is read once the display is on the screen, and only as large as it is shown. One that
-    /// cannot be read, such as the empty name, is stood for by a mark.
+    /// The file is read once the display is on the screen, and only as large as it is shown. A mark stands
+    /// for a file that cannot be read, such as one with an empty name.
     explicit IMV_UI_PhotoDisplay(const QString& fileName, QWidget* parent = nullptr);
     ~IMV_UI_PhotoDisplay() override;
 
-    /// For a reader: the size in which a picture is wanted for a display of the given size.
+    /// For UTIL_ImageReader: the size in which a display of the given size wants a picture.
     [[nodiscard]] static UTIL_ImageReader::Reduction reductionTo(QSize display);
 
-    /// Takes the place of whatever was shown.
+    /// Shows this image instead of whatever was shown.
     void setImage(const QImage& image);
-    /// Plays a GIF with its own delays, as often as it says; its last frame stays. What cannot be played
-    /// changes nothing.
+    /// Plays a GIF with its own delays, as often as the file says; its last frame stays. A file that cannot
+    /// be played changes nothing.
     void loadGifAnimation(const QString& fileName);
 
 protected:

@@ -9,7 +9,8 @@
 
 #include <cmath>
 
-// A resource of a static library is linked only where it is asked for; the macro wants no namespace.
+// A resource of a static library is linked only if somebody refers to it. The macro does not work in a
+// namespace.
 static void registerIcons()
 {
     Q_INIT_RESOURCE(icons);
@@ -27,14 +28,14 @@ QPixmap sharpestOf(const QDir& folder, const QString& name)
         const QString mark = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
         const QString file =
             folder.filePath(plain.completeBaseName() + mark + QLatin1Char('.') + plain.suffix());
-        QPixmap icon; // takes its device pixel ratio from the mark in the name
+        QPixmap icon; // gets its device pixel ratio from the mark in the name
         if (QFileInfo(file).isFile() && icon.load(file))
             return icon;
     }
     return {};
 }
 
-/// The tools and options; what else there is has colors of its own.
+/// Pictures of tools and options; all others keep their own colors.
 bool isLineDrawing(const QString& name)
 {
     return name.startsWith(QLatin1String("DaApV_")) &&

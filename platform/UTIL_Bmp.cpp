@@ -12,7 +12,7 @@
 namespace {
 
 constexpr qint64 stripPixels = 500'000;
-/// Before the pixels stand the header and at most 256 colours, and perhaps a gap.
+/// The header, at most 256 colours, and perhaps a gap come before the pixels.
 constexpr quint32 mostBefore = 1 << 20;
 constexpr quint32 oldHeader = 12;
 
@@ -75,7 +75,7 @@ private:
     }
 
     UTIL_PictureSource* m_source = nullptr;
-    QByteArray m_before; ///< what stands before the pixels
+    QByteArray m_before; ///< everything before the pixels
     bool m_isOld = false;
     bool m_isTopDown = false;
     QSize m_size;

@@ -17,7 +17,7 @@ namespace {
 
 using Size = UTIL_Skin::Size;
 
-/// Draws the mark of the checked row at its end, whatever row the pointer is on.
+/// Draws the mark at the end of the checked row, even while the pointer is on another row.
 class RowDelegate : public QStyledItemDelegate
 {
 public:
@@ -60,7 +60,7 @@ protected:
     [[nodiscard]] bool editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&,
                                    const QModelIndex&) override
     {
-        return false; // a tap chooses the row
+        return false; // a tap chooses the row; it toggles no mark
     }
 };
 
@@ -80,12 +80,12 @@ UTIL_ComboBox::UTIL_ComboBox(QWidget* parent) : QComboBox(parent)
     view()->viewport()->installEventFilter(this);
 }
 
-// The toolkit mistakes a tap right after the one that opened the list for the end of that one.
+// Qt mistakes a tap right after the one that opened the list for the end of that one.
 bool UTIL_ComboBox::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != view()->viewport())
         return QComboBox::eventFilter(watched, event);
-    if (event->type() == QEvent::MouseButtonPress) { // a double tap on the box is meant for no row
+    if (event->type() == QEvent::MouseButtonPress) { // a double tap on the box chooses no row
         m_pressedRow = view()->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
     } else if (event->type() == QEvent::MouseButtonRelease) {
         const QModelIndex row = std::exchange(m_pressedRow, {});

@@ -5,8 +5,8 @@
 #include <QComboBox>
 #include <QPersistentModelIndex>
 
-/// A flat box that shows the chosen entry and opens the list of all of them, inside the window it belongs
-/// to. Space and Return open it; the arrow keys choose without.
+/// A flat box that shows the chosen entry and opens a list of all entries, which stays inside the box's
+/// window. Space and Return open the list; the arrow keys choose without opening it.
 class KORVA_EXPORT UTIL_ComboBox : public QComboBox
 {
     Q_OBJECT
@@ -15,15 +15,15 @@ public:
     /// A box without entries.
     explicit UTIL_ComboBox(QWidget* parent = nullptr);
 
-    /// Marks a row in the list as the one in force, which need not be the one that the box shows; another
-    /// number marks none.
+    /// Marks a row of the list as the one in force, which may differ from the entry that the box shows. A
+    /// number of no row removes the mark.
     void markRow(int marked);
 
-    /// Opens the list, moved into the window.
+    /// Opens the list inside the window.
     void showPopup() override;
 
 signals:
-    /// The list is about to open: the time to mark a row.
+    /// The list is about to open: a row can be marked now.
     void aboutToShowPopup();
 
 protected:

@@ -146,7 +146,7 @@ QRect UTIL_Dialog::screenArea() const
 
 void UTIL_Dialog::place()
 {
-    if (m_content != this) // no further than there is something
+    if (m_content != this) // it scrolls no farther than its parts reach
         m_content->setFixedHeight(m_content->childrenRect().bottom() + 1 + Size::spacing / 2);
     const QWidget* anchor = this->anchor();
     const QRect bounds = screenArea();

@@ -10,14 +10,15 @@ class UTIL_Overlay;
 class UTIL_PushButton;
 class UTIL_Veil;
 
-/// The base of every dialog: a flat card with a title, its content and the soft keys, which opens in the
-/// middle of its parent's window and never leaves the screen: on a low one it is lower, its content scrolls
-/// and the soft keys stay. While a modal dialog is open its parent's window is veiled. Where the display
-/// lets no program place its windows, as Wayland does, the dialog is a part of its parent's window while it
-/// is open, if it fits in there, and modal all the same.
+/// The base of every dialog: a flat card with a title, content and soft keys.
 ///
-/// Return presses the default key, which is the first soft key unless another was made the default or has
-/// the focus; Escape and closing reject.
+/// It opens in the middle of its parent's window and never leaves the screen. On a screen that is too low
+/// the dialog is lower, too; its content scrolls and the soft keys stay. While a modal dialog is open its
+/// parent's window is veiled. On a display that lets no program place its windows, such as Wayland, an open
+/// dialog is a part of its parent's window if it fits there. It is modal all the same.
+///
+/// Return presses the default key. That is the first soft key, unless another one was made the default or
+/// has the focus. Escape and closing reject.
 class KORVA_EXPORT UTIL_Dialog : public QDialog
 {
     Q_OBJECT
@@ -29,17 +30,17 @@ public:
         FreeDialog = 1,     ///< sized by the derived class
     };
 
-    /// `type` is a Type. Of `flags` the kind of window is not taken: it is a frameless dialog.
+    /// `type` is a Type. The kind of window in `flags` is ignored: it is always a frameless dialog.
     UTIL_Dialog(int type, bool modal, QWidget* parent = nullptr, const char* name = nullptr,
                 Qt::WindowFlags flags = {});
     ~UTIL_Dialog() override;
 
-    /// Sets the title in the card and the window's; an empty one is not shown.
+    /// Sets the title of the card and of the window. An empty title is not shown.
     void setDlgTitle(const QString& title);
     /// The title.
     [[nodiscard]] QString dlgTitle() const;
 
-    /// A rectangle of the screen in this dialog's coordinates.
+    /// Converts a rectangle in global coordinates to this dialog's coordinates.
     [[nodiscard]] QRect fromGlobal(const QRect& global) const;
 
     /// Puts the dialog in its place, and the veil over the window, before it is shown.
@@ -48,25 +49,27 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    /// What the derived class puts its parts on, in the dialog's coordinates: the dialog itself, or what
-    /// scrolls above the soft keys of a standard dialog where the screen is too low for it.
+    /// The widget on which the derived class puts its parts, in the dialog's coordinates. It is the dialog
+    /// itself; in a standard dialog on a screen that is too low for it, it is the area that scrolls above
+    /// the soft keys.
     [[nodiscard]] QWidget* content() const { return m_content; }
     /// The area of the screen on which the dialog opens.
     [[nodiscard]] QRect screenArea() const;
 
-    /// A soft key in the lower left corner, or the right one: the first or second by its
-    /// UTIL_PushButton::Flag. For standard dialogs. The dialog owns it.
+    /// Makes a soft key, in the lower left corner for UTIL_PushButton::FirstSoftKey, in the lower right for
+    /// SecondSoftKey. For standard dialogs. The dialog owns it.
     UTIL_PushButton* createSoftKey(const QString& text, int flags);
 
     void paintEvent(QPaintEvent* event) override;
-    /// Gives the dialog the size that suits its window, whose size has changed; the base leaves it alone.
+    /// Adapts the dialog's size to that of its window, which has changed. The base class does nothing.
     virtual void fit() {}
-    /// Whether the parent's window is veiled while the dialog is open: when the dialog is modal.
+    /// Whether the parent's window is veiled while the dialog is open. The base class: if the dialog is
+    /// modal.
     [[nodiscard]] virtual bool isVeiling() const;
 
 private:
     [[nodiscard]] QWidget* owner() const;
-    /// The window over which the dialog opens; null: there is none.
+    /// The window over which the dialog opens; null if there is none.
     [[nodiscard]] QWidget* anchor() const;
     void place();
     void makeLower();

@@ -8,7 +8,7 @@ namespace {
 constexpr int uprightPicture = 1;
 constexpr int mostOrientation = 8;
 
-/// Numbers in the order of bytes that the note begins with; 0 behind its end.
+/// Reads numbers in the byte order that the first bytes give; 0 beyond the end.
 class Numbers
 {
 public:
@@ -66,7 +66,7 @@ QImage exif::upright(const QImage& image, int orientation)
     {
         bool mirrors;
         bool flips;
-        bool rotates; ///< clockwise by a quarter, afterwards
+        bool rotates; ///< then turns it clockwise by a quarter
     };
     constexpr Turn turns[mostOrientation] = {
         {false, false, false}, {true, false, false}, {true, true, false}, {false, true, false},

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int pauseTime = 10; // milliseconds
 
-/// Whether the name still leads to the open file.
+/// Whether the name still refers to the open file.
 bool isAt(const QByteArray& fileName, int handle)
 {
     struct stat named = {};
@@ -52,7 +52,7 @@ bool UTIL_FileLock::lock(int milliseconds)
 UTIL_FileLock::Attempt UTIL_FileLock::attempt()
 {
     constexpr mode_t everybodyMayTry = 0644;
-    constexpr int waitForNobody = O_NONBLOCK; // a pipe has another end
+    constexpr int waitForNobody = O_NONBLOCK; // opening a pipe would wait for its other end
     m_handle = open(m_fileName.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | waitForNobody,
                     everybodyMayTry);
     if (m_handle < 0)
@@ -61,7 +61,7 @@ UTIL_FileLock::Attempt UTIL_FileLock::attempt()
         release();
         return Attempt::Busy;
     }
-    // Its last holder may have removed it between the two steps: then the lock is on nothing.
+    // The last holder may have removed the file between the two steps; then this lock guards nothing.
     if (isAt(m_fileName, m_handle))
         return Attempt::Locked;
     release();

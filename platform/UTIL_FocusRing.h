@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// The focus ring around a widget that has no room for one inside: a sibling a little larger, which takes
-/// no part in anything.
+/// The focus ring around a widget that has no room for one inside. It is a slightly larger sibling of that
+/// widget, and takes no input.
 class UTIL_FocusRing : public QWidget
 {
     Q_OBJECT

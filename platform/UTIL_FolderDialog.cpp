@@ -19,14 +19,14 @@ namespace {
 using Size = UTIL_Skin::Size;
 
 constexpr QSize least(Size::screenWidth, 200);
-constexpr int lowest = 260;     ///< with a line for the title
-constexpr QSize most(560, 480); ///< of a window that is larger the rest is for what lies behind
+constexpr int lowest = 260;     ///< the least height with a line for the title
+constexpr QSize most(560, 480); ///< in a larger window the dialog leaves the rest uncovered
 
-/// Where the last dialog of a kind was left.
+/// The place where the last dialog of a kind was left.
 struct Place
 {
     QString folder;
-    QString first; ///< the first entry to be seen
+    QString first; ///< the first visible entry
 };
 
 Place& placeOf(const QObject& dialog)
@@ -209,7 +209,7 @@ void UTIL_FolderDialog::sortBy(Order order)
     const QModelIndex index = m_folder->find(current);
     if (!index.isValid())
         return choose({});
-    m_isSorting = true; // the choice is the one that it was
+    m_isSorting = true; // sorting keeps the choice
     m_view->setCurrentIndex(index);
     m_isSorting = false;
     m_view->scrollTo(index);

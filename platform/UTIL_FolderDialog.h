@@ -9,12 +9,12 @@ class UTIL_PictureFolder;
 class UTIL_PictureView;
 class UTIL_PushButton;
 
-/// What the dialogs for picking and for naming a picture file have in common: a title, a folder that can be
-/// gone through, in an order that the user chooses, and the two keys. It fills the window that it belongs
-/// to, or the screen of the device.
+/// The common base of the dialogs for picking and for naming a picture file: a title, a folder to browse in
+/// an order that the user chooses, and two keys. It fills the window that it belongs to, or the device's
+/// screen.
 ///
-/// While the program runs, a dialog of the same kind that begins in the folder where the last one was left
-/// shows the same place in it.
+/// While the program runs, each kind of dialog remembers its place: the next dialog that begins in the
+/// folder where the last one was left shows the same entries.
 class UTIL_FolderDialog : public UTIL_PictureDialog
 {
     Q_OBJECT
@@ -33,14 +33,14 @@ protected:
     [[nodiscard]] UTIL_PictureFolder& folder() const { return *m_folder; }
     [[nodiscard]] UTIL_PictureView& view() const { return *m_view; }
     [[nodiscard]] UTIL_PushButton& confirmKey() const { return *m_confirmKey; }
-    /// Puts a widget between the folder and the keys.
+    /// Adds a widget between the folder and the keys.
     void addBelowFolder(QWidget* widget);
 
-    /// Goes to a folder and lets it be seen.
+    /// Goes to a folder and shows it.
     virtual void enter(const QString& folder);
-    /// A picture became the current one; none of the folder's when it is empty.
+    /// A picture became the current one; an empty path means that none in the folder is.
     virtual void choose(const QString& path) = 0;
-    /// The confirm key, or a picture opened.
+    /// The confirm key was pressed, or a picture was opened.
     virtual void confirm() = 0;
     void fit() override;
 

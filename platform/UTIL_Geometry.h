@@ -4,17 +4,17 @@
 
 class QWidget;
 
-/// Where the parts of a dialog lie. The rectangles are in global coordinates, for the dialog at its present
-/// place; UTIL_Dialog::fromGlobal() brings them into the dialog.
+/// The places of a dialog's parts. The rectangles are in global coordinates, for the dialog's present
+/// position; UTIL_Dialog::fromGlobal() converts them to the dialog's.
 ///
-/// The soft keys lie side by side along the lower edge, the first on the left; what is between them and the
-/// title takes the rest of the height.
+/// The soft keys lie side by side along the lower edge, the first on the left. The content between them and
+/// the title takes the rest of the height.
 class UTIL_Geometry
 {
 public:
     explicit UTIL_Geometry(const QWidget& dialog) : m_dialog(dialog) {}
 
-    /// The size of a dialog with title, content and soft keys; it fits the 240 × 320 of the screen.
+    /// The size of a dialog with title, content and soft keys, which fits a screen of 240 × 320.
     [[nodiscard]] static QSize dialogSize();
 
     [[nodiscard]] QRect title() const;

@@ -44,7 +44,7 @@ public:
     {
     }
 
-    /// Comes to the frame's pixels; false when there is none.
+    /// Reads up to the frame's pixels; false when there is no frame.
     bool begin()
     {
         GifRecordType type = UNDEFINED_RECORD_TYPE;
@@ -60,8 +60,8 @@ public:
     [[nodiscard]] QSize screen() const { return m_screen; }
     [[nodiscard]] bool isClear() const { return m_transparentIndex >= 0; }
 
-    /// Hands each row of the screen to `take`, from the top. What lies beside the frame has the colour of
-    /// the ground, which is transparent where anything is, and so has what is missing. False when it was
+    /// Hands each row of the screen to `take`, from the top. Pixels beside the frame and missing ones have
+    /// the background colour, or are transparent if the picture has transparent pixels. False when it was
     /// cancelled.
     template <typename Take>
     bool eachRow(const Take& take)

@@ -4,16 +4,16 @@
 
 class UTIL_PictureSource;
 
-/// The first frame of a GIF, for pictures that are too large for the toolkit's own reader. As there, what a
-/// damaged file has of it is the picture, which is null when there is no frame at all or the source was
-/// cancelled. It has the size of the screen that the header gives.
+/// Reads the first frame of a GIF that is too large for Qt's own reader. As there, a damaged file gives the
+/// part of the frame that it holds. The picture is null when there is no frame at all or the source was
+/// cancelled. Its size is that of the screen that the header gives.
 namespace gif {
 
-/// The picture as it is: QImage::Format_ARGB32 where something is transparent, else Format_RGB32.
+/// The whole picture: QImage::Format_ARGB32 if something is transparent, else Format_RGB32.
 [[nodiscard]] QImage read(UTIL_PictureSource& source);
 
-/// The same laid on `background` and scaled down to `target`, which is no greater than the screen in either
-/// direction and not empty. Only an interlaced frame is in memory as a whole, at a byte a pixel.
+/// The same laid on `background` and scaled down to `target`, which is not empty and no greater than the
+/// screen in either direction. Only an interlaced frame is in memory as a whole, at one byte per pixel.
 [[nodiscard]] QImage readReduced(UTIL_PictureSource& source, QSize target, QRgb background);
 
 } // namespace gif

@@ -131,7 +131,7 @@ private:
 
     UTIL_GifParser& m_parser;
     GifFileType* m_gif;
-    Frame m_next; ///< what is known of the frame to come
+    Frame m_next; ///< what is known about the next frame
 };
 
 UTIL_GifParser::UTIL_GifParser(const QString& fileName, int scope) : m_fileName(fileName), m_scope(scope) {}

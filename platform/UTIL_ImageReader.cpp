@@ -20,7 +20,8 @@
 
 namespace {
 
-/// Up to here what is no JPEG is decoded as it is: 16 MB at four bytes a pixel.
+/// Pictures up to this many pixels, other than JPEGs, are decoded at full size: 16 MB at four bytes per
+/// pixel.
 constexpr qint64 mostPixelsAtOnce = 4'000'000;
 
 qint64 area(QSize size)
@@ -65,7 +66,7 @@ bool UTIL_ImageReader::isSame(const QImage& left, const QImage& right)
 {
     if (left.size() != right.size())
         return false;
-    // Row by row: whole copies in a format that holds every colour would be great.
+    // Row by row: whole copies in a format that holds every colour would be large.
     const auto row = [](const QImage& image, int y) {
         return image.copy(0, y, image.width(), 1).convertToFormat(QImage::Format_RGBA64);
     };

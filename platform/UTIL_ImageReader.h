@@ -13,11 +13,12 @@ class QIODevice;
 struct UTIL_PictureProbe;
 class UTIL_PictureSource;
 
-/// Reads a picture, from a file or from memory, the right way up as its camera noted it: PNG, JPEG, GIF,
-/// BMP or WBMP, and what else the host allows. The pixel limit is held against the header, before a pixel
-/// is decoded; a file that stops half way or is made to exhaust the reader is a failure like any other.
-/// Nothing is logged, and nothing of the program's is changed or depended on. For use in the GUI thread,
-/// and in any other after setAllowance().
+/// Reads a picture from a file or from memory: PNG, JPEG, GIF, BMP, WBMP, and other formats that the host
+/// allows. The picture comes the right way up, as its camera noted.
+///
+/// The header is checked against the pixel limit before a pixel is decoded. A file that is cut short, or
+/// made to exhaust the reader, is a failure like any other. Nothing is logged, and no setting of the
+/// program is changed or relied on. For the GUI thread; for any other thread after setAllowance().
 class UTIL_ImageReader
 {
 public:
@@ -27,20 +28,20 @@ public:
         Failed = 1,      ///< missing, unreadable, damaged, or not of the format asked for
     };
 
-    /// What UTIL_Platform allows to be read.
+    /// The limits that UTIL_Platform sets for reading.
     struct Allowance
     {
         qint64 pixels = 0; ///< the most that a picture may have
         QList<QByteArray> otherFormats;
 
-        /// Asked for in the GUI thread.
+        /// Asks the platform; in the GUI thread only.
         [[nodiscard]] static Allowance ofPlatform();
     };
 
-    /// The size that a picture of the given size is wanted in; no greater in either direction.
+    /// Gives the wanted size of a picture of the given size; no greater in either direction.
     using Reduction = std::function<QSize(QSize)>;
 
-    /// `format` names the one format to accept ("PNG"); null recognises the picture by its content,
+    /// `format` names the only format to accept ("PNG"). Null recognises the picture by its content,
     /// whatever its name.
     explicit UTIL_ImageReader(const QString& fileName, const char* format = nullptr);
     [[nodiscard]] static UTIL_ImageReader fromData(const QByteArray& data, const char* format = nullptr);
@@ -48,21 +49,22 @@ public:
     /// The picture of a file in one call; null when it cannot be read.
     [[nodiscard]] static QPixmap pixmap(const QString& fileName, const char* format = nullptr);
 
-    /// Whether two pictures have the same pixels, in all of their colour, whatever their formats.
+    /// Whether two pictures have the same pixels, compared in full colour depth, whatever their formats.
     [[nodiscard]] static bool isSame(const QImage& left, const QImage& right);
 
-    /// Asked again and again while the file is read; reading fails as soon as it says true.
+    /// `isCancelled` is called again and again while the file is read. Reading fails as soon as it returns
+    /// true.
     void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
-    /// What holds instead of the platform's.
+    /// Replaces the platform's allowance.
     void setAllowance(const Allowance& allowance) { m_allowance = allowance; }
-    /// The most pixels that may be gone over to read the picture, those of every pass counted; above it is
-    /// too large. A JPEG in one pass that comes reduced costs little and is never too large.
+    /// The most pixels that reading may go over, counting those of every pass. A picture that needs more is
+    /// too large. A JPEG in one pass that is read reduced costs little and is never too large.
     void setWorkLimit(qint64 pixels) { m_workLimit = pixels; }
     /// "16" asks for a picture of 16 bits a pixel; anything else asks for nothing.
     void setParameters(const char* parameters) { m_parameters = parameters; }
-    /// Where reading at the wanted size saves memory (JPEG, and whatever has millions of pixels), the
-    /// picture comes in exactly that size, each pixel the mean of what it covers, laid on `background` (a
-    /// PNG always on white); otherwise in its own.
+    /// Reads the picture in the wanted size if that saves memory: for JPEG, and for any picture with
+    /// millions of pixels. Each pixel is then the mean of those that it covers, laid on `background` (a PNG
+    /// always on white). Any other picture comes in its own size.
     void setReduction(const Reduction& reduction, QRgb background = 0xffffffff);
 
     /// Reads the picture; true when image() holds it.
@@ -72,7 +74,7 @@ public:
     [[nodiscard]] const QImage& image() const { return m_image; }
     /// The size of the picture in the file, upright; invalid when it was not found.
     [[nodiscard]] QSize sourceSize() const { return m_sourceSize; }
-    /// Whether image() is all that the file holds: its only frame, not scaled, in no fewer colours.
+    /// Whether image() is everything that the file holds: its only frame, not scaled, in no fewer colours.
     [[nodiscard]] bool isWhole() const { return m_isWhole; }
 
 private:

@@ -4,9 +4,9 @@
 
 #include <vector>
 
-/// How the rows of a list box are divided: fields from left to right, written as "%T<width>" for a text and
-/// "%R<width>" for the radio mark, in pixels; "%T5%R20%T5%T189" has its mark in field 1. Reading ends at
-/// the first thing that is not such a field.
+/// The division of a list box's rows into fields, from left to right. "%T<width>" is a text and "%R<width>"
+/// the radio mark, with widths in pixels; "%T5%R20%T5%T189" has its mark in field 1. Reading ends at the
+/// first thing that is not such a field.
 class UTIL_ItemLayout
 {
 public:

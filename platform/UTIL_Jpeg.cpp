@@ -16,14 +16,15 @@
 
 namespace {
 
-/// How many pixels of the decoder's go into one of the result, at least, where it leaves out detail itself.
+/// The least number of the decoder's pixels per side that go into one of the result when the decoder itself
+/// reduces.
 constexpr int leastPixelsMerged = 8;
 
 constexpr J_COLOR_SPACE rgbSpace =
     QSysInfo::ByteOrder == QSysInfo::LittleEndian ? JCS_EXT_BGRA : JCS_EXT_ARGB; // the bytes of a QRgb
 
-/// The library's structures, and its way of reporting errors: a jump back into attempt(). Nothing of C++
-/// is on the stack between the two.
+/// The library's structures, and its way of reporting errors: a jump back into attempt(). No C++ objects
+/// are on the stack between the two.
 class Decoder : private UTIL_JpegBlocks
 {
 public:
@@ -51,8 +52,8 @@ public:
     Decoder(const Decoder&) = delete;
     Decoder& operator=(const Decoder&) = delete;
 
-    /// Comes to the first row of the picture, in its own size or, where that is still enough for `target`,
-    /// in a smaller one. False when the file is damaged, here and below.
+    /// Starts decoding, in the picture's own size or in a smaller one that still suffices for `target`.
+    /// False when the file is damaged; so are the functions below.
     bool begin(QSize target = {})
     {
         return attempt([this, target] {
@@ -85,7 +86,7 @@ public:
         return true;
     }
 
-    /// After the last row: whether all of it was in the file.
+    /// After the last row: whether the file held all of the picture.
     bool end()
     {
         const bool isComplete = hasAllComponents();
@@ -101,7 +102,7 @@ private:
     }
     static Decoder& of(j_decompress_ptr jpeg) { return of(reinterpret_cast<j_common_ptr>(jpeg)); }
 
-    /// `step` has no variables that need a destructor.
+    /// `step` must have no variables that need a destructor.
     template <typename Step>
     bool attempt(const Step& step)
     {
@@ -117,7 +118,7 @@ private:
         std::longjmp(of(jpeg).m_failure, 1);
     }
 
-    /// Bytes too many between the parts of a file are common and do no harm; what tells of lost data does.
+    /// Surplus bytes between the parts of a file are common and harmless. Warnings about lost data count.
     static void hear(j_common_ptr jpeg, int level)
     {
         constexpr std::array losses{JWRN_ARITH_BAD_CODE, JWRN_HIT_MARKER, JWRN_HUFF_BAD_CODE,
@@ -133,7 +134,7 @@ private:
             fail(reinterpret_cast<j_common_ptr>(&m_jpeg));
     }
 
-    /// Less than nothing for an error: no exception may pass through the library.
+    /// A negative number means an error, because no exception may pass through the library.
     qint64 refill() noexcept
     {
         try {
@@ -188,7 +189,7 @@ private:
         return scale;
     }
 
-    /// Inks are kept as how much paper shows, in four bytes as QRgb is.
+    /// Each ink is stored as the amount of paper that shows, in four bytes like a QRgb.
     void mixInks(uchar* row) const
     {
         for (uchar* pixel = row; pixel != row + qsizetype(m_jpeg.output_width) * 4; pixel += 4) {

@@ -4,17 +4,17 @@
 
 class UTIL_PictureSource;
 
-/// JPEG as its own library reads it: what the toolkit's reader loses of a damaged file it tells only the
-/// log. A picture comes as it lies in the file, and null when any of its data is missing or the source was
-/// cancelled; an end mark may be missing.
+/// Reads JPEG with libjpeg. Qt's reader would report lost data of a damaged file only in the log. A picture
+/// is not turned. It is null when any of its data is missing or the source was cancelled; only the end mark
+/// may be missing.
 namespace jpeg {
 
 /// The whole picture: QImage::Format_Grayscale8 or Format_RGB32.
 [[nodiscard]] QImage read(UTIL_PictureSource& source);
 
-/// The picture scaled down to `target`, which is no greater than the picture in either direction and not
-/// empty; each pixel is the mean of what it covers. Only rows of the picture are in memory, and of a
-/// progressive one what its file holds.
+/// The picture scaled down to `target`, which is not empty and no greater than the picture in either
+/// direction. Each pixel is the mean of those that it covers. Only some rows of the picture are in memory;
+/// of a progressive one, also the data of its file.
 [[nodiscard]] QImage readReduced(UTIL_PictureSource& source, QSize target);
 
 } // namespace jpeg

@@ -11,7 +11,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// The library's own routines load sixteen bytes at once.
+/// The library's routines load sixteen bytes at once.
 struct alignas(32) Block
 {
     JBLOCK coefficients;
@@ -20,8 +20,8 @@ struct alignas(32) Block
 /// Stands before a coefficient of two bytes.
 constexpr std::uint8_t isLong = 0x80;
 
-/// Which coefficients are not zero, a bit each, and these in a byte where they fit into one: most blocks
-/// have few, and small ones.
+/// Packs a block: one bit per coefficient says whether it is not zero; then come those coefficients, in one
+/// byte each if they fit. Most blocks have few, and small ones.
 void pack(const Block& block, Bytes& packed)
 {
     constexpr int each = sizeof(std::uint64_t) / sizeof(JCOEF);
@@ -53,7 +53,7 @@ void pack(const Block& block, Bytes& packed)
     packed.resize(size_t(to - packed.data()));
 }
 
-/// Into a block of zeros; gives where the next one begins.
+/// Unpacks into a block of zeros. Returns where the next packed block begins.
 const std::uint8_t* unpack(const std::uint8_t* from, Block& block)
 {
     std::uint64_t places = 0;
@@ -73,8 +73,8 @@ const std::uint8_t* unpack(const std::uint8_t* from, Block& block)
 
 } // namespace
 
-/// The blocks of one component: some rows of them at hand, all others packed. A row that was never written
-/// is all zeros.
+/// The blocks of one component: some rows are in use, all others packed. A row that was never written is
+/// all zeros.
 class UTIL_JpegBlocks::Array
 {
 public:
@@ -85,7 +85,7 @@ public:
             m_rows.push_back(&m_window[size_t(i) * blocks].coefficients);
     }
 
-    /// Null when there is no memory left. Good until the next call.
+    /// Null when there is no memory left. Valid until the next call.
     JBLOCKARRAY rows(JDIMENSION first, JDIMENSION count, bool isWritten) noexcept
     {
         try {

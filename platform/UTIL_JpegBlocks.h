@@ -7,9 +7,9 @@
 #include <memory>
 #include <vector>
 
-/// Where a JPEG that comes in several passes is put together: the coefficients of all its blocks, which the
-/// library would keep in three bytes a pixel and more. Here the rows of blocks that are not at hand are
-/// packed into about what they take in the file.
+/// Holds the coefficients of a JPEG that comes in several passes, while it is put together. The library
+/// itself would need three bytes per pixel or more. Here the rows of blocks that are not in use are packed,
+/// and take about as much as in the file.
 class UTIL_JpegBlocks
 {
 public:
@@ -18,7 +18,8 @@ public:
     UTIL_JpegBlocks(const UTIL_JpegBlocks&) = delete;
     UTIL_JpegBlocks& operator=(const UTIL_JpegBlocks&) = delete;
 
-    /// From now on serves `jpeg`, whose structures were just created and whose client_data points here.
+    /// Serves `jpeg` from now on. Its structures were just created, and its client_data points to this
+    /// object.
     void serve(jpeg_decompress_struct& jpeg);
 
 private:

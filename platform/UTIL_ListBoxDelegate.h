@@ -4,8 +4,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Paints the rows of a list box: their fields, the radio mark, and the row that is under the finger or has
-/// the keyboard.
+/// Paints the rows of a list box: their fields, the radio mark, and the highlight of the row that is under
+/// the finger or has the keyboard.
 class UTIL_ListBoxDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -41,9 +41,9 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
 {
     setAccessibleName(text);
     setWindowTitle(text);
-    if (timeout && buttons.isEmpty()) { // a modal dialog never hears of a tap beside it
+    if (timeout && buttons.isEmpty()) { // a modal dialog gets no event for a tap beside it
         setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
-        setAttribute(Qt::WA_NoMouseReplay); // it does that itself, and when exec() is over
+        setAttribute(Qt::WA_NoMouseReplay); // the box passes taps on itself, when exec() is over
     }
 
     auto* column = new QVBoxLayout(this);
@@ -79,7 +79,7 @@ UTIL_MessageBox::UTIL_MessageBox(QWidget* parent, const QString& icon, const QSt
     setFixedSize(Size::dialogWidth, column->sizeHint().height());
 }
 
-// On a screen too low for the text: the keys stay, the text scrolls.
+// For a screen that is too low for the text: the keys stay, the text scrolls.
 void UTIL_MessageBox::scroll(UTIL_WrapLabel* label, QVBoxLayout* column)
 {
     const int keys = column->sizeHint().height() - label->height();

@@ -14,15 +14,15 @@
 class QVBoxLayout;
 class UTIL_WrapLabel;
 
-/// A message with a picture above its text, and buttons below: a question that waits for one of its
-/// buttons, or a timed message that closes by itself.
+/// A box with a picture, a text below it, and buttons. It is a question that waits for one of its buttons,
+/// or a timed message that closes by itself.
 ///
-/// Escape and closing press the button named "Cancel", in English or in the user's language, and do nothing
-/// in a box without one. A timed box is also tapped away, by a tap anywhere on it, Return or Space.
+/// Escape and closing press the button named "Cancel", in English or in the user's language; they do
+/// nothing in a box without one. A tap anywhere on a timed box, Return or Space also closes it.
 ///
-/// A timed box without a button is in nobody's way: a tap or stroke beside it takes it away when it ends,
-/// and is then made on what lies there, and so is any other key in the window behind. Both come when exec()
-/// has returned.
+/// A timed box without a button does not get in the user's way. A tap or stroke beside it closes it on
+/// release, and is then made on what lies there. Any other key closes it and goes to the window behind.
+/// Both happen when exec() has returned.
 class UTIL_MessageBox : public UTIL_Dialog
 {
     Q_OBJECT
@@ -30,13 +30,13 @@ class UTIL_MessageBox : public UTIL_Dialog
     Q_PROPERTY(int timeout READ timeout CONSTANT)
 
 public:
-    /// `icon` is a file name for RES_ICON_Reader. `timeout` is in seconds of UTIL_Platform; without it the
-    /// box is a question and stays.
+    /// `icon` is a file name for RES_ICON_Reader. `timeout` is in seconds, each as long as
+    /// UTIL_Platform::timeoutSecond() says; without it the box is a question and stays.
     UTIL_MessageBox(QWidget* parent, const QString& icon, const QString& text, const QStringList& buttons,
                     std::optional<int> timeout = {});
 
-    /// Runs a question and returns the index of the button pressed. Where the program ends before an
-    /// answer, or the parent is deleted, it is "Cancel", else the last button.
+    /// Runs a question and returns the index of the button pressed. If the program ends before an answer,
+    /// or the parent is deleted, that is "Cancel"; the last button in a box without one.
     [[nodiscard]] static int ask(QWidget* parent, const QString& icon, const QString& text,
                                  const QStringList& buttons);
     /// Runs a timed message.
@@ -79,8 +79,8 @@ private:
     std::optional<int> m_timeout;
     int m_answer;
     QPointer<QWindow> m_elsewhere;    // where a pointer is down beside the box
-    std::vector<Kept> m_kept;         // what it has done there since
-    std::unique_ptr<QKeyEvent> m_key; // nor this one
-    QWidget* m_scrollBar = nullptr;   // where the text does not fit the screen
+    std::vector<Kept> m_kept;         // the pointer's events there since
+    std::unique_ptr<QKeyEvent> m_key; // the key that goes to the window behind
+    QWidget* m_scrollBar = nullptr;   // only if the text does not fit the screen
     int m_cancel = -1;                // the index of the button named "Cancel"
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// All that are open, the topmost last.
+/// All open overlays, the topmost last.
 QList<const UTIL_Overlay*>& overlays()
 {
     static QList<const UTIL_Overlay*> list;
@@ -44,7 +44,7 @@ UTIL_Overlay::UTIL_Overlay(QDialog& dialog, QWidget& window)
         connect(m_parent, &QObject::destroyed, this, &UTIL_Overlay::endWithParent);
 }
 
-/// As everywhere else: who asked has gone, and the dialog with it.
+/// As everywhere else, a dialog goes with its parent.
 void UTIL_Overlay::endWithParent()
 {
     m_parent = nullptr;
@@ -70,7 +70,7 @@ void UTIL_Overlay::centre()
     m_dialog.move(std::max(card.left(), 0), std::max(card.top(), 0));
 }
 
-// The toolkit does both for dialogs that are windows.
+// Qt does both for dialogs that are windows.
 void UTIL_Overlay::takeKeyboard()
 {
     const auto keys = m_dialog.findChildren<QPushButton*>();
@@ -111,7 +111,7 @@ bool UTIL_Overlay::eventFilter(QObject* watched, QEvent* event)
         return false;
     if (isAbove(static_cast<const QWidget&>(*watched)))
         return false;
-    // What the dialog leaves of a key comes here, too: taken, it runs no shortcut.
+    // Keys that the dialog ignores come here, too. They are accepted, so that they run no shortcut.
     event->setAccepted(event->isInputEvent());
     return true;
 }

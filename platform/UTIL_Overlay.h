@@ -6,10 +6,10 @@
 class QDialog;
 class QWidget;
 
-/// Shows a dialog as a part of the window that it belongs to, for displays that let no program say where
-/// its windows go. Until the overlay ends, the dialog is a child of that window and modal to the whole
-/// program: other widgets get neither pointer nor keys, shortcuts rest and the window does not close.
-/// Pop-ups and dialogs that open over the dialog work as ever.
+/// Shows a dialog as a part of the window that it belongs to, for displays that let no program place its
+/// windows. Until the overlay ends, the dialog is a child of that window and modal to the whole program:
+/// other widgets get neither pointer nor keys, shortcuts do nothing, and the window does not close. Pop-ups
+/// and dialogs that open over the dialog work as usual.
 class UTIL_Overlay : public QObject
 {
     Q_OBJECT
@@ -18,13 +18,13 @@ public:
     /// Whether the display is of that kind and the dialog fits into the window.
     [[nodiscard]] static bool suits(const QDialog& dialog, const QWidget* window);
 
-    /// Moves the dialog, which is hidden and outlives the overlay, into the middle of the window and gives
-    /// it the keyboard.
+    /// Moves the dialog into the middle of the window and gives it the keyboard. The dialog is hidden at
+    /// this time, and outlives the overlay.
     UTIL_Overlay(QDialog& dialog, QWidget& window);
-    /// Gives the keyboard back to who had it.
+    /// Gives the keyboard back to the widget that had it.
     ~UTIL_Overlay() override;
 
-    /// Gives the dialog, hidden again, its own parent back; not in the dialog's destructor.
+    /// Gives the dialog its own parent back, once it is hidden again. Not for the dialog's destructor.
     void giveBack();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -39,5 +39,5 @@ private:
     QPointer<QWidget> m_window;
     QPointer<QWidget> m_parent; ///< the dialog's own
     Qt::WindowFlags m_flags;    ///< the dialog's own
-    QPointer<QWidget> m_focus;  ///< in the window, before
+    QPointer<QWidget> m_focus;  ///< had the keyboard in the window before
 };

@@ -17,7 +17,7 @@ void UTIL_PickDialog::choose(const QString& path)
     confirmKey().setEnabled(view().currentIndex().isValid());
 }
 
-/// On a folder it goes there: nothing else could be meant.
+/// On a folder the key goes there: nothing else could be meant.
 void UTIL_PickDialog::confirm()
 {
     const QModelIndex index = view().currentIndex();

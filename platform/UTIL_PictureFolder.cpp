@@ -13,10 +13,10 @@
 
 namespace {
 
-/// As people sort: whatever the case, and 9 before 10.
+/// The order in which people sort: whatever the case, and 9 before 10.
 QStringList sorted(const QStringList& names)
 {
-    // The C locale knows no numbers.
+    // The C locale would sort 10 before 9.
     QCollator collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
     collator.setNumericMode(true);
     collator.setCaseSensitivity(Qt::CaseInsensitive);
@@ -33,7 +33,7 @@ QStringList sorted(const QStringList& names)
     return result;
 }
 
-/// Of the same moment by name.
+/// Files of the same moment are sorted by name.
 QStringList newestFirst(const QFileInfoList& files)
 {
     QHash<QString, qint64> times;

@@ -5,8 +5,8 @@
 
 #include <QAbstractListModel>
 
-/// A folder as a model: its sub-folders by name, then those of its files that match the patterns, by name
-/// or the newest first. Texts are the names, decorations the thumbnails.
+/// A folder as a model: its sub-folders by name, then its files that match the patterns, by name or the
+/// newest first. The texts are names, the decorations are thumbnails.
 class UTIL_PictureFolder : public QAbstractListModel
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class UTIL_PictureFolder : public QAbstractListModel
 public:
     enum Role : int {
         IsFolderRole = Qt::UserRole,
-        IsMadeRole, ///< whether the decoration is what it will be; without one the file is no picture then
+        IsMadeRole, ///< whether the decoration is final; if it is and there is none, the file is no picture
     };
 
     explicit UTIL_PictureFolder(const QStringList& patterns, QObject* parent = nullptr);
@@ -23,11 +23,11 @@ public:
     void setOrder(UTIL_PictureDialog::Order order);
     /// An absolute path.
     [[nodiscard]] QString folder() const { return m_folder; }
-    /// False for one that is there and does not let itself be looked into.
+    /// False for a folder that exists but cannot be read.
     [[nodiscard]] bool isReadable() const { return m_isReadable; }
     [[nodiscard]] QString path(const QModelIndex& index) const;
     [[nodiscard]] bool isFolder(const QModelIndex& index) const;
-    /// The row of an entry; invalid when there is none of this name.
+    /// The row of an entry; invalid if no entry has this name.
     [[nodiscard]] QModelIndex find(const QString& name) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -41,7 +41,7 @@ private:
     UTIL_PictureDialog::Order m_order = UTIL_PictureDialog::ByName;
     QString m_folder;
     bool m_isReadable = true;
-    QStringList m_names; ///< the folders first
+    QStringList m_names; ///< sub-folders first
     int m_folderCount = 0;
-    mutable UTIL_Thumbnails m_thumbnails; ///< begins to make what is asked for
+    mutable UTIL_Thumbnails m_thumbnails; ///< starts making thumbnails when data() asks for them
 };

@@ -14,9 +14,9 @@ namespace {
 
 using Probe = UTIL_PictureProbe;
 
-/// A progressive photograph is sent in about ten passes; each costs a walk over the whole picture.
+/// A progressive photograph comes in about ten passes; each one goes over the whole picture.
 constexpr int mostPasses = 64;
-/// Of all passes together: about a second's work.
+/// The most pixels of all passes together: about a second's work.
 constexpr qint64 mostPixelsPassed = 1'000'000'000;
 
 /// Reads numbers and skips bytes of a device, forwards only, from its start.
@@ -28,7 +28,7 @@ public:
         m_device.seek(0);
     }
 
-    /// Nothing at the end of the file, here and below.
+    /// Nothing at the end of the file; the same holds for the functions below.
     std::optional<quint8> byte()
     {
         if (m_at == m_filled && !fill())
@@ -44,7 +44,7 @@ public:
         return bytes;
     }
 
-    /// An unsigned number in the order of bytes that `decode` knows.
+    /// An unsigned number in the byte order of `decode`.
     template <typename Number>
     std::optional<Number> number(Number (*decode)(const void*))
     {
@@ -67,7 +67,7 @@ public:
         return m_device.seek(target);
     }
 
-    /// Goes on to behind the next byte of this value.
+    /// Skips up to and including the next byte of this value.
     bool skipBehind(quint8 value)
     {
         for (;;) {
@@ -94,7 +94,7 @@ private:
     QIODevice& m_device;
     QByteArray m_buffer;
     qsizetype m_filled = 0; ///< how much of the buffer holds bytes of the device
-    qsizetype m_at = 0;     ///< the next of them
+    qsizetype m_at = 0;     ///< the index of the next one
 };
 
 QSize validSize(qint64 width, qint64 height)
@@ -104,8 +104,8 @@ QSize validSize(qint64 width, qint64 height)
                                                                       : QSize();
 }
 
-/// Of the chunks only the critical ones and the transparency are kept: what else there may be (texts,
-/// profiles, previews) is not shown, and may be packed a thousandfold.
+/// Keeps only the critical chunks and the transparency. All others (texts, profiles, previews) are not
+/// shown, and may unpack to a thousand times their size.
 void probePng(Bytes& bytes, Probe& probe)
 {
     constexpr int frame = 4 + 4 + 4; // length, name and checksum around a chunk's data
@@ -142,8 +142,8 @@ void probePng(Bytes& bytes, Probe& probe)
     }
 }
 
-/// The marker behind the bytes up to the next one; nothing at the end of the file. A stuffed zero and the
-/// restart markers belong to a pass's data.
+/// The next marker; nothing at the end of the file. A stuffed zero and the restart markers belong to the
+/// data of a pass.
 std::optional<quint8> nextMarker(Bytes& bytes)
 {
     while (bytes.skipBehind(0xff)) {
@@ -205,7 +205,7 @@ void probeJpeg(Bytes& bytes, Probe& probe)
                   pixels <= mostPixelsPassed / probe.passes;
 }
 
-/// The frames may reach over the screen that the header gives, and decoders go by either.
+/// The frames may be larger than the screen that the header gives, and decoders go by either.
 void probeGif(Bytes& bytes, Probe& probe)
 {
     constexpr int hasColors = 0x80;
@@ -261,11 +261,11 @@ void probeBmp(Bytes& bytes, Probe& probe)
         return;
     const qint64 stride = (width * depth + 31) / 32 * 4;
     const qint64 room = fileSize - offset;
-    // By division: there are headers whose product no number would hold.
+    // Divides, because the product of some headers' numbers would overflow.
     probe.sound = probe.hasRuns ? packedSize <= room : room >= 0 && stride <= room / qAbs(height);
 }
 
-/// Two zeros begin many files: it is one only if it ends where its header says.
+/// Many files begin with two zeros. This one is a WBMP only if it ends where its header says.
 void probeWbmp(Bytes& bytes, Probe& probe)
 {
     constexpr int mostBytes = 5; // of seven bits

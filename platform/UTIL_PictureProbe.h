@@ -6,9 +6,9 @@
 
 class QIODevice;
 
-/// What the structure of a picture file says, found without decoding a pixel. It keeps from the decoders
-/// what they would swallow without a word (a file that stops half way) or choke on (text that unpacks to
-/// gigabytes, a picture sent in thousands of passes).
+/// Facts about a picture file, found in its structure without decoding a pixel. They protect the decoders
+/// from files that those would accept silently (one that is cut short) or choke on (text that unpacks to
+/// gigabytes, a picture in thousands of passes).
 struct UTIL_PictureProbe
 {
     struct Range
@@ -17,15 +17,15 @@ struct UTIL_PictureProbe
         qint64 length;
     };
 
-    QByteArray format;    ///< "PNG", "JPEG", "GIF", "BMP" or "WBMP"; empty when it is none of them
+    QByteArray format;    ///< "PNG", "JPEG", "GIF", "BMP" or "WBMP"; empty if it is none of them
     QSize size;           ///< in pixels, as stored; invalid when it was not found
-    bool sound = false;   ///< the file is long enough and no trap; see below
+    bool sound = false;   ///< the file is long enough and harmless; see below
     int passes = 1;       ///< how often a JPEG goes over the picture
     bool hasRuns = false; ///< a BMP's rows are packed
     int orientation = 1;  ///< how its camera was held, as EXIF numbers it
     QList<Range> kept;    ///< the parts of the file that hold the picture, in order
 
-    // What sound does not tell: whether a GIF's frames, or a JPEG's data, are all there.
+    // `sound` does not say whether all frames of a GIF, or all data of a JPEG, are there.
 
     /// Reads `device` from its start; the device's position afterwards is undefined.
     [[nodiscard]] static UTIL_PictureProbe of(QIODevice& device);

@@ -6,19 +6,20 @@
 
 #include <functional>
 
-/// Some parts of another device, one after the other, as if nothing else were in it. Reading only.
+/// A read-only device that shows some parts of another device, one after the other, as if nothing else were
+/// in it.
 class UTIL_PictureSource : public QIODevice
 {
     Q_OBJECT
 
 public:
-    /// `device` is open and outlives the source. Once `isCancelled` says true nothing more can be read.
+    /// `device` is open and outlives the source. Once `isCancelled` returns true nothing more can be read.
     UTIL_PictureSource(QIODevice& device, const QList<UTIL_PictureProbe::Range>& parts,
                        const std::function<bool()>& isCancelled = {});
 
     [[nodiscard]] qint64 size() const override { return m_size; }
     bool seek(qint64 position) override;
-    /// For who decodes long on what was read.
+    /// For decoders that work long on what they have read.
     [[nodiscard]] bool isCancelled() const { return m_isCancelled && m_isCancelled(); }
 
 protected:
@@ -30,6 +31,6 @@ private:
     QList<UTIL_PictureProbe::Range> m_parts;
     std::function<bool()> m_isCancelled;
     qint64 m_size = 0;
-    qsizetype m_part = 0; ///< which part is being read
-    qint64 m_offset = 0;  ///< how far
+    qsizetype m_part = 0; ///< the part that is being read
+    qint64 m_offset = 0;  ///< the position in that part
 };

@@ -18,11 +18,11 @@ using Color = UTIL_Skin::Color;
 
 constexpr QSize thumbnail(Size::thumbnailWidth, Size::thumbnailHeight);
 constexpr int captionLines = 2;
-constexpr int leastWidth = 74;    ///< of a cell: three of them on the device, and two lines of ten letters
-constexpr int typingPause = 1000; ///< what is typed after so many milliseconds is a new word
+constexpr int leastWidth = 74;    ///< of a cell: three fit the device, with two lines of ten letters each
+constexpr int typingPause = 1000; ///< milliseconds after which a letter begins a new word
 
-/// A name in the lines of a caption. Of one that is too long the middle is left out, for names of the same
-/// camera differ at their ends.
+/// Fits a name into the lines of a caption. The middle of a long name is left out, because names of the
+/// same camera differ at their ends.
 QStringList broken(const QString& name, const QFont& font, int width, QTextOption::WrapMode mode)
 {
     QTextLayout layout(name, font);
@@ -44,7 +44,7 @@ QStringList broken(const QString& name, const QFont& font, int width, QTextOptio
     return lines;
 }
 
-/// Between words where all of it can be read like that, else anywhere: most names have no words.
+/// Breaks between words if the whole name can be read then, else anywhere: most names have no words.
 QStringList broken(const QString& name, const QFont& font, int width)
 {
     const QStringList words = broken(name, font, width, QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -85,7 +85,7 @@ void paintFolder(QPainter& painter, const QRect& box)
     painter.fillPath(path.simplified(), UTIL_Skin::color(Color::Edge));
 }
 
-/// What cannot be read is struck out; what is still being read has three dots.
+/// A picture that cannot be read is struck out; one that is still being read has three dots.
 void paintNoPicture(QPainter& painter, const QRect& box, bool isRead)
 {
     const QRect frame = box.adjusted(0, 0, -Size::hairline, -Size::hairline);
@@ -214,7 +214,7 @@ void UTIL_PictureView::keyPressEvent(QKeyEvent* event)
         m_typing.start();
         return;
     case Qt::Key_Space:
-        if (isSearching()) { // names have blanks
+        if (isSearching()) { // names may have blanks
             keyboardSearch(event->text());
             return;
         }
@@ -253,15 +253,15 @@ void UTIL_PictureView::seek()
         setCurrentIndex(hit);
 }
 
-/// As many columns as fit, and no room left over: names need it.
+/// As many columns as fit; they share all the room, because names need it.
 void UTIL_PictureView::resizeEvent(QResizeEvent* event)
 {
-    const int room = width() - verticalScrollBar()->sizeHint().width(); // whether or not it is there
+    const int room = width() - verticalScrollBar()->sizeHint().width(); // even while there is no bar
     setGridSize(QSize(room / qMax(1, room / leastWidth), gridSize().height()));
     QListView::resizeEvent(event);
 }
 
-/// The toolkit makes the first entry the current one without showing it.
+/// Qt makes the first entry the current one without showing it.
 void UTIL_PictureView::focusInEvent(QFocusEvent* event)
 {
     QListView::focusInEvent(event);

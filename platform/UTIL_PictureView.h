@@ -3,9 +3,9 @@
 #include <QElapsedTimer>
 #include <QListView>
 
-/// The pictures of a UTIL_PictureFolder side by side, for a finger: a tap chooses, a drag scrolls. The
-/// arrow keys choose as well, and typing goes to the next name that begins with what is typed, or has it
-/// inside. A name has two lines; of a longer one the beginning and the end are shown.
+/// Shows the pictures of a UTIL_PictureFolder side by side, for a finger: a tap chooses, a drag scrolls.
+/// The arrow keys choose as well. Typing goes to the next name that begins with the typed text, or contains
+/// it. A name has two lines; a longer name shows its beginning and its end.
 class UTIL_PictureView : public QListView
 {
     Q_OBJECT
@@ -13,16 +13,16 @@ class UTIL_PictureView : public QListView
 public:
     explicit UTIL_PictureView(QWidget* parent = nullptr);
 
-    /// One letter again and again goes from name to name; letters that follow each other are one word, of
-    /// which Backspace takes the last away.
+    /// The same letter again and again goes from name to name. Different letters form a word; Backspace
+    /// removes its last letter.
     void keyboardSearch(const QString& typed) override;
 
 signals:
-    /// A finger or a mouse button was released where it was pressed.
+    /// A finger or a mouse button was lifted where it was pressed.
     void tapped(const QModelIndex& index);
-    /// Return, or a second tap.
+    /// Return was pressed, or the row was tapped again.
     void opened(const QModelIndex& index);
-    /// Backspace, while nothing is being typed.
+    /// Backspace was pressed while nothing is being typed.
     void left();
 
 protected:
@@ -36,19 +36,19 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// What the pressed button has become.
+    /// What a press has turned out to be.
     enum class Touch {
         None,
-        Tap,  ///< it has not moved
-        Drag, ///< it scrolls until it is released
+        Tap,  ///< the pointer has not moved
+        Drag, ///< scrolls until the release
     };
 
     [[nodiscard]] bool isSearching() const;
     void seek();
 
-    QString m_sought;       ///< what has been typed
+    QString m_sought;       ///< the typed text
     QElapsedTimer m_typing; ///< since the last letter
     Touch m_touch = Touch::None;
     int m_pressedAt = 0;  ///< the pointer's y when it was pressed
-    int m_scrolledTo = 0; ///< the scroll bar's value then
+    int m_scrolledTo = 0; ///< the scroll bar's value at that time
 };

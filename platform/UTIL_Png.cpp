@@ -24,7 +24,7 @@ void appendBytes(png_structp png, png_bytep data, size_t count)
         png_error(png, "no memory left");
 }
 
-/// Samples as they go into the file, unpacked: one byte each.
+/// Samples for the file, not yet packed: one byte each.
 struct Pixels
 {
     int colorType;
@@ -79,7 +79,7 @@ std::optional<Pixels> paletted(const QImage& image)
     return pixels;
 }
 
-/// The palette's colours as levels of grey, of as few bits as hold them; nothing when one is no grey.
+/// The palette's colours as levels of grey, in as few bits as possible; nothing if one of them is not grey.
 std::optional<Pixels> grey(const Pixels& paletted)
 {
     const auto isExact = [&paletted](int depth) {
@@ -100,7 +100,7 @@ std::optional<Pixels> grey(const Pixels& paletted)
     return pixels;
 }
 
-/// What the compressor is told; which serves a picture best shows only in trying.
+/// Settings of the compressor. Only trying shows which one suits a picture best.
 struct Packing
 {
     int filters;
@@ -152,7 +152,7 @@ QByteArray png::encoded(const QImage& image)
             candidates.append(std::move(*levels));
         if (few->depth < 8) {
             candidates.append(*few);
-            few->depth = 8; // runs of whole bytes are sometimes found better
+            few->depth = 8; // whole bytes sometimes compress better
         }
         candidates.append(std::move(*few));
     } else {

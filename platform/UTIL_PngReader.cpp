@@ -25,7 +25,7 @@ void readBytes(png_structp png, png_bytep data, size_t count)
         png_error(png, "the file ends too early");
 }
 
-/// Pixels of straight alpha laid on white, in place.
+/// Lays pixels with straight alpha on white, in place.
 void layOnWhite(QRgb* row, int width)
 {
     for (QRgb* pixel = row; pixel != row + width; ++pixel) {
@@ -39,14 +39,14 @@ void layOnWhite(QRgb* row, int width)
     }
 }
 
-/// What the header says, and what stands before the pixels.
+/// The header, and the chunks before the pixels.
 struct Header
 {
     QSize size;
     int depth = 0; ///< bits of a sample
     int colorType = 0;
     QList<QRgb> palette;
-    bool isClear = false; ///< some of the palette, or one colour, is transparent
+    bool isClear = false; ///< some colours of the palette, or one colour, are transparent
     int clearGrey = 0;    ///< the transparent level of a grey picture
 };
 
@@ -88,7 +88,7 @@ void askForQRgb(png_structp png, bool hasAlpha)
     }
 }
 
-/// How a picture's samples come into a QImage.
+/// How libpng puts a picture's samples into a QImage.
 struct Layout
 {
     QImage::Format format;
@@ -98,7 +98,7 @@ struct Layout
 Layout greyLayout(png_structp png, const Header& header)
 {
     if (header.depth == 1) {
-        png_set_invert_mono(png); // white comes first
+        png_set_invert_mono(png); // the palette below begins with white
         Layout layout{QImage::Format_Mono, {qRgb(255, 255, 255), qRgb(0, 0, 0)}};
         if (header.isClear && header.clearGrey <= 1)
             layout.colors[1 - header.clearGrey] &= RGB_MASK;
@@ -148,13 +148,13 @@ Layout layoutFor(png_structp png, const Header& header)
     return {hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB32, {}};
 }
 
-/// One file from its start to its end. Every function is false when the file is damaged.
+/// Reads one file from its start to its end. Every function returns false when the file is damaged.
 class Reader
 {
 public:
     explicit Reader(UTIL_PictureSource& source) : m_source(source), m_session(UTIL_PngSession::Reading) {}
 
-    /// Comes to the first row of pixels; `layOut` says how they are wanted.
+    /// Reads up to the first row of pixels. `layOut` sets how the pixels are wanted.
     template <typename LayOut>
     bool begin(const LayOut& layOut)
     {
@@ -174,7 +174,7 @@ public:
     [[nodiscard]] QSize size() const { return m_header.size; }
     [[nodiscard]] int passes() const { return m_passes; }
 
-    /// The rows come as often as there are passes, each time with more of their pixels.
+    /// Reads all rows once per pass, each time with more of their pixels.
     bool readRow(uchar* row)
     {
         return !m_source.isCancelled() &&

@@ -28,9 +28,9 @@ public:
     UTIL_PngSession(const UTIL_PngSession&) = delete;
     UTIL_PngSession& operator=(const UTIL_PngSession&) = delete;
 
-    /// False when the library gave up within `step`, or before. The step has no variables of its own that
-    /// need a destructor, and lets no exception pass through the library. What it changes lives outside: a
-    /// jump leaves the variables of this function alone undetermined.
+    /// Runs `step`. False when the library gave up in it, or before. The step must have no variables that
+    /// need a destructor, and must let no exception pass through the library. What it changes must live
+    /// outside it: after a jump only the variables of this function are undetermined.
     template <typename Step>
     bool attempt(const Step& step)
     {

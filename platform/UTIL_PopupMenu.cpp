@@ -16,7 +16,7 @@ using Size = UTIL_Skin::Size;
 
 constexpr int arrowHeight = 16;
 
-/// What of the window lies on its screen.
+/// The part of the window that lies on its screen.
 QRect roomOf(const QWidget* owner)
 {
     while (owner && owner->windowType() == Qt::Popup)
@@ -54,7 +54,7 @@ void UTIL_PopupMenu::showEvent(QShowEvent* event)
     m_sinceOpened.start();
     const QRect room = roomOf(parentWidget());
     const int whole = sizeHint().height();
-    // What is higher than the screen, too, the toolkit scrolls.
+    // Qt itself scrolls a menu that is higher than the screen.
     m_room = room.isValid() && whole > room.height() && whole <= screen()->size().height() ? room : QRect();
     if (scrolls())
         resize(width(), whole);
@@ -63,7 +63,7 @@ void UTIL_PopupMenu::showEvent(QShowEvent* event)
         scrollTo(0);
 }
 
-// The second half of a double tap on the key that opened the menu is meant for no row.
+// The second tap of a double tap on the key that opened the menu must choose no row.
 void UTIL_PopupMenu::mouseDoubleClickEvent(QMouseEvent* event)
 {
     m_isUnmeant = m_sinceOpened.elapsed() < QApplication::doubleClickInterval();
@@ -95,7 +95,7 @@ QRect UTIL_PopupMenu::arrowBelow() const
     return end < height() ? QRect(0, end - arrowHeight, width(), arrowHeight) : QRect();
 }
 
-/// The menu is as high as its rows and moves behind the room, which its mask shows.
+/// The menu is as high as all its rows. It moves, and its mask shows only the part inside the room.
 void UTIL_PopupMenu::scrollTo(int y)
 {
     m_scroll = std::clamp(y, 0, height() - m_room.height());

@@ -9,10 +9,10 @@
 
 #include <optional>
 
-/// A pop-up menu in the skin, with icons at their full size, that stays inside the window it belongs to.
-/// One with more rows than fit there scrolls: by the wheel, by a finger, and with the row that the keys
-/// choose; arrows at its edges say that there is more, and are tapped, too. A double tap on what opens it
-/// chooses nothing.
+/// A pop-up menu in the skin, with icons at their full size. It stays inside the window it belongs to. If
+/// it has more rows than fit there it scrolls: by the wheel, by a finger, and to the row that the keys
+/// choose. Arrows at its edges show that there is more, and can be tapped. A double tap on the button that
+/// opens it chooses nothing.
 class KORVA_EXPORT UTIL_PopupMenu : public QMenu
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ public:
     /// An empty menu; its window is that of `parent`.
     explicit UTIL_PopupMenu(QWidget* parent);
 
-    /// Moves a pop-up that is shown into the window that its owner belongs to; nothing where `owner` is
-    /// null. One that is larger keeps its top left inside.
+    /// Moves a visible pop-up into the window of its owner. A pop-up larger than the window keeps its top
+    /// left inside. Does nothing if `owner` is null.
     static void keepInWindow(QWidget& popup, const QWidget* owner);
 
 protected:
@@ -40,7 +40,7 @@ private:
     struct Press
     {
         int y;      ///< on the screen
-        int scroll; ///< m_scroll then
+        int scroll; ///< m_scroll at that time
         bool isDrag = false;
     };
 
@@ -51,9 +51,9 @@ private:
     void scrollTo(int y);
     void reveal(QAction* row);
 
-    QRect m_room; ///< on the screen, while the menu is higher than that; else invalid
+    QRect m_room; ///< global, while the menu is higher than this; else invalid
     int m_scroll = 0;
     std::optional<Press> m_press;
     QElapsedTimer m_sinceOpened;
-    bool m_isUnmeant = false; ///< the press that is held
+    bool m_isUnmeant = false; ///< the press under way chooses nothing
 };

@@ -31,7 +31,7 @@ int UTIL_PopupStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     }
 }
 
-/// The toolkit's frame is darker than what it frames, and not seen on dark ground.
+/// Qt's frame is darker than its content, and cannot be seen on a dark ground.
 void UTIL_PopupStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                     const QWidget* widget) const
 {
@@ -48,7 +48,7 @@ void UTIL_PopupStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
 int UTIL_PopupStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                QStyleHintReturn* data) const
 {
-    // Rather than in columns beside the screen.
+    // Otherwise long menus get columns, which leave the screen.
     return hint == SH_Menu_Scrollable ? 1 : QProxyStyle::styleHint(hint, option, widget, data);
 }
 

@@ -2,12 +2,12 @@
 
 #include <QProxyStyle>
 
-/// How pop-up menus and the lists of boxes are laid out: icons at their full size, rows high enough for a
+/// Lays out pop-up menus and the lists of combo boxes: icons at their full size, rows high enough for a
 /// finger.
 class UTIL_PopupStyle : public QProxyStyle
 {
 public:
-    /// The owner also deletes it.
+    /// The owner deletes it.
     explicit UTIL_PopupStyle(QObject* owner);
 
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,

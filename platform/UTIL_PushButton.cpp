@@ -76,7 +76,7 @@ void UTIL_PushButton::paintEvent(QPaintEvent*)
         look.border = look.fill;
 
     QPainter painter(this);
-    // A key with an icon alone is too small to make room for the ring.
+    // A key with only an icon has no room for the ring.
     const int ring = hasFocus() && !text().isEmpty() ? Size::focusWidth + Size::focusGap : 0;
     UTIL_Skin::paintBox(painter, rect().adjusted(ring, ring, -ring, -ring), look);
 

@@ -4,14 +4,14 @@
 
 #include <QPushButton>
 
-/// A flat key with an icon, a text or both. Space and Return press the one that has the focus; Return the
-/// filled one where no key has it.
+/// A flat key with an icon, a text or both. Space and Return press the key that has the focus. If no key
+/// has it, Return presses the filled one.
 class KORVA_EXPORT UTIL_PushButton : public QPushButton
 {
     Q_OBJECT
 
 public:
-    /// The role of a soft key. The values 1, 2, 9 and 10 are in use: second or first key, with or without
+    /// The role of a soft key. The values 1, 2, 9 and 10 are in use: second or first key, without or with
     /// an outline.
     enum Flag : int {
         SecondSoftKey = 1, ///< the right key; quiet
@@ -23,15 +23,15 @@ public:
     UTIL_PushButton(const QString& iconName, const QString& text, QWidget* parent = nullptr,
                     const char* name = nullptr);
 
-    /// Any combination of Flag; other bits are kept and mean nothing. FirstSoftKey makes it the dialog's
-    /// default, its absence takes that away.
+    /// Any combination of Flag; other bits are kept and mean nothing. The key is the dialog's default with
+    /// FirstSoftKey, and is not without it.
     void setFlags(int flags);
     /// What setFlags() was given; Outlined at first.
     [[nodiscard]] int flags() const { return m_flags; }
 
-    /// Room for icon and text, as high as every key.
+    /// The size that icon and text need, with the height of all keys.
     [[nodiscard]] QSize sizeHint() const override;
-    /// A square: a text that does not fit is cut short.
+    /// A square; a text that does not fit is shortened.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:

@@ -2,8 +2,9 @@
 
 #include <QPainter>
 
-// A source pixel weighs as many units as the target has pixels in that direction, so a target pixel holds
-// as many units as the source has: whole numbers, and no source pixel touches more than two target pixels.
+// In each direction, a source pixel weighs as many units as the target has pixels. So a target pixel holds
+// as many units as the source has pixels. All of these are whole numbers, and no source pixel touches more
+// than two target pixels.
 
 namespace {
 
@@ -13,10 +14,10 @@ struct Sums
     quint64 green = 0;
     quint64 blue = 0;
 
-    /// So many pixels, each of this weight.
+    /// Adds this many pixels, each with this weight.
     void add(const QRgb* pixel, int count, int weight)
     {
-        constexpr int mostAtOnce = 256; // of which red and blue have room in sixteen bits each
+        constexpr int mostAtOnce = 256; // their sums of red and of blue fit sixteen bits each
         while (count > 0) {
             const QRgb* const end = pixel + qMin(count, mostAtOnce);
             count -= qMin(count, mostAtOnce);
@@ -48,7 +49,7 @@ void UTIL_Reducer::addRow(const QRgb* row)
 {
     const int across = m_image.width();
     const QRgb* pixel = row;
-    int rest = 0; // what of the pixel's weight the target pixel before had no room for
+    int rest = 0; // the weight of the source pixel that did not fit the previous target pixel
     for (quint64* sum = m_row.data(); sum != m_row.data() + m_row.size(); sum += 3) {
         Sums sums;
         int room = m_from.width();

@@ -31,7 +31,7 @@ UTIL_SaveDialog::UTIL_SaveDialog(QWidget* parent, const QString& path, const QSt
 void UTIL_SaveDialog::setVisible(bool visible)
 {
     if (visible && !isVisible()) {
-        // A slash would lead to another folder, and not every host can save under a name with a quote.
+        // A slash would lead to another folder. Not every host can save under a name with a single quote.
         const QRegularExpression fitting(takesAnyName() ? "[^/\\n]*" : "[^/'\\n]*");
         m_edit->setValidator(new QRegularExpressionValidator(fitting, m_edit));
         if (!fileName().isEmpty())
@@ -41,7 +41,7 @@ void UTIL_SaveDialog::setVisible(bool visible)
     UTIL_FolderDialog::setVisible(visible);
 }
 
-/// A name that was proposed moves along to one that is free there; one that was typed stays.
+/// A proposed name is replaced by one that is free in the new folder; a typed name stays.
 void UTIL_SaveDialog::enter(const QString& path)
 {
     UTIL_FolderDialog::enter(path);
@@ -62,14 +62,14 @@ void UTIL_SaveDialog::confirm()
     const QString path = QDir(folder().folder()).filePath(name());
     if (QFileInfo::exists(path) && !mayReplace())
         return;
-    QDir().mkpath(folder().folder()); // the user's photo folder may never have been used
+    QDir().mkpath(folder().folder()); // the user's picture folder may not exist yet
     setFileName(path);
     accept();
 }
 
 bool UTIL_SaveDialog::mayReplace()
 {
-    constexpr int replace = 1; // the default is the first button, which loses nothing
+    constexpr int replace = 1; // the first button is the default, and loses nothing
     const QPointer<UTIL_SaveDialog> self = this;
     const int answer = UTIL_Platform::instance()->question(
         this, "Dialog_Exclamatory_Mark.gif",
@@ -96,7 +96,7 @@ QString UTIL_SaveDialog::name() const
         return {};
     if (m_extensions.contains(extension, Qt::CaseInsensitive))
         return typed;
-    // Another format's extension would be followed by a second one, so it gives way.
+    // The extension of another format is removed; otherwise a second one would follow it.
     const bool isOther = QImageReader::supportedImageFormats().contains(file.suffix().toLower().toLatin1());
     return (isOther ? file.completeBaseName() : typed) + m_extensions.value(0);
 }

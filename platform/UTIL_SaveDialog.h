@@ -4,8 +4,8 @@
 
 class QLineEdit;
 
-/// The desktop's dialog for naming a picture file. It proposes a name that is free, gives a name without
-/// one of the extensions the first of them, and asks before it returns the name of an existing file.
+/// The desktop's dialog for naming a picture file. It proposes a free name. It adds the first extension to
+/// a name that has none of them. It asks before it returns the name of an existing file.
 class UTIL_SaveDialog : public UTIL_FolderDialog
 {
     Q_OBJECT
@@ -21,10 +21,10 @@ protected:
     void confirm() override;
 
 private:
-    /// False, too, when the dialog has gone meanwhile.
+    /// False also when the dialog was deleted meanwhile.
     [[nodiscard]] bool mayReplace();
     [[nodiscard]] QString freeName() const;
-    /// What was typed, with its extension; empty while that is no name.
+    /// The typed name with its extension; empty while the text is no name.
     [[nodiscard]] QString name() const;
 
     QStringList m_extensions; ///< with their dots

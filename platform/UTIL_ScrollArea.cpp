@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Beside what lies between a dialog's margins, focus ring and all.
+/// Narrow enough to lie in a dialog's margin, beside the content and its focus rings.
 class NarrowBar : public UTIL_ScrollBar
 {
 public:

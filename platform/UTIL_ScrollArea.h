@@ -2,13 +2,14 @@
 
 #include <QScrollArea>
 
-/// What does not fit a small screen, in the skin and without a frame: wheel, bar and keys scroll it, and
-/// what gets the focus comes into sight. Where all of it fits it is not to be seen.
+/// Scrolls content that does not fit a small screen, in the skin and without a frame. Wheel, bar and keys
+/// scroll it, and a widget that gets the focus comes into view. If all of the content fits, nothing of this
+/// area is visible.
 class UTIL_ScrollArea : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    /// Takes the widget over, whose ground stays what it was.
+    /// Takes ownership of the content, which keeps its background.
     UTIL_ScrollArea(QWidget* content, QWidget* parent);
 };

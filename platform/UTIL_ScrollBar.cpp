@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int gap = 3; // between the slider and the edges of its groove
+constexpr int gap = 3; // pixels between the slider and the edges of its groove
 
 } // namespace
 

@@ -4,14 +4,14 @@
 
 #include <QScrollBar>
 
-/// A scroll bar in the skin: flat, worked as the application's style works it. For a list of a host's:
+/// A flat scroll bar in the skin, which behaves as in the application's style. For a list in a host:
 /// `list->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, list))`.
 class KORVA_EXPORT UTIL_ScrollBar : public QScrollBar
 {
     Q_OBJECT
 
 public:
-    /// A bar of the full range 0 to 99, as the toolkit's.
+    /// A bar with the range 0 to 99, like Qt's.
     UTIL_ScrollBar(Qt::Orientation orientation, QWidget* parent);
 
 protected:

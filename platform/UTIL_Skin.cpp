@@ -68,10 +68,10 @@ constexpr std::array<FontRow, 4> fonts = {{
 
 using Color = UTIL_Skin::Color;
 
-/// All that is painted is one of these.
+/// Everything is painted in one of these colors.
 struct Scheme
 {
-    bool isLight; ///< the light one of our own
+    bool isLight; ///< our own light skin
     std::array<QRgb, 8> colors;
     std::array<std::array<LookRow, 5>, 3> looks;
     QRgb onAccent; ///< the ink of marked text
@@ -99,7 +99,7 @@ double contrast(QRgb one, QRgb other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// Black or white, whichever is read better.
+/// Black or white, whichever is easier to read.
 QRgb farFrom(QRgb ground)
 {
     return contrast(ground, 0xFFFFFFFF) >= contrast(ground, 0xFF000000) ? 0xFFFFFFFF : 0xFF000000;
@@ -110,7 +110,7 @@ bool isDark(QRgb color)
     return farFrom(color) == 0xFFFFFFFF;
 }
 
-/// So much of the way from one color to another.
+/// A color part of the way from one to another.
 QRgb mixed(QRgb from, QRgb to, double part)
 {
     const auto channel = [part](int start, int end) { return qRound(start + (end - start) * part); };
@@ -118,7 +118,7 @@ QRgb mixed(QRgb from, QRgb to, double part)
                 channel(qBlue(from), qBlue(to)));
 }
 
-/// The ink, or the nearest to it that can be read on all of the grounds.
+/// The ink, or the nearest color to it that can be read on all of the grounds.
 QRgb readableOn(std::initializer_list<QRgb> grounds, QRgb ink, double least = readable)
 {
     constexpr int steps = 40;
@@ -134,7 +134,7 @@ QRgb readableOn(std::initializer_list<QRgb> grounds, QRgb ink, double least = re
 
 // --- The desktop's colors
 
-/// Its ground is black or white, or nearly.
+/// Whether the ground is black or white, or nearly so.
 bool isOfHighContrast(QRgb ground, QRgb ink)
 {
     constexpr double least = 19;
@@ -145,8 +145,8 @@ bool isOfHighContrast(QRgb ground, QRgb ink)
            std::abs(qBlue(ground) - qBlue(limit)) <= nearly;
 }
 
-/// Made of a desktop's four colors. Made of the palette that comes out, it is the same again: a program
-/// may have set that as its own.
+/// Derives the skin from four colors of a desktop. Deriving it again from the resulting palette gives the
+/// same skin, because a program may have set that palette as its own.
 Scheme schemeFrom(const QPalette& desktop)
 {
     const auto of = [&desktop](QPalette::ColorRole role) {
@@ -344,8 +344,8 @@ void UTIL_Skin::paintRadio(QPainter& painter, const QRectF& box, bool marked, bo
     painter.restore();
 }
 
-/// Each of its colors lies between the light skin's ground, ink and accent, and goes to the same place
-/// between those in force.
+/// Each color of the drawing lies between the light skin's ground, ink and accent. It becomes the color at
+/// the same place between those in force.
 QPixmap UTIL_Skin::recolored(const QPixmap& drawing)
 {
     const Scheme& now = scheme();

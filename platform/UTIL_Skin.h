@@ -11,31 +11,31 @@
 class QPainter;
 class QRectF;
 
-/// The one place that knows colours, sizes and fonts; widgets ask here and hold no literal of their own.
+/// The colours, sizes and fonts of the user interface. Widgets ask here and have none of their own.
 ///
-/// Its colours are its own where the application's palette (QGuiApplication::palette(), the desktop's
-/// unless a program sets another) is a light one. Where that is dark or of high contrast they are made of
-/// its window, base, text and highlight colours. What lies on a drawing, and the drawing itself, has
-/// nothing to do with the skin: paper is white.
+/// The colours depend on the application's palette (QGuiApplication::palette(), which is the desktop's
+/// unless a program sets another). With a light palette the skin uses its own colours. With a dark or
+/// high-contrast palette it derives them from the palette's window, base, text and highlight colours. The
+/// drawing and what lies on it do not follow the skin: paper is white.
 ///
-/// All sizes are logical pixels. Every ink stands at 4.5 : 1 or better on the fill it is meant for; that of
-/// a disabled control, where colours are the desktop's, at 3 : 1.
+/// All sizes are in logical pixels. Every ink has a contrast of 4.5 : 1 or better on the fill it is meant
+/// for. That of a disabled control in colours derived from the desktop's has 3 : 1.
 class KORVA_EXPORT UTIL_Skin
 {
 public:
     /// What a colour is for.
     enum class Color {
         Ground,   ///< windows and dialogs
-        Surface,  ///< what lies on the ground: lists, fields
+        Surface,  ///< lists and fields, which lie on the ground
         Ink,      ///< text and icons on both
-        QuietInk, ///< captions, what is disabled
+        QuietInk, ///< captions and disabled text
         Border,   ///< hairlines
         Edge,     ///< the outline of a dialog
         Accent,   ///< the one accent: marks, focus, the key that Return presses
-        Veil,     ///< laid over a window that waits for its dialog
+        Veil,     ///< covers a window that waits for its dialog
     };
 
-    /// What a font is for; all are the application's in a size of their own.
+    /// What a font is for. All are the application's font, each in a size of its own.
     enum class Font {
         Text,    ///< in dialogs, lists and menus
         Title,   ///< of a dialog
@@ -43,7 +43,7 @@ public:
         Caption, ///< below a thumbnail
     };
 
-    /// What has looks of its own.
+    /// Controls with looks of their own.
     enum class Control {
         Key,        ///< a push button
         PrimaryKey, ///< the push button that Return presses
@@ -70,12 +70,12 @@ public:
     /// Sizes in logical pixels.
     struct Size
     {
-        static constexpr int screenWidth = 240;    ///< the screen that all is made for
+        static constexpr int screenWidth = 240;    ///< of the screen that everything is made for
         static constexpr int screenHeight = 320;   ///< of the same screen
         static constexpr int dialogWidth = 220;    ///< of a standard dialog
         static constexpr int dialogHeight = 256;   ///< of a standard dialog
         static constexpr int titleHeight = 34;     ///< of a dialog's title
-        static constexpr int margin = 10;          ///< from a dialog's edge to what is in it
+        static constexpr int margin = 10;          ///< from a dialog's edge to its content
         static constexpr int spacing = 8;          ///< between keys and other parts
         static constexpr int keyHeight = 36;       ///< of a push button
         static constexpr int keyPadding = 8;       ///< from a key's edge to its text
@@ -93,11 +93,11 @@ public:
         static constexpr int iconHeight = 18;      ///< of a tool or an option
         static constexpr int sliderTouch = 28;     ///< how high a slider is for a finger
         static constexpr int messageMargin = 18;   ///< above a message's icon, and below its text
-        static constexpr int thumbnailWidth = 60;  ///< the most that a thumbnail has
-        static constexpr int thumbnailHeight = 45; ///< the most that a thumbnail has
+        static constexpr int thumbnailWidth = 60;  ///< the most for a thumbnail
+        static constexpr int thumbnailHeight = 45; ///< the most for a thumbnail
     };
 
-    /// What a picture of a disabled control is painted with.
+    /// The opacity of a picture in a disabled control.
     static constexpr double disabledOpacity = 0.4;
 
     /// The colour for a purpose; Color::Veil is translucent.
@@ -106,23 +106,24 @@ public:
     [[nodiscard]] static QFont font(Font font);
     /// The palette of windows and dialogs.
     [[nodiscard]] static QPalette palette();
-    /// How a control looks in a state; the focus ring is drawn on top of any state.
+    /// The look of a control in a state. The focus ring is painted over it in any state.
     [[nodiscard]] static Look look(Control control, State state);
 
-    /// The flat box of a control. `box` is the whole area; the outline lies inside it.
+    /// Paints the flat box of a control. `box` is the whole area; the outline lies inside it.
     static void paintBox(QPainter& painter, const QRectF& box, const Look& look);
-    /// The ring that shows the keyboard focus, inside `box`.
+    /// Paints the ring that shows the keyboard focus, inside `box`.
     static void paintFocus(QPainter& painter, const QRectF& box);
-    /// The ground of a list's row, with the ring where it is chosen and has the keyboard. How what stands
-    /// on it looks.
+    /// Paints the background of a list's row, with the ring if it is chosen and has the keyboard. Returns
+    /// the look for the row's content.
     static Look paintRow(QPainter& painter, const QRect& row, bool isChosen, bool hasFocus);
-    /// The round mark of a radio row, centred in `box`.
+    /// Paints the round mark of a radio row, centred in `box`.
     static void paintRadio(QPainter& painter, const QRectF& box, bool marked, bool enabled);
 
-    /// The mark of a control that opens a list, pointing down, around `centre`.
+    /// Paints the mark of a control that opens a list: it points down and is centred at `centre`.
     static void paintChevron(QPainter& painter, const QPoint& centre, const Look& look);
 
-    /// A picture drawn in the light skin's ground, ink and accent, in those of the skin in force.
+    /// Takes a picture drawn in the light skin's ground, ink and accent, and gives it in those of the skin
+    /// in force.
     [[nodiscard]] static QPixmap recolored(const QPixmap& drawing);
     /// The file that holds a skin picture ("Dialog_Error" is in "Dialog_Error.gif").
     [[nodiscard]] static QString pictureFile(const QString& name);

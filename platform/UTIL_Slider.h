@@ -6,15 +6,16 @@
 
 class UTIL_FocusRing;
 
-/// A slider that is painted from two pictures. A press on the groove takes the handle there, and so does
-/// one just above or below the slider, where its parent has nothing else: a finger is wider than a groove.
-/// The arrow keys move by one step, Page Up and Page Down by a sixteenth, Home and End to the ends.
+/// A slider that is painted from two pictures, of its handle and its groove. A press on the groove moves
+/// the handle there. So does a press just above or below the slider where its parent has nothing else,
+/// because a finger is wider than a groove. The arrow keys move by one step, Page Up and Page Down by a
+/// sixteenth, Home and End to the ends.
 class UTIL_Slider : public QSlider
 {
     Q_OBJECT
 
 public:
-    /// An empty pressed picture means that the handle or groove looks the same under a finger.
+    /// If a pressed picture is null, the handle or groove looks the same while pressed.
     UTIL_Slider(const QPixmap& handle, const QPixmap& pressedHandle, const QPixmap& groove,
                 const QPixmap& pressedGroove, Qt::Orientation orientation, int minimum, int maximum,
                 int step, int value, QWidget* parent = nullptr, const char* name = nullptr);

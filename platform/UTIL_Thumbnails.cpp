@@ -15,9 +15,9 @@
 
 namespace {
 
-constexpr qsizetype mostWanted = 40; ///< more than a screen shows
+constexpr qsizetype mostWanted = 40; ///< requests: more than a screen shows
 constexpr int mostMade = 600;
-/// A folder is full of pictures that nobody has asked for.
+/// Nobody has asked for most pictures of a folder, so reading one must not cost much.
 constexpr qint64 mostPixels = 16'000'000;
 constexpr QSize box(UTIL_Skin::Size::thumbnailWidth, UTIL_Skin::Size::thumbnailHeight);
 
@@ -28,7 +28,7 @@ QSize thumbnailSize(QSize size)
     return size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
 }
 
-/// One thread for all of them, which outlives each: it goes with the application.
+/// One thread for all objects. It outlives each of them and ends with the application.
 QThreadPool& pool()
 {
     static QPointer<QThreadPool> pool;

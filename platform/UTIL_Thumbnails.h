@@ -6,9 +6,9 @@
 #include <QPixmap>
 #include <QStringList>
 
-/// Small pictures of picture files, made in a thread of their own, the last wanted first. What was wanted
-/// long ago and is no longer to be seen is forgotten. Deleting the object waits for nothing: a picture that
-/// is being made is given up.
+/// Makes thumbnails of picture files in a thread of its own, the last wanted first. Requests that are old
+/// and no longer visible are forgotten. Deleting the object waits for nothing: a thumbnail that is being
+/// made is given up.
 class UTIL_Thumbnails : public QObject
 {
     Q_OBJECT
@@ -17,12 +17,12 @@ public:
     explicit UTIL_Thumbnails(QObject* parent = nullptr);
     ~UTIL_Thumbnails() override;
 
-    /// The file's thumbnail; null while it is being made (ready() tells when it is) and for a file that is
-    /// no picture.
+    /// The file's thumbnail. Null while it is being made (ready() tells when it is finished), and for a
+    /// file that is no picture.
     [[nodiscard]] QPixmap wanted(const QString& fileName);
-    /// Whether wanted() gives all that it ever will.
+    /// Whether what wanted() returns is final.
     [[nodiscard]] bool isMade(const QString& fileName) const { return m_made.contains(fileName); }
-    /// Forgets what is wanted and not begun.
+    /// Forgets all requests that have not been started.
     void clear() { m_wanted.clear(); }
 
 signals:

@@ -2,7 +2,8 @@
 
 #include <QWidget>
 
-/// Dims a window that waits for its dialog: a sheet over all of it that takes no part in anything.
+/// Dims a window that waits for its dialog: a translucent widget over the whole window, which takes no
+/// input.
 class UTIL_Veil : public QWidget
 {
     Q_OBJECT

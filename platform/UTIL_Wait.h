@@ -10,15 +10,15 @@
 #include <optional>
 #include <type_traits>
 
-/// Long work in another thread, for which the user waits and which can be cancelled.
+/// Runs long work in another thread. The user waits for it and can cancel it.
 namespace util {
 
-/// Asked by the work from time to time: whether nobody waits for it any more.
+/// The work calls this from time to time: true when nobody waits for it any more.
 using IsCancelled = std::function<bool()>;
 
-/// Returns what `work`, called as Result(const IsCancelled&) in another thread, returns, and nothing when
-/// the user has cancelled it: the work then goes on to its end by itself and must own all that it uses.
-/// On the GUI thread; UTIL_Platform::waitFor() tells what happens there meanwhile.
+/// Calls `work` as Result(const IsCancelled&) in another thread and returns its result. Returns nothing
+/// when the user has cancelled it; the work then goes on to its end by itself, so it must own all that it
+/// uses. For the GUI thread; UTIL_Platform::waitFor() says what happens there meanwhile.
 template <typename Work>
 [[nodiscard]] auto waitFor(QWidget* parent, const QString& text, Work work)
     -> std::optional<std::invoke_result_t<Work, const IsCancelled&>>

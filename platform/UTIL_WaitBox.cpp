@@ -16,7 +16,7 @@ namespace {
 
 using Size = UTIL_Skin::Size;
 
-constexpr int patience = 300; ///< milliseconds in which nobody wonders
+constexpr int patience = 300; ///< milliseconds for which nobody needs an explanation
 constexpr int pause = 1;
 constexpr int beat = 40;
 constexpr int beatsAcross = 30;
@@ -82,7 +82,7 @@ void UTIL_WaitBox::timerEvent(QTimerEvent* event)
     update(track());
 }
 
-/// How long it will take nobody knows: a piece goes to and fro.
+/// How long it will take is unknown, so a bar moves to and fro.
 void UTIL_WaitBox::paintEvent(QPaintEvent* event)
 {
     UTIL_Dialog::paintEvent(event);

@@ -5,15 +5,15 @@
 #include <QBasicTimer>
 #include <QFuture>
 
-/// Shows that work goes on in another thread, and lets the user cancel it.
+/// The box that shows that work goes on in another thread, and lets the user cancel it.
 class UTIL_WaitBox : public UTIL_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Returns when the work is done (true), or when the user has cancelled it (false), which the work is
-    /// told by its future. For the first 300 ms nothing is shown and no event is handled. When the parent
-    /// is deleted meanwhile, that is a cancel, too.
+    /// Returns true when the work is done, or false when the user has cancelled it; then the future `work`
+    /// has been cancelled, too. Deleting the parent meanwhile also cancels. For the first 300 ms nothing is
+    /// shown and no event is handled.
     [[nodiscard]] static bool run(QWidget* parent, const QString& text, QFuture<void> work);
 
 protected:

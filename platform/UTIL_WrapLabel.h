@@ -4,9 +4,9 @@
 
 #include <limits>
 
-/// A centred text that is broken between words, and within a word that is wider than the label (a file
-/// name). Of a text with more lines than allowed the rest is left out and marked by an ellipsis;
-/// the whole is the tool tip then.
+/// A centred text that wraps between words, and within a word that is wider than the label (such as a file
+/// name). If the text needs more lines than allowed, an ellipsis replaces the rest, and the tool tip shows
+/// the whole text.
 class UTIL_WrapLabel : public QLabel
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class UTIL_WrapLabel : public QLabel
 public:
     explicit UTIL_WrapLabel(const QString& text, QWidget* parent = nullptr);
 
-    /// At least 1 line is always shown.
+    /// At least one line is always shown.
     void setMaximumLines(int lines);
 
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }

@@ -17,7 +17,7 @@ void KORVA_AreaSelect::activating()
 void KORVA_AreaSelect::deactivating()
 {
     if (m_state == Dragging)
-        anchor(); // a drag that the change of tools cuts short leaves no frame behind
+        anchor(); // a drag that a change of tools ends must leave no frame behind
     disableSelection();
     canvas()->clearSelection();
 }
@@ -102,7 +102,7 @@ void KORVA_AreaSelect::select(QPoint corner)
         canvas()->setSelection(QRect(m_start, corner - QPoint(1, 1)));
 }
 
-// From 1 to the size itself: the selection ends one pixel before.
+// From 1 to the size itself, because the selection ends one pixel before the corner.
 QPoint KORVA_AreaSelect::limited(QPoint p) const
 {
     return {qBound(1, p.x(), qMax(1, canvas()->width())), qBound(1, p.y(), qMax(1, canvas()->height()))};

@@ -5,9 +5,10 @@
 #include <QPoint>
 #include <QRect>
 
-/// Marks a rectangle with a dashed frame and hands it to the canvas, which lifts it into a floating piece.
-/// The left button only, in widget coordinates; the pixel of the release no longer belongs to the
-/// rectangle. After a tap the next drag grows from there. Leaving the tool drops the selection.
+/// The area select tool: marks a rectangle with a dashed frame and hands it to the canvas, which lifts it
+/// into a floating piece. It reacts to the left button only and works in widget coordinates. The pixel of
+/// the release does not belong to the rectangle. After a tap, the next drag starts from the tapped point.
+/// Leaving the tool drops the selection.
 class KORVA_EXPORT KORVA_AreaSelect : public KORVA_Tool
 {
     Q_OBJECT
@@ -24,12 +25,12 @@ public:
     void zoomedRebuilt() override;
 
 public slots:
-    /// What the canvas says of its selection: where it is gone the frame goes too.
+    /// The canvas tells whether it has a selection; when it has none the frame goes.
     void selection(bool exists);
     /// Takes the tool's frame off the screen; the canvas's selection stays.
     void disableSelection();
-    /// Selects the whole canvas, merging a floating piece; nothing while inactive or while a drag is going
-    /// on.
+    /// Selects the whole canvas and merges a floating piece. Does nothing while the tool is inactive or a
+    /// drag is going on.
     void selectAll();
 
 protected:
@@ -38,7 +39,7 @@ protected:
 private:
     enum State {
         Idle,     ///< the next press sets the anchor
-        Anchored, ///< tapped: the next press leaves the anchor where it is
+        Anchored, ///< after a tap: the next press leaves the anchor where it is
         Dragging, ///< from the press of the left button to its release; the frame follows the pointer
     };
 
@@ -49,7 +50,7 @@ private:
     [[nodiscard]] QPoint limited(QPoint p) const;
 
     QPoint m_start; ///< the anchor; widget coordinates
-    QPoint m_end;   ///< the corner of the frame on screen
+    QPoint m_end;   ///< the opposite corner of the frame on screen
     State m_state = Idle;
-    bool m_frameShown = false; ///< by drawFrame(), not by a drag
+    bool m_frameShown = false; ///< drawFrame() has painted the frame, not a drag
 };

@@ -94,7 +94,7 @@ void KORVA_ChooseCanvasDlg::slotCancel()
     reject();
 }
 
-// Escape and closing come here too, so they leave the same index behind as the key does.
+// Escape and closing come here too, so they leave the same index as the Cancel key.
 void KORVA_ChooseCanvasDlg::reject()
 {
     m_index = m_initIndex;

@@ -6,24 +6,25 @@
 class QListWidgetItem;
 class UTIL_ListBox;
 
-/// The dialog in which the size of a new canvas is picked from a list. Its caller runs it and reads
-/// getIndex(): 0 32 × 40 (stamp), 1 64 × 80, 2 120 × 160, 3 200 × 170 (normal), 4 240 × 320.
+/// The dialog in which the user picks the size of a new canvas from a list. Its caller runs it and reads
+/// getIndex(): 0 is 32 × 40 (stamp), 1 is 64 × 80, 2 is 120 × 160, 3 is 200 × 170 (normal), 4 is 240 × 320.
 class KORVA_EXPORT KORVA_ChooseCanvasDlg : public UTIL_Dialog
 {
     Q_OBJECT
 
 public:
-    /// `index` is the size marked at the start, 0 to 4; another one marks none.
+    /// `index` is the size marked at the start, 0 to 4; any other number marks none.
     explicit KORVA_ChooseCanvasDlg(QWidget* parent, int index, const char* name = nullptr,
                                    bool modal = true, Qt::WindowFlags flags = {});
 
-    /// The size chosen last; after a rejection, and before any choice, the index given to the constructor.
+    /// The index of the size chosen last. After a rejection, and before any choice, it is the constructor's
+    /// index.
     [[nodiscard]] int getIndex() const { return m_index; }
-    /// The size marked last, in pixels; 0 × 0 before there was one. A rejection does not bring the first
-    /// one back, unlike getIndex().
+    /// The size marked last, in pixels; 0 × 0 if none was marked. Unlike getIndex(), a rejection does not
+    /// bring the first one back.
     [[nodiscard]] QSize canvasSize() const { return {m_width, m_height}; }
 
-    /// Cancel, Escape and closing: getIndex() is the constructor's again.
+    /// Comes from Cancel, Escape and closing. getIndex() is the constructor's index again.
     void reject() override;
 
 private slots:

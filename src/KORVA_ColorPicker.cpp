@@ -20,14 +20,15 @@ struct TypeRow
     int maximum;
     Start start;
     int sliderHeight;
-    Qt::Alignment caption;     // brings the letter to the middle of its slider
+    Qt::Alignment caption;     // aligns the letter with the middle of its slider
     std::array<int, 4> levels; // channel value by position; unused where a position is its own value
 };
 
 constexpr std::array<int, 4> twoLevels = {0, 255, 0, 0};
 constexpr std::array<int, 4> fourLevels = {0, 85, 170, 255};
 
-// Indexed by KORVA_COLORTYPE. With two bits a channel all sliders start at the red one's place, on purpose.
+// Indexed by KORVA_COLORTYPE. With two bits per channel all sliders start at the red one's position, on
+// purpose.
 constexpr std::array<TypeRow, 4> types = {{
     {1, 1, Start::BlackOrWhite, 10, Qt::AlignTop, twoLevels},
     {1, 3, Start::RedOfAll, 10, Qt::AlignTop, fourLevels},
@@ -108,7 +109,7 @@ QColor KORVA_ColorPicker::getColor(KORVA_COLORTYPE colorType, const QColor& colo
                                    const char* name)
 {
     UTIL_Modal picker(new KORVA_ColorPicker(colorType, color, parent, name, Qt::Window));
-    const QColor before = color; // which may belong to the parent, and go with it
+    const QColor before = color; // `color` may belong to the parent and go with it
     return picker.isAccepted() ? picker->color() : before;
 }
 

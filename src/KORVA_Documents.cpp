@@ -31,8 +31,8 @@ constexpr auto binIcon = "Dialog_Empty_Trash.gif";
 constexpr int shortTime = 1;
 constexpr int longTime = 2;
 
-/// Reads a file: at once where that takes no time, otherwise in another thread, for which the user waits.
-/// Nothing when the user has cancelled it, or the editor is gone.
+/// Reads a small file at once, any other in a thread for which the user waits. Nothing when the user has
+/// cancelled, or the editor is gone.
 template <typename Work>
 auto patiently(KORVA_EditCanvas& editor, const KORVA_PictureFile& file, const Work& work)
     -> std::optional<std::invoke_result_t<Work, KORVA_PictureFile&>>
@@ -171,7 +171,7 @@ bool KORVA_Documents::open(int action, const QString& name)
         return false;
     if (opened && action == Open) {
         m_opened = source;
-        resetTypedText(); // it belonged to the drawing before
+        resetTypedText(); // it belonged to the previous drawing
         m_editor.setPixmap(&picture);
         m_editor.clearModified();
         m_editor.mainView()->scrollView()->setContentsPos(0, 0);
@@ -323,7 +323,7 @@ void KORVA_Documents::saveAndTell()
         return;
     }
     const QByteArray format = KORVA_Formats::writeFormat(m_fileName);
-    const bool canBeWritten = !format.isEmpty(); // a GIF never is, and keeps its name
+    const bool canBeWritten = !format.isEmpty(); // a GIF cannot, and keeps its name
     std::pair outcome{errorIcon, KORVA_EditCanvas::tr("Saved Failed", "2.11.2.10;DIALOG_ICON_50")};
     if (canBeWritten && m_editor.save(m_fileName, format.constData())) {
         m_editor.clearModified();
@@ -351,7 +351,7 @@ void KORVA_Documents::askAndDelete()
     resetTypedText();
     if (m_fileName.isEmpty())
         return;
-    const QString name = m_fileName; // one that cannot be removed is not reported
+    const QString name = m_fileName; // a file that cannot be removed is not reported
     if (survives([&] { UTIL_Platform::instance()->removePicture(name); }))
         m_fileName.clear();
 }

@@ -10,13 +10,14 @@
 class KORVA_EditCanvas;
 class UTIL_PictureDialog;
 
-/// The editor's document commands: what is asked, in which order, and what the user is told. The file work
-/// itself is KORVA_PictureFile's; here are the questions, the dialogs and the name of the drawing.
+/// The editor's document commands: what is asked, in which order, and what the user is told. Here are the
+/// questions, the dialogs and the name of the drawing; KORVA_PictureFile reads files and the editor's
+/// save() writes them.
 ///
-/// Owned by the editor; the operations stand behind the editor's own of the same purpose.
+/// The editor owns this object. Its document functions call those here of the same purpose.
 ///
 /// The editor, and this object with it, may be deleted while a box or a dialog is open. Everything that
-/// opens one is called through survives(), or is the last that its caller does.
+/// opens one is called through survives(), or is the last thing that its caller does.
 class KORVA_Documents
 {
 public:
@@ -28,9 +29,9 @@ public:
     [[nodiscard]] QString fileName() const { return m_fileName; }
     void setFileName(const QString& name);
 
-    /// Of the picture last opened; empty for a new drawing.
+    /// The size of the picture last opened; empty for a new drawing.
     [[nodiscard]] QSize sourceSize() const { return m_opened.size; }
-    /// Whether a save under fileName() would lose what opening took away.
+    /// Whether a save under fileName() would lose for good what opening left out.
     [[nodiscard]] bool isReduced() const { return m_opened.isReduced && m_opened.name == m_fileName; }
     /// A file of this name now holds the drawing.
     void noteSaved(const QString& name);
@@ -38,12 +39,12 @@ public:
     void forgetOpened() { m_opened = {}; }
 
     void openAtConstruction(const QString& name);
-    /// Nothing while a pick dialog is open.
+    /// Does nothing while a pick dialog is open.
     void startOpen();
     void saveChanges(int action);
-    /// Lets the user pick the picture; false when nothing was picked or opened. As open() it shows that a
-    /// large file takes its time; when the user cancels it, or the editor is deleted meanwhile, nothing has
-    /// happened.
+    /// Lets the user pick the picture and opens it. False when nothing was picked or opened. Like open(),
+    /// it shows a box while a large file is read; if the user cancels, or the editor is deleted meanwhile,
+    /// nothing has changed.
     bool pickAndOpen(int action);
     bool open(int action, const QString& name);
     bool isPicSizeNotOver(const QString& name, const char* format);
@@ -56,7 +57,7 @@ public:
     void askAndDelete();
 
 private:
-    /// The picture last opened, as it was before.
+    /// The picture last opened, as it was in its file.
     struct Opened
     {
         QString name;
@@ -64,28 +65,28 @@ private:
         bool isReduced = false;
     };
 
-    /// What reading a file came to.
+    /// The result of reading a file.
     struct Contents
     {
         int status = 0;
         QImage image;
-        QImage working; ///< the image as the canvas takes it
+        QImage working; ///< the image in the form that the canvas takes
         Opened opened;
     };
 
-    /// Does work that may open a box or a dialog. False when the editor was deleted meanwhile: nothing of
-    /// it, nor of this object, is there any more.
+    /// Does work that may open a box or a dialog. False when the editor, and with it this object, was
+    /// deleted meanwhile.
     template <typename Work>
     [[nodiscard]] bool survives(const Work& work);
-    /// Nothing when the user has cancelled it; this object may be gone then.
+    /// Nothing when the user has cancelled; this object may be gone then.
     std::optional<Contents> contentsOf(const QString& name, const QByteArray& format);
-    /// Tells the user what is wrong; this object may be gone then.
+    /// False if the status is an error, after telling the user; this object may be gone then.
     bool check(int status);
     static bool take(const Contents& contents, QPixmap* picture, Opened* opened);
     void tellUnreadable();
     void askForName();
     void resetTypedText();
-    /// The index of the button; nothing when the editor, and this object, has gone.
+    /// The index of the button; nothing when the editor, and with it this object, is gone.
     [[nodiscard]] std::optional<int> ask(const char* icon, const QString& text, const QStringList& buttons);
     /// This object may be gone afterwards.
     void tell(const char* icon, const QString& text);

@@ -4,8 +4,8 @@
 
 #include <QPoint>
 
-/// The hand: pans the scroll view around the canvas by a tenth of the way from the press, again with every
-/// move. It never touches the picture. Without a scroll view it does nothing.
+/// The hand tool: every move pans the scroll view around the canvas by a tenth of the way from the press.
+/// It never touches the picture. Without a scroll view it does nothing.
 class KORVA_EXPORT KORVA_Drag : public KORVA_Tool
 {
     Q_OBJECT

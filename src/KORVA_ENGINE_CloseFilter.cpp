@@ -9,7 +9,7 @@ void KORVA_ENGINE_CloseFilter::deleteWidgetLater(QWidget* widget)
 {
     if (!widget)
         return;
-    auto* filter = new KORVA_ENGINE_CloseFilter; // deletes itself with the widget, whichever way that goes
+    auto* filter = new KORVA_ENGINE_CloseFilter; // deletes itself with the widget, however that is deleted
     widget->installEventFilter(filter);
     connect(widget, &QObject::destroyed, filter, &QObject::deleteLater);
     QCoreApplication::postEvent(widget, new QCloseEvent);

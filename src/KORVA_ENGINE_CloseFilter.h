@@ -6,14 +6,15 @@
 
 class QWidget;
 
-/// Deletes a widget from inside that widget's own event handling: later, when a posted close event reaches
-/// it. deleteWidgetLater() makes and owns the objects.
+/// Lets a widget be deleted from inside its own event handling: the deletion happens later, when a posted
+/// close event reaches the widget. Use deleteWidgetLater(), which makes the filters; each deletes itself.
 class KORVA_EXPORT KORVA_ENGINE_CloseFilter : public QObject
 {
 public:
-    /// Returns at once; the widget goes with its next close event, and one is posted. Null is ignored.
+    /// Posts a close event and returns at once. The widget is deleted with its next close event. Null is
+    /// ignored.
     static void deleteWidgetLater(QWidget* widget);
 
-    /// Deletes the widget and itself at a close event; any other passes.
+    /// Deletes the widget and itself at a close event; all other events pass.
     bool eventFilter(QObject* watched, QEvent* event) override;
 };

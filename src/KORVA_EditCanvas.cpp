@@ -85,7 +85,7 @@ void KORVA_EditCanvas::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     m_mainView->setGeometry(
         QRect(layout::mainView.topLeft(), layout::mainView.size() + layout::beyond(size())));
-    // What is in hand would be merged by another zoom, and a typed text lose its place.
+    // Another zoom would merge a floating piece, and a text being typed would lose its place.
     const KORVA_Tool* tool = canvas()->getCurrentTool();
     if (canvas()->pasteLabel()->isHidden() && !(tool && tool->takesText()))
         m_zoomChoice->fitAgain();

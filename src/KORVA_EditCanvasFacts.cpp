@@ -9,8 +9,7 @@
 #include "KORVA_Text.h"
 #include "KORVA_ToolTable.h"
 
-// What a host must know: whether there is anything to lose, what a save would write, what things are
-// called.
+// The facts for a host: whether there is anything to lose, what a save would write, what things are called.
 
 bool KORVA_EditCanvas::isModified() const
 {

@@ -2,7 +2,7 @@
 
 #include <QRect>
 
-/// Where what the editor shows lies in it, in pixels.
+/// The places of the editor's parts, in pixels.
 namespace layout {
 
 constexpr QRect toolButton(2, 2, 33, 24);
@@ -12,7 +12,8 @@ constexpr QRect colorButton(203, 2, 25, 24);
 constexpr QRect mainView(2, 33, 228, 192);
 constexpr QSize editor(240, 225);
 
-/// What an editor of this size has beyond the one that all is laid out for; nothing where it is smaller.
+/// By how much an editor of this size exceeds the size that the parts are laid out for; 0 where it is
+/// smaller.
 [[nodiscard]] inline QSize beyond(QSize size)
 {
     return (size - editor).expandedTo(QSize(0, 0));

@@ -4,7 +4,7 @@
 
 namespace {
 
-// A drag of 2 × 2 is never drawn, but a move away from it removes it all the same; the difference is kept.
+// A drag of 2 × 2 is never drawn, but a move away from it removes it. This difference is kept.
 constexpr int largestNotDrawn = 4;
 constexpr int largestNotRemoved = 3;
 

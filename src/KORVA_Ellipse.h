@@ -2,9 +2,10 @@
 
 #include "KORVA_TwoPointTool.h"
 
-/// The ellipse between the press and the release, both corner pixels in its box, outlined or filled as the
-/// brush says; shown as an outline. Not drawn where width × height of the drag is 4 pixels or less, tested
-/// in each picture's own coordinates; it counts as a modification all the same.
+/// The ellipse tool. The ellipse lies in the box between press and release, both corner pixels included. It
+/// is outlined or filled as the brush says; the preview is an outline. If width × height of the drag is 4
+/// pixels or less, no ellipse is drawn, but the drag still counts as a modification. Each of the two
+/// pictures is tested in its own coordinates.
 class KORVA_EXPORT KORVA_Ellipse : public KORVA_TwoPointTool
 {
     Q_OBJECT

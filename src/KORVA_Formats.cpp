@@ -8,7 +8,7 @@ namespace {
 
 using KORVA_Formats::Row;
 
-/// Of the rows that are offered and for which a condition holds.
+/// The patterns of the rows that are offered and for which a condition holds.
 template <typename Condition>
 QStringList patterns(const Condition& holds)
 {

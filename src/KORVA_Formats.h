@@ -5,22 +5,22 @@
 
 #include <array>
 
-/// The picture files that a drawing comes from and goes to. Patterns, dialogs, what a file is read as and
-/// written as, and what the desktop and the documents are told all follow this table.
+/// The table of picture files that a drawing can be read from and written to. Patterns, dialogs, reading,
+/// writing, the desktop files and the documents all follow it.
 namespace KORVA_Formats {
 
 /// How a file of an extension is opened.
 enum class Opening {
     ByContent,
     AsJpeg,
-    AsGif, ///< only with every frame sound
+    AsGif, ///< only if every frame is sound
 };
 
 struct Row
 {
-    const char* extension; ///< compared whatever its case
+    const char* extension; ///< compared without regard to case
     const char* format;
-    const char* written; ///< what is written into such a file; null: nothing
+    const char* written; ///< the format written into such a file; null if it cannot be written
     Opening opening;
     const char* mimeType;
     bool isOffered = true; ///< in the dialogs
@@ -37,16 +37,16 @@ inline constexpr std::array rows{
     Row{"wbmp", "WBMP", "PNG", Opening::ByContent, "image/vnd.wap.wbmp"},
 };
 
-/// A file of any other extension, or of none, is one of these.
+/// A file with any other extension, or with none, counts as this.
 inline constexpr const Row& anyOther = rows[0];
 
-/// The row of a file by its last extension.
+/// The row of a file, by its last extension.
 [[nodiscard]] const Row& rowOf(const QString& fileName);
-/// What such a file is read as, and what is written into it: an empty one cannot be written.
+/// The formats in which a file is read and written. The write format is empty if it cannot be written.
 [[nodiscard]] QByteArray readFormat(const QString& fileName);
 [[nodiscard]] QByteArray writeFormat(const QString& fileName);
 
-/// What is offered for opening and for saving: "*.png" and the like.
+/// The patterns offered for opening and for saving: "*.png" and the like.
 [[nodiscard]] QStringList openPatterns();
 [[nodiscard]] QStringList savePatterns();
 

@@ -30,7 +30,7 @@ KORVA_ImageView_Dialog::KORVA_ImageView_Dialog(const QString& file)
     : UTIL_Dialog(StandardDialog, false), m_fileName(file)
 {
     init(QImage());
-    // Only now: the check in there may run an event loop, and the load needs the display and the keys.
+    // Only now: init() may run an event loop while it checks, and the load needs the display and the keys.
     QTimer::singleShot(loadDelay, this, &KORVA_ImageView_Dialog::timeoutSlot);
 }
 
@@ -89,7 +89,7 @@ void KORVA_ImageView_Dialog::playIfAnimated()
     UTIL_GifParser parser(m_fileName, UTIL_GifParser::WholeFile);
     if (parser.parse() != UTIL_GifParser::NoError) {
         m_loaded = false;
-        tellLoadError(); // once more where the file could not be read at all: the two are told apart
+        tellLoadError(); // a second message if the file could not be read at all: both failures are told
     } else if (parser.isAnimated()) {
         m_loaded = true;
         m_photoDisplay->loadGifAnimation(m_fileName);

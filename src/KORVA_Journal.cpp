@@ -19,9 +19,9 @@
 namespace {
 
 constexpr int shortestPause = 1000; // milliseconds
-constexpr int stillness = 700;      // after the last change nobody is drawing any more
+constexpr int stillness = 700;      // milliseconds after the last change: nobody is drawing any more
 constexpr int longestPause = 10000;
-constexpr int pausePerWork = 10; // a great drawing or a slow disk shall not keep the program busy
+constexpr int pausePerWork = 10; // a large drawing or a slow disk must not keep the program busy
 
 } // namespace
 
@@ -58,7 +58,7 @@ KORVA_Journal::~KORVA_Journal()
 
 KORVA_EditCanvas* KORVA_Journal::editor() const
 {
-    // An editor that is being destroyed is none any more when it deletes its children.
+    // While a destroyed editor deletes its children it is no longer a KORVA_EditCanvas.
     return qobject_cast<KORVA_EditCanvas*>(m_editor.data());
 }
 
@@ -86,7 +86,8 @@ bool KORVA_Journal::eventFilter(QObject*, QEvent* event)
 void KORVA_Journal::expectChange()
 {
     m_sinceChange.start();
-    // Never started anew while it runs: a stroke must not pay for it, and a long one is written, too.
+    // A running timer is not restarted: that would cost every event of a stroke, and delay the writing of a
+    // long one.
     if (!m_timer.isActive())
         m_timer.start(shortestPause, Qt::CoarseTimer, this);
 }
@@ -94,7 +95,7 @@ void KORVA_Journal::expectChange()
 void KORVA_Journal::timerEvent(QTimerEvent*)
 {
     m_timer.stop();
-    // Where writing is costly it waits, but only while drawing goes on.
+    // If writing takes long it waits, but only while drawing goes on.
     const bool isDrawing = m_sinceChange.isValid() && m_sinceChange.elapsed() < stillness;
     const qint64 rest = m_sinceWrite.isValid() ? m_pause - m_sinceWrite.elapsed() : 0;
     if (isDrawing && rest > 0)
@@ -109,7 +110,7 @@ void KORVA_Journal::write()
     const size_t hash = classic::hash(picture);
     if (hash == m_written)
         return;
-    if (!editor()->hasChanges()) { // the host took another picture in and said so itself
+    if (!editor()->hasChanges()) { // the host set another picture and cleared the modified flag
         noteSettled();
         return;
     }
@@ -181,7 +182,7 @@ void KORVA_Journal::noteSettled()
 {
     if (m_state != State::Adopted)
         settle();
-    else // nobody has decided about that one yet
+    else // nobody has decided about the adopted drawing yet
         m_written = classic::hash(editor()->snapshot());
 }
 
@@ -231,7 +232,7 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     if (KORVA_Text* text = editor()->currentText())
         text->resetBuffer();
     editor()->setPixmap(&found);
-    editor()->canvas()->markModified(); // before the name goes, which says what there is to lose
+    editor()->canvas()->markModified(); // before the name goes: who hears of that must see a change
     editor()->setFileName({});
     editor()->canvas()->setUndoFlag(0);
     m_proposal = entry.pictureName;
@@ -262,11 +263,11 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
         const QString file = m_folder->livingFile(id);
         auto lock = std::make_unique<UTIL_FileLock>(m_folder->lockFile(id));
         if (!lock->lock())
-            continue; // somebody is drawing it
+            continue; // another program is working on it
         if (!QFile::exists(file)) {
-            lock->remove(); // somebody has just had it
+            lock->remove(); // another program has just dealt with it
         } else if (picture(KORVA_JournalFolder::entryOf(file)).isNull()) {
-            m_folder->moveAmongEarlier(id); // damaged: nothing to offer
+            m_folder->moveAmongEarlier(id); // damaged, so there is nothing to offer
             lock->remove();
         } else {
             shelve();

@@ -137,7 +137,7 @@ QList<KORVA_Journal::Entry> KORVA_JournalFolder::earlier() const
 
 void KORVA_JournalFolder::moveAmongEarlier(const QString& id) const
 {
-    // Under a new number: one that was begun long ago would be the first to be pruned.
+    // It gets a new identifier: with the old one, a drawing begun long ago would be pruned first.
     QFile::rename(livingFile(id), newEarlierFile());
 }
 

@@ -3,7 +3,7 @@
 #include <QScreen>
 #include <QWidget>
 
-/// How large something on a widget's screen may become by zooming and stretching.
+/// The largest size that zooming and stretching may give something on a widget's screen.
 namespace limit {
 
 /// In pixels: 16 megapixels, or twice the screen's area where that is more.

@@ -2,8 +2,8 @@
 
 #include "KORVA_TwoPointTool.h"
 
-/// A straight line, both end pixels included. It ends where it was last shown, not where the stylus is
-/// lifted.
+/// The line tool: a straight line, both end pixels included. It ends where it was last shown, not where the
+/// stylus is lifted.
 class KORVA_EXPORT KORVA_Line : public KORVA_TwoPointTool
 {
     Q_OBJECT

@@ -37,14 +37,14 @@ KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
     layout->addWidget(m_scrollView);
     m_scrollView->setHorizontalScrollBar(new UTIL_ScrollBar(Qt::Horizontal, m_scrollView));
     m_scrollView->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, m_scrollView));
-    m_scrollView->setFocusPolicy(Qt::NoFocus); // Shift+Tab would come back to the canvas for ever
+    m_scrollView->setFocusPolicy(Qt::NoFocus); // else Shift+Tab would always come back to the canvas
     m_scrollView->resize(normalCanvas);
     setFocusProxy(m_canvas);
     QPalette frame = UTIL_Skin::palette();
     frame.setColor(QPalette::WindowText, UTIL_Skin::color(UTIL_Skin::Color::Border));
     m_scrollView->setPalette(frame);
     m_scrollView->viewport()->setBackgroundRole(
-        QPalette::WindowText); // a desk that the paper stands out from
+        QPalette::WindowText); // a desk from which the paper stands out
 
     connect(m_canvas, &KORVA_Canvas::sizeChanged, this, &KORVA_MainView::updateLayout);
     m_scrollView->addChild(m_canvas, centred(width(), normalCanvas.width()),

@@ -7,16 +7,16 @@
 class KORVA_Canvas;
 class KORVA_ScrollView;
 
-/// The frame around the canvas: a scroll view that shows it, centred where it is smaller than the view.
+/// The frame around the canvas. A scroll view shows the canvas, centred if it is smaller than the view.
 ///
-/// Meant to be created by the editor: an editor given as parent becomes the canvas's editor. The canvas has
-/// 200 × 170 pixels at first. The keyboard focus given to the view goes to the canvas.
+/// The editor creates it: an editor given as parent becomes the canvas's editor. The canvas has 200 × 170
+/// pixels at first. Keyboard focus given to the view goes to the canvas.
 class KORVA_EXPORT KORVA_MainView : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `parent` may be any widget; only a KORVA_EditCanvas hears of the canvas.
+    /// `parent` may be any widget; only a KORVA_EditCanvas gets the canvas's signals.
     explicit KORVA_MainView(QWidget* parent = nullptr, const char* name = nullptr);
 
     /// The canvas, the same one for the view's life. The scroll view owns it.
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] KORVA_ScrollView* scrollView() const { return m_scrollView; }
 
 public slots:
-    /// Centres the canvas and sets the scrolled size to the canvas's; called on every change of either
+    /// Centres the canvas and makes the scrolled size that of the canvas. Called on every change of either
     /// size.
     void updateLayout();
 

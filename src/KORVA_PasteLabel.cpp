@@ -16,12 +16,12 @@
 
 namespace {
 
-constexpr int handleSize = 6; ///< side of a handle and width of the edge zones, in pixels
+constexpr int handleSize = 6; ///< pixels: the side of a handle and the width of the edge zones
 
 } // namespace
 
-/// How a zone's drag changes the item: the sign of dx in its width and of dy in its height, and whether the
-/// item's top left follows.
+/// How dragging a zone changes the item: the signs with which dx changes its width and dy its height, and
+/// whether its top left follows.
 struct KORVA_PasteLabel::Stretch
 {
     Zone zone;
@@ -49,7 +49,7 @@ KORVA_PasteLabel::KORVA_PasteLabel(QWidget* parent, const char* name, Qt::Window
     m_pasteAction->setData(2);
     setPasteItem(false);
     setMouseTracking(true);
-    QPalette paper; // what a growing piece gets is white, whatever the skin
+    QPalette paper; // the added area of a growing piece is white, whatever the skin
     paper.setColor(QPalette::Base, Qt::white);
     setPalette(paper);
 }
@@ -127,7 +127,7 @@ void KORVA_PasteLabel::mousePressEvent(QMouseEvent* event)
 {
     const QPoint p = pixel::under(*event, *this);
     if (rect().contains(event->position().toPoint()) && !rect().contains(p)) {
-        event->ignore(); // between two pixels, and beside the piece: the canvas's
+        event->ignore(); // rounded, and really beside the piece: this press is the canvas's
     } else if (event->button() == Qt::LeftButton) {
         m_pressed = true;
         m_pressPos = m_lastPos = p;
@@ -203,7 +203,7 @@ void KORVA_PasteLabel::hover(QPoint p)
 
 void KORVA_PasteLabel::dragTo(QPoint p)
 {
-    // Limited to the right and below only: a piece may be pushed out to the left and the top.
+    // Only the right and lower edges limit it: a piece may be pushed out to the left and the top.
     const QPoint to = pos() + p - m_pressPos;
     const QSize limit = parentWidget() ? parentWidget()->size() : QSize(to.x(), to.y());
     move(qMin(to.x(), limit.width()), qMin(to.y(), limit.height()));
@@ -219,7 +219,7 @@ void KORVA_PasteLabel::stretch(const Stretch& rule)
     qint64 vertical = rule.heightSign ? percentage(height(), rule.heightSign * d.y()) : 100;
     const double growth = double(horizontal) * double(vertical) / 1e4;
     const bool isTooLarge = growth > mostGrowth();
-    if (isTooLarge) { // what grows grows less
+    if (isTooLarge) { // a growing side grows less
         const bool both = horizontal > 100 && vertical > 100;
         const double part = both ? std::sqrt(mostGrowth() / growth) : mostGrowth() / growth;
         for (qint64* percent : {&horizontal, &vertical}) {
@@ -229,12 +229,12 @@ void KORVA_PasteLabel::stretch(const Stretch& rule)
     }
     const QSize before = size();
     setResizeZoom(int(horizontal), int(vertical));
-    if (isTooLarge) // the other edges stay where they are
+    if (isTooLarge) // the opposite edges stay where they are
         d = QPoint(before.width() - width(), before.height() - height());
     move(pos() + QPoint(rule.movesX ? d.x() : 0, rule.movesY ? d.y() : 0));
 }
 
-/// By what the item's area may be multiplied, on screen and at real size.
+/// The factor by which the item's area may grow, on screen and at real size.
 double KORVA_PasteLabel::mostGrowth() const
 {
     const double smallest = qMin(1.0, m_zoom / 100.0);

@@ -10,12 +10,12 @@
 class QAction;
 class QMenu;
 
-/// A picture that floats over the canvas until it is merged: moved by its inside, stretched by its edges
-/// and corners, turned by quarters at its top right corner.
+/// The floating piece: a picture that floats over the canvas until it is merged. The pointer moves it by
+/// its inside, stretches it by its edges and corners, and turns it by quarters at its top right corner.
 ///
-/// The canvas creates it, fills, shows and hides it and reads the outcome back with getImage(). Its
-/// position and size are widget coordinates of the canvas. Nothing here touches the undo snapshot or the
-/// modified flag.
+/// The canvas creates, fills, shows and hides it, and reads the result with getImage(). Its position and
+/// size are in widget coordinates of the canvas. Nothing here touches the undo snapshot or the modified
+/// flag.
 class KORVA_EXPORT KORVA_PasteLabel : public QLabel
 {
     Q_OBJECT
@@ -25,40 +25,40 @@ public:
     explicit KORVA_PasteLabel(QWidget* parent = nullptr, const char* name = nullptr,
                               Qt::WindowFlags flags = {});
 
-    /// Takes the picture of a file in, as the other overload does; none when it cannot be read. `fileName`
-    /// is UTF-8.
+    /// Takes the picture from a file, as the other overload does; a null picture if it cannot be read.
+    /// `fileName` is UTF-8.
     void setImage(const char* fileName);
-    /// Takes a picture at real size and shows it at the zoom last set; the item takes its size.
+    /// Takes a picture at real size and shows it at the zoom last set. The item gets the size shown.
     void setImage(const QPixmap& pixmap);
-    /// The picture at real size, with every finished stretch and turn in it.
+    /// The picture at real size, including every finished stretch and turn.
     [[nodiscard]] QPixmap getImage() const { return m_pixmap; }
 
-    /// Shows the picture anew at these percentages, without what was stretched or turned since the last
-    /// release; the horizontal one is remembered as the zoom. The item takes the new size; one that is
-    /// hidden does when it is shown.
+    /// Shows the picture again at these percentages, without any stretch or turn since the last release.
+    /// The horizontal percentage is remembered as the zoom. The item gets the new size; a hidden item gets
+    /// it when it is shown.
     void setZoom(int horizontal, int vertical);
-    /// Scales what is shown by these percentages; calls multiply and the zoom stays. getImage() follows
-    /// with the next release.
+    /// Scales what is shown by these percentages. Several calls multiply; the zoom stays. getImage()
+    /// follows with the next release.
     void setResizeZoom(int horizontal, int vertical);
     /// Turns what is shown, clockwise for a positive angle. getImage() follows with the next release.
     void rotate(int degrees);
     /// Enables or disables the menu's Paste; disabled at first.
     void setPasteItem(bool enabled);
-    /// The menu of the right button, with the actions Copy, Cut and Paste, whose QAction::data() is 0, 1
-    /// and
-    /// 2. A host may add entries of its own, and take away any. The item owns it.
+    /// The menu of the right button. Its actions Copy, Cut and Paste have the QAction::data() 0, 1 and 2. A
+    /// host may add entries of its own, and remove any. The item owns the menu.
     [[nodiscard]] QMenu* menu() const { return m_menu; }
 
-    /// Begins a drag of the zone that the pointer hovered over last; the right button opens the menu. The
-    /// position is the item's own; the canvas hands on what reaches it instead.
+    /// Begins a drag of the zone over which the pointer hovered last; the right button opens the menu. The
+    /// position is in the item's coordinates. The canvas passes on presses on the item that reach the
+    /// canvas instead.
     void mousePressEvent(QMouseEvent* event) override;
-    /// Ends a drag: stretches or turns, and folds the change into getImage(). A stretch ends where the item
-    /// has as many pixels, shown or at real size, as KORVA_Canvas::setZoom() gives a zoomed picture.
+    /// Ends a drag: stretches or turns, and folds the change into getImage(). A stretch is limited to the
+    /// number of pixels, shown or at real size, that KORVA_Canvas::setZoom() allows for a zoomed picture.
     void mouseReleaseEvent(QMouseEvent* event) override;
-    /// Moves the item while its inside is dragged, its top left not beyond the parent's right and lower
-    /// edge; without a button, looks which zone is under the pointer.
+    /// Moves the item while its inside is dragged; its top left stays within the parent's right and lower
+    /// edges. Without a button, finds the zone under the pointer.
     void mouseMoveEvent(QMouseEvent* event) override;
-    /// What setZoom() left undone while the item was hidden is made up for.
+    /// An item that is shown now applies the setZoom() that came while it was hidden.
     void setVisible(bool visible) override;
 
 signals:
@@ -82,7 +82,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// What the pointer would do where it hovered last. A press does not look again.
+    /// What a drag does, by the place where the pointer hovered last. A press does not look again.
     enum Zone : int {
         Outside = 0,
         Inside = 1, ///< moves the item
@@ -114,7 +114,7 @@ private:
     Zone m_zone = Inside;
     bool m_pressed = false;
     int m_zoom = 100;
-    QSize m_unseenZoom; ///< in percent, what setZoom() was given while the item was hidden; else invalid
+    QSize m_unseenZoom; ///< percentages of a setZoom() that came while the item was hidden; else invalid
     QMenu* m_menu;
     QPointer<QAction> m_pasteAction;
 };

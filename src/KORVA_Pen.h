@@ -5,8 +5,8 @@
 #include <QPoint>
 #include <QRect>
 
-/// The pencil: a dot where the stylus goes down and a line along every move. One press is one undo step; a
-/// release of another button does not end the stroke.
+/// The pencil tool: a dot where the stylus goes down, and a line along every move. One press is one undo
+/// step. The release of another button does not end the stroke.
 class KORVA_EXPORT KORVA_Pen : public KORVA_DrawingTool
 {
     Q_OBJECT

@@ -6,42 +6,41 @@
 #include <QPixmap>
 #include <QTransform>
 
-/// A drawing without its view: the picture at real size, what undo brings back, and whether anything was
-/// changed since the last save.
+/// A drawing without its view: the picture at real size, the undo snapshot, and the modified flag.
 ///
-/// The picture is opaque and of device pixel ratio 1, whatever comes in; places and sizes are its pixels.
-/// Nothing here is a widget or emits a signal, takes the snapshot or marks the drawing modified unasked:
-/// who changes it decides that, tells it and shows it. A copy shares the pixels until they are painted on.
+/// The picture is always opaque and of device pixel ratio 1. Positions and sizes are in its pixels. This
+/// class is no widget and emits no signals. It does not take the snapshot or mark the drawing modified by
+/// itself: the code that changes the drawing does so, and informs others. A copy shares the pixels until
+/// one of the two is painted on.
 class KORVA_Picture
 {
 public:
-    /// Holds a copy of the pixels, which are the snapshot, too; unmodified. What is transparent comes out
-    /// white.
+    /// Holds a copy of the pixels, which is also the snapshot; unmodified. Transparent parts become white.
     explicit KORVA_Picture(const QPixmap& pixels);
 
-    /// To be painted on; the same object for the drawing's life. What a painter left transparent is white
-    /// with the next call.
+    /// The pixmap to paint on, the same object for the drawing's life. Parts that a painter left
+    /// transparent become white with the next call.
     [[nodiscard]] QPixmap* pixmap();
     [[nodiscard]] QSize size() const { return m_picture.size(); }
-    /// In bits a pixel: the toolkit's, whatever came in.
+    /// In bits per pixel; always Qt's own depth, whatever came in.
     [[nodiscard]] int depth() const { return m_picture.depth(); }
 
-    /// What a save writes.
+    /// The image that a save writes.
     [[nodiscard]] QImage image() const;
-    /// The picture as it would be with a piece laid on it; a null piece leaves it as it is.
+    /// A copy of the picture with a piece laid on it; an unchanged copy if the piece is null.
     [[nodiscard]] QPixmap with(const QPixmap& piece, QPoint at) const;
 
-    /// Takes other pixels in, in their size.
+    /// Replaces the pixels, and with them the size.
     void take(const QPixmap& pixels);
     void fill(const QColor& color);
-    /// Scales the picture to a size; empty where a side is not positive.
+    /// Scales the picture to a size. If a side is not positive the picture becomes empty.
     void scale(QSize size);
-    /// A copy of a rectangle; what of it lies outside is white.
+    /// A copy of a rectangle; its parts outside the picture are white.
     [[nodiscard]] QPixmap piece(const QRect& rect) const;
-    /// Leaves white behind. `toPicture` maps the rectangle to the picture's pixels.
+    /// Fills a rectangle with white. `toPicture` maps it to the picture's pixels.
     void erase(const QRect& rect, const QTransform& toPicture = {});
-    /// Paints a piece, a pixel of it on one of the picture; what lies outside is cut off, what is
-    /// transparent leaves the picture alone.
+    /// Paints a piece at real size. Parts outside the picture are cut off; transparent parts leave the
+    /// picture alone.
     void lay(const QPixmap& piece, QPoint at);
 
     /// Whether markModified() came after the last clearModified().
@@ -49,24 +48,24 @@ public:
     void markModified() { m_isModified = true; }
     void clearModified() { m_isModified = false; }
 
-    /// The picture as it is now is what undo() brings back, in place of what was kept before.
+    /// Keeps the picture as it is now, for undo() to bring back. It replaces the previous snapshot.
     void takeSnapshot();
-    /// The same with a picture that never was on the paper as a whole.
+    /// The same with another picture, which need never have been in the drawing.
     void takeSnapshot(const QPixmap& picture);
-    /// Back to the snapshot, and forward again. With one step, both exchange it with the picture. With
-    /// more, they walk through what the snapshots were taken between; where there is nothing on their side
-    /// they do nothing. The picture may get another size; the modified flag stays.
+    /// Goes back, and forward again. With one step, both functions exchange picture and snapshot. With
+    /// more, they walk through the changes between the snapshots, and do nothing at either end. The picture
+    /// may get another size; the modified flag stays.
     void undo() { walk(&KORVA_History::undo); }
     void redo() { walk(&KORVA_History::redo); }
 
-    /// How many steps are kept, and in how many bytes; 1 at first. Forgets those there are.
+    /// How many steps are kept, and in how many bytes; 1 at first. Forgets the present steps.
     void setUndoSteps(int steps, qint64 mostBytes);
     [[nodiscard]] int undoSteps() const { return m_history.mostSteps(); }
 
     // With one step, these do nothing and know nothing.
-    /// What was changed since the last snapshot becomes a step of its own.
+    /// Makes a step of the changes since the last snapshot.
     void settle();
-    /// What is changed between the two is one step, whatever snapshots are taken.
+    /// All changes between the two calls are one step, whatever snapshots are taken.
     void beginStep();
     void endStep();
     /// Whether undo() or redo() would change anything.

@@ -14,7 +14,7 @@ namespace formats = KORVA_Formats;
 
 namespace {
 
-/// Up to here a picture is decoded before anybody could wonder, on a slow device, too.
+/// Pictures up to these limits are decoded without a noticeable delay, even on a slow device.
 constexpr qint64 smallFile = 64 * 1024;
 constexpr qint64 smallPicture = 1'000'000;
 constexpr QRgb white = 0xffffffff;
@@ -69,7 +69,7 @@ int KORVA_PictureFile::check(const char* format)
     reader.read();
     m_checked = isWhatTakeReads ? reader.image() : QImage();
     m_origin = originOf(reader);
-    // How far a decoder gets with a damaged one depends on its size; take() refuses them all.
+    // How far a decoder gets with a damaged GIF depends on its size; take() refuses all of them.
     const bool isLeftToTake = m_isDamaged && reader.status() == UTIL_ImageReader::Failed &&
                               reader.sourceSize().isValid() &&
                               (!format || kind.format == QByteArray(format));

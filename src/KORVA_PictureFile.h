@@ -8,50 +8,51 @@
 #include <functional>
 #include <optional>
 
-/// A picture file on its way in. Checking it decodes it; opening it then takes what the check decoded, as
-/// long as the file was not changed in between and the outcome would be the same.
+/// A picture file that is being opened. check() decodes it. take() then uses the decoded picture, unless
+/// the file was changed in between or must be decoded in another way.
 class KORVA_PictureFile
 {
 public:
     enum Scale {
-        Full,    ///< the picture as it is
-        Working, ///< what may be decoded smaller comes in its working size: enough for the canvas
+        Full,    ///< the picture in its own size
+        Working, ///< the working size, if decoding at that size is possible; enough for the canvas
     };
 
-    /// What a picture was before it was decoded and made fit.
+    /// Facts about a picture in its file.
     struct Origin
     {
         QSize size;           ///< upright, in pixels
-        bool isWhole = false; ///< every pixel of every frame came through in its colour
+        bool isWhole = false; ///< every pixel of every frame was read in its full colour
     };
 
     KORVA_PictureFile() = default;
     explicit KORVA_PictureFile(const QString& name, Scale scale = Working);
 
     [[nodiscard]] const QString& name() const { return m_name; }
-    /// Whether it is read in no time: a short file with a small picture, or no file at all.
+    /// Whether it can be read at once: a short file with a small picture, or no file at all.
     [[nodiscard]] bool isSmall() const;
 
-    /// A picture in memory, recognised by its content; null when it cannot be decoded. A great one comes in
-    /// its working size.
+    /// Decodes a picture in memory, which is recognised by its content. Null when it cannot be decoded. A
+    /// large picture comes in its working size.
     [[nodiscard]] static QImage decoded(const QByteArray& data, const KORVA_WorkingLimits& limits,
                                         Origin* origin = nullptr);
 
-    /// What is enough for the canvas; the classic limits unless told.
+    /// Sets the size and depth that suffice for the canvas; the classic limits unless set.
     void setLimits(const KORVA_WorkingLimits& limits) { m_limits = limits; }
-    /// What holds instead of the platform's, which only the GUI thread may ask for.
+    /// Replaces the platform's allowance, for which only the GUI thread may ask.
     void setAllowance(const UTIL_ImageReader::Allowance& allowance) { m_allowance = allowance; }
-    /// Asked again and again while the file is read; nothing can be read once it says true.
+    /// `isCancelled` is called again and again while the file is read. Once it returns true nothing more
+    /// can be read.
     void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
 
-    /// Whether the file can be read as `format`, or as whatever it is when that is null: 0, -100 when it
-    /// has too many pixels to be decoded, another number for every other failure.
+    /// Whether the file can be read as `format`; null accepts any format. 0 if it can, -100 if it has too
+    /// many pixels to be decoded, another number for every other failure.
     int check(const char* format);
-    /// The picture, read by the file's extension: a GIF with all its frames sound and its transparent
-    /// colour shown as any other, a JPEG in the working depth, anything else by its content. Null when it
-    /// cannot be read.
+    /// The picture, read as the file's extension says. A GIF must have only sound frames, and its
+    /// transparent colour is shown like any other. A JPEG comes in the working depth. Any other file is
+    /// recognised by its content. Null when it cannot be read.
     [[nodiscard]] QImage take();
-    /// What the picture that take() gave was in the file.
+    /// Facts about the picture that take() returned.
     [[nodiscard]] const Origin& origin() const { return m_origin; }
 
 private:
@@ -63,8 +64,8 @@ private:
     KORVA_WorkingLimits m_limits;
     std::optional<UTIL_ImageReader::Allowance> m_allowance;
     std::function<bool()> m_isCancelled;
-    QImage m_checked;                       ///< what check() decoded; null when take() must decode itself
-    QString m_version;                      ///< of the file when it was examined; null when it was not
+    QImage m_checked;                       ///< decoded by check(); null if take() must decode itself
+    QString m_version;                      ///< of the file when it was examined; null if it was not
     bool m_isDamaged = false;               ///< a GIF that is not sound to its end
     std::optional<QRgb> m_transparentColor; ///< a GIF's
     Origin m_origin;

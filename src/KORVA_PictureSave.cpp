@@ -21,17 +21,17 @@
 namespace {
 
 constexpr int jpegQuality = 96;
-constexpr int leastQuality = 30;   // below, a smaller picture looks better
-constexpr int defaultQuality = -1; // for other writers the number would mean something else
+constexpr int leastQuality = 30;   // below this, a smaller picture looks better
+constexpr int defaultQuality = -1; // for other formats, where a quality would mean something else
 constexpr int lockTime = 5000;     // milliseconds; a save takes far less
 
-/// Everything written, and on the disk: the move that follows must not be there before the data is.
+/// Writes everything, and flushes it to the disk: the data must be there before the move that follows.
 bool writeAll(QFile& file, const QByteArray& bytes)
 {
     return file.write(bytes) == bytes.size() && file.flush() && fsync(file.handle()) == 0;
 }
 
-/// The file system and the mount that a file or folder lies on: within one, a move is a single step.
+/// The file system and the mount of a file or folder. Within one, a move is a single step.
 struct Place
 {
     quint64 device = 0;
@@ -46,8 +46,7 @@ Place placeOf(const QString& path)
     return {quint64(status.stx_dev_major) << 32 | status.stx_dev_minor, status.stx_mnt_id};
 }
 
-/// Whether it was protected against writing, be it only from others: even who may do anything respects
-/// that.
+/// Whether the file is protected against writing. This is respected even by a user who may write anything.
 bool isWriteProtected(const QString& path)
 {
     constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
@@ -60,14 +59,14 @@ bool isQuotable(const QString& name)
     return !name.isEmpty() && !name.contains(QLatin1Char('\'')) && !name.contains(QChar::Null);
 }
 
-/// The same file, by a name that no command takes for an option.
+/// The same file, by a name that no command mistakes for an option.
 QString asOperand(const QString& name)
 {
     return name.startsWith(QLatin1Char('-')) ? "./" + name : name;
 }
 
-/// Through the system shell. Its standard input is empty, so that no question of the command's can wait for
-/// an answer in a terminal.
+/// Runs a command in the system shell. Its standard input is empty, so that it cannot wait for an answer in
+/// a terminal.
 bool moveByShell(const QString& from, const QString& to)
 {
     if (!isQuotable(from) || !isQuotable(to))
@@ -79,7 +78,7 @@ bool moveByShell(const QString& from, const QString& to)
     return shell.waitForFinished(-1) && shell.exitStatus() == QProcess::NormalExit && shell.exitCode() == 0;
 }
 
-/// What a new file takes over from the one that it replaces.
+/// The properties that a new file takes over from the one that it replaces.
 struct Ownership
 {
     bool exists = false;
@@ -96,7 +95,7 @@ struct Ownership
         return {true, status.st_mode & permissions, status.st_uid, status.st_gid};
     }
 
-    /// The mode always, the owner as far as the system lets us.
+    /// Always sets the mode, and the owner if the system permits.
     void giveTo(int handle) const
     {
         if (!exists)
@@ -106,7 +105,7 @@ struct Ownership
     }
 };
 
-/// A file that was not there before, complete and on the disk. It goes with the object unless it was moved.
+/// A new file, complete and on the disk. It is removed with the object, unless it was moved.
 class NewFile
 {
 public:
@@ -136,7 +135,7 @@ public:
     }
 
 private:
-    /// Whether the name still leads to the file that was written.
+    /// Whether the name still refers to the file that was written.
     [[nodiscard]] bool isOurs() const
     {
         struct stat named = {};
@@ -151,16 +150,16 @@ private:
     QFile m_file;
 };
 
-/// The file behind a name: where a link, or a row of them, leads, there or not.
+/// The file behind a name: the end of a chain of links, whether it exists or not.
 QString behindLinks(const QString& name)
 {
-    constexpr int mostLinks = 40; // as many as the system follows
+    constexpr int mostLinks = 40; // the system follows no more
     QString at = name;
     for (int i = 0; i < mostLinks; ++i) {
         const QFileInfo file(at);
         if (!file.isSymLink())
             return at;
-        // The toolkit would take ".." out of the text, which is another place behind a linked folder.
+        // Qt would resolve ".." in the text, which leads elsewhere if the folder is a link.
         std::error_code error;
         const QString to = QFile::decodeName(
             std::filesystem::read_symlink(QFile::encodeName(at).constData(), error).c_str());
@@ -199,8 +198,8 @@ const Format* formatOf(const QByteArray& name)
     return found == std::end(formats) ? nullptr : found;
 }
 
-/// The greatest number of a range for which `attempt` gives bytes; its bytes. It gives none for all above
-/// that.
+/// The bytes for the greatest number in a range for which `attempt` gives any. It gives none for all
+/// numbers above that.
 template <typename Attempt>
 QByteArray bestWithin(int lowest, int highest, const Attempt& attempt)
 {
@@ -234,8 +233,8 @@ bool saveUnder(const QString& target, const QByteArray& bytes)
     const QDir folder = QFileInfo(target).dir();
     if (placeOf(QFileInfo(picturesave::temporaryPath()).path()) == placeOf(folder.path()))
         return temporary.moveTo(target);
-    // Between file systems a move destroys the old file before the new one is there. So the new one first
-    // goes beside it.
+    // Between file systems a move destroys the old file before the new one is there. So the new one is
+    // first copied beside it.
     NewFile beside(folder.filePath(".korva." + QUuid::createUuid().toString(QUuid::Id128)));
     return beside.write(bytes, before) && beside.moveTo(target);
 }
@@ -261,7 +260,7 @@ QByteArray picturesave::encodedWithin(const QImage& image, const QByteArray& for
         return best;
     const Format* writer = formatOf(format);
     if (writer->encode != formatOf("JPEG")->encode)
-        return {}; // bit for bit or not at all
+        return {}; // exact formats are written bit for bit or not at all
     const auto within = [mostBytes](const QByteArray& bytes) {
         return bytes.size() <= mostBytes ? bytes : QByteArray();
     };
@@ -299,7 +298,7 @@ bool picturesave::replace(const QString& name, const std::function<QByteArray()>
     UTIL_FileLock lock(temporaryPath() + ".lock");
     bool isSaved = false;
     if (lock.lock(lockTime)) {
-        QFile::remove(temporaryPath()); // what an earlier run left, or someone planted
+        QFile::remove(temporaryPath()); // may be left by an earlier run, or planted
         const QString target = isQuotable(name) ? behindLinks(name) : QString();
         isSaved = isReplaceable(target) && saveUnder(target, encode());
     }

@@ -15,7 +15,7 @@ KORVA_Preview_Dialog::KORVA_Preview_Dialog(const QString& file) : UTIL_Dialog(St
 {
     auto* thumbnail = new IMV_UI_IconViewItem(QFileInfo(file), content());
     thumbnail->setGeometry(thumbnailRect);
-    // The keys lie the other way round than in the viewer; users of this dialog know them so.
+    // The keys are the other way round than in KORVA_ImageView_Dialog; users of this dialog know them so.
     connect(createSoftKey(tr("Cancel", "4.4.2.12;SOFTKEY_2BUTTON"), 10), &QPushButton::clicked, this,
             &QDialog::reject);
     connect(createSoftKey(tr("Confirm", "4.4.2.12;SOFTKEY_2BUTTON"), 9), &QPushButton::clicked, this,

@@ -3,13 +3,13 @@
 #include "KORVA_Export.h"
 #include "UTIL_Dialog.h"
 
-/// Shows a picture file's thumbnail and name, which the user confirms or cancels; exec() is 1 or 0. Its
-/// caller runs it. The file need not be readable to be confirmed.
+/// The dialog that shows a picture file's thumbnail and name, which the user confirms or cancels; exec()
+/// returns 1 or 0. Its caller runs it. Even a file that cannot be read can be confirmed.
 class KORVA_EXPORT KORVA_Preview_Dialog : public UTIL_Dialog
 {
     Q_OBJECT
 
 public:
-    /// Neither modal nor with a parent.
+    /// The dialog is not modal and has no parent.
     explicit KORVA_Preview_Dialog(const QString& file);
 };

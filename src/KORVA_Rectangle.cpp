@@ -6,7 +6,7 @@ KORVA_Rectangle::KORVA_Rectangle(const QString& name) : KORVA_TwoPointTool(name)
 
 void KORVA_Rectangle::drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const
 {
-    // The plain difference, negative up and to the left; unlike the ellipse's, the far corner lies outside.
+    // The plain difference, negative up and to the left. Unlike an ellipse's, the far corner lies outside.
     painter.drawRect(from.x(), from.y(), to.x() - from.x(), to.y() - from.y());
 }
 

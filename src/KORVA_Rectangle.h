@@ -2,9 +2,10 @@
 
 #include "KORVA_TwoPointTool.h"
 
-/// A rectangle, outlined or filled as the brush says, from the press to the release; shown as an outline.
-/// Its size is the difference of the two points: the pixel of the press belongs to it, the row and the
-/// column of the release do not. A size of 0 draws nothing, but counts as a modification all the same.
+/// The rectangle tool: a rectangle from the press to the release, outlined or filled as the brush says. The
+/// preview is an outline. Its size is the difference of the two points: the pixel of the press belongs to
+/// it, the row and column of the release do not. A size of 0 draws nothing, but still counts as a
+/// modification.
 class KORVA_EXPORT KORVA_Rectangle : public KORVA_TwoPointTool
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ void KORVA_Repainter::add(const QRect& changed)
     if (!m_sinceLast.isValid() || m_sinceLast.elapsed() >= interval)
         repaint();
     else if (!m_timer.isActive())
-        m_timer.start(interval, Qt::PreciseTimer, this); // a steady stream of changes comes before it
+        m_timer.start(interval, Qt::PreciseTimer, this); // in a steady stream, a change comes before it
 }
 
 void KORVA_Repainter::timerEvent(QTimerEvent*)

@@ -7,9 +7,9 @@
 
 class QWidget;
 
-/// Brings a widget's changes to the screen at the screen's pace: at once when the last repaint is 8 ms ago
-/// or more, else together with the next change, and never later than 8 ms after it. Only the rectangle
-/// around what changed is painted.
+/// Brings a widget's changes to the screen at the screen's pace. If the last repaint was 8 ms ago or more,
+/// a change is painted at once. Otherwise it is painted together with a later change, or 8 ms after it at
+/// the latest. Only the rectangle around the changes is painted.
 class KORVA_Repainter : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class KORVA_Repainter : public QObject
 public:
     explicit KORVA_Repainter(QWidget* widget) : m_widget(widget) {}
 
-    /// In widget coordinates.
+    /// Adds a changed rectangle, in widget coordinates.
     void add(const QRect& changed);
 
 protected:

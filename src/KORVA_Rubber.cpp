@@ -38,7 +38,7 @@ void KORVA_Rubber::mouseReleaseEvent(QMouseEvent* event)
     if (!canvas())
         return;
     const QPoint p = zoom().toPicture(pixel::at(event->position()));
-    erase(p, p); // kept: the last square lies at the picture's place on the screen, too
+    erase(p, p); // kept: on the screen, too, the last square lies at its picture coordinates
 }
 
 void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)

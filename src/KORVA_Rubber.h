@@ -2,9 +2,9 @@
 
 #include "KORVA_DrawingTool.h"
 
-/// The eraser: stamps white squares with their top left under the stylus. The side is the pen's width times
-/// the zoom, in both pictures alike. Each accepted press is an undo step; the release marks the picture
-/// modified.
+/// The eraser tool: stamps white squares with their top left under the stylus. Their side is the pen's
+/// width times the zoom, in both pictures. Each accepted press is an undo step; the release marks the
+/// picture modified.
 class KORVA_EXPORT KORVA_Rubber : public KORVA_DrawingTool
 {
     Q_OBJECT
@@ -21,5 +21,5 @@ public:
 private:
     void erase(QPoint inPicture, QPoint onScreen);
 
-    bool m_drawing = false; ///< between a press and the first move: after that another press is taken
+    bool m_drawing = false; ///< from a press to the first move; after that, another press is accepted
 };

@@ -14,16 +14,16 @@ class QInputMethodEvent;
 class QKeyEvent;
 class QMouseEvent;
 
-/// A drawing tool: what the canvas hands its stylus and key events to while the tool is active on it.
+/// The base of all tools. The canvas hands its stylus and key events to the tool that is active on it.
 ///
-/// The manager creates the tools, gives them identifiers, pens and brushes and switches between them:
-/// activate(), then KORVA_Canvas::activate(); and back KORVA_Canvas::deactivate(), then deactivate().
+/// The manager creates the tools and gives them identifiers, pens and brushes. It switches them on with
+/// activate(), then KORVA_Canvas::activate(), and off with KORVA_Canvas::deactivate(), then deactivate().
 /// Positions arrive in widget coordinates, which are those of the zoomed picture. A tool calls
-/// KORVA_Canvas::saveOldPix() before it changes the picture, and KORVA_Canvas::markModified(). Handlers do
-/// nothing on a tool without a canvas.
+/// KORVA_Canvas::saveOldPix() before it changes the picture, and KORVA_Canvas::markModified() once for the
+/// change. Handlers do nothing on a tool without a canvas.
 ///
-/// Who hears of a change may change tools: after markModified() and KORVA_Canvas::pixmap(), which merges a
-/// floating piece, a tool asks again whether there is a canvas().
+/// A slot that hears of a change may change tools. So after markModified(), and after
+/// KORVA_Canvas::pixmap(), which merges a floating piece, a tool checks again whether it has a canvas().
 class KORVA_EXPORT KORVA_Tool : public QObject
 {
     Q_OBJECT
@@ -31,39 +31,40 @@ class KORVA_EXPORT KORVA_Tool : public QObject
 public:
     /// A tool without a name.
     KORVA_Tool();
-    /// Inactive, with the pens and brushes that Qt makes by default, until the manager sets them.
+    /// An inactive tool, with Qt's default pens and brushes until the manager sets them.
     explicit KORVA_Tool(const QString& name);
     ~KORVA_Tool() override;
 
     /// The tool's number in the manager's table; -1 until the manager sets it.
     [[nodiscard]] int id() const { return m_id; }
-    /// Once, by who makes the tool.
+    /// Called once, by whoever makes the tool.
     void setId(int id) { m_id = id; }
-    /// The constructor's; not translated and not shown.
+    /// The name given to the constructor; not translated and not shown.
     [[nodiscard]] QString name() const { return m_name; }
 
     /// Whether activate() came after the last deactivate().
     [[nodiscard]] bool isActive() const { return m_active; }
-    /// The canvas worked on; null while inactive, and when the canvas has gone before the tool.
+    /// The canvas that the tool works on. Null while inactive, and if the canvas was deleted before the
+    /// tool.
     [[nodiscard]] KORVA_Canvas* canvas() const;
-    /// Binds the tool to a canvas, which it does not own, and calls activating(). Aborts when the canvas
+    /// Binds the tool to a canvas, which it does not own, and calls activating(). Aborts if the canvas
     /// already has an active tool.
     void activate(KORVA_Canvas* c);
-    /// Calls deactivating(), unless the canvas has gone before, and lets go of the canvas. Aborts when the
+    /// Calls deactivating(), unless the canvas is already deleted, and lets go of the canvas. Aborts if the
     /// tool is not active.
     void deactivate();
 
-    /// True while typed text is not yet in the picture; undo and redo leave the picture alone then.
+    /// True while typed text is not yet in the picture. Undo and redo then leave the picture alone.
     [[nodiscard]] bool getTextKey() const { return m_textKey; }
 
-    /// The pen of the left button, with its width in picture pixels. For what is painted next; nothing is
-    /// painted anew.
+    /// Sets the pen of the left button, with its width in picture pixels. It is used from now on; nothing
+    /// is painted again.
     void setLeftPen(const QPen& pen) { m_leftPen = pen; }
-    /// The brush of the left button.
+    /// Sets the brush of the left button.
     void setLeftBrush(const QBrush& brush) { m_leftBrush = brush; }
-    /// The pen of every other button.
+    /// Sets the pen of every other button.
     void setRightPen(const QPen& pen) { m_rightPen = pen; }
-    /// The brush of every other button.
+    /// Sets the brush of every other button.
     void setRightBrush(const QBrush& brush) { m_rightBrush = brush; }
     /// See setLeftPen().
     [[nodiscard]] QPen leftPen() const { return m_leftPen; }
@@ -74,8 +75,8 @@ public:
     /// See setRightBrush().
     [[nodiscard]] QBrush rightBrush() const { return m_rightBrush; }
 
-    /// A press of the left button beside the floating piece, which is merged before; of a double click, the
-    /// second one too. The base class does nothing.
+    /// A press of the left button beside the floating piece, which is merged before. The second press of a
+    /// double click comes here, too. The base class does nothing.
     virtual void mousePressEvent(QMouseEvent* event);
     /// A release of any button, not over a floating piece. The base class does nothing.
     virtual void mouseReleaseEvent(QMouseEvent* event);
@@ -85,41 +86,41 @@ public:
     virtual void mouseMoveEvent(QMouseEvent* event);
     /// A key on the canvas. The base class ignores it, so that it goes on to the canvas's parents.
     virtual void keyPressEvent(QKeyEvent* event);
-    /// As keyPressEvent().
+    /// The same for the release of a key.
     virtual void keyReleaseEvent(QKeyEvent* event);
     /// The canvas never calls it. The base class does nothing.
     virtual void enterEvent(QEvent* event);
     /// The canvas never calls it. The base class does nothing.
     virtual void leaveEvent(QEvent* event);
-    /// The tool becomes active: canvas() is set, but KORVA_Canvas::isActive() is not yet true. For the
+    /// The tool becomes active: canvas() is set, but KORVA_Canvas::isActive() is not yet true. Sets the
     /// cursor and the like.
     virtual void activating();
-    /// The tool stops being active: canvas() is still set, but no longer hands anything on. Pending work is
+    /// The tool stops being active: canvas() is still set, but no longer passes on events. Pending work is
     /// finished here.
     virtual void deactivating();
 
-    /// Whether printable keys, Tab and the input method belong to the tool at the moment.
+    /// Whether printable keys, Tab and the input method belong to the tool at present.
     [[nodiscard]] virtual bool takesText() const { return false; }
-    /// What the input method composes or commits. The base class ignores it.
+    /// The input method composes or commits a text. The base class ignores the event.
     virtual void inputMethodEvent(QInputMethodEvent* event);
-    /// What the input method asks of the text being typed; positions in widget coordinates.
+    /// Answers the input method about the text being typed; positions are in widget coordinates.
     [[nodiscard]] virtual QVariant inputMethodQuery(Qt::InputMethodQuery query) const;
-    /// The zoomed picture was drawn anew: feedback that the tool had painted into it is gone.
+    /// The zoomed picture was painted anew, so feedback that the tool had painted into it is gone.
     virtual void zoomedRebuilt();
-    /// Paints what the tool still holds back, as committing it would, into a copy of the picture: for
-    /// KORVA_Canvas::snapshot(). The base class holds nothing back.
+    /// For KORVA_Canvas::snapshot(): paints what the tool has not yet committed into a copy of the picture,
+    /// as committing would. The base class does nothing.
     virtual void paintPending(QPixmap* picture) const;
 
 signals:
-    /// For tools of a host's own; the library neither emits nor hears it.
+    /// For a host's own tools; the library neither emits it nor connects to it.
     void modified();
-    /// From the text tool, after every release.
+    /// Emitted by the text tool, after every release.
     void TextToolClicked();
 
 protected:
-    /// What getTextKey() tells.
+    /// Sets what getTextKey() returns.
     void setTextKey(bool on) { m_textKey = on; }
-    /// The canvas's zoom; only while there is a canvas.
+    /// The canvas's zoom. Only while there is a canvas.
     [[nodiscard]] KORVA_Zoom zoom() const;
 
 private:

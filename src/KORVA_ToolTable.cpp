@@ -21,7 +21,8 @@ std::unique_ptr<KORVA_Tool> make(const QString& name)
     return std::make_unique<Tool>(name);
 }
 
-// The icons' "7pt" and the like are labels: the text tool makes 12, 16 and 20 points of the widths.
+// "7pt" and the like in the icons are only labels: the text tool turns these widths into 12, 16 and 20
+// points.
 constexpr OptionRow sizes[] = {
     {"DaApV_Line_Tool_Opt_S.gif", 1, QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Small", "tool option")},
     {"DaApV_Line_Tool_Opt_M.gif", 3, QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Medium", "tool option")},

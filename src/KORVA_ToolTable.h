@@ -5,16 +5,16 @@
 #include <memory>
 #include <span>
 
-/// The tools and all that is said of them: who adds one adds a row in KORVA_ToolTable.cpp.
+/// The table of the tools: their names, icons and options. To add a tool, add a row in KORVA_ToolTable.cpp.
 namespace KORVA_ToolTable {
 
 /// The identifiers: the numbers of the rows.
 enum ToolId : int { Pencil, AreaSelect, Line, Text, Rectangle, Ellipse, Eraser, Drag };
 
-/// What the editor remembers of the options, shared by all tools that have the same one.
+/// The choices of options that the editor remembers. Tools with the same kind of option share it.
 enum class Option { None, Size, Fill, SelectionMode };
 
-/// As a person reads and hears it.
+/// A name for people to read and hear.
 struct Name
 {
     const char* text;
@@ -24,7 +24,7 @@ struct Name
 struct OptionRow
 {
     const char* icon;
-    int penWidth; ///< 0 leaves the manager's alone
+    int penWidth; ///< 0 leaves the manager's width alone
     Name name;
 };
 
@@ -32,12 +32,12 @@ struct ToolRow
 {
     std::unique_ptr<KORVA_Tool> (*make)(const QString& name);
     const char* toolName; ///< KORVA_Tool::name()
-    const char* word;     ///< in recordings
+    const char* word;     ///< its word in recordings
     Name name;
-    int place; ///< in the tool pop-up; none for the hand, an option of select
+    int place; ///< in the tool pop-up; noPlace for the hand, which is an option of select
     const char* icon;
     Option option;
-    std::span<const OptionRow> options; ///< in the order of its pop-up
+    std::span<const OptionRow> options; ///< in the order of the option pop-up
 };
 
 constexpr int noPlace = -1;
@@ -47,13 +47,13 @@ constexpr int noPlace = -1;
 /// The row of an identifier; null for none.
 [[nodiscard]] const ToolRow* toolRow(int tool);
 
-// What the pop-ups' entries carry: no identifier is 0, -1 or a tool's number.
+// The identifiers of the pop-ups' entries start here, so that none is 0, -1 or a tool's number.
 constexpr int toolMenuBase = 100;
 constexpr int optionMenuBase = 200;
 
 /// The tool at a place of the tool pop-up; -1 for none.
 [[nodiscard]] int toolAt(int place);
-/// The identifier of a tool's first option's entry; those of its others follow.
+/// The identifier of the entry of a tool's first option; those of its other options follow.
 [[nodiscard]] int firstOptionId(int tool);
 
 } // namespace KORVA_ToolTable

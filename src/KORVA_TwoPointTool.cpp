@@ -54,7 +54,7 @@ void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
     if (!canvas() || m_state == Idle || event->button() != button())
         return;
     QPixmap* const paper =
-        beginChange() ? picture() : nullptr; // before the screen is touched: merging redraws that
+        beginChange() ? picture() : nullptr; // before the screen is painted: merging redraws it
     const bool isShown = std::exchange(m_state, Idle) == Dragging;
     if (!paper || !isShown)
         return;
@@ -79,7 +79,8 @@ void KORVA_TwoPointTool::drawLeftShape(KORVA_ClassicPainter& painter, QPoint fro
     drawShape(painter, from, to);
 }
 
-// The first move removes a shape of no size that no press has drawn: it is on screen with every preview.
+// The first move removes a shape of size 0 that the press has not drawn, so every preview shows that shape
+// as well.
 void KORVA_TwoPointTool::togglePreview()
 {
     KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);

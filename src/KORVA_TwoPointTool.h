@@ -6,18 +6,18 @@
 
 class KORVA_ClassicPainter;
 
-/// The gesture of the shapes that are spanned between the press and a second point. While the stylus is
-/// down the shape is shown inverted in the zoomed picture only; the release of the same button removes it,
-/// takes the undo snapshot and paints the shape into both pictures. Other buttons and second presses are
-/// ignored meanwhile.
+/// The base of tools that draw a shape between the press and a second point. While the stylus is down, the
+/// shape is shown inverted, in the zoomed picture only. The release of the same button removes it, takes
+/// the undo snapshot and paints the shape into both pictures. Meanwhile other buttons and further presses
+/// are ignored.
 class KORVA_EXPORT KORVA_TwoPointTool : public KORVA_DrawingTool
 {
     Q_OBJECT
 
 public:
-    /// A drag is kept over a change of tools; its preview comes back.
+    /// Shows the preview of a drag again; a drag survives a change of tools.
     void activating() override;
-    /// Hides the preview; nothing is painted.
+    /// Hides the preview. Nothing is painted.
     void deactivating() override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -27,12 +27,12 @@ public:
 protected:
     using KORVA_DrawingTool::KORVA_DrawingTool;
 
-    /// Paints the shape between two points in the coordinates of the painter's target, widget's or
-    /// picture's: preview, its removal and commit alike. Pen and brush are set.
+    /// Paints the shape between two points, for preview, its removal and commit. The points are in
+    /// coordinates of the painter's target, the widget or the picture. Pen and brush are already set.
     virtual void drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const = 0;
-    /// Removes the preview that a move leaves behind; drawShape() unless overridden.
+    /// Removes the preview that a move leaves behind. The base class calls drawShape().
     virtual void drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const;
-    /// Where the shape ends for good, in widget coordinates as its arguments.
+    /// The final second point of the shape. It and both arguments are in widget coordinates.
     [[nodiscard]] virtual QPoint commitPoint(QPoint lastMove, QPoint release) const = 0;
 
 private:
@@ -47,5 +47,5 @@ private:
     State m_state = Idle;
     QPoint m_start;  ///< widget coordinates
     QPoint m_end;    ///< the last move, widget coordinates
-    QPen m_shownPen; ///< what the preview was drawn with: the pen may change before it is removed
+    QPen m_shownPen; ///< the preview's pen: the tool's may change before the preview is removed
 };

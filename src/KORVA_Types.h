@@ -3,7 +3,7 @@
 /// @file
 /// The enumerations that a host and the editor hand each other.
 
-/// The colour depth of the picture being edited, which decides what KORVA_ColorPicker offers. It does not
+/// The colour depth of the picture being edited. It decides what KORVA_ColorPicker offers, and does not
 /// limit the colours that are painted.
 enum KORVA_COLORTYPE : int {
     KORVA_COLOR_1BIT,  ///< starts from black or white; the red channel in 2 levels

@@ -40,7 +40,7 @@ QSize KORVA_WorkingLimits::sizeOf(QSize size) const
         return size;
     if (tallness == 0)
         return box;
-    // However long a strip is, a pixel of its width remains.
+    // However narrow the result is, one pixel of its width remains.
     if (tallness > 0)
         return {qMax(1, int(width * box.height() / height)), box.height()};
     return {box.width(), qMax(1, int(height * box.width() / width))};

@@ -4,26 +4,27 @@
 #include <QPixmap>
 #include <QSize>
 
-/// The size and the depth in which a drawing is worked on, and how a picture becomes fit for them.
+/// The size and depth in which a drawing is worked on. Converts pictures to them.
 ///
-/// A value, for any thread. Null pictures stay null.
+/// It is a value, for any thread. Null pictures stay null.
 struct KORVA_WorkingLimits
 {
-    QSize box{352, 288}; ///< a picture of more pixels is fitted within
-    int depth = 16;      ///< in bits a pixel: 16 or 24
+    QSize box{352, 288}; ///< a picture with more pixels is scaled down to fit this
+    int depth = 16;      ///< bits per pixel: 16 or 24
 
-    /// What the platform's services say, within what a canvas can bear; GUI thread only.
+    /// The limits that the platform's services give, within those that a canvas allows. GUI thread only.
     [[nodiscard]] static KORVA_WorkingLimits ofPlatform();
 
-    /// A picture's own size, or the greatest of its shape within the box when it has more pixels than that.
+    /// A picture's own size or, if it has more pixels than the box, the greatest size with its proportions
+    /// within the box.
     [[nodiscard]] QSize sizeOf(QSize size) const;
-    /// The picture in that size and the working depth; one of 8 bits that keeps its size stays one. What is
-    /// transparent comes out white.
+    /// The picture in that size and the working depth. A picture of 8 bits that keeps its size keeps its
+    /// depth. Transparent parts become white.
     [[nodiscard]] QImage fitted(const QImage& image) const;
     /// The same as a pixmap; false when the picture is null or cannot be converted.
     [[nodiscard]] bool convert(const QImage& image, QPixmap* pixmap) const;
 
-    /// The picture on paper of one colour, which shows where it is transparent; one with a palette keeps
-    /// having one.
+    /// The picture on paper of one colour, which shows through its transparent parts. A picture with a
+    /// palette keeps one.
     [[nodiscard]] static QImage laidOn(const QImage& image, QRgb paper);
 };

@@ -3,16 +3,16 @@
 #include <QRect>
 #include <QTransform>
 
-/// The zoom in percent and the one rule by which coordinates pass between picture and widget.
+/// The zoom in percent, and the only conversion of coordinates between picture and widget.
 ///
-/// "Widget" coordinates are pixels of the zoomed picture. Sizes and matrices are reckoned in single
-/// precision, sizes are truncated; coordinates are divided as integers, truncating toward zero.
+/// "Widget" coordinates are pixels of the zoomed picture. Sizes and matrices are calculated in single
+/// precision; sizes are truncated. Coordinates are divided as integers, truncating toward zero.
 class KORVA_Zoom
 {
 public:
     /// 100 %: real size.
     constexpr KORVA_Zoom() = default;
-    /// `percent` is 1 or more; nothing checks it, and 0 is divided by.
+    /// `percent` must be 1 or more. This is not checked, and 0 leads to a division by zero.
     explicit constexpr KORVA_Zoom(int percent) : m_percent(percent) {}
 
     /// The zoom in percent.
@@ -25,21 +25,21 @@ public:
     {
         return {toPicture(p.x()), toPicture(p.y())};
     }
-    /// A widget rectangle in the picture: position and size each on its own, so that it may end one pixel
-    /// before its corner's place.
+    /// A widget rectangle in the picture. Position and size are converted separately, so the rectangle may
+    /// end one pixel before its converted corner.
     [[nodiscard]] constexpr QRect toPicture(const QRect& r) const
     {
         return {toPicture(r.left()), toPicture(r.top()), toPicture(r.width()), toPicture(r.height())};
     }
 
-    /// The size on screen, in pixels, of a picture of this size.
+    /// The size on screen, in widget pixels, of a picture of this size.
     [[nodiscard]] QSize zoomed(QSize picture) const
     {
         return {static_cast<int>(static_cast<float>(picture.width()) * factor()),
                 static_cast<int>(static_cast<float>(picture.height()) * factor())};
     }
 
-    /// How many pixels zoomed() has, of any picture at any zoom.
+    /// The number of pixels of zoomed(), for any picture at any zoom.
     [[nodiscard]] constexpr double zoomedPixels(QSize picture) const
     {
         return picture.width() * (m_percent / 100.0) * picture.height() * (m_percent / 100.0);

@@ -27,7 +27,7 @@ double penCentre(int width)
     return width > 1 && width % 2 == 1 ? 0.5 : 0.0;
 }
 
-// What a shape covers with an outline of this width.
+// The rectangle that a shape covers with an outline of this width.
 QRect withOutline(const QRect& box, int width)
 {
     const int before = width / 2;
@@ -35,8 +35,8 @@ QRect withOutline(const QRect& box, int width)
     return box.adjusted(-before, -before, after, after);
 }
 
-/// The toolkit shares out what it inverts among threads from about a hundred runs of pixels on, and waking
-/// those takes many times as long as the painting. So it is given fewer at a time.
+/// From about a hundred runs of pixels on, Qt shares inverting among threads, and waking those takes many
+/// times as long as the painting. So Qt gets fewer runs at a time.
 constexpr int mostRuns = 90;
 
 /// A thin line's run is one pixel long, even where the line lies flat.
@@ -61,7 +61,8 @@ bool isEnlarged(const QPainter& painter)
     return painter.worldTransform().isIdentity() && painter.deviceTransform().isScaling();
 }
 
-// The screen's pixels whose corners lie in the rectangle: of two beside each other none is in both.
+// The screen's pixels whose top left corners lie in the rectangle. Two adjacent rectangles share none of
+// them.
 QRect onScreen(const QRect& rect, const QTransform& toScreen)
 {
     const QRectF mapped = toScreen.mapRect(QRectF(rect));
@@ -91,7 +92,7 @@ void KORVA_ClassicPainter::setPen(const QPen& pen)
     QPen fixedWidth = pen;
     fixedWidth.setCosmetic(true);
     if (fixedWidth.joinStyle() == Qt::BevelJoin)
-        fixedWidth.setJoinStyle(Qt::MiterJoin); // today's default pen would cut the corners of a rectangle
+        fixedWidth.setJoinStyle(Qt::MiterJoin); // Qt's default join would cut the corners of a rectangle
     m_painter.setPen(fixedWidth);
 }
 
@@ -183,8 +184,8 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
             drawInParts(bars, [&] { m_painter.drawRect(outline); });
         return;
     }
-    // Bars that share no pixel: today's own outline would invert the pixels of a narrow frame twice and let
-    // the corners of a wide one grow spikes.
+    // These bars share no pixel. Qt's own outline would invert some pixels of a narrow frame twice, and add
+    // spikes to the corners of a wide one.
     for (const QRect& bar : bars) {
         for (const QRect& part : alongTheLongerSide(bar))
             m_painter.fillRect(part, m_painter.pen().brush());
@@ -193,7 +194,7 @@ void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
         m_painter.fillRect(hole, m_painter.brush());
 }
 
-// A path, of which each pixel is painted once.
+// A path paints each pixel once.
 void KORVA_ClassicPainter::fillRoundFrame(const QRect& outer, const QRect& hole)
 {
     const double radius = outlineWidth() / 2.0;
@@ -209,7 +210,7 @@ void KORVA_ClassicPainter::fillRoundFrame(const QRect& outer, const QRect& hole)
 void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
 {
     if (w == 1 || h == 1) {
-        drawRect(x, y, w, h); // no more than a line, of which today's own would invert every pixel twice
+        drawRect(x, y, w, h); // only a line; Qt's ellipse would invert each of its pixels twice
         return;
     }
     const int width = outlineWidth();
@@ -229,7 +230,7 @@ void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
 template <typename Draw>
 void KORVA_ClassicPainter::drawInParts(const QRegion& area, const Draw& drawAll)
 {
-    // A wide line is another one at the edges of a clip.
+    // A clip would change a wide line at its edges.
     if (m_op == CopyROP || outlineWidth() > 1) {
         drawAll();
         return;
@@ -264,8 +265,8 @@ void KORVA_ClassicPainter::drawPixmap(int x, int y, const QPixmap& pixmap, const
     }
 }
 
-// The toolkit has its own idea of which pixel lies where at a ratio between two whole numbers, and it
-// depends on the rectangle that is painted.
+// At a fractional ratio Qt places pixels by a rule of its own, which depends on the rectangle that is
+// painted.
 void KORVA_ClassicPainter::drawPixelByPixel(QPoint at, const QImage& image, const QRect& onScreen)
 {
     if (image.isNull() || onScreen.isEmpty())
@@ -294,7 +295,8 @@ void KORVA_ClassicPainter::drawPixelByPixel(QPoint at, const QImage& image, cons
     m_painter.setWorldTransform({});
 }
 
-// The dots are counted in pixels of ratio 1, so that there are as many and no half ones.
+// The dots are counted in pixels of ratio 1. So their number is the same at every ratio, and none is cut in
+// half.
 void KORVA_ClassicPainter::invertDotted(const QRect& box, const QRegion& bars, const QRectF& outline)
 {
     QImage mask(box.size(), QImage::Format_RGB32);
@@ -327,7 +329,7 @@ QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString&
     return used;
 }
 
-// By way of a mask: where two letters share a pixel it is inverted once all the same.
+// The text goes through a mask, so that a pixel that two letters share is inverted only once.
 void KORVA_ClassicPainter::invertText(const QRect& area, const QRect& box, int flags, const QString& text)
 {
     const QRect visible = area & targetRect();

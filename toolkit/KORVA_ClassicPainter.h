@@ -3,12 +3,13 @@
 #include <QPainter>
 #include <QPixmap>
 
-/// Paints with the classic meaning of a shape's size: what is w × h covers w × h pixels, outline included.
+/// A painter with the classic meaning of a shape's size: a shape of w × h covers w × h pixels, outline
+/// included.
 ///
-/// It is opened on a picture or a widget for as long as it lives; on a null picture it paints nothing. Only
+/// It is open on a picture or a widget for as long as it lives; on a null picture it paints nothing. Only
 /// one may be open on a picture at a time. Nothing is antialiased. Coordinates are pixels of the target,
-/// unless a matrix maps them; a pen's width is always pixels of the target, whatever the matrix. A widget's
-/// pixel is the one of pixel::at(), however large the device pixel ratio makes it.
+/// unless a matrix maps them. A pen's width is always in pixels of the target, whatever the matrix. On a
+/// widget, a pixel is that of pixel::at(), however large the device pixel ratio makes it.
 class KORVA_ClassicPainter
 {
 public:
@@ -25,31 +26,32 @@ public:
     void setRasterOp(RasterOp op);
     void setWorldMatrix(const QTransform& matrix);
 
-    /// A square of the pen's width around the pixel, or a disc where its cap is round.
+    /// Paints a square of the pen's width around the pixel, or a disc if the pen's cap is round.
     void drawPoint(int x, int y);
-    /// Both end pixels included; a line of no length is a point.
+    /// Both end pixels are included; a line of no length is a point.
     void drawLine(int x1, int y1, int x2, int y2);
     /// A negative size mirrors the rectangle about its anchor pixel, which always belongs to it; a size of
-    /// 0 paints nothing. Corners are mitred, or round where the pen's join is.
+    /// 0 paints nothing. Corners are mitred, or round if the pen's join is.
     void drawRect(int x, int y, int w, int h);
-    /// The ellipse inscribed in w × h pixels (both positive); it never leaves its box, which a pen wider
-    /// than one pixel grows on all sides.
+    /// The ellipse inscribed in w × h pixels (both positive). It never leaves its box; a pen wider than one
+    /// pixel enlarges that box on all sides.
     void drawEllipse(int x, int y, int w, int h);
     void fillRect(const QRect& rect, const QColor& color);
-    /// The whole picture with its top left at (x, y); transparent pixels leave the target alone. Of a
-    /// widget's no more than `exposed` need be painted.
+    /// Paints the whole picture with its top left at (x, y); transparent pixels leave the target alone. On
+    /// a widget only `exposed` must be painted.
     void drawPixmap(int x, int y, const QPixmap& pixmap, const QRect& exposed = {});
-    /// `flags` are Qt's text flags; the box actually used is returned, in target coordinates.
+    /// `flags` are Qt's text flags. Returns the box actually used, in target coordinates.
     QRect drawText(const QRect& box, int flags, const QString& text);
 
-    /// A rectangle around all that was painted so far, in the coordinates given.
+    /// A rectangle around everything painted so far, in the coordinates in which it was given.
     [[nodiscard]] QRect touched() const { return m_touched; }
 
 private:
     void touch(const QRect& rect, int margin = 0);
     [[nodiscard]] QRect targetRect() const; ///< in the coordinates that shapes are given in
     [[nodiscard]] int outlineWidth() const;
-    /// Paints a shape that lies within `area`; where it inverts, one part of that after the other.
+    /// Paints a shape that lies within `area`. A painter that inverts paints one part of that after the
+    /// other.
     template <typename Draw>
     void drawInParts(const QRegion& area, const Draw& drawAll);
     void fillRoundFrame(const QRect& outer, const QRect& hole);
@@ -65,21 +67,20 @@ private:
 
 namespace classic {
 
-/// The rectangle of the same two corner pixels, with the corners swapped where they are the wrong way
-/// round.
+/// The rectangle with the same two corner pixels, swapped where they are the wrong way round.
 [[nodiscard]] QRect normalized(const QRect& rect);
 
-/// A picture without transparency: what shows through comes out white.
+/// The picture without transparency: transparent parts become white.
 [[nodiscard]] QPixmap opaque(const QPixmap& pixmap);
 
 /// A picture of this size filled with one colour; null when a side is not positive.
 [[nodiscard]] QPixmap filled(const QSize& size, const QColor& color);
 
-/// A number that equal pictures of the same format share and others almost never do.
+/// A number that is the same for equal pictures of the same format, and almost never for others.
 [[nodiscard]] size_t hash(const QImage& image);
 
-/// Copies a whole picture into another or onto a widget at (x, y); what falls outside is left away, masks
-/// are respected. Of a widget no more than `exposed` need be painted.
+/// Copies a whole picture into another or onto a widget at (x, y). Parts outside the target are left out;
+/// masks are respected. On a widget only `exposed` must be painted.
 void bitBlt(QPaintDevice* target, int x, int y, const QPixmap& source, const QRect& exposed = {});
 
 } // namespace classic

@@ -3,7 +3,7 @@
 #include <QtGlobal>
 
 /// @file
-/// What makes a name visible outside the library.
+/// The macro that makes a name visible outside the library.
 
-/// Marks what other programs may link against; everything else is hidden.
+/// Marks names that other programs may link against; all others are hidden.
 #define KORVA_EXPORT Q_DECL_EXPORT

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double ratioError = 1e-6; // of a whole position that went through a ratio like 1.1
+constexpr double ratioError = 1e-6; // rounding error of a whole position that went through a ratio like 1.1
 
 } // namespace
 

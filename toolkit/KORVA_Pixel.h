@@ -7,17 +7,18 @@
 class QMouseEvent;
 class QWidget;
 
-/// Which pixel a position means, the same at every device pixel ratio: the one under the pointer.
+/// The rule that says which pixel a position means. It is the same at every device pixel ratio: the pixel
+/// under the pointer.
 ///
-/// A pixel is a widget's own, as large on the screen as the ratio makes it. It begins at its whole number
-/// and ends where the next one begins, so that a whole position is its own pixel.
+/// A pixel here is a pixel of the widget, as large on the screen as the ratio makes it. Pixel n goes from n
+/// up to, but not including, n + 1, so a whole position is in the pixel of that number.
 namespace pixel {
 
 /// The pixel that holds a position.
 [[nodiscard]] KORVA_EXPORT QPoint at(const QPointF& position);
 
-/// Where the pointer is in the widget that got the event. Between two pixels an event's own position is
-/// rounded when the toolkit hands it on from the window to a widget; this is the one before that.
+/// The pointer's exact position in the widget that got the event. Qt rounds an event's own position when it
+/// passes the event from the window to a widget; this is the position before that.
 [[nodiscard]] KORVA_EXPORT QPointF pointer(const QMouseEvent& event, const QWidget& widget);
 
 /// The pixel of the widget that is under the pointer.

@@ -103,8 +103,8 @@ void KORVA_ScrollView::placeChild()
 
 void KORVA_ScrollView::updateRanges()
 {
-    // Where the contents fit without scroll bars, a bar that is still shown must not keep the other one
-    // alive.
+    // If the contents fit without scroll bars, a bar that is still shown must not keep the other one in
+    // place.
     QSize visible = viewport()->size();
     if (const QSize most = maximumViewportSize();
         m_contents.width() <= most.width() && m_contents.height() <= most.height())

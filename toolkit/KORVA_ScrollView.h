@@ -4,21 +4,21 @@
 
 #include <QAbstractScrollArea>
 
-/// A window onto contents of a size that the owner sets and that nothing else changes.
+/// A scrolled view of contents whose size only the owner sets.
 ///
-/// One child is placed in the contents by addChild() and moveChild(); it is a child of the viewport and
-/// moves with the scrolling. All positions are pixels of the contents, (0, 0) at their top left.
+/// addChild() and moveChild() place one child in the contents. It is a child of the viewport and scrolls
+/// with the contents. All positions are pixels of the contents; (0, 0) is their top left.
 class KORVA_EXPORT KORVA_ScrollView : public QAbstractScrollArea
 {
     Q_OBJECT
 
 public:
-    /// Contents of 0 × 0 pixels.
+    /// A view of contents of 0 × 0 pixels.
     explicit KORVA_ScrollView(QWidget* parent = nullptr);
 
-    /// The contents' position at the top left of the visible area.
+    /// The x coordinate of the contents at the left edge of the visible area.
     [[nodiscard]] int contentsX() const;
-    /// See contentsX().
+    /// The y coordinate of the contents at the top edge of the visible area.
     [[nodiscard]] int contentsY() const;
     /// Scrolls at once; positions beyond the range are limited to it.
     void setContentsPos(int x, int y);
@@ -30,7 +30,7 @@ public:
     /// Sets the size of the contents; the position is limited to the new range.
     void resizeContents(int w, int h);
 
-    /// Takes the widget into the viewport, which owns it then, at (x, y) of the contents.
+    /// Places the widget at (x, y) of the contents. The viewport owns it from then on.
     void addChild(QWidget* child, int x, int y);
     /// Moves the widget to (x, y) of the contents.
     void moveChild(QWidget* child, int x, int y);
@@ -38,8 +38,8 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
-    /// Hands on to the child what the pointer does from a press on its last pixels, which the toolkit takes
-    /// for one beside it where it rounds a position between two pixels.
+    /// Passes on to the child the events of a press on the child's last pixels. Qt rounds a position
+    /// between two pixels, and may take such a press for one beside the child.
     bool viewportEvent(QEvent* event) override;
 
 private:
@@ -52,5 +52,5 @@ private:
     QWidget* m_child = nullptr; // owned by the viewport
     QPoint m_childPos;
     bool m_childHasPress = false;
-    bool m_isHanding = false; ///< what the child does not want comes back
+    bool m_isHanding = false; ///< an event that the child ignores comes back here
 };

@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QPushButton>
 
-/// A pad for one drawing that is always there: closed, killed or out of power, it comes back as it was.
+/// A pad for one drawing that survives closing, a kill and a power cut: it comes back as it was.
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);

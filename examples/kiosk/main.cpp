@@ -10,17 +10,17 @@ namespace {
 constexpr QSize screen(800, 480);
 constexpr QSize page(600, 420);
 constexpr QRect editorPlace(0, 0, 640, 480);
-constexpr QRect firstKey(648, 8, 144, 72); // the others follow below
+constexpr QRect firstKey(648, 8, 144, 72); // the other keys follow below
 constexpr int keyStep = firstKey.height() + 8;
 
-/// What every visitor finds: an empty page, and no way back to the drawing before.
+/// Gives the next visitor an empty page, with no way back to the previous drawing.
 void beginPage(KORVA_EditCanvas& editor)
 {
     editor.chooseCanvas(KORVA_CANVAS_16BIT, page.width(), page.height());
     editor.clearModified();
 }
 
-/// Under the first name that is free.
+/// Saves under the first free name.
 bool keepDrawing(KORVA_EditCanvas& editor, const QDir& folder)
 {
     int number = 1;

@@ -23,7 +23,7 @@ QString pickPicture(QWidget* parent)
 
 } // namespace
 
-/// Lets the person pick a wallpaper and see it before it is taken.
+/// Lets the person pick a wallpaper, and shows it for confirmation before it is taken.
 int main(int argc, char** argv)
 {
     const QApplication app(argc, argv);

@@ -36,7 +36,7 @@ public:
     }
 };
 
-/// Asks nobody: the first name that is free.
+/// Asks nobody and takes the first free name.
 class NextName : public UTIL_PictureDialog
 {
 public:
@@ -64,7 +64,7 @@ void Kiosk::timedMessage(QWidget* parent, const QString&, const QString& text, i
     banner->setAlignment(Qt::AlignCenter);
     banner->setAutoFillBackground(true);
     banner->setPalette(
-        UTIL_Skin::color(UTIL_Skin::Color::Ink)); // the text takes the colour that stands out
+        UTIL_Skin::color(UTIL_Skin::Color::Ink)); // the text gets a colour that stands out from this one
     banner->setGeometry(0, 228, banner->window()->width(), 28);
     banner->show();
     QTimer::singleShot(timeout * timeoutSecond(), banner, &QObject::deleteLater);

@@ -2,8 +2,8 @@
 
 #include <UTIL_Platform.h>
 
-/// What this kiosk has in place of a desktop's services: a banner for messages, a list of the pictures in
-/// its one folder, and names that it gives itself. Questions stay the library's.
+/// The kiosk's own services: a banner for messages, a list of the pictures in its one folder, and names
+/// that it chooses for drawings. Questions stay the library's.
 class Kiosk : public UTIL_Platform
 {
 public:

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A key of the on-screen keyboard: it types where the keyboard focus is, as a real one would.
+/// A key of the on-screen keyboard. It types where the keyboard focus is, like a real key.
 void addKey(QWidget& keyboard, const QRect& place, const QString& label, int code, const QString& text)
 {
     auto* key = new QPushButton(label, &keyboard);
