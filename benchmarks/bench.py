@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Measures Korva from the inside and from the outside, and prints what a reader wants to know.
+"""Measures Korva from the inside and from the outside, and prints the results as tables.
 
 Called by ./bench with the folder of the built programs. Writes results.json there; prints the table.
 See benchmarks/README.md for how to read it.
@@ -19,16 +19,16 @@ import time
 from dataclasses import dataclass, field
 from pathlib import Path
 
-MARKER = "f0e0c0"  # a colour that no program's face has: where it is on the screen, the picture is
+MARKER = "f0e0c0"  # a colour that no program uses in its window: it shows where the picture is
 SCREEN = "1024x768x24"
 STROKE = {"events": 1000, "rate": 500}
 FLOOD = {"events": 2000, "rate": 0}
-IDLE_S = 0.7  # from the picture on the screen to the measuring of memory
+IDLE_S = 0.7  # from the picture on the screen until memory is measured
 
 
 @dataclass
 class Program:
-    """What is started, and how it is brought to draw freehand."""
+    """A program to measure, and how to make it draw freehand."""
 
     name: str
     command: list
@@ -235,7 +235,7 @@ PAD = "korva-pad"
 
 
 def must_reach(outside, inside, library_bytes):
-    """The table of what is promised: name, what was found, the most (or least) it may be, whether it is so."""
+    """The rows of the promises: name, value found, comparison, and the most (or least) that is allowed."""
 
     def ratio(key, program, other):
         if other not in outside or program not in outside:

@@ -1,5 +1,5 @@
-/* The person in front of the screen, and the one with the stopwatch: an X client that starts programs, sends them
- * pointer motion through XTEST, and looks at the screen and at the program's CPU clock. It prints one line of JSON. */
+/* Stands in for a person and a stopwatch: an X client that starts programs, sends them pointer motion through
+ * XTEST, and reads the screen and the program's CPU clock. It prints one line of JSON. */
 
 #define _GNU_SOURCE
 #include <X11/Xlib.h>
@@ -28,9 +28,9 @@ enum {
     path_height = (most_points / row_points + 1) * row_height,
     margin = 4,
     fewest_marked = 500, /* pixels of the marker's colour that count as "painted" */
-    tolerance = 12,      /* per channel: the marker may have been a JPEG's */
+    tolerance = 12,      /* per channel: the marker may come from a JPEG */
     patience_ms = 20000,
-    settled_ms = 150, /* a program without CPU time for so long has done its work */
+    settled_ms = 150, /* a program that used no CPU time for this long has finished its work */
 };
 
 static const char usage[] =

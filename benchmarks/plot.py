@@ -10,7 +10,7 @@ import sys
 import matplotlib
 
 matplotlib.use("svg")
-matplotlib.rcParams["svg.hashsalt"] = "korva"  # the same results, the same file
+matplotlib.rcParams["svg.hashsalt"] = "korva"  # the same results give the same file
 from matplotlib import pyplot  # noqa: E402
 
 SIZE = re.compile(r"(\d+)x(\d+)$")
@@ -29,7 +29,7 @@ def series(inside, pattern, key):
 
 
 def draw(axes, title, label, curves, limit):
-    """With a limit on logarithmic scales, without one from 0."""
+    """Draws curves: on logarithmic scales with a limit, from 0 without one."""
     for name, (x, cost, floor) in curves:
         (line,) = axes.plot(x, cost, marker="o", label=name)
         if limit:

@@ -20,7 +20,7 @@ QSize fitted(QSize picture, QSize frame)
     return picture.scaled(frame, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
-/// What shows through a picture, whatever the skin.
+/// The color that shows through a transparent picture, whatever the skin.
 constexpr QRgb paper = 0xFFFFFFFF;
 
 QPixmap emptyPixmap(QSize size, qreal ratio, const QColor& color)
@@ -31,7 +31,7 @@ QPixmap emptyPixmap(QSize size, qreal ratio, const QColor& color)
     return pixmap;
 }
 
-/// A photo, struck out.
+/// The mark: a photo, struck out.
 QPixmap unreadableMark(qreal ratio)
 {
     using Size = UTIL_Skin::Size;

@@ -46,7 +46,7 @@ public:
     [[nodiscard]] QSize size() const { return m_size; }
     [[nodiscard]] int y() const { return m_y; } ///< the row below the strips so far
 
-    /// The next strip, from the top; null behind the last one and on failure.
+    /// The next strip, from the top; null after the last one and on failure.
     QImage next()
     {
         const int rows =

@@ -28,7 +28,7 @@ struct Closer
     void operator()(GifFileType* gif) const { DGifCloseFile(gif, nullptr); }
 };
 
-/// Rows of an interlaced frame come in four passes.
+/// The rows of an interlaced frame come in four passes.
 struct Pass
 {
     int first;
@@ -154,7 +154,7 @@ private:
     QRgb m_ground = 0;
     int m_transparentIndex = NO_TRANSPARENT_COLOR;
     std::array<QRgb, 256> m_colors{};  ///< transparent where the palette has none
-    std::vector<GifPixelType> m_lines; ///< of an interlaced frame, and which of them there are
+    std::vector<GifPixelType> m_lines; ///< all lines of an interlaced frame; m_isRead says which were read
     std::vector<bool> m_isRead;
     bool m_isDamaged = false;
 };

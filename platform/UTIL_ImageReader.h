@@ -60,7 +60,7 @@ public:
     /// The most pixels that reading may go over, counting those of every pass. A picture that needs more is
     /// too large. A JPEG in one pass that is read reduced costs little and is never too large.
     void setWorkLimit(qint64 pixels) { m_workLimit = pixels; }
-    /// "16" asks for a picture of 16 bits a pixel; anything else asks for nothing.
+    /// "16" asks for a picture with 16 bits per pixel; anything else has no effect.
     void setParameters(const char* parameters) { m_parameters = parameters; }
     /// Reads the picture in the wanted size if that saves memory: for JPEG, and for any picture with
     /// millions of pixels. Each pixel is then the mean of those that it covers, laid on `background` (a PNG

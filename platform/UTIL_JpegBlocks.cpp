@@ -142,7 +142,7 @@ private:
     std::vector<Bytes> m_packed;
     std::vector<Block> m_window;
     std::vector<JBLOCKROW> m_rows; ///< of the window
-    JDIMENSION m_first = 0;        ///< of the rows at hand
+    JDIMENSION m_first = 0;        ///< the first row in use
     JDIMENSION m_count = 0;
     bool m_isWritten = false;
     Bytes m_packing;

@@ -232,7 +232,7 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     if (KORVA_Text* text = editor()->currentText())
         text->resetBuffer();
     editor()->setPixmap(&found);
-    editor()->canvas()->markModified(); // before the name goes: who hears of that must see a change
+    editor()->canvas()->markModified(); // before the name goes: a slot that hears of that must see a change
     editor()->setFileName({});
     editor()->canvas()->setUndoFlag(0);
     m_proposal = entry.pictureName;

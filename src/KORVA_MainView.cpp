@@ -17,7 +17,7 @@ int centred(int view, int canvas)
     return view > canvas ? (view - canvas) / 2 : 0;
 }
 
-// The scroll view's frame takes two of the pixels that centring reckons with.
+// The scroll view's frame takes two of the pixels that centring counts.
 int insideFrame(int offset)
 {
     return offset >= 2 ? offset - 2 : 0;

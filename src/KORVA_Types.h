@@ -50,10 +50,10 @@ enum KORVA_ZOOMTYPE : int {
     KORVA_ZOOM_100,
     KORVA_ZOOM_150,
     KORVA_ZOOM_200,
-    KORVA_ZOOM_FIT, ///< the picture as large as the page shows it whole
+    KORVA_ZOOM_FIT, ///< the rate that fits the whole picture into the view
 };
 
-/// What KORVA_EditCanvas::saveChangePic() and its like are asked for.
+/// The actions of KORVA_EditCanvas::saveChangePic() and similar functions.
 enum KORVA_ACTIONTYPE : int {
     KORVA_ACTION_OPEN,
     KORVA_ACTION_CHOOSE_CANVAS,
@@ -62,9 +62,9 @@ enum KORVA_ACTIONTYPE : int {
     KORVA_ACTION_CREATE,
 };
 
-/// What KORVA_EditCanvas::chosen() tells of.
+/// The choices that KORVA_EditCanvas::chosen() reports.
 enum KORVA_CHOICETYPE : int {
-    KORVA_CHOICE_TOOL,   ///< by its identifier; the hand is one, too
+    KORVA_CHOICE_TOOL,   ///< by its identifier; the hand counts as a tool
     KORVA_CHOICE_OPTION, ///< by its row in the option pop-up
     KORVA_CHOICE_ZOOM,   ///< by its row in the zoom box
     KORVA_CHOICE_COLOR,  ///< as KORVA_EditCanvas::color() says

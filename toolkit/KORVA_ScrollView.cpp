@@ -11,7 +11,7 @@ KORVA_ScrollView::KORVA_ScrollView(QWidget* parent) : QAbstractScrollArea(parent
 {
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(1);
-    setViewportMargins(1, 1, 1, 1); // frame and margin make the two pixels that centring reckons with
+    setViewportMargins(1, 1, 1, 1); // frame and margin are the two pixels that centring counts
 }
 
 int KORVA_ScrollView::contentsX() const
