@@ -79,19 +79,66 @@ bool KORVA_Text::isTyping(const QKeyEvent& event)
     }
 }
 
+// --- A text's life
+
 void KORVA_Text::activating()
 {
     canvas()->setCursor(Qt::BlankCursor);
 }
 
+void KORVA_Text::mousePressEvent(QMouseEvent* event)
+{
+    m_blink.stop();
+    hideCursor();
+    if (m_state == Open)
+        close();
+    m_cursor = pixel::at(event->position());
+    m_button = event->button();
+    m_state = Pressed;
+}
+
+void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_state != Pressed || event->button() != m_button)
+        return; // the canvas hands no other press on, but every release
+    m_state = Closed;
+    const QPoint p = pixel::at(event->position());
+    const QPoint moved = p - m_cursor;
+    if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius)
+        open(p);
+    emit TextToolClicked();
+}
+
+void KORVA_Text::open(QPoint at)
+{
+    m_state = Open;
+    showText({});
+    setText({});
+    m_start = m_cursor = at;
+    m_margin = at.x();
+    m_stops.clear();
+    toggleCursor();
+    m_blink.start(blinkTime, this);
+    QGuiApplication::inputMethod()->update(Qt::ImQueryAll);
+}
+
+// It is open until all have heard of its commit.
+void KORVA_Text::close()
+{
+    QGuiApplication::inputMethod()->reset();
+    paintBuffer();
+    m_state = Closed;
+    m_keys.clear();
+}
+
 void KORVA_Text::deactivating()
 {
     m_blink.stop();
-    endComposition();
-    paintBuffer();
+    if (m_state == Open)
+        close();
+    else
+        paintBuffer(); // kept: leaving the tool has always counted
     hideCursor();
-    m_started = false;
-    m_keys.clear();
 }
 
 void KORVA_Text::timerEvent(QTimerEvent*)
@@ -115,7 +162,7 @@ void KORVA_Text::resetBuffer()
 {
     if (!m_text.isNull())
         setText({});
-    if (m_started) {
+    if (m_state == Open) {
         hideCursor();
         if (canvas())
             showText({});
@@ -144,7 +191,7 @@ void KORVA_Text::paintBuffer()
 
 void KORVA_Text::paintPending(QPixmap* picture) const
 {
-    if (!m_started)
+    if (m_state != Open)
         return;
     KORVA_ClassicPainter painter(picture);
     drawText(painter, zoom().toPicture(m_start), zoom().toPicture(QPoint(m_margin, 0)).x(), m_text);
@@ -169,52 +216,15 @@ void KORVA_Text::penChanged()
     std::vector<QKeyEvent*> keys;
     for (const auto& key : m_keys)
         keys.push_back(key.get());
-    if (canvas() && m_started && !keys.empty())
+    if (canvas() && m_state == Open && !keys.empty())
         typeKeys(keys);
-}
-
-// --- The stylus
-
-void KORVA_Text::mousePressEvent(QMouseEvent* event)
-{
-    m_blink.stop();
-    hideCursor();
-    if (m_started) {
-        endComposition();
-        paintBuffer();
-        m_started = false;
-        m_keys.clear();
-    }
-    m_cursor = pixel::at(event->position());
-    m_button = event->button();
-}
-
-void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (event->button() != m_button)
-        return; // the canvas hands no other press on, but every release
-    m_button = Qt::NoButton;
-    const QPoint p = pixel::at(event->position());
-    const QPoint moved = p - m_cursor;
-    if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius) {
-        m_started = true;
-        showText({});
-        setText({});
-        m_start = m_cursor = p;
-        m_margin = p.x();
-        m_stops.clear();
-        toggleCursor();
-        m_blink.start(blinkTime, this);
-        QGuiApplication::inputMethod()->update(Qt::ImQueryAll);
-    }
-    emit TextToolClicked();
 }
 
 // --- Keys
 
 void KORVA_Text::keyPressEvent(QKeyEvent* event)
 {
-    if (!canvas() || !m_started || !isTyping(*event)) {
+    if (!canvas() || m_state != Open || !isTyping(*event)) {
         event->ignore();
         return;
     }
@@ -231,7 +241,7 @@ void KORVA_Text::record(const QKeyEvent& event)
 
 void KORVA_Text::keyPressEventSimu(QKeyEvent* event)
 {
-    if (canvas() && m_started && isTyping(*event))
+    if (canvas() && m_state == Open && isTyping(*event))
         typeKeys({event});
 }
 
@@ -305,15 +315,9 @@ void KORVA_Text::insert(QString text)
 
 // --- The input method
 
-void KORVA_Text::endComposition()
-{
-    if (m_started)
-        QGuiApplication::inputMethod()->reset();
-}
-
 void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
 {
-    if (!canvas() || !m_started) {
+    if (!canvas() || m_state != Open) {
         event->ignore();
         return;
     }
@@ -328,7 +332,7 @@ void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
     }
     if (!keys.empty())
         typeKeys(keys);
-    if (canvas() && m_started) // who has heard of it may have left the tool
+    if (canvas() && m_state == Open) // who has heard of it may have left the tool
         showText(m_text + event->preeditString());
 }
 
