@@ -178,11 +178,11 @@ void KORVA_Text::paintBuffer()
     setTextKey(false);
     if (!canvas() || m_isCommitting) // who hears of the change may ask for the picture
         return;
-    const QScopedValueRollback isCommitting(m_isCommitting, true);
     canvas()->saveOldPix();
     QPixmap* const picture = canvas()->pixmap();
-    if (!canvas())
+    if (!canvas()) // who hears of a merge may leave the tool, which commits
         return;
+    const QScopedValueRollback isCommitting(m_isCommitting, true);
     paintPending(picture);
     canvas()->updateZoomed();
     zoomedRebuilt(); // a tool that is being left is no longer told

@@ -12,7 +12,7 @@ using fixtures::text;
 using fixtures::toggled;
 
 inline constexpr QPoint tap(20, 50);
-inline constexpr QPoint there(100, 30);
+inline constexpr QPoint there(60, 30);
 inline constexpr QPoint near(2, -2);
 inline constexpr QPoint far(3, 0);
 inline constexpr QPoint mark(159, 99);
@@ -92,174 +92,6 @@ struct Bench
 };
 
 using Act = void (*)(Bench&);
-struct Named
-{
-    const char* name;
-    Act act;
-};
-
-inline void typeLetter(Bench& b)
-{
-    b.press(tap);
-    b.stylus.release(tap);
-    b.key(Qt::Key_A, "a");
-}
-
-inline const Named states[] = {
-    {"never tapped", [](Bench&) {}},
-    {"pressed", [](Bench& b) { b.press(tap); }},
-    {"closed",
-     [](Bench& b) {
-         typeLetter(b);
-         b.press(there);
-         b.stylus.release(there + far);
-     }},
-    {"pressed again",
-     [](Bench& b) {
-         typeLetter(b);
-         b.press(there);
-     }},
-    {"left",
-     [](Bench& b) {
-         typeLetter(b);
-         b.leave();
-     }},
-    {"left pressed",
-     [](Bench& b) {
-         b.press(tap);
-         b.leave();
-     }},
-    {"done",
-     [](Bench& b) {
-         typeLetter(b);
-         b.tool.paintProportionBuffer();
-         b.press(there);
-         b.stylus.release(there + far);
-     }},
-    {"open",
-     [](Bench& b) {
-         b.press(tap);
-         b.stylus.release(tap);
-     }},
-    {"dark",
-     [](Bench& b) {
-         b.press(tap);
-         b.stylus.release(tap);
-         b.tick();
-     }},
-    {"typed", typeLetter},
-    {"composing",
-     [](Bench& b) {
-         typeLetter(b);
-         b.compose("x");
-     }},
-    {"going on",
-     [](Bench& b) {
-         typeLetter(b);
-         b.tool.paintProportionBuffer();
-     }},
-    {"canvas gone",
-     [](Bench& b) {
-         typeLetter(b);
-         b.canvas.reset();
-     }},
-};
-
-inline const Named events[] = {
-    {"press", [](Bench& b) { b.press(there); }},
-    {"right press", [](Bench& b) { b.press(there, Qt::RightButton); }},
-    {"release near", [](Bench& b) { b.stylus.release(b.pressed + near); }},
-    {"release far", [](Bench& b) { b.stylus.release(b.pressed + far); }},
-    {"right release", [](Bench& b) { b.stylus.release(b.pressed, Qt::RightButton); }},
-    {"letter", [](Bench& b) { b.key(Qt::Key_B, "b"); }},
-    {"tab", [](Bench& b) { b.key(Qt::Key_Tab, "\t"); }},
-    {"Return", [](Bench& b) { b.key(Qt::Key_Return, "\r"); }},
-    {"Backspace", [](Bench& b) { b.key(Qt::Key_Backspace, "\b"); }},
-    {"Escape", [](Bench& b) { b.key(Qt::Key_Escape, "\x1b"); }},
-    {"compose", [](Bench& b) { b.compose("y"); }},
-    {"cancel", [](Bench& b) { b.compose({}); }},
-    {"commit", [](Bench& b) { b.compose({}, "b"); }},
-    {"letter again", [](Bench& b) { b.again("b"); }},
-    {"penChanged", [](Bench& b) { b.tool.penChanged(); }},
-    {"resetBuffer", [](Bench& b) { b.tool.resetBuffer(); }},
-    {"paintBuffer", [](Bench& b) { b.tool.paintBuffer(); }},
-    {"paintProportion", [](Bench& b) { b.tool.paintProportionBuffer(); }},
-    {"clearOldCursor", [](Bench& b) { b.tool.clearOldCursor(); }},
-    {"tick", [](Bench& b) { b.tick(); }},
-    {"rebuilt", [](Bench& b) { b.canvas ? b.canvas->updateZoomed() : b.tool.zoomedRebuilt(); }},
-    {"leave", [](Bench& b) { b.leave(); }},
-    {"leave, come",
-     [](Bench& b) {
-         b.leave();
-         b.come();
-     }},
-    {"letter: leave",
-     [](Bench& b) {
-         b.host = [&b] { b.leave(); };
-         b.key(Qt::Key_B, "b");
-     }},
-    {"letter: paint",
-     [](Bench& b) {
-         b.host = [&b] { b.tool.paintProportionBuffer(); };
-         b.key(Qt::Key_B, "b");
-     }},
-    {"commit: leave",
-     [](Bench& b) {
-         b.host = [&b] { b.leave(); };
-         b.compose("y", "b");
-     }},
-    {"press: leave",
-     [](Bench& b) {
-         b.host = [&b] { b.leave(); };
-         b.press(there);
-     }},
-    {"press: come back",
-     [](Bench& b) {
-         b.host = [&b] {
-             b.leave();
-             b.come();
-         };
-         b.press(there);
-     }},
-    {"paint: paint",
-     [](Bench& b) {
-         b.host = [&b] { b.tool.paintProportionBuffer(); };
-         b.tool.paintBuffer();
-     }},
-    {"paint: letter",
-     [](Bench& b) {
-         b.host = [&b] { b.key(Qt::Key_B, "b"); };
-         b.tool.paintBuffer();
-     }},
-    {"paint: reset",
-     [](Bench& b) {
-         b.host = [&b] { b.tool.resetBuffer(); };
-         b.tool.paintProportionBuffer();
-     }},
-    {"merge: paint",
-     [](Bench& b) {
-         b.floatPiece();
-         b.host = [&b] { b.tool.paintProportionBuffer(); };
-         b.tool.paintBuffer();
-     }},
-    {"merge: leave",
-     [](Bench& b) {
-         b.floatPiece();
-         b.host = [&b] { b.leave(); };
-         b.tool.paintBuffer();
-     }},
-    {"merge: letter",
-     [](Bench& b) {
-         b.floatPiece();
-         b.host = [&b] { b.key(Qt::Key_B, "b"); };
-         b.tool.paintBuffer();
-     }},
-    {"penChanged: leave",
-     [](Bench& b) {
-         b.host = [&b] { b.leave(); };
-         b.tool.penChanged();
-     }},
-};
 
 /// Where a text may begin, and the mark that tells it in an outcome.
 struct Place
@@ -279,6 +111,7 @@ struct Outcomes
                               {"+", tap + QPoint(metrics.horizontalAdvance("b"), 0), tap.x()},
                               {"+", tap + QPoint(metrics.horizontalAdvance("ab"), 0), tap.x()},
                               {"~", there, there.x()},
+                              {"~+", there + QPoint(metrics.horizontalAdvance("b"), 0), there.x()},
                               {"^", tap + near, (tap + near).x()},
                               {"^~", there + near, (there + near).x()}};
 
