@@ -1,51 +1,21 @@
 #include "KORVA_Text.h"
 
 #include "KORVA_Canvas.h"
+#include "KORVA_Characters.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Pixel.h"
 #include "UTIL_Platform.h"
 
 #include <QApplication>
-#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QTextBoundaryFinder>
-
-#include <utility>
 
 namespace {
 
 constexpr int blinkTime = 500; // milliseconds
 constexpr int tapRadius = 3;   // pixels; a release as far away as this is a drag
 constexpr int tabWidth = 8;    // letters x
-
-// As a person counts: a letter with its accents, an emoji of several code points.
-QString lastCharacter(const QString& text)
-{
-    if (text.endsWith('\n'))
-        return QStringLiteral("\n");
-    const QString line = text.mid(text.lastIndexOf('\n') + 1);
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, line);
-    finder.toEnd();
-    return line.mid(finder.toPreviousBoundary());
-}
-
-QStringList characters(const QString& text)
-{
-    QStringList found;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    for (qsizetype begin = 0, end = finder.toNextBoundary(); end > begin;
-         begin = std::exchange(end, finder.toNextBoundary()))
-        found.append(text.mid(begin, end - begin));
-    return found;
-}
-
-QString firstCharacter(const QString& text)
-{
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    return text.left(finder.toNextBoundary());
-}
 
 bool isControl(QChar c)
 {
@@ -106,6 +76,9 @@ void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
     const QPoint moved = p - m_cursor;
     if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius)
         open(p);
+    tellInputMethod(Qt::ImQueryAll); // only now: a tap elsewhere is no reason to put a keyboard away
+    if (m_state == Open)
+        QGuiApplication::inputMethod()->show();
     emit TextToolClicked();
 }
 
@@ -119,7 +92,6 @@ void KORVA_Text::open(QPoint at)
     m_stops.clear();
     toggleCursor();
     m_blink.start(blinkTime, this);
-    QGuiApplication::inputMethod()->update(Qt::ImQueryAll);
 }
 
 // It is open until all have heard of its commit.
@@ -139,6 +111,7 @@ void KORVA_Text::deactivating()
     else
         paintBuffer(); // kept: leaving the tool has always counted
     hideCursor();
+    tellInputMethod(Qt::ImQueryAll);
 }
 
 void KORVA_Text::timerEvent(QTimerEvent*)
@@ -171,6 +144,7 @@ void KORVA_Text::resetBuffer()
     m_keys.clear();
     m_stops.clear();
     setTextKey(false);
+    tellInputMethod(Qt::ImQueryInput);
 }
 
 void KORVA_Text::paintBuffer()
@@ -206,6 +180,7 @@ void KORVA_Text::paintProportionBuffer()
     m_stops.clear();
     m_start = m_cursor;
     m_proportionPainted = true;
+    tellInputMethod(Qt::ImQueryInput);
 }
 
 void KORVA_Text::penChanged()
@@ -272,6 +247,7 @@ void KORVA_Text::typeKeys(const std::vector<QKeyEvent*>& keys)
     showText(m_text);
     if (isCursorShown)
         toggleCursor();
+    tellInputMethod(Qt::ImQueryInput);
     for (; letters > 0 && canvas(); --letters)
         canvas()->markModified();
 }
@@ -287,7 +263,7 @@ void KORVA_Text::deleteBackward()
 {
     if (m_text.isEmpty())
         return;
-    const QString last = lastCharacter(m_text);
+    const QString last = characters::last(m_text);
     setText(m_text.chopped(last.size()));
     if (last == "\n") {
         m_cursor = QPoint(m_stops.pop(), m_cursor.y() - QFontMetrics(textFont()).height());
@@ -308,47 +284,7 @@ void KORVA_Text::insert(QString text)
         m_cursor.setX(begin + ((m_cursor.x() - begin) / tab + 1) * tab);
     } else {
         text.removeIf(isControl); // a break among letters would have no stop to go back to
-        m_cursor.rx() += advance(firstCharacter(text)); // by the first one's width, however many come
+        m_cursor.rx() += advance(characters::first(text)); // by the first one's width, however many come
     }
     setText(m_text + text);
-}
-
-// --- The input method
-
-void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
-{
-    if (!canvas() || m_state != Open) {
-        event->ignore();
-        return;
-    }
-    std::vector<QKeyEvent*> keys;
-    for (const QString& character : characters(event->commitString())) {
-        const Qt::Key code = character.contains('\n') ? Qt::Key_Return : Qt::Key_unknown;
-        const QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, character);
-        if (!isTyping(key))
-            continue;
-        record(key);
-        keys.push_back(m_keys.back().get());
-    }
-    if (!keys.empty())
-        typeKeys(keys);
-    if (canvas() && m_state == Open) // who has heard of it may have left the tool
-        showText(m_text + event->preeditString());
-}
-
-QVariant KORVA_Text::inputMethodQuery(Qt::InputMethodQuery query) const
-{
-    if (!canvas())
-        return {};
-    switch (query) {
-    case Qt::ImCursorRectangle:
-        return cursorRect();
-    case Qt::ImFont:
-        return textFont();
-    case Qt::ImSurroundingText:
-    case Qt::ImCurrentSelection:
-        return QString();
-    default:
-        return {};
-    }
 }

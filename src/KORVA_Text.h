@@ -88,6 +88,7 @@ private:
     void showText(const QString& text);
     void hideCursor();
     void toggleCursor();
+    void tellInputMethod(Qt::InputMethodQueries changed) const;
     void setText(const QString& text);
     [[nodiscard]] QRect cursorRect() const;
 
