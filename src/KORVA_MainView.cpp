@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_EditCanvas.h"
+#include "KORVA_KeyboardRoom.h"
 #include "KORVA_ScrollView.h"
 #include "UTIL_ScrollBar.h"
 #include "UTIL_Skin.h"
@@ -49,7 +50,10 @@ KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
     connect(m_canvas, &KORVA_Canvas::sizeChanged, this, &KORVA_MainView::updateLayout);
     m_scrollView->addChild(m_canvas, centred(width(), normalCanvas.width()),
                            centred(height(), normalCanvas.height()));
+    m_keyboardRoom = std::make_unique<KORVA_KeyboardRoom>(*m_scrollView, *m_canvas);
 }
+
+KORVA_MainView::~KORVA_MainView() = default;
 
 void KORVA_MainView::updateLayout()
 {

@@ -4,13 +4,17 @@
 
 #include <QWidget>
 
+#include <memory>
+
 class KORVA_Canvas;
+class KORVA_KeyboardRoom;
 class KORVA_ScrollView;
 
 /// The frame around the canvas. A scroll view shows the canvas, centred if it is smaller than the view.
 ///
 /// The editor creates it: an editor given as parent becomes the canvas's editor. The canvas has 200 × 170
-/// pixels at first. Keyboard focus given to the view goes to the canvas.
+/// pixels at first. Keyboard focus given to the view goes to the canvas. While an on-screen keyboard covers
+/// the text being typed, the canvas stands high enough to show the line.
 class KORVA_EXPORT KORVA_MainView : public QWidget
 {
     Q_OBJECT
@@ -18,6 +22,7 @@ class KORVA_EXPORT KORVA_MainView : public QWidget
 public:
     /// `parent` may be any widget; only a KORVA_EditCanvas gets the canvas's signals.
     explicit KORVA_MainView(QWidget* parent = nullptr, const char* name = nullptr);
+    ~KORVA_MainView() override;
 
     /// The canvas, the same one for the view's life. The scroll view owns it.
     [[nodiscard]] KORVA_Canvas* canvas() const { return m_canvas; }
@@ -35,4 +40,5 @@ protected:
 private:
     KORVA_ScrollView* m_scrollView;
     KORVA_Canvas* m_canvas;
+    std::unique_ptr<KORVA_KeyboardRoom> m_keyboardRoom;
 };

@@ -1,51 +1,21 @@
 #include "KORVA_Text.h"
 
 #include "KORVA_Canvas.h"
+#include "KORVA_Characters.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Pixel.h"
 #include "UTIL_Platform.h"
 
 #include <QApplication>
-#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QTextBoundaryFinder>
-
-#include <utility>
 
 namespace {
 
 constexpr int blinkTime = 500; // milliseconds
 constexpr int tapRadius = 3;   // pixels; a release as far away as this is a drag
 constexpr int tabWidth = 8;    // letters x
-
-// As a person counts: a letter with its accents, an emoji of several code points.
-QString lastCharacter(const QString& text)
-{
-    if (text.endsWith('\n'))
-        return QStringLiteral("\n");
-    const QString line = text.mid(text.lastIndexOf('\n') + 1);
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, line);
-    finder.toEnd();
-    return line.mid(finder.toPreviousBoundary());
-}
-
-QStringList characters(const QString& text)
-{
-    QStringList found;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    for (qsizetype begin = 0, end = finder.toNextBoundary(); end > begin;
-         begin = std::exchange(end, finder.toNextBoundary()))
-        found.append(text.mid(begin, end - begin));
-    return found;
-}
-
-QString firstCharacter(const QString& text)
-{
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    return text.left(finder.toNextBoundary());
-}
 
 bool isControl(QChar c)
 {
@@ -79,19 +49,69 @@ bool KORVA_Text::isTyping(const QKeyEvent& event)
     }
 }
 
+// --- A text's life
+
 void KORVA_Text::activating()
 {
     canvas()->setCursor(Qt::BlankCursor);
 }
 
+void KORVA_Text::mousePressEvent(QMouseEvent* event)
+{
+    m_blink.stop();
+    hideCursor();
+    if (m_state == Open)
+        close();
+    m_cursor = pixel::at(event->position());
+    m_button = event->button();
+    m_state = Pressed;
+}
+
+void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_state != Pressed || event->button() != m_button)
+        return; // the canvas hands no other press on, but every release
+    m_state = Closed;
+    const QPoint p = pixel::at(event->position());
+    const QPoint moved = p - m_cursor;
+    if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius)
+        open(p);
+    tellInputMethod(Qt::ImQueryAll); // only now: a tap elsewhere is no reason to put a keyboard away
+    if (m_state == Open)
+        QGuiApplication::inputMethod()->show();
+    emit TextToolClicked();
+}
+
+void KORVA_Text::open(QPoint at)
+{
+    m_state = Open;
+    showText({});
+    setText({});
+    m_start = m_cursor = at;
+    m_margin = at.x();
+    m_stops.clear();
+    toggleCursor();
+    m_blink.start(blinkTime, this);
+}
+
+// It is open until all have heard of its commit.
+void KORVA_Text::close()
+{
+    QGuiApplication::inputMethod()->reset();
+    paintBuffer();
+    m_state = Closed;
+    m_keys.clear();
+}
+
 void KORVA_Text::deactivating()
 {
     m_blink.stop();
-    endComposition();
-    paintBuffer();
+    if (m_state == Open)
+        close();
+    else
+        paintBuffer(); // kept: leaving the tool has always counted
     hideCursor();
-    m_started = false;
-    m_keys.clear();
+    tellInputMethod(Qt::ImQueryAll);
 }
 
 void KORVA_Text::timerEvent(QTimerEvent*)
@@ -115,7 +135,7 @@ void KORVA_Text::resetBuffer()
 {
     if (!m_text.isNull())
         setText({});
-    if (m_started) {
+    if (m_state == Open) {
         hideCursor();
         if (canvas())
             showText({});
@@ -124,6 +144,7 @@ void KORVA_Text::resetBuffer()
     m_keys.clear();
     m_stops.clear();
     setTextKey(false);
+    tellInputMethod(Qt::ImQueryInput);
 }
 
 void KORVA_Text::paintBuffer()
@@ -131,11 +152,11 @@ void KORVA_Text::paintBuffer()
     setTextKey(false);
     if (!canvas() || m_isCommitting) // who hears of the change may ask for the picture
         return;
-    const QScopedValueRollback isCommitting(m_isCommitting, true);
     canvas()->saveOldPix();
     QPixmap* const picture = canvas()->pixmap();
-    if (!canvas())
+    if (!canvas()) // who hears of a merge may leave the tool, which commits
         return;
+    const QScopedValueRollback isCommitting(m_isCommitting, true);
     paintPending(picture);
     canvas()->updateZoomed();
     zoomedRebuilt(); // a tool that is being left is no longer told
@@ -144,7 +165,7 @@ void KORVA_Text::paintBuffer()
 
 void KORVA_Text::paintPending(QPixmap* picture) const
 {
-    if (!m_started)
+    if (m_state != Open)
         return;
     KORVA_ClassicPainter painter(picture);
     drawText(painter, zoom().toPicture(m_start), zoom().toPicture(QPoint(m_margin, 0)).x(), m_text);
@@ -159,6 +180,7 @@ void KORVA_Text::paintProportionBuffer()
     m_stops.clear();
     m_start = m_cursor;
     m_proportionPainted = true;
+    tellInputMethod(Qt::ImQueryInput);
 }
 
 void KORVA_Text::penChanged()
@@ -169,52 +191,15 @@ void KORVA_Text::penChanged()
     std::vector<QKeyEvent*> keys;
     for (const auto& key : m_keys)
         keys.push_back(key.get());
-    if (canvas() && m_started && !keys.empty())
+    if (canvas() && m_state == Open && !keys.empty())
         typeKeys(keys);
-}
-
-// --- The stylus
-
-void KORVA_Text::mousePressEvent(QMouseEvent* event)
-{
-    m_blink.stop();
-    hideCursor();
-    if (m_started) {
-        endComposition();
-        paintBuffer();
-        m_started = false;
-        m_keys.clear();
-    }
-    m_cursor = pixel::at(event->position());
-    m_button = event->button();
-}
-
-void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (event->button() != m_button)
-        return; // the canvas hands no other press on, but every release
-    m_button = Qt::NoButton;
-    const QPoint p = pixel::at(event->position());
-    const QPoint moved = p - m_cursor;
-    if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius) {
-        m_started = true;
-        showText({});
-        setText({});
-        m_start = m_cursor = p;
-        m_margin = p.x();
-        m_stops.clear();
-        toggleCursor();
-        m_blink.start(blinkTime, this);
-        QGuiApplication::inputMethod()->update(Qt::ImQueryAll);
-    }
-    emit TextToolClicked();
 }
 
 // --- Keys
 
 void KORVA_Text::keyPressEvent(QKeyEvent* event)
 {
-    if (!canvas() || !m_started || !isTyping(*event)) {
+    if (!canvas() || m_state != Open || !isTyping(*event)) {
         event->ignore();
         return;
     }
@@ -231,7 +216,7 @@ void KORVA_Text::record(const QKeyEvent& event)
 
 void KORVA_Text::keyPressEventSimu(QKeyEvent* event)
 {
-    if (canvas() && m_started && isTyping(*event))
+    if (canvas() && m_state == Open && isTyping(*event))
         typeKeys({event});
 }
 
@@ -262,6 +247,7 @@ void KORVA_Text::typeKeys(const std::vector<QKeyEvent*>& keys)
     showText(m_text);
     if (isCursorShown)
         toggleCursor();
+    tellInputMethod(Qt::ImQueryInput);
     for (; letters > 0 && canvas(); --letters)
         canvas()->markModified();
 }
@@ -277,7 +263,7 @@ void KORVA_Text::deleteBackward()
 {
     if (m_text.isEmpty())
         return;
-    const QString last = lastCharacter(m_text);
+    const QString last = characters::last(m_text);
     setText(m_text.chopped(last.size()));
     if (last == "\n") {
         m_cursor = QPoint(m_stops.pop(), m_cursor.y() - QFontMetrics(textFont()).height());
@@ -298,53 +284,7 @@ void KORVA_Text::insert(QString text)
         m_cursor.setX(begin + ((m_cursor.x() - begin) / tab + 1) * tab);
     } else {
         text.removeIf(isControl); // a break among letters would have no stop to go back to
-        m_cursor.rx() += advance(firstCharacter(text)); // by the first one's width, however many come
+        m_cursor.rx() += advance(characters::first(text)); // by the first one's width, however many come
     }
     setText(m_text + text);
-}
-
-// --- The input method
-
-void KORVA_Text::endComposition()
-{
-    if (m_started)
-        QGuiApplication::inputMethod()->reset();
-}
-
-void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
-{
-    if (!canvas() || !m_started) {
-        event->ignore();
-        return;
-    }
-    std::vector<QKeyEvent*> keys;
-    for (const QString& character : characters(event->commitString())) {
-        const Qt::Key code = character.contains('\n') ? Qt::Key_Return : Qt::Key_unknown;
-        const QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, character);
-        if (!isTyping(key))
-            continue;
-        record(key);
-        keys.push_back(m_keys.back().get());
-    }
-    if (!keys.empty())
-        typeKeys(keys);
-    if (canvas() && m_started) // who has heard of it may have left the tool
-        showText(m_text + event->preeditString());
-}
-
-QVariant KORVA_Text::inputMethodQuery(Qt::InputMethodQuery query) const
-{
-    if (!canvas())
-        return {};
-    switch (query) {
-    case Qt::ImCursorRectangle:
-        return cursorRect();
-    case Qt::ImFont:
-        return textFont();
-    case Qt::ImSurroundingText:
-    case Qt::ImCurrentSelection:
-        return QString();
-    default:
-        return {};
-    }
 }

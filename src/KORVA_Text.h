@@ -57,7 +57,7 @@ public:
     void activating() override;
     void deactivating() override;
 
-    [[nodiscard]] bool takesText() const override { return m_started; }
+    [[nodiscard]] bool takesText() const override { return m_state == Open; }
     void inputMethodEvent(QInputMethodEvent* event) override;
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void zoomedRebuilt() override;
@@ -67,6 +67,16 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    /// A text's life. A press ends it and a tap opens the next; leaving the tool ends it, too, and keeps a
+    /// press. Nothing comes of one whose canvas has gone: it stays open until the next press.
+    enum State {
+        Closed,  ///< no text, or the last one, which is in the picture: what is typed is the host's
+        Pressed, ///< as closed, from a press to its button's release: a tap opens a text
+        Open,    ///< what is typed goes into the text; the only one with keys, letters on screen, a blink
+    };
+
+    void open(QPoint at);
+    void close();
     [[nodiscard]] QFont textFont() const;
     [[nodiscard]] int advance(const QString& character) const;
     void record(const QKeyEvent& event);
@@ -77,22 +87,22 @@ private:
     void drawText(KORVA_ClassicPainter& painter, QPoint start, int margin, const QString& text) const;
     void showText(const QString& text);
     void hideCursor();
-    void endComposition();
     void toggleCursor();
+    void tellInputMethod(Qt::InputMethodQueries changed) const;
     void setText(const QString& text);
     [[nodiscard]] QRect cursorRect() const;
 
+    State m_state = Closed;
     QPoint m_start;   ///< of what is typed; where the line goes on after a commit in the middle of it
     int m_margin = 0; ///< the x of new lines: the tap's
-    QPoint m_cursor;  ///< between press and release: the press
-    Qt::MouseButton m_button = Qt::NoButton; ///< of the press that is held
-    bool m_started = false;
-    bool m_cursorShown = false;
-    bool m_proportionPainted = false;
-    bool m_isCommitting = false;
-    QString m_text;      ///< null before the first tap
-    QString m_shown;     ///< what is inverted on screen: the text and what the input method is composing
-    QStack<int> m_stops; ///< the cursor's x before each line break and tab of the text
+    QPoint m_cursor;  ///< while pressed: the press
+    Qt::MouseButton m_button = Qt::NoButton; ///< while pressed: the button
+    bool m_cursorShown = false;              ///< what is inverted on screen now: the I-beam,
+    QString m_shown;                         ///< and the letters, with what the input method is composing
+    bool m_proportionPainted = false;        ///< in any state; a letter ends it, not the text's end
+    bool m_isCommitting = false;             ///< in any state: until all have heard of the commit
+    QString m_text;                          ///< once closed, the last one; null until a tap or a commit
+    QStack<int> m_stops;                     ///< the cursor's x before each line break and tab of the text
     std::vector<std::unique_ptr<QKeyEvent>> m_keys;
     QBasicTimer m_blink;
 };

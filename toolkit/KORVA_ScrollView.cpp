@@ -30,6 +30,12 @@ void KORVA_ScrollView::setContentsPos(int x, int y)
     verticalScrollBar()->setValue(y);
 }
 
+void KORVA_ScrollView::setLift(int pixels)
+{
+    m_lift = pixels;
+    placeChild();
+}
+
 void KORVA_ScrollView::resizeContents(int w, int h)
 {
     m_contents = QSize(w, h);
@@ -98,7 +104,7 @@ void KORVA_ScrollView::handToChild(const QMouseEvent& event)
 void KORVA_ScrollView::placeChild()
 {
     if (m_child)
-        m_child->move(m_childPos - QPoint(contentsX(), contentsY()));
+        m_child->move(m_childPos - QPoint(contentsX(), contentsY() + m_lift));
 }
 
 void KORVA_ScrollView::updateRanges()

@@ -23,6 +23,12 @@ public:
     /// Scrolls at once; positions beyond the range are limited to it.
     void setContentsPos(int x, int y);
 
+    /// Shows the contents so many pixels higher, for as long as something lies over the view's lower part.
+    /// The position and its range know nothing of it.
+    void setLift(int pixels);
+    /// What setLift() was given; 0 at first.
+    [[nodiscard]] int lift() const { return m_lift; }
+
     /// The width of the contents.
     [[nodiscard]] int contentsWidth() const { return m_contents.width(); }
     /// The height of the contents.
@@ -51,6 +57,7 @@ private:
     QSize m_contents;
     QWidget* m_child = nullptr; // owned by the viewport
     QPoint m_childPos;
+    int m_lift = 0;
     bool m_childHasPress = false;
     bool m_isHanding = false; ///< an event that the child ignores comes back here
 };

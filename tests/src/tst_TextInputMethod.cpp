@@ -15,6 +15,12 @@ private slots:
     void compositionCanBeCancelled();
     void compositionIsReplayed();
     void inputMethodIsOnlyForAnOpenText();
+    void theTextIsTold_data();
+    void theTextIsTold();
+    void onlyAnOpenTextIsTold();
+    void whatIsTypedIsReplaced_data();
+    void whatIsTypedIsReplaced();
+    void aKeyboardIsToldWhatItIsFor();
 };
 
 void tst_TextInputMethod::compositionIsShown()
@@ -104,6 +110,133 @@ void tst_TextInputMethod::inputMethodIsOnlyForAnOpenText()
     QCOMPARE(desk.canvas.inputMethodQuery(Qt::ImFont).value<QFont>(), fixtures::textFont(1));
     desk.manager.setCurrentTool(fixtures::Pencil);
     QVERIFY(!desk.canvas.inputMethodQuery(Qt::ImEnabled).toBool());
+}
+
+void tst_TextInputMethod::theTextIsTold_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("nothing") << ""
+                             << "";
+    QTest::newRow("letters") << "some words"
+                             << "some words";
+    QTest::newRow("deleted") << "ab\b"
+                             << "a";
+    QTest::newRow("lines") << "one\ntwo"
+                           << "two";
+    QTest::newRow("a new line") << "one\n"
+                                << "";
+    QTest::newRow("beyond the BMP") << u"a\U0001f600"_qs << u"a\U0001f600"_qs;
+}
+
+void tst_TextInputMethod::theTextIsTold()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const QString, line);
+    WritingDesk desk;
+    desk.tap({20, 50});
+    desk.compose("", QString(typed).remove("b\b"));
+    if (typed.endsWith('\b'))
+        desk.type("b\b");
+    desk.compose("composed"); // is none of it yet
+    const QString all = QString(typed).remove("b\b");
+    const auto told = [&](Qt::InputMethodQuery query) { return desk.canvas.inputMethodQuery(query); };
+    QCOMPARE(told(Qt::ImSurroundingText).toString(), line);
+    QCOMPARE(told(Qt::ImCursorPosition).toInt(), int(line.size()));
+    QCOMPARE(told(Qt::ImAnchorPosition).toInt(), int(line.size()));
+    QCOMPARE(told(Qt::ImTextBeforeCursor).toString(), all);
+    QCOMPARE(told(Qt::ImAbsolutePosition).toInt(), int(all.size()));
+    for (const Qt::InputMethodQuery none : {Qt::ImTextAfterCursor, Qt::ImCurrentSelection}) {
+        QVERIFY(told(none).isValid());
+        QCOMPARE(told(none).toString(), QString());
+    }
+    QCOMPARE(told(Qt::ImAnchorRectangle).toRect(), told(Qt::ImCursorRectangle).toRect());
+}
+
+void tst_TextInputMethod::onlyAnOpenTextIsTold()
+{
+    WritingDesk desk;
+    const auto isTold = [&] {
+        return !desk.canvas.inputMethodQuery(Qt::ImSurroundingText).toString().isEmpty() ||
+               !desk.canvas.inputMethodQuery(Qt::ImTextBeforeCursor).toString().isEmpty() ||
+               desk.canvas.inputMethodQuery(Qt::ImCursorPosition).toInt() != 0;
+    };
+    desk.tap({20, 50});
+    desk.type("ab");
+    QVERIFY(isTold());
+    desk.tool().paintProportionBuffer(); // what is in the picture can no longer be replaced
+    QVERIFY(!isTold());
+    desk.type("cd");
+    desk.stylus.press({100, 90});
+    QVERIFY(!isTold());
+}
+
+void tst_TextInputMethod::whatIsTypedIsReplaced_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("start"); // from the cursor
+    QTest::addColumn<int>("length");
+    QTest::addColumn<QString>("committed");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("the last word") << "say helo" << -4 << 4 << "hello "
+                                   << "say hello ";
+    QTest::newRow("all") << "teh" << -3 << 3 << "the"
+                         << "the";
+    QTest::newRow("deleted only") << "abc" << -2 << 2 << ""
+                                  << "a";
+    QTest::newRow("a word before the last") << "teh cat" << -7 << 3 << "the"
+                                            << "the cat";
+    QTest::newRow("over a line break") << "one\ntwo" << -5 << 3 << "X"
+                                       << "onXwo";
+    QTest::newRow("more than there is") << "ab" << -9 << 20 << "c"
+                                        << "c";
+    QTest::newRow("before all") << "ab" << -9 << 3 << "c"
+                                << "abc";
+    QTest::newRow("behind the cursor") << "ab" << 0 << 5 << "c"
+                                       << "abc";
+    QTest::newRow("nothing") << "ab" << -1 << 0 << "c"
+                             << "abc";
+    QTest::newRow("an emoji") << u"a\U0001f600"_qs << -2 << 2 << "b"
+                              << "ab";
+    QTest::newRow("an accent") << u"xe\u0301"_qs << -1 << 1 << u"\u0300"_qs << u"xe\u0300"_qs;
+}
+
+void tst_TextInputMethod::whatIsTypedIsReplaced()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const int, start);
+    QFETCH(const int, length);
+    QFETCH(const QString, committed);
+    QFETCH(const QString, result);
+    WritingDesk desk(support::mosaic(QSize(160, 100)));
+    desk.tap({20, 50});
+    desk.compose("", typed);
+    QInputMethodEvent event;
+    event.setCommitString(committed, start, length);
+    QCoreApplication::sendEvent(&desk.canvas, &event);
+    QVERIFY(sameImage(desk.screen(), desk.previewed(result)));
+    QCOMPARE(desk.canvas.inputMethodQuery(Qt::ImTextBeforeCursor).toString(), result);
+    desk.resize(3);
+    QVERIFY(sameImage(desk.screen(), desk.previewed(result)));
+    const QImage written = desk.written(result);
+    for (qsizetype left = result.size(); left > 0; --left)
+        desk.type("\b");
+    QVERIFY(desk.tool().isBufferEmpty());
+    QCOMPARE(desk.cursor(), QPoint(20, 50));
+    desk.compose("", result);
+    desk.stylus.press({100, 90});
+    QVERIFY(sameImage(desk.canvas.merged(), written));
+}
+
+void tst_TextInputMethod::aKeyboardIsToldWhatItIsFor()
+{
+    WritingDesk desk;
+    desk.tap({20, 50});
+    QCOMPARE(desk.canvas.inputMethodQuery(Qt::ImHints).toInt(), int(Qt::ImhMultiLine));
+    desk.canvas.setInputMethodHints(Qt::ImhNoPredictiveText); // the host's
+    QCOMPARE(desk.canvas.inputMethodQuery(Qt::ImHints).toInt(),
+             int(Qt::ImhMultiLine | Qt::ImhNoPredictiveText));
+    QCOMPARE(desk.canvas.inputMethodQuery(Qt::ImEnterKeyType).toInt(), int(Qt::EnterKeyReturn));
 }
 
 int main(int argc, char** argv)
