@@ -1,5 +1,7 @@
 #include "JournalFixtures.h"
 
+#include "support/EventLoop.h"
+
 #include <deque>
 
 using fixtures::Desk;
@@ -7,6 +9,8 @@ using fixtures::Editor;
 using fixtures::isSame;
 using fixtures::promised;
 using fixtures::typeInto;
+using support::comesWithoutEvents;
+using support::strike;
 
 /// When the unsaved drawing is on the disk, and when it is gone.
 class tst_JournalWriting : public fixtures::JournalTest
@@ -123,32 +127,11 @@ const Happening happenings[] = {
      }},
 };
 
-constexpr int patience = 30'000;
+constexpr int patience = 30'000; // ms
 
 QImage inRgb(const QImage& image)
 {
     return image.convertToFormat(QImage::Format_RGB32);
-}
-
-/// Lets the event loop run until a clock in it strikes: what was due before is done by then, however slow
-/// the machine is.
-void strike(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-/// Waits for what another thread does, while this one does nothing.
-bool comesWithoutEvents(const std::function<bool()>& condition)
-{
-    const QDeadlineTimer deadline(patience);
-    while (!condition()) {
-        if (deadline.hasExpired())
-            return false;
-        QThread::msleep(10);
-    }
-    return true;
 }
 
 } // namespace
