@@ -206,16 +206,22 @@ void tst_RealWindow::aMessageSwallowsNoStroke()
     QVERIFY(start());
     strokeTo({20, 30}, {80, 30});
     QTRY_VERIFY(isRed({80, 30}));
-    m_server->key("s", {"Control_L"}); // a second long a box says that it went well
-    QTRY_VERIFY(!isWhite({80, 100}));
-    strokeTo({20, 10}, {80, 10}); // beside the box
-    QElapsedTimer timer;
-    timer.start();
-    QTRY_VERIFY(isRed({80, 10}));
-    QVERIFY(isRed({25, 10})); // from its press on
-    QVERIFY(timer.elapsed() < 900);
-    QTRY_VERIFY(isWhite({80, 100}));
-    QCOMPARE(QImage(m_folder->filePath("frame.png")).pixelColor(80, 10), QColor(Qt::white));
+    // Only a clock tells a stroke that is drawn at once from one that waits until the box has gone by
+    // itself, after a second. A busy machine may be late for it, but not each time.
+    bool isAtOnce = false;
+    for (int y = 10; y <= 22 && !isAtOnce; y += 4) {
+        m_server->key("s", {"Control_L"}); // a box says that it went well
+        QTRY_VERIFY(!isWhite({80, 100}));
+        strokeTo({20, y}, {80, y}); // beside the box
+        QElapsedTimer timer;
+        timer.start();
+        QTRY_VERIFY(isRed({80, y}));
+        isAtOnce = timer.elapsed() < 900;
+        QVERIFY(isRed({25, y})); // from its press on
+        QTRY_VERIFY(isWhite({80, 100}));
+        QCOMPARE(QImage(m_folder->filePath("frame.png")).pixelColor(80, y), QColor(Qt::white));
+    }
+    QVERIFY(isAtOnce);
 }
 
 void tst_RealWindow::menuStaysInsideTheWindow()

@@ -136,8 +136,7 @@ void tst_Saving::aSlowDiskIsShown()
     whileSaving([&](QDialog& box) {
         shownAfter = timer.elapsed();
         ticks = 0;
-        QTest::qWait(200);
-        QVERIFY(ticks > 2); // the window lives
+        QTRY_VERIFY(ticks > 2); // the window lives
         QVERIFY(box.isVisible());
         QVERIFY(!desk.isSaved());
         QCOMPARE(support::contents(desk.file), QByteArray("old"));
@@ -150,7 +149,7 @@ void tst_Saving::aSlowDiskIsShown()
     clock.start(20);
     timer.start();
     QVERIFY(desk.documents->save());
-    QVERIFY2(shownAfter >= 300 && shownAfter < 1000, qPrintable(QString::number(shownAfter)));
+    QVERIFY2(shownAfter >= 300, qPrintable(QString::number(shownAfter)));
     QCOMPARE(told, QStringList("Saved Successfully"));
     QVERIFY(desk.isSaved());
     QVERIFY(!desk.editor.hasChanges());

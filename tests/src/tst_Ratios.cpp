@@ -470,11 +470,18 @@ int tst_Ratios::nothingIsLeftOver()
     Verdict verdict("screen");
     Desk desk;
     const auto compare = [&] {
+        QImage expected;
+        QImage screen;
+        QRect area;
+        const auto isComplete = [&] { // the display may be late, but then it is right
+            expected = desk.screen().convertToFormat(QImage::Format_RGB32);
+            screen = desk.screenshot().convertToFormat(QImage::Format_RGB32);
+            area = desk.onScreen(desk.canvas().visibleRegion().boundingRect()) & screen.rect();
+            return screen.size() == expected.size() && screen.copy(area) == expected.copy(area);
+        };
         QTest::qWait(50);
-        const QImage expected = desk.screen().convertToFormat(QImage::Format_RGB32);
-        const QImage screen = desk.screenshot().convertToFormat(QImage::Format_RGB32);
+        (void)QTest::qWaitFor(isComplete);
         verdict.expect(screen.size() == expected.size(), {}, {});
-        const QRect area = desk.onScreen(desk.canvas().visibleRegion().boundingRect()) & screen.rect();
         for (int y = area.top(); y <= area.bottom(); ++y)
             for (int x = area.left(); x <= area.right(); ++x)
                 verdict.expect(screen.pixel(x, y) == expected.pixel(x, y), {x, y}, desk.pixelAt({x, y}));

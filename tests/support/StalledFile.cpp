@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QtTest>
 
+#include <chrono>
 #include <csignal>
-#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,14 +17,34 @@ StalledFile::StalledFile(const QString& fileName)
     std::signal(SIGIO, SIG_IGN); // tells the holder of a lease that somebody waits for it
     if (fcntl(m_handle, F_SETLEASE, F_WRLCK) != 0)
         QTest::qFail("the file cannot be stalled", __FILE__, __LINE__);
+    m_watch = std::thread(&StalledFile::letGoInTheEnd, this);
 }
 
-void StalledFile::letGo()
+bool StalledFile::isWaitedFor() const
 {
-    if (m_handle < 0)
-        return;
+    return fcntl(m_handle, F_GETLEASE) != F_WRLCK; // but what it is to become
+}
+
+bool StalledFile::letGo()
+{
+    if (m_watch.joinable()) {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_isLetGo = true;
+        }
+        m_isOver.notify_one();
+        m_watch.join();
+    }
+    return !m_wentByItself;
+}
+
+void StalledFile::letGoInTheEnd()
+{
+    constexpr std::chrono::seconds longTime(20); // the kernel would take 45
+    std::unique_lock lock(m_mutex);
+    m_wentByItself = !m_isOver.wait_for(lock, longTime, [this] { return m_isLetGo; });
     fcntl(m_handle, F_SETLEASE, F_UNLCK);
-    close(std::exchange(m_handle, -1));
+    close(m_handle);
 }
 
 } // namespace support

@@ -2,9 +2,14 @@
 
 #include <QString>
 
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
 namespace support {
 
-/// A file on a device that does not answer: whoever opens it waits until it is let go.
+/// A file on a device that does not answer: whoever opens it waits until it is let go. After twenty seconds
+/// it goes by itself, so that a test that waits for it goes on, and fails.
 class StalledFile
 {
 public:
@@ -14,10 +19,20 @@ public:
     StalledFile(const StalledFile&) = delete;
     StalledFile& operator=(const StalledFile&) = delete;
 
-    void letGo();
+    /// Whether somebody waits for it.
+    [[nodiscard]] bool isWaitedFor() const;
+    /// False when it went by itself.
+    bool letGo();
 
 private:
+    void letGoInTheEnd();
+
     int m_handle;
+    std::mutex m_mutex;
+    std::condition_variable m_isOver;
+    bool m_isLetGo = false;
+    bool m_wentByItself = false;
+    std::thread m_watch;
 };
 
 } // namespace support
