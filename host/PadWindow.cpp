@@ -6,6 +6,7 @@
 #include "StatusLine.h"
 #include "Theme.h"
 
+#include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <UTIL_PushButton.h>
 
@@ -34,6 +35,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     arrange();
     setAcceptDrops(true);
     new PopupFence(*this);
+    m_editor->canvas()->setKeyboardDrawing(true);
 
     m_menuKey->setShortcut(Qt::Key_F10);
     connect(m_menuKey, &QPushButton::clicked, this, &PadWindow::openMenu);

@@ -39,6 +39,7 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
         m_picture = picture->size();
         refreshSoon();
     });
+    connect(editor.canvas(), &KORVA_Canvas::keyboardPenChanged, this, &StatusLine::refreshSoon);
     // A hover over the canvas is seen only here: the canvas asks for moves with a button held.
     qApp->installEventFilter(this);
     refresh();
@@ -82,11 +83,12 @@ void StatusLine::refresh()
     m_sinceRefresh.start();
     const KORVA_Zoom zoom(m_editor.canvas()->zoom());
     const QSize size = pictureSize();
-    const QPoint at = zoom.toPicture(m_pointer);
+    const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
+    const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
     m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
     m_size->setText(tr("%1 × %2", "picture size").arg(size.width()).arg(size.height()));
     m_zoom->setText(tr("%1 %", "zoom").arg(zoom.percent()));
-    m_position->setText(m_isOver ? tr("%1, %2", "position").arg(at.x()).arg(at.y()) : QString());
+    m_position->setText(m_isOver || pen ? tr("%1, %2", "position").arg(at.x()).arg(at.y()) : QString());
 }
 
 void StatusLine::refreshSoon()

@@ -11,7 +11,8 @@ class QLabel;
 
 namespace pad {
 
-/// The line below the editor: tool, size of the picture, zoom, and where the pointer is in the picture.
+/// The line below the editor: tool, size of the picture, zoom, and where the pointer or the keyboard's pen
+/// is in the picture.
 ///
 /// It follows the pointer a few times a second, so that it costs a stroke nothing.
 class StatusLine : public QWidget
