@@ -274,6 +274,18 @@ void Commands::showKeys()
     for (const QAction* action : m_window->actions())
         rows.append({action->shortcut().toString(QKeySequence::NativeText), keysPageText(*action)});
     rows.append({QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText), tr("Menu", "keys")});
+    const QString arrows = tr("Arrows", "keys");
+    const QString space = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);
+    const QString enter = QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText);
+    const QString escape = QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText);
+    rows.append({{arrows, tr("Move pen, piece", "keys")},
+                 {tr("Shift+arrows", "keys"), tr("... by 10 pixels", "keys")},
+                 {space, tr("Draw while held", "keys")},
+                 {enter, tr("Pen down, up", "keys")},
+                 {enter, tr("Put piece down", "keys")},
+                 {tr("Alt+arrows", "keys"), tr("Stretch piece", "keys")},
+                 {QStringLiteral("[   ]"), tr("Turn piece", "keys")},
+                 {escape, tr("End text", "keys")}});
     KeysDialog(m_window, rows).exec();
 }
 

@@ -7,6 +7,7 @@
 #include "Theme.h"
 #include "Wording.h"
 
+#include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <UTIL_PushButton.h>
 
@@ -35,6 +36,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     arrange();
     setAcceptDrops(true);
     new PopupFence(*this);
+    m_editor->canvas()->setKeyboardDrawing(true);
 
     m_menuKey->setShortcut(Qt::Key_F10);
     connect(m_menuKey, &QPushButton::clicked, this, &PadWindow::openMenu);

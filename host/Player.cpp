@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScopeGuard>
 #include <QTimer>
 
@@ -32,6 +33,30 @@ QString textOf(QKeyCombination key)
     return key.keyboardModifiers() & Qt::ShiftModifier ? letter : letter.toLower();
 }
 
+/// Whether keys draw for a while, whatever the editor's host has chosen: a recording is the same
+/// everywhere.
+class KeyboardDrawing
+{
+public:
+    KeyboardDrawing(KORVA_Canvas& canvas, bool on) : m_canvas(&canvas), m_before(canvas.isKeyboardDrawing())
+    {
+        set(on);
+    }
+    ~KeyboardDrawing() { set(m_before); }
+    KeyboardDrawing(const KeyboardDrawing&) = delete;
+    KeyboardDrawing& operator=(const KeyboardDrawing&) = delete;
+
+private:
+    void set(bool on)
+    {
+        if (m_canvas && m_canvas->isKeyboardDrawing() != on)
+            m_canvas->setKeyboardDrawing(on);
+    }
+
+    QPointer<KORVA_Canvas> m_canvas;
+    bool m_before;
+};
+
 } // namespace
 
 Player::Player(KORVA_EditCanvas& editor, Platform& platform)
@@ -43,6 +68,7 @@ std::optional<Failure> Player::play(const Recording& recording)
 {
     m_script = {};
     m_platform.obey(&m_script);
+    const KeyboardDrawing drawing(*m_editor.canvas(), true);
     const auto free = qScopeGuard([this] { m_platform.obey(nullptr); });
     for (const Command& command : recording.commands()) {
         perform(command);
@@ -94,6 +120,7 @@ void Player::option(int option)
 
 void Player::type(const QString& text)
 {
+    const KeyboardDrawing drawing(*m_editor.canvas(), false); // what is typed beside a text changes nothing
     for (const char32_t letter : text.toStdU32String()) {
         if (letter == U'\n')
             pressKey(QKeyCombination(Qt::Key_Return), {});

@@ -95,8 +95,11 @@ void Recorder::writeMouse(const QWidget& receiver, const QMouseEvent& event)
 void Recorder::writeKey(const QKeyEvent& event)
 {
     constexpr Qt::KeyboardModifiers commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    const bool isText =
-        !event.text().isEmpty() && event.text().at(0).isPrint() && !(event.modifiers() & commands);
+    const KORVA_Canvas::PenKey use = m_editor.canvas()->penKey(event);
+    if (use == KORVA_Canvas::AsPointer)
+        return; // and the pointer's events are written
+    const bool isText = use == KORVA_Canvas::NotThePens && !event.text().isEmpty() &&
+                        event.text().at(0).isPrint() && !(event.modifiers() & commands);
     Command command;
     command.verb = isText ? Verb::Type : Verb::Key;
     command.text = event.text();

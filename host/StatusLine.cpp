@@ -41,6 +41,7 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
         m_picture = picture->size();
         refreshSoon();
     });
+    connect(editor.canvas(), &KORVA_Canvas::keyboardPenChanged, this, &StatusLine::refreshSoon);
     // Only the application sees a hover over the canvas: the canvas itself gets moves only while a button
     // is held.
     qApp->installEventFilter(this);
@@ -85,14 +86,16 @@ void StatusLine::refresh()
     m_sinceRefresh.start();
     const KORVA_Zoom zoom(m_editor.canvas()->zoom());
     const QSize size = pictureSize();
-    const QPoint at = zoom.toPicture(m_pointer);
+    const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
+    const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
     m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
     m_size->setText(tr("%1 × %2", "picture size")
                         .arg(wording::plainNumber(size.width()), wording::plainNumber(size.height())));
     m_zoom->setText(tr("%1 %", "zoom").arg(wording::plainNumber(zoom.percent())));
     m_position->setText(
-        m_isOver ? tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()))
-                 : QString());
+        m_isOver || pen
+            ? tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()))
+            : QString());
 }
 
 void StatusLine::refreshSoon()

@@ -11,7 +11,8 @@ class QLabel;
 
 namespace pad {
 
-/// The line below the editor: tool, size of the picture, zoom, and the pointer's position in the picture.
+/// The line below the editor: tool, size of the picture, zoom, and the position of the pointer or of the
+/// keyboard's pen in the picture.
 ///
 /// It follows the pointer only a few times a second, so that it costs a stroke nothing.
 class StatusLine : public QWidget

@@ -3,6 +3,7 @@
 #include "KORVA_Assert.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_EditCanvas.h"
+#include "KORVA_KeyboardPen.h"
 #include "KORVA_Limit.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Picture.h"

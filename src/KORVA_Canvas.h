@@ -8,8 +8,10 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class KORVA_EditCanvas;
+class KORVA_KeyboardPen;
 class KORVA_PasteLabel;
 class KORVA_Picture;
 class KORVA_Repainter;
@@ -197,6 +199,34 @@ public:
     /// The same where only a rectangle changed; widget coordinates.
     void refresh(const QRect& changed);
 
+    /// Lets the keyboard draw, or no longer: arrow keys move a pen that is seen over the drawing and never
+    /// part of it, and the space bar is its button. Off at first: the keys are the host's then.
+    ///
+    /// While it is on and no text is open, these keys are the canvas's. A step is one picture pixel, or ten
+    /// with Shift or Ctrl, and never less than a pixel of the screen.
+    ///
+    /// - Arrows: move the pen; the view scrolls along. Where a piece floats, they move the piece.
+    /// - Space: what the left button does, for as long as it is held.
+    /// - Return, Enter: press the button, and lift it. Where a piece floats, they merge it.
+    /// - Alt+arrows: make the floating piece wider, narrower, higher or lower.
+    /// - `]`, Alt+PageDown: turn the floating piece clockwise; `[`, Alt+PageUp: the other way.
+    ///
+    /// While a text is open all keys are the text's, but for Escape, which commits it as a press beside it
+    /// does. The tools are sent what a mouse would send them; a press of the pointer takes the pen there.
+    void setKeyboardDrawing(bool on);
+    /// See setKeyboardDrawing().
+    [[nodiscard]] bool isKeyboardDrawing() const;
+    /// Where the keyboard's pen is, in picture coordinates; nothing while it does not show.
+    [[nodiscard]] std::optional<QPoint> keyboardPen() const;
+    /// What the keyboard's pen makes of a key: for who writes down what a person does.
+    enum PenKey {
+        NotThePens, ///< it goes to the tool
+        AsPointer,  ///< the canvas, or the piece that floats, gets what a pointer would send, if anything
+        OnPiece,    ///< changes the floating piece, or merges it, without a pointer
+    };
+    /// What a press of this key would be at the moment.
+    [[nodiscard]] PenKey penKey(const QKeyEvent& press) const;
+
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 public slots:
@@ -244,9 +274,12 @@ signals:
     void canUndo(bool possible);
     /// Whether redo is to be offered.
     void canRedo(bool possible);
+    /// What keyboardPen() tells has changed.
+    void keyboardPenChanged();
 
 protected:
-    /// Claims the keys that type while the text tool takes them, before they become a host's shortcuts.
+    /// Claims the keys that type while the text tool takes them, and those of the keyboard's pen, before
+    /// they become a host's shortcuts.
     bool event(QEvent* event) override;
     /// Tab stays here while the text tool takes it.
     bool focusNextPrevChild(bool next) override;
@@ -314,4 +347,5 @@ private:
     QPointer<QAction> m_copyAction;
     QPointer<QAction> m_pasteAction;
     std::unique_ptr<KORVA_Repainter> m_repainter;
+    std::unique_ptr<KORVA_KeyboardPen> m_keyboardPen; ///< null until it is asked for
 };

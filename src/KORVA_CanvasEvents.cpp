@@ -1,5 +1,6 @@
 #include "KORVA_Canvas.h"
 
+#include "KORVA_KeyboardPen.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Pixel.h"
 #include "KORVA_Text.h"
@@ -77,6 +78,8 @@ void KORVA_Canvas::keyReleaseEvent(QKeyEvent* event)
 
 bool KORVA_Canvas::event(QEvent* event)
 {
+    if (m_keyboardPen && m_keyboardPen->handle(*event))
+        return true;
     // Shortcuts of the host wait while a text is typed; what is no text is still theirs.
     if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText() &&
         KORVA_Text::isTyping(*static_cast<QKeyEvent*>(event))) {
@@ -116,4 +119,29 @@ void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
         m_pasteLabel->menu()->popup(m_pasteLabel->mapToGlobal(m_pasteLabel->rect().center()));
     else
         m_menu->popup(mapToGlobal(visibleRegion().boundingRect().center()));
+}
+
+// --- The keyboard's pen
+
+void KORVA_Canvas::setKeyboardDrawing(bool on)
+{
+    if (on && !m_keyboardPen)
+        m_keyboardPen = std::make_unique<KORVA_KeyboardPen>(*this);
+    if (m_keyboardPen)
+        m_keyboardPen->setEnabled(on);
+}
+
+bool KORVA_Canvas::isKeyboardDrawing() const
+{
+    return m_keyboardPen && m_keyboardPen->isEnabled();
+}
+
+std::optional<QPoint> KORVA_Canvas::keyboardPen() const
+{
+    return m_keyboardPen ? m_keyboardPen->place() : std::nullopt;
+}
+
+KORVA_Canvas::PenKey KORVA_Canvas::penKey(const QKeyEvent& press) const
+{
+    return m_keyboardPen ? m_keyboardPen->use(press) : NotThePens;
 }

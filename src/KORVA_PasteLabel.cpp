@@ -102,6 +102,38 @@ void KORVA_PasteLabel::rotate(int degrees)
     display(m_zoomPixmap.transformed(QTransform().rotate(degrees)));
 }
 
+void KORVA_PasteLabel::moveBy(QPoint way)
+{
+    if (m_pressed)
+        return;
+    dragTo(m_pressPos + way);
+    foldBack();
+}
+
+void KORVA_PasteLabel::stretchBy(QPoint way)
+{
+    const auto pull = [](int side, int wish) {
+        constexpr int hundredths = 100;
+        const int least = (side + hundredths - 1) / hundredths;
+        return wish < 0 ? qMax(wish, 1 - side) : wish > 0 ? qMax(wish, least) : 0;
+    };
+    if (m_pressed)
+        return;
+    catchUp();
+    m_pressPos = QPoint();
+    m_lastPos = QPoint(pull(width(), way.x()), pull(height(), way.y()));
+    stretch({BottomRight, m_lastPos.x() ? 1 : 0, m_lastPos.y() ? 1 : 0, false, false});
+    foldBack();
+}
+
+void KORVA_PasteLabel::turn(bool clockwise)
+{
+    if (m_pressed)
+        return;
+    rotate(clockwise ? 90 : -90);
+    foldBack();
+}
+
 void KORVA_PasteLabel::setPasteItem(bool enabled)
 {
     if (m_pasteAction)

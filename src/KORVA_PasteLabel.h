@@ -42,6 +42,14 @@ public:
     void setResizeZoom(int horizontal, int vertical);
     /// Turns what is shown, clockwise for a positive angle. getImage() follows with the next release.
     void rotate(int degrees);
+    /// Moves the item as a drag of its inside does, by pixels of the canvas. This and the next two do
+    /// nothing while the pointer drags.
+    void moveBy(QPoint way);
+    /// Stretches the item as a drag of its right and lower edge does, by pixels of the canvas: at least by
+    /// the hundredth that a stretch is reckoned in, and not to nothing.
+    void stretchBy(QPoint way);
+    /// Turns the item as a drag of its top right corner does: downward by a quarter clockwise.
+    void turn(bool clockwise);
     /// Enables or disables the menu's Paste; disabled at first.
     void setPasteItem(bool enabled);
     /// The menu of the right button. Its actions Copy, Cut and Paste have the QAction::data() 0, 1 and 2. A

@@ -25,6 +25,14 @@ public:
     {
         return {toPicture(p.x()), toPicture(p.y())};
     }
+    /// The widget coordinate nearest to 0 that shows a picture coordinate; below 100 %, where not every one
+    /// is shown, the next one farther out.
+    [[nodiscard]] constexpr int toWidget(int c) const
+    {
+        return c < 0 ? -toWidget(-c) : (c * m_percent + 99) / 100;
+    }
+    /// The widget's point for a pixel of the picture.
+    [[nodiscard]] constexpr QPoint toWidget(QPoint p) const { return {toWidget(p.x()), toWidget(p.y())}; }
     /// A widget rectangle in the picture. Position and size are converted separately, so the rectangle may
     /// end one pixel before its converted corner.
     [[nodiscard]] constexpr QRect toPicture(const QRect& r) const

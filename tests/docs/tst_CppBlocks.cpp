@@ -74,6 +74,7 @@ private slots:
     void thePreviewTells();
     void servicesAreInstalled();
     void servicesAreReplaced();
+    void theKeyboardDraws();
     void languages();
     void everyPointIsDrawn();
     void aScaleIsSet();
@@ -318,6 +319,22 @@ void tst_CppBlocks::servicesAreReplaced()
     QCOMPARE(none->exec(), 0);
     const std::unique_ptr<UTIL_PictureDialog> save(services->createSaveDialog(&editor, folder.path(), {}));
     QCOMPARE(save->fileName(), path("drawing.png"));
+}
+
+void tst_CppBlocks::theKeyboardDraws()
+{
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    editor.show();
+    QLabel status;
+    embedding::drawByKeyboard(&editor, &status);
+    support::Gestures keys(*editor.canvas());
+    keys.key(Qt::Key_Left);
+    QVERIFY(status.text().endsWith(", 84"));
+    QCOMPARE(support::inkCount(editor.pixmap()->toImage()), 0);
+    keys.key(Qt::Key_Space);
+    QCOMPARE(support::inkCount(editor.pixmap()->toImage()), 1);
+    editor.canvas()->setKeyboardDrawing(false);
+    QCOMPARE(status.text(), "");
 }
 
 void tst_CppBlocks::languages()

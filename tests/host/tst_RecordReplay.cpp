@@ -84,7 +84,7 @@ private:
     void doSomething()
     {
         static constexpr const char* commands[] = {"Undo", "Redo", "Paste", "Cut", "Copy", "Select all"};
-        switch (m_random.bounded(10)) {
+        switch (m_random.bounded(12)) {
         case 0:
             return pick(&m_window, commands[m_random.bounded(6)]);
         case 1:
@@ -99,6 +99,10 @@ private:
             drag(); // where the keyboard is taken along
             type(QString("a%1 Q\"").arg(m_random.bounded(100)));
             return;
+        case 6:
+        case 7:
+            drag();
+            return drawByKeys();
         default:
             return drag();
         }
@@ -117,6 +121,24 @@ private:
         for (const QChar letter : text)
             QTest::keyClick(m_window.windowHandle(), letter.toLatin1());
         QTest::keyClick(m_window.windowHandle(), Qt::Key_Backspace);
+    }
+
+    void drawByKeys()
+    {
+        static constexpr Qt::Key keys[] = {Qt::Key_Left,        Qt::Key_Right,        Qt::Key_Up,
+                                           Qt::Key_Down,        Qt::Key_Down,         Qt::Key_Right,
+                                           Qt::Key_BracketLeft, Qt::Key_BracketRight, Qt::Key_Return};
+        static constexpr Qt::KeyboardModifier held[] = {Qt::NoModifier, Qt::ShiftModifier, Qt::AltModifier};
+        QWindow* window = m_window.windowHandle();
+        const bool isHolding = m_random.bounded(2);
+        if (isHolding)
+            QTest::keyPress(window, Qt::Key_Space);
+        for (int i = 0; i < 12; ++i)
+            QTest::keyClick(window, keys[m_random.bounded(9)], held[m_random.bounded(3)]);
+        if (isHolding)
+            QTest::keyRelease(window, Qt::Key_Space);
+        if (m_random.bounded(2))
+            QTest::keyClick(window, Qt::Key_Escape);
     }
 
     void pickAny(const char* button)
@@ -187,6 +209,8 @@ private slots:
     void cleanupTestCase() { QVERIFY(m_ink > 10'000); } // the drawings were not all empty
     void givesTheSamePicture_data();
     void givesTheSamePicture();
+    void drawnByKeys();
+    void whatIsTypedBesideATextChangesNothing();
     void keysAndText();
     void theControls();
     void documents();
@@ -234,6 +258,85 @@ void tst_RecordReplay::givesTheSamePicture()
     QVERIFY(std::holds_alternative<pad::Recording>(recording));
     QVERIFY(!player.play(std::get<pad::Recording>(recording)));
     QVERIFY(sameImage(again.editor().pixmap()->toImage(), drawn));
+}
+
+void tst_RecordReplay::drawnByKeys()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("drawing.rec");
+    QImage drawn;
+    {
+        pad::PadWindow window(pad::Platform::install());
+        pad::Recorder recorder(window.editor());
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(!recorder.start(file));
+        QWindow* handle = window.windowHandle();
+        const auto click = [handle](Qt::Key key, Qt::KeyboardModifiers held = {}) {
+            QTest::keyClick(handle, key, held);
+        };
+        click(Qt::Key_Left, Qt::ShiftModifier); // from the middle, (99, 84)
+        click(Qt::Key_L);                       // the line
+        QTest::keyPress(handle, Qt::Key_Space);
+        click(Qt::Key_Down, Qt::ControlModifier);
+        click(Qt::Key_Down);
+        QTest::keyRelease(handle, Qt::Key_Space);
+        click(Qt::Key_S);
+        click(Qt::Key_Return);
+        click(Qt::Key_Left, Qt::ShiftModifier);
+        click(Qt::Key_Up, Qt::ShiftModifier);
+        click(Qt::Key_Return);
+        click(Qt::Key_Up, Qt::ShiftModifier);
+        click(Qt::Key_Right, Qt::AltModifier);
+        click(Qt::Key_BracketRight);
+        click(Qt::Key_Return);
+        click(Qt::Key_T);
+        click(Qt::Key_Space);
+        click(Qt::Key_P); // a letter here
+        click(Qt::Key_Space);
+        click(Qt::Key_Escape);
+        drawn = window.editor().pixmap()->toImage();
+        QVERIFY(!recorder.finish());
+    }
+    QStringList lines = linesOf(file);
+    lines.removeIf([](const QString& line) {
+        return line == "key Shift" || line == "key Control" || line == "key Alt"; // what holds them down
+    });
+    QCOMPARE(lines.join(", "),
+             "tool line, press 89 84, move 89 94, move 89 95, release 89 95, "
+             "tool select, tool select, press 89 95, move 79 95, move 79 85, release 79 85, "
+             "key Shift+Up, key Alt+Right, key BracketRight, key Return, "
+             "tool text, press 79 85, release 79 85, type \"p\", type \" \", press 79 85, release 79 88");
+
+    pad::Platform& platform = pad::Platform::install();
+    KORVA_EditCanvas again(KORVA_COLOR_16BIT); // of a host that has not asked for the pen
+    again.show();
+    pad::Player player(again, platform);
+    const auto recording = pad::Recording::read(file);
+    QVERIFY(std::holds_alternative<pad::Recording>(recording));
+    QVERIFY(!player.play(std::get<pad::Recording>(recording)));
+    QVERIFY(support::inkCount(drawn) > 10);
+    QVERIFY(sameImage(again.pixmap()->toImage(), drawn));
+    QVERIFY(!again.canvas()->isKeyboardDrawing());
+}
+
+void tst_RecordReplay::whatIsTypedBesideATextChangesNothing()
+{
+    pad::Platform& platform = pad::Platform::install();
+    pad::PadWindow window(platform);
+    window.show();
+    const QImage before = window.editor().pixmap()->toImage();
+    pad::Player player(window.editor(), platform);
+    const auto recording =
+        pad::Recording::parse("tool text\ntype \"a b\\n c\"\ntool pencil\ntype \" \"", "typed");
+    QVERIFY(!player.play(std::get<pad::Recording>(recording)));
+    QVERIFY(sameImage(window.editor().pixmap()->toImage(), before));
+
+    // A key is a key.
+    const auto pressed = pad::Recording::parse("key Shift+Left\nkey Space", "pressed");
+    QVERIFY(!player.play(std::get<pad::Recording>(pressed)));
+    QCOMPARE(window.editor().pixmap()->toImage().pixelColor(89, 84), QColor(Qt::red));
 }
 
 void tst_RecordReplay::keysAndText()
