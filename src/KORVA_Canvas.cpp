@@ -200,13 +200,36 @@ void KORVA_Canvas::setDepth(int d)
 void KORVA_Canvas::clearCanvas(const QColor& color)
 {
     saveOldPix();
-    m_picture->fill(color);
+    if (color == QColor(Qt::white))
+        m_picture->clear();
+    else
+        m_picture->fill(color);
     paintZoomed();
     markModified();
     refresh();
     if (auto* text = qobject_cast<KORVA_Text*>(m_tool.data()))
         text->resetBuffer();
     m_pasteLabel->hide();
+}
+
+void KORVA_Canvas::setPaper(const QImage& paper)
+{
+    saveOldPix();
+    const bool isOther = m_picture->setPaper(QPixmap::fromImage(paper));
+    updateZoomed();
+    if (isOther)
+        markModified();
+}
+
+void KORVA_Canvas::erase(const QRect& inPicture, const QRect& onScreen)
+{
+    m_picture->erase(inPicture);
+    if (m_picture->hasPaper()) {
+        updateZoomed();
+    } else {
+        KORVA_ClassicPainter(&m_zoomed).fillRect(onScreen, Qt::white);
+        refresh(onScreen);
+    }
 }
 
 void KORVA_Canvas::resizeImage(int w, int h)

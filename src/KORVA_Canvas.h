@@ -94,6 +94,13 @@ public:
     void setDepth(int d);
     /// Fills the picture; typed text and a floating piece are dropped, without selection(false).
     void clearCanvas(const QColor& color);
+    /// Lays a picture under the drawing, scaled to its size: erasing, white in clearCanvas() and what is
+    /// lifted or cut bring it back. Null, as at first, is white. Where the drawing shows the paper before,
+    /// it shows this one; if that changes a pixel it is a modification. What is saved has the paper in it.
+    void setPaper(const QImage& paper);
+    /// Brings the paper back, for a tool that erases. `inPicture` are picture coordinates. On white paper
+    /// only `onScreen`, widget coordinates, is erased on the screen; another paper is shown as it lies.
+    void erase(const QRect& inPicture, const QRect& onScreen);
     /// Scales the picture to `w` × `h` pixels; nothing where that is its size, empty where a side is not
     /// positive. Emits sizeChanged() where the size on screen is another, pixmapChanged(), modified(). A
     /// floating piece is merged into the new picture, and undo does not bring the old one back then.
@@ -106,6 +113,10 @@ public:
     /// not be written. `format` is "PNG", "JPEG" or "BMP"; null follows the name's extension. A file of
     /// that name is overwritten in place. The modified flag is not cleared.
     bool save(const QString& fileName, const char* format);
+
+    /// A new drawing, without asking: an empty one of this size, unmodified, with nothing to undo, nothing
+    /// floating and nothing kept of a piece. Tool, zoom, paper and steps to undo stay.
+    void reset(QSize size);
 
     /// Takes the undo snapshot: what undo() brings back, in place of the one before. Undo becomes possible
     /// with markModified().

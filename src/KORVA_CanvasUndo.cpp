@@ -114,3 +114,15 @@ void KORVA_Canvas::offerSoon()
     if (hasHistory() && !std::exchange(m_isOfferDue, true))
         QTimer::singleShot(0, this, &KORVA_Canvas::offer);
 }
+
+void KORVA_Canvas::reset(QSize size)
+{
+    m_pasteLabel->hide();
+    m_pasteLabel->setImage(QPixmap());
+    m_origin = Pasted;
+    m_picture->reset(size);
+    clearSelection();
+    emit pixmapChanged(m_picture->pixmap());
+    showAnew();
+    setUndoFlag(0);
+}

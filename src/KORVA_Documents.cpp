@@ -77,8 +77,9 @@ template <typename Work>
 bool KORVA_Documents::survives(const Work& work)
 {
     const QPointer<KORVA_EditCanvas> editor = &m_editor;
+    const int cancellations = m_cancellations;
     work();
-    return editor;
+    return editor && cancellations == m_cancellations;
 }
 
 void KORVA_Documents::setFileName(const QString& name)
@@ -205,12 +206,13 @@ void KORVA_Documents::openAtConstruction(const QString& name)
 
 bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
 {
-    const std::optional<int> status =
-        patiently(m_editor, KORVA_PictureFile(name, KORVA_PictureFile::Full),
-                  [format = QByteArray(format)](KORVA_PictureFile& file) {
-                      return file.check(format.isEmpty() ? nullptr : format.constData());
-                  });
-    return status && check(*status);
+    std::optional<int> status;
+    const auto read = [format = QByteArray(format)](KORVA_PictureFile& file) {
+        return file.check(format.isEmpty() ? nullptr : format.constData());
+    };
+    const bool isThere = survives(
+        [&] { status = patiently(m_editor, KORVA_PictureFile(name, KORVA_PictureFile::Full), read); });
+    return isThere && status && check(*status);
 }
 
 std::optional<KORVA_Documents::Contents> KORVA_Documents::contentsOf(const QString& name,
@@ -219,7 +221,7 @@ std::optional<KORVA_Documents::Contents> KORVA_Documents::contentsOf(const QStri
     const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
     KORVA_PictureFile picture(name);
     picture.setLimits(limits);
-    return patiently(m_editor, picture, [format, limits](KORVA_PictureFile& file) {
+    const auto read = [format, limits](KORVA_PictureFile& file) {
         Contents contents;
         contents.status = file.check(format.isEmpty() ? nullptr : format.constData());
         if (contents.status != UTIL_ImageReader::Ok)
@@ -228,7 +230,11 @@ std::optional<KORVA_Documents::Contents> KORVA_Documents::contentsOf(const QStri
         contents.working = limits.fitted(contents.image);
         contents.opened = {file.name(), file.origin().size, !file.origin().isWhole};
         return contents;
-    });
+    };
+    std::optional<Contents> contents;
+    if (!survives([&] { contents = patiently(m_editor, picture, read); }))
+        return {};
+    return contents;
 }
 
 bool KORVA_Documents::check(int status)
@@ -262,19 +268,37 @@ void KORVA_Documents::tellUnreadable()
         KORVA_EditCanvas::tr("OK", "4.4.4.2;SOFTKEY_1BUTTON"), longTime);
 }
 
-void KORVA_Documents::setBuffer(const QByteArray& data)
+bool KORVA_Documents::setEncoded(const QByteArray& data)
 {
     QPixmap picture;
     KORVA_PictureFile::Origin origin;
     const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
     const QImage image = KORVA_PictureFile::decoded(data, limits, &origin);
-    if (limits.convert(image, &picture)) {
-        m_opened = {m_fileName, origin.size,
-                    !origin.isWhole || !UTIL_ImageReader::isSame(image, picture.toImage())};
-        m_editor.setPixmap(&picture);
-    } else {
+    if (!limits.convert(image, &picture))
+        return false;
+    m_opened = {m_fileName, origin.size,
+                !origin.isWhole || !UTIL_ImageReader::isSame(image, picture.toImage())};
+    m_editor.setPixmap(&picture);
+    return true;
+}
+
+void KORVA_Documents::setBuffer(const QByteArray& data)
+{
+    if (!setEncoded(data))
         tell(errorIcon, KORVA_EditCanvas::tr("open buffer fail!", "2.11.2.9;DIALOG_ICON_50"));
-    }
+}
+
+void KORVA_Documents::cancel()
+{
+    ++m_cancellations;
+    m_pendingAction = NoAction;
+}
+
+void KORVA_Documents::reset()
+{
+    forgetOpened();
+    if (!m_fileName.isEmpty())
+        setFileName({});
 }
 
 // --- Saving

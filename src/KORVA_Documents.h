@@ -49,12 +49,19 @@ public:
     bool open(int action, const QString& name);
     bool isPicSizeNotOver(const QString& name, const char* format);
     void setBuffer(const QByteArray& data);
+    /// As setBuffer(), but shows no box: false when it cannot be decoded.
+    bool setEncoded(const QByteArray& data);
 
     void nameAndSave(int action);
     void saveUnder(const QString& name);
     void saveAndTell();
 
     void askAndDelete();
+
+    /// Ends every operation whose box or dialog is open: it does no more when that returns.
+    void cancel();
+    /// As a new drawing, without a name.
+    void reset();
 
 private:
     /// The picture last opened, as it was in its file.
@@ -75,7 +82,7 @@ private:
     };
 
     /// Does work that may open a box or a dialog. False when the editor, and with it this object, was
-    /// deleted meanwhile.
+    /// deleted meanwhile, or cancel() was called: its caller does no more then.
     template <typename Work>
     [[nodiscard]] bool survives(const Work& work);
     /// Nothing when the user has cancelled; this object may be gone then.
@@ -95,6 +102,7 @@ private:
     QString m_fileName;
     Opened m_opened;
     int m_pendingAction = NoAction;
+    int m_cancellations = 0;                   ///< counted
     QPointer<UTIL_PictureDialog> m_saveDialog; ///< while one is open; a child of the editor
     QPointer<UTIL_PictureDialog> m_pickDialog; ///< until the open is finished; a child of the editor
 };

@@ -44,7 +44,10 @@ KORVA_EditCanvas::KORVA_EditCanvas(KORVA_COLORTYPE colorType, QWidget* parent, c
 
 KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colorType, QWidget* parent,
                                    const char* name, Qt::WindowFlags flags, QWidget* ownerWindow)
-    : QWidget(parent, flags), m_ownerWindow(ownerWindow), m_colorType(colorType)
+    : QWidget(parent, flags),
+      m_ownerWindow(ownerWindow),
+      m_colorType(colorType),
+      m_firstColorType(colorType)
 {
     setObjectName(name);
     setPalette(UTIL_Skin::palette());
@@ -185,6 +188,11 @@ bool KORVA_EditCanvas::load(const QString& fileName, const char* format)
     return canvas()->load(fileName, format);
 }
 
+void KORVA_EditCanvas::setPaper(const QImage& paper)
+{
+    canvas()->setPaper(paper);
+}
+
 void KORVA_EditCanvas::insertStamp(QPixmap& stamp)
 {
     canvas()->insertStamp(stamp);
@@ -293,6 +301,11 @@ bool KORVA_EditCanvas::convertScaleImage(QImage* image, QPixmap* pixmap)
 void KORVA_EditCanvas::setBuffer(const QByteArray& encoded)
 {
     m_documents->setBuffer(encoded);
+}
+
+bool KORVA_EditCanvas::setEncoded(const QByteArray& encoded)
+{
+    return m_documents->setEncoded(encoded);
 }
 
 bool KORVA_EditCanvas::save(const QString& name, const char* format)

@@ -46,6 +46,14 @@ public:
     [[nodiscard]] KORVA_MainView* mainView() const { return m_mainView; }
     /// The canvas, the same one for the editor's life. The main view owns it.
     [[nodiscard]] KORVA_Canvas* canvas() const;
+    /// Back to what the constructor made, without a question: an unnamed white drawing of 200 × 170 pixels
+    /// at 100 %, the pencil in red, all options as at first, nothing that floats or is kept for pasting,
+    /// nothing to undo. At any moment, also while one of its dialogs or pop-ups is open: cancelDialogs()
+    /// comes first. What a host has set stays: paper, steps to undo, its own tools. So does the clipboard.
+    void reset();
+    /// Closes the boxes, dialogs and pop-ups of the editor, whoever opened them with it as parent. What
+    /// waits for them does no more than return, as after a refusal.
+    void cancelDialogs();
     /// The tools. The editor owns it.
     [[nodiscard]] KORVA_Manager* manager() const { return m_manager.get(); }
     /// What the colour button's picker offers: from the constructor, then from chooseCanvas().
@@ -112,6 +120,8 @@ public:
     /// As KORVA_Canvas::setZoom(), in percent; the zoom box keeps what it shows, or shows 100 % where the
     /// zoom fell back to that. Typed text is not committed.
     void setZoom(int rate);
+    /// See KORVA_Canvas::setPaper(): what eraser, clearing and holes bring back.
+    void setPaper(const QImage& paper);
     /// A new white canvas of `w` × `h` pixels, at the zoom chosen in the box, with nothing to undo. An
     /// unknown kind has 16 bits and leaves the colour type. Emits canvasChanged() and, last,
     /// canRedo(false), canUndo(false). Where the size is another or the text tool is current it counts as
@@ -208,6 +218,8 @@ public:
     /// Takes an encoded picture in memory over as setPixmap() does, scaled as an opened one. One that
     /// cannot be decoded is reported and changes nothing.
     void setBuffer(const QByteArray& encoded);
+    /// As setBuffer(), but shows no box: false, and nothing is changed, when it cannot be decoded.
+    bool setEncoded(const QByteArray& encoded);
     /// Encodes the picture into "appwrite/korva.temp" under the folder in the environment variable
     /// KIV_LOCAL_DOWNLOAD_PATH, where "appwrite" must exist, moves that to `name` and tells whether both
     /// went well; until then a file of that name stays as it was. Its mode is kept, and a link stays one. A
@@ -302,5 +314,7 @@ private:
     QColor m_color{255, 0, 0};
     size_t m_saved = 0; ///< a hash of the drawing that counts as saved
     KORVA_COLORTYPE m_colorType;
+    KORVA_COLORTYPE m_firstColorType;
+    int m_cancellations = 0; ///< counted
     std::unique_ptr<KORVA_Documents> m_documents;
 };

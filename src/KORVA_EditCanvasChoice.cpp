@@ -74,8 +74,9 @@ void KORVA_EditCanvas::setRubberCursor(int width, int rate)
 void KORVA_EditCanvas::slotColor()
 {
     const QPointer<KORVA_EditCanvas> self = this; // the picker runs an event loop
+    const int cancellations = m_cancellations;
     const QColor picked = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
-    if (!self)
+    if (!self || cancellations != m_cancellations)
         return;
     setColor(picked);
     emit chosen(KORVA_CHOICE_COLOR, 0);

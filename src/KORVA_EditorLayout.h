@@ -11,6 +11,7 @@ constexpr QRect zoomBox(74, 2, 126, 24);
 constexpr QRect colorButton(203, 2, 25, 24);
 constexpr QRect mainView(2, 33, 228, 192);
 constexpr QSize editor(240, 225);
+constexpr QSize firstCanvas(200, 170);
 
 /// By how much an editor of this size exceeds the size that the parts are laid out for; 0 where it is
 /// smaller.

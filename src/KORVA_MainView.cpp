@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_EditCanvas.h"
+#include "KORVA_EditorLayout.h"
 #include "KORVA_KeyboardRoom.h"
 #include "KORVA_ScrollView.h"
 #include "UTIL_ScrollBar.h"
@@ -10,8 +11,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr QSize normalCanvas(200, 170);
 
 int centred(int view, int canvas)
 {
@@ -29,17 +28,17 @@ int insideFrame(int offset)
 KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
     : QWidget(parent),
       m_scrollView(new KORVA_ScrollView(this)),
-      m_canvas(new KORVA_Canvas(qobject_cast<KORVA_EditCanvas*>(parent), normalCanvas.width(),
-                                normalCanvas.height(), m_scrollView->viewport(), nullptr))
+      m_canvas(new KORVA_Canvas(qobject_cast<KORVA_EditCanvas*>(parent), layout::firstCanvas.width(),
+                                layout::firstCanvas.height(), m_scrollView->viewport(), nullptr))
 {
     setObjectName(name);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_scrollView);
+    auto* box = new QVBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->addWidget(m_scrollView);
     m_scrollView->setHorizontalScrollBar(new UTIL_ScrollBar(Qt::Horizontal, m_scrollView));
     m_scrollView->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, m_scrollView));
     m_scrollView->setFocusPolicy(Qt::NoFocus); // else Shift+Tab would always come back to the canvas
-    m_scrollView->resize(normalCanvas);
+    m_scrollView->resize(layout::firstCanvas);
     setFocusProxy(m_canvas);
     QPalette frame = UTIL_Skin::palette();
     frame.setColor(QPalette::WindowText, UTIL_Skin::color(UTIL_Skin::Color::Border));
@@ -48,8 +47,8 @@ KORVA_MainView::KORVA_MainView(QWidget* parent, const char* name)
         QPalette::WindowText); // a desk from which the paper stands out
 
     connect(m_canvas, &KORVA_Canvas::sizeChanged, this, &KORVA_MainView::updateLayout);
-    m_scrollView->addChild(m_canvas, centred(width(), normalCanvas.width()),
-                           centred(height(), normalCanvas.height()));
+    m_scrollView->addChild(m_canvas, centred(width(), layout::firstCanvas.width()),
+                           centred(height(), layout::firstCanvas.height()));
     m_keyboardRoom = std::make_unique<KORVA_KeyboardRoom>(*m_scrollView, *m_canvas);
 }
 

@@ -6,6 +6,9 @@
 #include "KORVA_ToolTable.h"
 
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <span>
 
 KORVA_Manager::KORVA_Manager(KORVA_Canvas* c)
 {
@@ -28,13 +31,41 @@ KORVA_Manager::~KORVA_Manager()
 
 void KORVA_Manager::createTools()
 {
-    for (const KORVA_ToolTable::ToolRow& row : KORVA_ToolTable::tools()) {
-        m_tools.push_back(row.make(QString::fromLatin1(row.toolName)));
-        m_tools.back()->setId(static_cast<int>(m_tools.size()) - 1);
-        if (auto* areaSelect = qobject_cast<KORVA_AreaSelect*>(m_tools.back().get()))
+    const std::span<const KORVA_ToolTable::ToolRow> rows = KORVA_ToolTable::tools();
+    m_tools.resize(qMax(m_tools.size(), rows.size()));
+    for (std::size_t id = 0; id < rows.size(); ++id) {
+        m_tools[id] = rows[id].make(QString::fromLatin1(rows[id].toolName));
+        m_tools[id]->setId(static_cast<int>(id));
+        if (auto* areaSelect = qobject_cast<KORVA_AreaSelect*>(m_tools[id].get()))
             connect(m_canvas, qOverload<bool>(&KORVA_Canvas::selection), areaSelect,
                     &KORVA_AreaSelect::selection);
     }
+}
+
+void KORVA_Manager::reset()
+{
+    if (!m_canvas)
+        return;
+    ++m_requests; // whoever is in the middle of a change of tools gives it up
+    {
+        // What is being typed or framed is not to be kept.
+        const QSignalBlocker silence(m_canvas);
+        if (m_canvas->isActive())
+            m_canvas->deactivate();
+        if (currentTool()->isActive())
+            currentTool()->deactivate();
+    }
+    for (std::size_t id = 0; id < KORVA_ToolTable::tools().size(); ++id)
+        m_tools[id].release()->deleteLater(); // one of them may be calling
+    createTools();
+    m_current = m_wanted = 0;
+    m_penWidth = 1;
+    m_brush = QBrush();
+    m_pen = QPen();
+    m_leftColor = m_rightColor = QColor(255, 0, 0);
+    currentTool()->activate(m_canvas);
+    updateProperties();
+    m_canvas->activate(currentTool());
 }
 
 KORVA_Tool* KORVA_Manager::tool(int id) const

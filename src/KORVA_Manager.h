@@ -36,6 +36,10 @@ public:
     /// The tool of an identifier, 0 to 7; null for any other.
     [[nodiscard]] KORVA_Tool* tool(int id) const;
 
+    /// Makes the library's own tools anew, which ends whatever they were in the middle of, and everything
+    /// else as the constructor does. The old tools live until control is back in the event loop.
+    void reset();
+
 public slots:
     /// Merges a floating piece and changes tools: the text tool commits then, the select tool drops its
     /// selection. Identifiers outside 0 to 7 select the pencil. Does nothing if the tool is already

@@ -4,6 +4,24 @@
 
 #include <utility>
 
+namespace {
+
+QPixmap scaled(const QPixmap& picture, QSize size)
+{
+    QPixmap scaled = classic::filled(size, Qt::white);
+    if (!picture.isNull()) {
+        const float horizontal = static_cast<float>(size.width()) / static_cast<float>(picture.width());
+        const float vertical = static_cast<float>(size.height()) / static_cast<float>(picture.height());
+        KORVA_ClassicPainter painter(&scaled);
+        painter.setWorldMatrix(
+            QTransform::fromScale(static_cast<double>(horizontal), static_cast<double>(vertical)));
+        painter.drawPixmap(0, 0, picture);
+    }
+    return scaled;
+}
+
+} // namespace
+
 KORVA_Picture::KORVA_Picture(const QPixmap& pixels)
     : m_picture(classic::opaque(pixels)), m_snapshot(m_picture)
 {
@@ -40,16 +58,7 @@ void KORVA_Picture::fill(const QColor& color)
 
 void KORVA_Picture::scale(QSize size)
 {
-    QPixmap scaled = classic::filled(size, Qt::white);
-    if (!m_picture.isNull()) {
-        const float horizontal = static_cast<float>(size.width()) / static_cast<float>(m_picture.width());
-        const float vertical = static_cast<float>(size.height()) / static_cast<float>(m_picture.height());
-        KORVA_ClassicPainter painter(&scaled);
-        painter.setWorldMatrix(
-            QTransform::fromScale(static_cast<double>(horizontal), static_cast<double>(vertical)));
-        painter.drawPixmap(0, 0, *pixmap());
-    }
-    m_picture = std::move(scaled);
+    m_picture = scaled(*pixmap(), size);
 }
 
 QPixmap KORVA_Picture::piece(const QRect& rect) const
@@ -61,9 +70,74 @@ QPixmap KORVA_Picture::piece(const QRect& rect) const
 
 void KORVA_Picture::erase(const QRect& rect, const QTransform& toPicture)
 {
-    KORVA_ClassicPainter painter(pixmap());
-    painter.setWorldMatrix(toPicture);
-    painter.fillRect(rect, Qt::white);
+    if (!hasPaper()) {
+        KORVA_ClassicPainter painter(pixmap());
+        painter.setWorldMatrix(toPicture);
+        painter.fillRect(rect, Qt::white);
+    } else if (toPicture.isIdentity()) {
+        classic::bitBlt(pixmap(), rect.x(), rect.y(), paper().copy(rect));
+    } else {
+        // The pixels that white would cover.
+        QPixmap hole(size());
+        hole.fill(Qt::transparent);
+        {
+            KORVA_ClassicPainter painter(&hole);
+            painter.setWorldMatrix(toPicture);
+            painter.fillRect(rect, Qt::white);
+        }
+        QPainter painter(&hole);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.drawPixmap(0, 0, paper());
+        painter.end();
+        classic::bitBlt(pixmap(), 0, 0, hole);
+    }
+}
+
+QPixmap KORVA_Picture::paper() const
+{
+    return hasPaper() ? scaled(m_paper, size()) : classic::filled(size(), Qt::white);
+}
+
+void KORVA_Picture::clear()
+{
+    if (hasPaper())
+        m_picture = paper();
+    else
+        fill(Qt::white);
+}
+
+void KORVA_Picture::reset(QSize size)
+{
+    m_picture = classic::filled(size, Qt::white);
+    clear();
+    m_snapshot = m_picture;
+    m_history.clear();
+    m_isModified = false;
+}
+
+bool KORVA_Picture::setPaper(const QPixmap& sheet)
+{
+    constexpr QImage::Format format = QImage::Format_RGB32;
+    const QImage before = paper().toImage().convertToFormat(format);
+    m_paper = sheet.isNull() ? QPixmap() : classic::opaque(sheet);
+    m_paper.setDevicePixelRatio(1.0);
+    const QImage after = paper().toImage().convertToFormat(format);
+    QImage drawing = m_picture.toImage().convertToFormat(format);
+    bool isOther = false;
+    for (int y = 0; y < drawing.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(before.constScanLine(y));
+        const auto* to = reinterpret_cast<const QRgb*>(after.constScanLine(y));
+        auto* pixel = reinterpret_cast<QRgb*>(drawing.scanLine(y));
+        for (int x = 0; x < drawing.width(); ++x) {
+            if (pixel[x] == from[x] && from[x] != to[x]) {
+                pixel[x] = to[x];
+                isOther = true;
+            }
+        }
+    }
+    if (isOther)
+        m_picture.convertFromImage(drawing);
+    return isOther;
 }
 
 void KORVA_Picture::lay(const QPixmap& piece, QPoint at)

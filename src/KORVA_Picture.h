@@ -33,11 +33,19 @@ public:
     /// Replaces the pixels, and with them the size.
     void take(const QPixmap& pixels);
     void fill(const QColor& color);
+    /// What lies under the drawing and comes back where it is erased, scaled to the picture's size; null,
+    /// as at first, is white. The picture changes where it showed the paper before: true if it did.
+    bool setPaper(const QPixmap& paper);
+    [[nodiscard]] bool hasPaper() const { return !m_paper.isNull(); }
+    /// Leaves only the paper.
+    void clear();
+    /// A new drawing: only the paper in this size, unmodified, with nothing to undo.
+    void reset(QSize size);
     /// Scales the picture to a size. If a side is not positive the picture becomes empty.
     void scale(QSize size);
     /// A copy of a rectangle; its parts outside the picture are white.
     [[nodiscard]] QPixmap piece(const QRect& rect) const;
-    /// Fills a rectangle with white. `toPicture` maps it to the picture's pixels.
+    /// Leaves only the paper in a rectangle. `toPicture` maps it to the picture's pixels.
     void erase(const QRect& rect, const QTransform& toPicture = {});
     /// Paints a piece at real size. Parts outside the picture are cut off; transparent parts leave the
     /// picture alone.
@@ -76,10 +84,12 @@ private:
     void walk(QImage (KORVA_History::*direction)(const QImage& now));
     [[nodiscard]] bool hasHistory() const { return undoSteps() > 1; }
     [[nodiscard]] bool isUnsettled() const;
+    [[nodiscard]] QPixmap paper() const;
 
     QPixmap m_picture;
     QPixmap m_snapshot; ///< with more steps than one: what the newest of them led to
     KORVA_History m_history;
     int m_openSteps = 0;
+    QPixmap m_paper; ///< in its own size; null: white
     bool m_isModified = false;
 };

@@ -1,7 +1,6 @@
 #include "KORVA_Rubber.h"
 
 #include "KORVA_Canvas.h"
-#include "KORVA_ClassicPainter.h"
 #include "KORVA_Pixel.h"
 
 #include <QMouseEvent>
@@ -43,13 +42,10 @@ void KORVA_Rubber::mouseReleaseEvent(QMouseEvent* event)
 
 void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)
 {
-    QPixmap* const paper = picture();
-    if (!paper)
+    if (!picture())
         return;
     const int side = screenPen().width();
     const QSize square(side, side);
-    KORVA_ClassicPainter(paper).fillRect(QRect(inPicture, square), Qt::white);
-    KORVA_ClassicPainter(canvas()->zoomedPixmap()).fillRect(QRect(onScreen, square), Qt::white);
+    canvas()->erase(QRect(inPicture, square), QRect(onScreen, square));
     m_drawing = false;
-    canvas()->refresh(QRect(onScreen, square));
 }

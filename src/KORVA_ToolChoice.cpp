@@ -46,6 +46,13 @@ void KORVA_ToolChoice::selectAreaTool()
     tellChanges();
 }
 
+void KORVA_ToolChoice::reset()
+{
+    m_remembered = {};
+    selectTool(tables::Pencil);
+    tellChanges();
+}
+
 void KORVA_ToolChoice::selectOptionEntry(int menuId)
 {
     applyOption(menuId);

@@ -27,6 +27,8 @@ public:
     void selectOption(int row);
     /// The select tool, set to frame an area and not to move the view; nobody has chosen it.
     void selectAreaTool();
+    /// As the constructor left it; the manager has been reset before.
+    void reset();
 
     [[nodiscard]] int tool() const { return m_tool; }
     /// -1 for a tool without options.
