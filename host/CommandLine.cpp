@@ -4,6 +4,8 @@
 
 #include <QRegularExpression>
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace pad {
@@ -11,6 +13,8 @@ namespace pad {
 namespace {
 
 constexpr int largestScale = 8;
+constexpr int mostUndoSteps = 1000;
+constexpr int largestSide = 4096;
 
 using Setter = std::optional<Failure> (*)(CommandLine&, const QString& value);
 
@@ -36,6 +40,38 @@ std::optional<Failure> setScale(CommandLine& line, const QString& value)
         return Failure{CommandLine::tr("--scale takes a number from 1 to %1, not '%2'", "command line")
                            .arg(QString::number(largestScale), value)};
     line.scale = scale;
+    return {};
+}
+
+std::optional<Failure> setUndoSteps(CommandLine& line, const QString& value)
+{
+    bool isNumber = false;
+    line.undoSteps = value.toInt(&isNumber);
+    if (isNumber && line.undoSteps >= 1 && line.undoSteps <= mostUndoSteps)
+        return {};
+    return Failure{CommandLine::tr("--undo-steps takes a number from 1 to %1, not '%2'", "command line")
+                       .arg(QString::number(mostUndoSteps), value)};
+}
+
+std::optional<Failure> setWorkingSize(CommandLine& line, const QString& value)
+{
+    static const QRegularExpression sides(QStringLiteral("^(\\d{1,4})x(\\d{1,4})$"));
+    const QRegularExpressionMatch match = sides.match(value);
+    line.workingSize = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    const bool isWithin =
+        line.workingSize.width() <= largestSide && line.workingSize.height() <= largestSide;
+    if (!line.workingSize.isEmpty() && isWithin)
+        return {};
+    return Failure{CommandLine::tr("--working-size takes WxH, up to %1, not '%2'", "command line")
+                       .arg(QStringLiteral("%1x%1").arg(largestSide), value)};
+}
+
+std::optional<Failure> setWorkingDepth(CommandLine& line, const QString& value)
+{
+    if (value != QLatin1String("16") && value != QLatin1String("24"))
+        return Failure{
+            CommandLine::tr("--working-depth takes 16 or 24, not '%1'", "command line").arg(value)};
+    line.workingDepth = value.toInt();
     return {};
 }
 
@@ -67,6 +103,13 @@ constexpr Option options[] = {
      QT_TRANSLATE_NOOP3("pad::CommandLine", "save the drawing after the replay, then exit", "help")},
     {"screenshot", 0, "FILE", setText<&CommandLine::screenshot>,
      QT_TRANSLATE_NOOP3("pad::CommandLine", "write the window as PNG, then exit", "help")},
+    {"undo-steps", 0, "N", setUndoSteps,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "how many steps can be undone (default: 50)", "help")},
+    {"working-size", 0, "WxH", setWorkingSize,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "fit opened pictures into this size (default: 352x288)",
+                        "help")},
+    {"working-depth", 0, "16|24", setWorkingDepth,
+     QT_TRANSLATE_NOOP3("pad::CommandLine", "the colour depth of opened pictures (default: 16)", "help")},
     {"no-recovery", 0, nullptr, setFlag<&CommandLine::noRecovery>,
      QT_TRANSLATE_NOOP3("pad::CommandLine", "keep no copy of what is not saved, and offer none", "help")},
     {"help", 'h', nullptr, setFlag<&CommandLine::help>,

@@ -3,6 +3,7 @@
 #include "Failure.h"
 
 #include <QCoreApplication>
+#include <QSize>
 #include <QStringList>
 
 #include <optional>
@@ -21,6 +22,9 @@ public:
     QString record;
     QString save;
     QString screenshot;
+    int undoSteps = 50;    ///< for a person; a replay begins with 1
+    QSize workingSize;     ///< empty: the classic one
+    int workingDepth = 16; ///< bits a pixel
     bool noRecovery = false;
     bool help = false;
     bool version = false;

@@ -48,4 +48,10 @@ bool insertStamp(KORVA_EditCanvas& editor, const QString& fileName)
     return editor.openNewFilePrivate(InsertStamp, fileName);
 }
 
+void setHistory(KORVA_EditCanvas& editor, int steps)
+{
+    constexpr qint64 mostBytes = 64 << 20;
+    editor.setUndoSteps(steps, mostBytes);
+}
+
 } // namespace pad

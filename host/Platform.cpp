@@ -37,6 +37,22 @@ Platform& Platform::install()
     return installed;
 }
 
+void Platform::setWorking(QSize box, int depth)
+{
+    m_workingBox = box.isEmpty() ? UTIL_Platform::workingBox() : box;
+    m_workingDepth = depth;
+}
+
+QSize Platform::workingBox() const
+{
+    return m_workingBox;
+}
+
+int Platform::workingDepth() const
+{
+    return m_workingDepth;
+}
+
 int Platform::question(QWidget* parent, const QString& icon, const QString& text,
                        const QStringList& buttons)
 {

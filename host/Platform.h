@@ -34,6 +34,11 @@ public:
     /// answered.
     std::optional<int> takeAnswer() { return std::exchange(m_lastAnswer, {}); }
 
+    /// How large and how deep opened pictures are worked on; an empty size leaves the classic one.
+    void setWorking(QSize box, int depth);
+    [[nodiscard]] QSize workingBox() const override;
+    [[nodiscard]] int workingDepth() const override;
+
     int question(QWidget* parent, const QString& icon, const QString& text,
                  const QStringList& buttons) override;
     void timedInformation(QWidget* parent, const QString& icon, const QString& text, const QString& button,
@@ -52,6 +57,8 @@ private:
 
     Script* m_script = nullptr; // not owned
     std::optional<int> m_lastAnswer;
+    QSize m_workingBox = UTIL_Platform::workingBox();
+    int m_workingDepth = UTIL_Platform::workingDepth();
 };
 
 } // namespace pad

@@ -101,6 +101,7 @@ void Player::perform(const Command& command)
         {Verb::Stamp, [](Player& p, const Command& c) { p.stamp(c.text); }},
         {Verb::Save, [](Player& p, const Command& c) { p.save(c.text); }},
         {Verb::Wait, [](Player&, const Command& c) { wait(c.number); }},
+        {Verb::History, [](Player& p, const Command& c) { setHistory(p.m_editor, c.number); }},
         {Verb::Answer, [](Player& p, const Command& c) { p.m_script.answer = c.number; }},
     };
     if (performOn(m_editor, command.verb))

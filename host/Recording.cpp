@@ -64,6 +64,12 @@ bool readNumber(const QString& word, Command& command)
     return readInt(word, 0, command.number);
 }
 
+bool readSteps(const QString& word, Command& command)
+{
+    constexpr int most = 1000;
+    return readInt(word, 1, command.number) && command.number <= most;
+}
+
 QString writeNumber(const Command& command)
 {
     return QString::number(command.number);
@@ -168,6 +174,9 @@ constexpr Argument button{{"'right'", nullptr}, readButton, writeButton, true};
 constexpr Argument number{
     QT_TRANSLATE_NOOP3("pad::Recording", "a number", "recording; what a command needs"), readNumber,
     writeNumber};
+constexpr Argument steps{
+    QT_TRANSLATE_NOOP3("pad::Recording", "a number of steps", "recording; what a command needs"), readSteps,
+    writeNumber};
 constexpr Argument tool{QT_TRANSLATE_NOOP3("pad::Recording", "a tool", "recording; what a command needs"),
                         readTool, writeTool};
 constexpr Argument zoom{QT_TRANSLATE_NOOP3("pad::Recording", "a zoom", "recording; what a command needs"),
@@ -219,6 +228,7 @@ constexpr Rule grammar[] = {
     {"save", Verb::Save, {&fileName}},
     {"wait", Verb::Wait, {&number}},
     {"answer", Verb::Answer, {&number}},
+    {"history", Verb::History, {&steps}},
 };
 
 template <typename Predicate>

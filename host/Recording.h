@@ -37,6 +37,7 @@ enum class Verb {
     Save,
     Wait,
     Answer,
+    History, ///< how many steps can be undone
 };
 
 /// One line of a recording, understood. Which fields count depends on the verb.
@@ -47,7 +48,7 @@ struct Command
     QPoint point = {}; ///< Press, Move, Release: canvas widget coordinates
     Qt::MouseButton button = Qt::LeftButton;
     int number = 0;  ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
-                     ///< Option and Answer: an index; Wait: milliseconds
+                     ///< Option and Answer: an index; Wait: milliseconds; History: steps
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);

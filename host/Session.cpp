@@ -3,6 +3,7 @@
 #include "Commands.h"
 #include "Documents.h"
 #include "DrawingFile.h"
+#include "EditCommand.h"
 #include "Player.h"
 #include "Recovery.h"
 
@@ -51,10 +52,12 @@ int Session::run()
     const auto workNow = [this, &result] {
         if (const auto failure = work())
             result = complain(*failure);
-        if (result != 0 || endsNow())
+        if (result != 0 || endsNow()) {
             QCoreApplication::exit();
-        else
+        } else {
+            startHistory();
             startRecovery();
+        }
     };
     QMetaObject::invokeMethod(this, workNow, Qt::QueuedConnection);
     QApplication::exec();
@@ -72,6 +75,17 @@ std::optional<Failure> Session::begin()
     if (auto failure = openPicture())
         return failure;
     return m_line.record.isEmpty() ? std::nullopt : startRecorder();
+}
+
+/// Not before a replay: a recording says itself how many steps it was made with, or was made with one.
+void Session::startHistory()
+{
+    const Command command{.verb = Verb::History, .number = m_line.undoSteps};
+    if (m_line.undoSteps == m_window->editor().undoSteps())
+        return;
+    setHistory(m_window->editor(), m_line.undoSteps);
+    if (m_recorder)
+        m_recorder->write(command);
 }
 
 std::optional<Failure> Session::openPicture()

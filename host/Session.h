@@ -31,6 +31,7 @@ private:
     std::optional<Failure> startRecorder();
     std::optional<Failure> work();
     std::optional<Failure> writeResults();
+    void startHistory();
     void startRecovery();
     [[nodiscard]] bool endsNow() const;
 

@@ -71,7 +71,9 @@ int run(char** argv, const pad::CommandLine& line, pad::Recording recording)
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     pad::theme::apply();
     const pad::DownloadFolder downloads;
-    return pad::Session(line, std::move(recording), pad::Platform::install(), std::move(place)).run();
+    pad::Platform& platform = pad::Platform::install();
+    platform.setWorking(line.workingSize, line.workingDepth);
+    return pad::Session(line, std::move(recording), platform, std::move(place)).run();
 }
 
 } // namespace

@@ -87,7 +87,7 @@ void tst_CommandLine::help()
     QCOMPARE(pad.errors(), "");
     const QString text = pad.output();
     for (const char* name : {"--scale", "--replay", "--record", "--save", "--screenshot", "--no-recovery",
-                             "--help", "--version"})
+                             "--undo-steps", "--working-size", "--working-depth", "--help", "--version"})
         QVERIFY2(text.contains(name), name);
 }
 
@@ -124,6 +124,14 @@ void tst_CommandLine::failsWithOneLine_data()
     row("two pictures", {"blue.png", "red.png"}, "one picture at a time: 'blue.png' and 'red.png'");
     row("scale of zero", {"--scale", "0"}, "--scale takes a number from 1 to 8, not '0'");
     row("scale in words", {"--scale", "two"}, "--scale takes a number from 1 to 8, not 'two'");
+    row("no steps", {"--undo-steps", "0"}, "--undo-steps takes a number from 1 to 1000, not '0'");
+    row("working size of one side", {"--working-size", "640"},
+        "--working-size takes WxH, up to 4096x4096, not '640'");
+    row("working size of nothing", {"--working-size", "0x480"},
+        "--working-size takes WxH, up to 4096x4096, not '0x480'");
+    row("working size too large", {"--working-size", "4097x10"},
+        "--working-size takes WxH, up to 4096x4096, not '4097x10'");
+    row("odd depth", {"--working-depth", "8"}, "--working-depth takes 16 or 24, not '8'");
     row("missing picture", {"none.png", "--save", "a.png"},
         "cannot open 'none.png': No such file or directory");
     row("not a picture", {"text.png", "--save", "a.png"}, "cannot open 'text.png': Failed to open file");

@@ -69,6 +69,7 @@ class tst_Player : public support::TestCase
 private slots:
     void aStroke();
     void undoAndRedo();
+    void historyWalksAsFarAsItSays();
     void zoomedStroke_data();
     void zoomedStroke();
     void clearing();
@@ -115,6 +116,22 @@ void tst_Player::undoAndRedo()
     QVERIFY(sameImage(pad.picture(), sheet(newCanvas)));
     QCOMPARE(pad.play("redo"), "");
     QVERIFY(sameImage(pad.picture(), filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red)));
+}
+
+void tst_Player::historyWalksAsFarAsItSays()
+{
+    const QByteArray dots = "press 10 20\nrelease 10 20\npress 30 20\nrelease 30 20\n"
+                            "press 50 20\nrelease 50 20\n";
+    const QImage first = filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red);
+    const QImage second = filled(first, QRect(30, 20, 1, 1), Qt::red);
+    Pad without;
+    QCOMPARE(without.play(dots + "undo\nundo"), "");
+    QVERIFY(sameImage(without.picture(), filled(second, QRect(50, 20, 1, 1), Qt::red)));
+    Pad longer;
+    QCOMPARE(longer.play("history 2\n" + dots + "undo\nundo\nundo"), "");
+    QVERIFY(sameImage(longer.picture(), first));
+    QCOMPARE(longer.play("redo"), "");
+    QVERIFY(sameImage(longer.picture(), second));
 }
 
 void tst_Player::zoomedStroke_data()

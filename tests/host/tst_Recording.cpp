@@ -105,6 +105,9 @@ void tst_Recording::understands_data()
     const char* zooms[] = {"50", "100", "150", "200", "fit"};
     for (int i = 0; i < 5; ++i)
         QTest::addRow("zoom %s", zooms[i]) << QByteArray("zoom ") + zooms[i] << numbered(Verb::Zoom, i);
+    for (const int steps : {1, 50, 1000})
+        QTest::addRow("history %d", steps)
+            << "history " + QByteArray::number(steps) << numbered(Verb::History, steps);
     const char* types[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
     for (int i = 0; i < 5; ++i) {
         QTest::addRow("canvas %s", types[i])
@@ -221,6 +224,9 @@ void tst_Recording::tellsWhatIsWrongAndWhere_data()
     row("unknown button", "press 1 2 left", "test.rec:1: 'press' needs 'right', not 'left'");
     row("word after the button", "press 1 2 right 3", "test.rec:1: '3' is too much for 'press'");
     row("unknown tool", "# tools\ntool brush", "test.rec:2: 'tool' needs a tool, not 'brush'");
+    row("history without an end", "history 1001",
+        "test.rec:1: 'history' needs a number of steps, not '1001'");
+    row("no history", "history 0", "test.rec:1: 'history' needs a number of steps, not '0'");
     row("unknown zoom", "zoom 75", "test.rec:1: 'zoom' needs a zoom, not '75'");
     row("unknown canvas type", "canvas 2bit 1 1", "test.rec:1: 'canvas' needs a canvas type, not '2bit'");
     row("canvas without width", "canvas 1bit 0 5", "test.rec:1: 'canvas' needs W, not '0'");
