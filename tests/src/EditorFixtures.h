@@ -183,7 +183,7 @@ struct EditorDesk
         QCoreApplication::installTranslator(&translator);
         editor = fileName.isNull() ? std::make_unique<KORVA_EditCanvas>(KORVA_COLOR_16BIT)
                                    : std::make_unique<KORVA_EditCanvas>(fileName, KORVA_COLOR_16BIT);
-        watchAll();
+        watchEditor(log, *editor);
     }
     ~EditorDesk()
     {
@@ -250,21 +250,6 @@ struct EditorDesk
     RecordingPlatform* platform;
     CommentTranslator translator;
     std::unique_ptr<KORVA_EditCanvas> editor;
-
-private:
-    void watchAll()
-    {
-        log.watch(editor.get(), &KORVA_EditCanvas::sizeChanged);
-        log.watch(editor.get(), &KORVA_EditCanvas::canvasChanged);
-        log.watch(editor.get(), &KORVA_EditCanvas::pixmapChanged);
-        log.watch(editor.get(), &KORVA_EditCanvas::modified);
-        log.watch(editor.get(), &KORVA_EditCanvas::selection);
-        log.watch(editor.get(), &KORVA_EditCanvas::canUndo);
-        log.watch(editor.get(), &KORVA_EditCanvas::canRedo);
-        log.watch(editor.get(), &KORVA_EditCanvas::canDelete);
-        log.watch(editor.get(), &KORVA_EditCanvas::signalTextTool);
-        log.watch(editor.get(), &KORVA_EditCanvas::TextToolClicked);
-    }
 };
 
 /// The picture of an icon at real size.

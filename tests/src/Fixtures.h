@@ -125,4 +125,19 @@ inline QRegularExpression assertionText(const QString& expression, const QString
                               QRegularExpression::escape(source) + ", line [1-9][0-9]*\n$");
 }
 
+/// Everything that an editor tells its host.
+inline void watchEditor(support::SignalRecorder& log, const KORVA_EditCanvas& editor)
+{
+    log.watch(&editor, &KORVA_EditCanvas::sizeChanged);
+    log.watch(&editor, &KORVA_EditCanvas::canvasChanged);
+    log.watch(&editor, &KORVA_EditCanvas::pixmapChanged);
+    log.watch(&editor, &KORVA_EditCanvas::modified);
+    log.watch(&editor, &KORVA_EditCanvas::selection);
+    log.watch(&editor, &KORVA_EditCanvas::canUndo);
+    log.watch(&editor, &KORVA_EditCanvas::canRedo);
+    log.watch(&editor, &KORVA_EditCanvas::canDelete);
+    log.watch(&editor, &KORVA_EditCanvas::signalTextTool);
+    log.watch(&editor, &KORVA_EditCanvas::TextToolClicked);
+}
+
 } // namespace fixtures

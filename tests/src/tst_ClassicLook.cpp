@@ -1,11 +1,7 @@
-#include "KORVA_Canvas.h"
-#include "KORVA_EditCanvas.h"
+#include "Fixtures.h"
+
 #include "KORVA_MainView.h"
 #include "KORVA_ScrollView.h"
-#include "support/Gestures.h"
-#include "support/Images.h"
-#include "support/SignalRecorder.h"
-#include "support/TestCase.h"
 
 namespace {
 
@@ -18,16 +14,7 @@ struct Desk
     Desk()
     {
         editor.show();
-        log.watch(&editor, &KORVA_EditCanvas::sizeChanged);
-        log.watch(&editor, &KORVA_EditCanvas::canvasChanged);
-        log.watch(&editor, &KORVA_EditCanvas::pixmapChanged);
-        log.watch(&editor, &KORVA_EditCanvas::modified);
-        log.watch(&editor, &KORVA_EditCanvas::selection);
-        log.watch(&editor, &KORVA_EditCanvas::canUndo);
-        log.watch(&editor, &KORVA_EditCanvas::canRedo);
-        log.watch(&editor, &KORVA_EditCanvas::canDelete);
-        log.watch(&editor, &KORVA_EditCanvas::signalTextTool);
-        log.watch(&editor, &KORVA_EditCanvas::TextToolClicked);
+        fixtures::watchEditor(log, editor);
     }
 
     [[nodiscard]] QPushButton* button(const char* name)

@@ -2,6 +2,7 @@
 
 #include "KORVA_ENGINE_CloseFilter.h"
 #include "KORVA_Text.h"
+#include "support/Dice.h"
 
 using fixtures::toolCount;
 
@@ -31,11 +32,11 @@ public:
 };
 
 /// A host whose every slot may do anything, and what a person does in its editor.
-class Host : public QObject
+class Host : public QObject, public support::Dice
 {
 public:
     Host(quint32 seed, RandomPlatform& platform, const QString& picture)
-        : m_random(seed),
+        : Dice(seed),
           m_picture(picture),
           m_editor(new KORVA_EditCanvas(KORVA_COLOR_16BIT)),
           m_pointer(*m_editor->canvas())
@@ -58,7 +59,6 @@ public:
     [[nodiscard]] QByteArray story() const { return m_story.join(", ").toUtf8(); }
     [[nodiscard]] int reactions() const { return m_reactions; }
     void fallSilent() { m_depth = deepest; }
-    int below(int limit) { return m_random.bounded(limit); }
     bool chance(int in) { return below(in) == 0; }
     [[nodiscard]] QString picture() const { return m_picture; }
 
@@ -109,7 +109,6 @@ private:
         --m_depth;
     }
 
-    int between(int first, int last) { return m_random.bounded(first, last + 1); }
     QPoint point()
     {
         constexpr int beyond = 12;
@@ -165,7 +164,7 @@ private:
     void depth() { m_editor->setDepth(QList{1, 8, 16, 32}[below(4)]); }
     void commit() { m_editor->commitText(); }
     void resetText() { text()->resetBuffer(); }
-    void color() { m_editor->setColor(QColor::fromRgb(m_random.generate())); }
+    void color() { m_editor->setColor(Dice::color()); }
     void grow() { m_editor->resize(between(200, 400), between(200, 400)); }
     void open() { m_editor->slotOpen(); }
     void openFile()
@@ -271,7 +270,6 @@ private:
         {"go", &Host::go},
     };
 
-    QRandomGenerator m_random;
     QString m_picture;
     QPointer<KORVA_EditCanvas> m_editor;
     support::Gestures m_pointer;

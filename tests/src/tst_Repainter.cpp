@@ -91,6 +91,7 @@ void tst_Repainter::whatComesSoonAfterWaitsForTheNextOrTheTime()
     const qsizetype atOnce = sheet.painted.size();
     QCOMPARE_LE(atOnce, 1 + sinceFirst.elapsed() / pace);
     support::strike(pace + 1); // the last change's time was over before
+    QVERIFY(!sheet.painted.isEmpty());
     QCOMPARE(sheet.painted.constLast().bottomRight(), QPoint(changes - 1, changes - 1));
     const qsizetype then = sheet.painted.size();
     QCOMPARE_LE(then, atOnce + 1); // all that waited goes together

@@ -1,6 +1,7 @@
 #include "EditorFixtures.h"
 
 #include "KORVA_Text.h"
+#include "support/Dice.h"
 #include "support/Mount.h"
 #include "support/PictureFiles.h"
 
@@ -112,10 +113,10 @@ struct View
 
 /// An editor at which somebody sits whose doings follow from a number alone: two of the same number do the
 /// same.
-class Session
+class Session : private support::Dice
 {
 public:
-    explicit Session(quint32 seed) : m_random(seed)
+    explicit Session(quint32 seed) : Dice(seed)
     {
         editor.show();
         replacePicture();
@@ -192,11 +193,7 @@ private:
         void (Session::*what)();
     };
 
-    int below(int limit) { return m_random.bounded(limit); }
-    int between(int first, int last) { return m_random.bounded(first, last + 1); }
-    bool chance() { return below(2) == 1; }
     QPoint point() { return {between(-9, canvas.width() + 9), between(-9, canvas.height() + 9)}; }
-    QColor color() { return QColor::fromRgb(m_random.generate()); }
     /// Within the floating piece: an edge, a corner or the inside.
     QPoint grip()
     {
@@ -355,7 +352,6 @@ private:
     }();
 
     support::Gestures m_stylus{canvas};
-    QRandomGenerator m_random;
     QPoint m_at;
     bool m_isDown = false;
     bool m_isStretched = false;

@@ -2,6 +2,7 @@
 
 #include "KORVA_MainView.h"
 #include "KORVA_ScrollView.h"
+#include "support/Dice.h"
 
 /// Two hundred thousand random events and commands with every tool: no assertion, no warning, no sanitizer
 /// may speak up, and canvas, tools and manager stay of one mind.
@@ -20,11 +21,11 @@ constexpr int eventsPerStorm = 50'000;
 constexpr QSize largestPicture(60, 48);
 
 /// Everything that can happen to a canvas, one thing at a time.
-class Storm
+class Storm : private support::Dice
 {
 public:
     Storm(KORVA_Canvas& canvas, KORVA_Manager& manager, quint32 seed)
-        : m_canvas(canvas), m_manager(manager), m_stylus(canvas), m_random(seed)
+        : Dice(seed), m_canvas(canvas), m_manager(manager), m_stylus(canvas)
     {
     }
 
@@ -44,10 +45,6 @@ private:
         void (Storm::*what)();
     };
 
-    int below(int limit) { return m_random.bounded(limit); }
-    int between(int first, int last) { return m_random.bounded(first, last + 1); }
-    bool chance() { return below(2) == 1; }
-    QColor color() { return QColor::fromRgb(m_random.generate()); }
     QPoint point()
     {
         constexpr int beyond = 20;
@@ -168,7 +165,6 @@ private:
     KORVA_Canvas& m_canvas;
     KORVA_Manager& m_manager;
     support::Gestures m_stylus;
-    QRandomGenerator m_random;
     QPoint m_at;
 };
 
