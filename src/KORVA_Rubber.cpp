@@ -53,3 +53,8 @@ void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)
     m_drawing = false;
     canvas()->refresh(QRect(onScreen, square));
 }
+
+std::function<void()> KORVA_Rubber::keepState()
+{
+    return [this, drawing = m_drawing] { m_drawing = drawing; };
+}
