@@ -27,8 +27,9 @@ inline constexpr QRect pieceInPicture(20, 20, 40, 30);
 /// An editor in a window that is shown.
 struct TouchDesk
 {
-    explicit TouchDesk(ToolID tool = Pencil, int zoomRow = 1, Work work = Nothing)
+    explicit TouchDesk(ToolID tool = Pencil, int zoomRow = 1, Work work = Nothing, int undoSteps = 1)
     {
+        editor.setUndoSteps(undoSteps);
         window.resize(260, 240);
         window.move(300 * (count++ % 2), 0); // a finger goes to the window that lies under it
         editor.move(5, 3);

@@ -49,6 +49,8 @@ private slots:
 
     void aSecondFingerTakesTheStrokeBack_data();
     void aSecondFingerTakesTheStrokeBack();
+    void moreStepsOfUndoStay_data();
+    void moreStepsOfUndoStay();
     void theHostHearsThatItIsTakenBack();
     void aCancelledTouchLeavesNoMark_data() { toolsAndZooms({fixtures::Nothing, fixtures::Pasted}); }
     void aCancelledTouchLeavesNoMark();
@@ -180,6 +182,41 @@ void tst_Touch::aSecondFingerTakesTheStrokeBack()
         QVERIFY(same(touched.state(), expected.state()));
     }
     QVERIFY(undoAlike(touched, expected));
+}
+
+void tst_Touch::moreStepsOfUndoStay_data()
+{
+    QTest::addColumn<Work>("work");
+    for (const auto& [work, name] : fixtures::works)
+        QTest::newRow(name) << work;
+}
+
+void tst_Touch::moreStepsOfUndoStay()
+{
+    QFETCH(const Work, work);
+    constexpr int steps = 20;
+    TouchDesk touched(fixtures::Pencil, 1, work, steps);
+    TouchDesk expected(fixtures::Pencil, 1, work, steps);
+    for (TouchDesk* each : {&touched, &expected}) {
+        support::Gestures mouse(each->canvas());
+        mouse.drag({{5, 150}, {30, 160}});
+        mouse.drag({{5, 160}, {30, 150}});
+        each->editor.undo();
+    }
+    QCoreApplication::processEvents(); // what is possible is told now
+    touched.fingers.press(0, touched.besidePiece());
+    touched.fingers.move(0, touched.besidePiece() + QPoint(20, 10));
+    QCoreApplication::processEvents();
+    touched.fingers.press(1, {20, 20});
+    QCoreApplication::processEvents();
+    QVERIFY(same(touched.state(), expected.state()));
+    for (const auto step : {&KORVA_EditCanvas::undo, &KORVA_EditCanvas::redo}) {
+        for (int i = 0; i < 5; ++i) {
+            (touched.editor.*step)();
+            (expected.editor.*step)();
+            QVERIFY(same(touched.state(), expected.state()));
+        }
+    }
 }
 
 void tst_Touch::theHostHearsThatItIsTakenBack()
