@@ -5,6 +5,7 @@
 #include "KeysDialog.h"
 #include "MenuStyle.h"
 #include "Recovery.h"
+#include "Settings.h"
 #include "Wording.h"
 
 #include <KORVA_Canvas.h>
@@ -16,6 +17,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QSettings>
 #include <QWidget>
 
 #include <algorithm>
@@ -39,6 +41,8 @@ QString keysPageText(const QAction& action)
 {
     return wording::withoutMnemonic(action.text()).remove(QLatin1String(" ..."));
 }
+
+const QString fingersPanKey = QStringLiteral("fingers/pan");
 
 } // namespace
 
@@ -64,6 +68,7 @@ Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* wind
       m_menu(new UTIL_PopupMenu(window))
 {
     addEntries();
+    m_fingersPan->setCheckable(true);
     follow();
 }
 
@@ -152,6 +157,9 @@ void Commands::addEntries()
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "Full s&creen", "menu"), "F11", Needs::Nothing,
          [](C& c, int) { c.m_window->setWindowState(c.m_window->windowState() ^ Qt::WindowFullScreen); }},
 
+        {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "F&inger pans", "menu"), "Ctrl+H", Needs::Fingers,
+         [](C& c, int) { c.letFingersPan(c.m_fingersPan->isChecked()); }},
+
         // Their names differ from tool to tool, and are in the editor's own menu.
         {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "First option", "menu"), "1", Needs::Nothing,
          option, 0},
@@ -178,6 +186,8 @@ void Commands::addEntries()
             m_undo = action;
         if (entry.needs == Needs::Redo)
             m_redo = action;
+        if (entry.needs == Needs::Fingers)
+            m_fingersPan = action;
     }
 }
 
@@ -245,6 +255,15 @@ void Commands::setRecovery(Recovery* recovery)
     setAvailable(Needs::Recovery, recovery != nullptr);
 }
 
+void Commands::rememberFingers()
+{
+    m_isRemembered = true;
+    const QSettings settings(settingsFile(), QSettings::IniFormat);
+    m_fingersPan->setChecked(settings.value(fingersPanKey).toBool());
+    m_editor.canvas()->setFingerUse(m_fingersPan->isChecked() ? KORVA_Canvas::FingerPans
+                                                              : KORVA_Canvas::FingerDraws);
+}
+
 QAction* Commands::contextAction() const
 {
     return m_redo->isEnabled() && !m_undo->isEnabled() ? m_redo : m_undo;
@@ -287,6 +306,13 @@ void Commands::showKeys()
                  {QStringLiteral("[   ]"), tr("Turn piece", "keys")},
                  {escape, tr("End text", "keys")}});
     KeysDialog(m_window, rows).exec();
+}
+
+void Commands::letFingersPan(bool pan)
+{
+    m_editor.canvas()->setFingerUse(pan ? KORVA_Canvas::FingerPans : KORVA_Canvas::FingerDraws);
+    if (m_isRemembered)
+        QSettings(settingsFile(), QSettings::IniFormat).setValue(fingersPanKey, pan);
 }
 
 void Commands::paste()

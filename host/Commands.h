@@ -25,6 +25,8 @@ public:
 
     /// Gives access to the earlier drawings; null if there are none. Not owned.
     void setRecovery(Recovery* recovery);
+    /// What a finger does is as it was last chosen, and is kept in the settings for the next start.
+    void rememberFingers();
 
     [[nodiscard]] QMenu* menu() const { return m_menu; }
     /// The action of the right soft key: undo or, after an undo, redo.
@@ -47,6 +49,7 @@ private:
         Redo,      ///< a change that was undone
         Selection, ///< a floating piece
         Clipboard, ///< a picture on the clipboard; assumed until somebody asks
+        Fingers,   ///< always there; bears a mark while they pan
     };
     struct Dependent
     {
@@ -65,6 +68,7 @@ private:
     void paste();
     [[nodiscard]] int nextZoom(int direction) const;
     void showKeys();
+    void letFingersPan(bool pan);
 
     KORVA_EditCanvas& m_editor;
     Documents& m_documents;
@@ -74,6 +78,8 @@ private:
     std::vector<Dependent> m_dependents;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
+    QAction* m_fingersPan = nullptr;
+    bool m_isRemembered = false; ///< what a finger does
 };
 
 } // namespace pad

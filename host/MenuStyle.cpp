@@ -24,6 +24,17 @@ void paintArrow(QPainter& painter, const QRect& row, const QColor& ink)
     painter.drawPolyline(QPolygon({tip + QPoint(-half, -half), tip, tip + QPoint(-half, half)}));
 }
 
+/// A tick that ends before `right`.
+void paintMark(QPainter& painter, int right, const QRect& row, const QColor& ink)
+{
+    constexpr int half = Size::chevron;
+    const QPoint foot(right - 2 * half, row.center().y() + half - 1);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(
+        QPolygon({foot + QPoint(-half + 1, -half + 1), foot, foot + QPoint(half, -2 * half)}));
+}
+
 } // namespace
 
 MenuStyle::MenuStyle(QObject* owner) : QProxyStyle(QStyleFactory::create(QStringLiteral("fusion")))
@@ -78,6 +89,10 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
         paintArrow(*painter, item->rect, ink);
     else if (parts.size() > 1)
         painter->drawText(text, Qt::AlignRight | Qt::AlignVCenter, parts.last());
+    if (item->checkType != QStyleOptionMenuItem::NotCheckable && item->checked) {
+        const int keys = parts.size() > 1 ? painter->fontMetrics().horizontalAdvance(parts.last()) : 0;
+        paintMark(*painter, text.right() - keys, item->rect, ink);
+    }
     painter->restore();
 }
 

@@ -44,6 +44,8 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     connect(m_commands, &Commands::contextActionChanged, this, &PadWindow::updateContextKey);
     connect(m_documents, &Documents::changed, this, &PadWindow::updateTitle);
     connect(m_editor, &KORVA_EditCanvas::modified, this, [this] { setWindowModified(true); });
+    connect(m_editor, &KORVA_EditCanvas::strokeTakenBack, this,
+            [this] { setWindowModified(m_editor->isModified()); });
     updateContextKey();
     updateTitle();
 }

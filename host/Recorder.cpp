@@ -12,6 +12,9 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointingDevice>
+
+#include <utility>
 
 namespace pad {
 
@@ -25,12 +28,14 @@ std::optional<Failure> Recorder::start(const QString& fileName)
     m_editor.canvas()->installEventFilter(this);
     m_editor.canvas()->pasteLabel()->installEventFilter(this);
     connect(&m_editor, &KORVA_EditCanvas::chosen, this, &Recorder::writeChoice);
+    connect(&m_editor, &KORVA_EditCanvas::strokeTakenBack, this, &Recorder::dropStroke);
     watchMenus();
     return {};
 }
 
 std::optional<Failure> Recorder::finish()
 {
+    writeHeld();
     if (m_file.isOpen() && (!m_file.flush() || m_file.error() != QFileDevice::NoError))
         return failure();
     m_file.close();
@@ -89,7 +94,27 @@ void Recorder::writeMouse(const QWidget& receiver, const QMouseEvent& event)
     command.verb = event.type() == QEvent::MouseMove            ? Verb::Move
                    : event.type() == QEvent::MouseButtonRelease ? Verb::Release
                                                                 : Verb::Press;
-    write(command);
+    if (event.device()->type() != QInputDevice::DeviceType::TouchScreen) {
+        write(command);
+        return;
+    }
+    m_isHolding = true;
+    m_held.push_back({command, true});
+    if (command.verb == Verb::Release)
+        writeHeld();
+}
+
+void Recorder::dropStroke()
+{
+    std::erase_if(m_held, [](const Held& held) { return held.isStroke; });
+    writeHeld();
+}
+
+void Recorder::writeHeld()
+{
+    m_isHolding = false;
+    for (const Held& held : std::exchange(m_held, {}))
+        writeLine(held.command);
 }
 
 void Recorder::writeKey(const QKeyEvent& event)
@@ -109,6 +134,14 @@ void Recorder::writeKey(const QKeyEvent& event)
 }
 
 void Recorder::write(const Command& command)
+{
+    if (m_isHolding)
+        m_held.push_back({command, false});
+    else
+        writeLine(command);
+}
+
+void Recorder::writeLine(const Command& command)
 {
     if (!m_file.isOpen())
         return;

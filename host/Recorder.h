@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QObject>
 
+#include <vector>
+
 class KORVA_EditCanvas;
 class QKeyEvent;
 class QMouseEvent;
@@ -32,14 +34,26 @@ public slots:
     void write(const pad::Command& command);
 
 private:
+    /// A line of the recording, or of the stroke that a finger has begun.
+    struct Held
+    {
+        Command command;
+        bool isStroke;
+    };
+
     [[nodiscard]] Failure failure() const;
     void writeChoice(KORVA_CHOICETYPE what, int which);
     void writeMouse(const QWidget& receiver, const QMouseEvent& event);
+    void dropStroke();
+    void writeHeld();
+    void writeLine(const Command& command);
     void writeKey(const QKeyEvent& event);
     void watchMenus();
 
     KORVA_EditCanvas& m_editor;
     QFile m_file;
+    bool m_isHolding = false;
+    std::vector<Held> m_held; ///< from a finger's press to the end of its stroke, which may be taken back
 };
 
 } // namespace pad

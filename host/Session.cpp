@@ -42,6 +42,7 @@ int Session::run()
     if (m_place) {
         m_place->restore(*m_window);
         m_window->documents().rememberFolders();
+        m_window->commands().rememberFingers();
     } else
         m_window->setFixedSize(m_window->size());
     m_window->show();

@@ -131,3 +131,13 @@ QRect KORVA_AreaSelect::toggleFrame(QPoint to)
     painter.drawRect(m_start.x(), m_start.y(), to.x() - m_start.x(), to.y() - m_start.y());
     return painter.touched();
 }
+
+std::function<void()> KORVA_AreaSelect::keepState()
+{
+    return [this, start = m_start, end = m_end, state = m_state, shown = m_frameShown] {
+        m_start = start;
+        m_end = end;
+        m_state = state;
+        m_frameShown = shown;
+    };
+}

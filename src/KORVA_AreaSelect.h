@@ -23,6 +23,7 @@ public:
     void activating() override;
     void deactivating() override;
     void zoomedRebuilt() override;
+    [[nodiscard]] std::function<void()> keepState() override;
 
 public slots:
     /// The canvas tells whether it has a selection; when it has none the frame goes.

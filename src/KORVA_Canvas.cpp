@@ -11,6 +11,7 @@
 #include "KORVA_Repainter.h"
 #include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
+#include "KORVA_TouchInput.h"
 #include "UTIL_ImageReader.h"
 #include "UTIL_Platform.h"
 
@@ -64,6 +65,7 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
     // Before anything is connected: a new canvas is modified, but has nothing to undo.
     clearCanvas(Qt::white);
     connectSignals(editor);
+    m_touch = std::make_unique<KORVA_TouchInput>(*this, editor);
 }
 
 KORVA_Canvas::~KORVA_Canvas() = default;
@@ -75,6 +77,7 @@ void KORVA_Canvas::connectSignals(KORVA_EditCanvas* editor)
         connect(this, &KORVA_Canvas::pixmapChanged, editor, &KORVA_EditCanvas::pixmapChanged);
         connect(this, &KORVA_Canvas::modified, editor, &KORVA_EditCanvas::modified);
         connect(this, qOverload<bool>(&KORVA_Canvas::selection), editor, &KORVA_EditCanvas::selection);
+        connect(this, &KORVA_Canvas::strokeTakenBack, editor, &KORVA_EditCanvas::strokeTakenBack);
         connect(this, &KORVA_Canvas::canUndo, editor, &KORVA_EditCanvas::canUndo);
         connect(this, &KORVA_Canvas::canRedo, editor, &KORVA_EditCanvas::canRedo);
     }
@@ -142,6 +145,7 @@ bool KORVA_Canvas::isModified() const
 void KORVA_Canvas::clearModified()
 {
     m_picture->clearModified();
+    m_touch->settle(); // what is saved with half a stroke in it keeps that
 }
 
 void KORVA_Canvas::markModified()

@@ -17,6 +17,7 @@ class KORVA_Picture;
 class KORVA_Repainter;
 class KORVA_ScrollView;
 class KORVA_Tool;
+class KORVA_TouchInput;
 class QAction;
 class QMenu;
 
@@ -47,6 +48,13 @@ public:
     KORVA_Canvas(KORVA_EditCanvas* editor, const QString& fileName, QWidget* parent = nullptr,
                  const char* name = nullptr);
     ~KORVA_Canvas() override;
+
+    /// What one finger on a touch screen does. Two always move the view, and pinch it from one step of the
+    /// zoom box to the next; a pen always draws.
+    enum FingerUse {
+        FingerDraws, ///< what the left button does
+        FingerPans,  ///< moves the view; a floating piece it still takes hold of
+    };
 
     /// How many canvases were ever made.
     static int inst;
@@ -201,6 +209,11 @@ public:
     /// and 2. A host may add entries of its own, and take away any. The canvas owns it.
     [[nodiscard]] QMenu* contextMenu() const { return m_menu; }
 
+    /// Chooses what one finger does from its next touch on: see FingerUse. FingerDraws at first.
+    void setFingerUse(FingerUse use);
+    /// See setFingerUse().
+    [[nodiscard]] FingerUse fingerUse() const;
+
     /// The scroll view that holds the canvas; null when there is none.
     [[nodiscard]] KORVA_ScrollView* scrollView() const;
 
@@ -281,6 +294,10 @@ signals:
     void selection(bool exists);
     /// A piece was put on the clipboard. Always true.
     void clipboard(bool filled);
+    /// A finger's stroke never was: a second finger came, a pen, the menu, or the touch was cancelled.
+    /// Picture, snapshot, modified flag, piece, selection and tool are as before its press, and where
+    /// selection(), canUndo() and canRedo() had told otherwise since, they came once more before this.
+    void strokeTakenBack();
     /// Whether undo is to be offered.
     void canUndo(bool possible);
     /// Whether redo is to be offered.
@@ -291,6 +308,8 @@ signals:
 protected:
     /// Claims the keys that type while the text tool takes them, and those of the keyboard's pen, before
     /// they become a host's shortcuts.
+    /// What a finger or a pen draws is handed to the canvas, or to the floating piece under it, as events
+    /// of the left button; their device is the touch screen or the pen.
     bool event(QEvent* event) override;
     /// Tab stays here while the text tool takes it.
     bool focusNextPrevChild(bool next) override;
@@ -311,6 +330,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class KORVA_BeforeStroke;
+    friend class KORVA_EditCanvas; // for what fingers and pens want of its controls
+
     KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize, QWidget* parent,
                  const char* name);
     void createMenu();
@@ -359,4 +381,5 @@ private:
     QPointer<QAction> m_pasteAction;
     std::unique_ptr<KORVA_Repainter> m_repainter;
     std::unique_ptr<KORVA_KeyboardPen> m_keyboardPen; ///< null until it is asked for
+    std::unique_ptr<KORVA_TouchInput> m_touch;
 };

@@ -4,6 +4,7 @@
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Pixel.h"
 #include "KORVA_Text.h"
+#include "KORVA_TouchInput.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -76,8 +77,20 @@ void KORVA_Canvas::keyReleaseEvent(QKeyEvent* event)
         event->ignore();
 }
 
+void KORVA_Canvas::setFingerUse(FingerUse use)
+{
+    m_touch->setFingerUse(use);
+}
+
+KORVA_Canvas::FingerUse KORVA_Canvas::fingerUse() const
+{
+    return m_touch->fingerUse();
+}
+
 bool KORVA_Canvas::event(QEvent* event)
 {
+    if (m_touch && m_touch->takes(event))
+        return true;
     if (m_keyboardPen && m_keyboardPen->handle(*event))
         return true;
     // Shortcuts of the host wait while a text is typed; what is no text is still theirs.

@@ -3,6 +3,7 @@
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Picture.h"
 #include "KORVA_Tool.h"
+#include "KORVA_TouchInput.h"
 
 #include <QTimer>
 
@@ -43,6 +44,7 @@ void KORVA_Canvas::redo()
 
 void KORVA_Canvas::step(void (KORVA_Picture::*direction)())
 {
+    m_touch->settle();
     mergePastePixmap();
     m_pasteLabel->hide();
     if (m_tool && m_tool->getTextKey())
@@ -78,6 +80,7 @@ void KORVA_Canvas::setUndoFlag(int flag)
 
 void KORVA_Canvas::setUndoSteps(int steps, qint64 mostBytes)
 {
+    m_touch->settle();
     const bool hadHistory = hasHistory();
     m_picture->setUndoSteps(steps, mostBytes);
     if (hadHistory || hasHistory())

@@ -31,3 +31,11 @@ void KORVA_Drag::mouseMoveEvent(QMouseEvent* event)
     m_last = p;
     canvas()->refresh();
 }
+
+std::function<void()> KORVA_Drag::keepState()
+{
+    return [this, press = m_press, last = m_last] {
+        m_press = press;
+        m_last = last;
+    };
+}

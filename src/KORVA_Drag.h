@@ -17,6 +17,7 @@ public:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void activating() override;
+    [[nodiscard]] std::function<void()> keepState() override;
 
 private:
     QPoint m_press;

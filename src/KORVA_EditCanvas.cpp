@@ -14,6 +14,7 @@
 #include "KORVA_Text.h"
 #include "KORVA_ToolBar.h"
 #include "KORVA_ToolChoice.h"
+#include "KORVA_TouchInput.h"
 #include "KORVA_ZoomChoice.h"
 #include "UTIL_Skin.h"
 
@@ -68,6 +69,11 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
     connect(canvas(), &KORVA_Canvas::zoomChanged, this, [this](int percent) {
         m_toolChoice->updateRubberCursor();
         emit zoomChanged(percent);
+    });
+    connect(canvas()->m_touch.get(), &KORVA_TouchInput::zoomWanted, this,
+            [this](double percent) { m_zoomChoice->stepTowards(percent); });
+    connect(canvas()->m_touch.get(), &KORVA_TouchInput::eraserWanted, this, [this](bool isWanted) {
+        isWanted ? m_toolChoice->lendEraser() : m_toolChoice->takeEraserBack();
     });
     resize(layout::editor);
 

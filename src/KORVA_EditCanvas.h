@@ -276,6 +276,8 @@ signals:
     void modified();
     /// As KORVA_Canvas::selection(): whether cut and copy are to be offered.
     void selection(bool exists);
+    /// See KORVA_Canvas::strokeTakenBack(): isModified() may be false again.
+    void strokeTakenBack();
     /// Whether undo is to be offered: KORVA_Canvas::canUndo(), and false from setPixmap().
     void canUndo(bool possible);
     /// Whether redo is to be offered: KORVA_Canvas::canRedo(), and false from setPixmap().

@@ -222,6 +222,28 @@ KORVA_PasteLabel::Zone KORVA_PasteLabel::zoneAt(QPoint p) const
     return Inside;
 }
 
+std::optional<QPoint> KORVA_PasteLabel::gripFor(QPoint finger, int reach) const
+{
+    if (!rect().adjusted(-reach, -reach, reach, reach).contains(finger))
+        return {};
+    // The middle of the edge or the corner that is meant: a mouse finds its zone there, too.
+    const auto handle = [reach](int p, int size) -> std::optional<int> {
+        const int inwards = qMin(reach, size / 4);
+        if (p < inwards)
+            return 0;
+        return p >= size - inwards ? std::optional(size - 1) : std::nullopt;
+    };
+    const std::optional<int> x = handle(finger.x(), width());
+    const std::optional<int> y = handle(finger.y(), height());
+    if (x || y)
+        return QPoint(x.value_or(width() / 2), y.value_or(height() / 2));
+    for (const QPoint& p : {finger, QPoint(handleSize, height() / 2), QPoint(width() / 2, handleSize)}) {
+        if (zoneAt(p) == Inside)
+            return p;
+    }
+    return finger;
+}
+
 void KORVA_PasteLabel::hover(QPoint p)
 {
     static constexpr Qt::CursorShape cursors[] = {

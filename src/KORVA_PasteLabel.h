@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QSize>
 
+#include <optional>
+
 class QAction;
 class QMenu;
 
@@ -56,6 +58,12 @@ public:
     /// host may add entries of its own, and remove any. The item owns the menu.
     [[nodiscard]] QMenu* menu() const { return m_menu; }
 
+    /// Where a mouse hovers that is about to do what a finger at `finger`, in the item's own coordinates,
+    /// means. The handles reach `reach` pixels around for a finger: that far outwards, and inwards no
+    /// farther than leaves the middle half of the item to move it. None beyond that. An item of less than
+    /// 12 pixels in both directions has corners only, for a finger as for a mouse.
+    [[nodiscard]] std::optional<QPoint> gripFor(QPoint finger, int reach) const;
+
     /// Begins a drag of the zone over which the pointer hovered last; the right button opens the menu. The
     /// position is in the item's coordinates. The canvas passes on presses on the item that reach the
     /// canvas instead.
@@ -90,6 +98,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    friend class KORVA_BeforeStroke;
+
     /// What a drag does, by the place where the pointer hovered last. A press does not look again.
     enum Zone : int {
         Outside = 0,

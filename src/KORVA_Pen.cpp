@@ -56,3 +56,11 @@ QRect KORVA_Pen::drawSegment(QPixmap* target, const QPen& pen, const QTransform&
     painter.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
     return painter.touched();
 }
+
+std::function<void()> KORVA_Pen::keepState()
+{
+    return [this, last = m_last, drawing = m_drawing] {
+        m_last = last;
+        m_drawing = drawing;
+    };
+}

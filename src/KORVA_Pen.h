@@ -19,6 +19,7 @@ public:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void activating() override;
+    [[nodiscard]] std::function<void()> keepState() override;
 
 private:
     void drawTo(QPoint to);

@@ -49,3 +49,8 @@ void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)
     canvas()->erase(QRect(inPicture, square), QRect(onScreen, square));
     m_drawing = false;
 }
+
+std::function<void()> KORVA_Rubber::keepState()
+{
+    return [this, drawing = m_drawing] { m_drawing = drawing; };
+}

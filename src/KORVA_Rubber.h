@@ -17,6 +17,7 @@ public:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void activating() override;
+    [[nodiscard]] std::function<void()> keepState() override;
 
 private:
     void erase(QPoint inPicture, QPoint onScreen);

@@ -59,6 +59,11 @@ void KORVA_Tool::leaveEvent(QEvent*) {}
 void KORVA_Tool::activating() {}
 void KORVA_Tool::deactivating() {}
 void KORVA_Tool::zoomedRebuilt() {}
+std::function<void()> KORVA_Tool::keepState()
+{
+    return nullptr;
+}
+
 void KORVA_Tool::paintPending(QPixmap*) const {}
 
 void KORVA_Tool::inputMethodEvent(QInputMethodEvent* event)

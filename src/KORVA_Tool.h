@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QVariant>
 
+#include <functional>
+
 class KORVA_Canvas;
 class QInputMethodEvent;
 class QKeyEvent;
@@ -110,6 +112,10 @@ public:
     /// For KORVA_Canvas::snapshot(): paints what the tool has not yet committed into a copy of the picture,
     /// as committing would. The base class does nothing.
     virtual void paintPending(QPixmap* picture) const;
+    /// Asked before the press of a stroke that may be taken back: what brings the tool, without painting,
+    /// back to the state that it is in now. The canvas brings back the pictures. The base class keeps
+    /// nothing: for tools whose press depends on nothing before it.
+    [[nodiscard]] virtual std::function<void()> keepState();
 
 signals:
     /// For a host's own tools; the library neither emits it nor connects to it.

@@ -178,6 +178,21 @@ void KORVA_ToolChoice::applyOption(int menuId)
         m_bar.showOption(chosen.icon);
 }
 
+void KORVA_ToolChoice::lendEraser()
+{
+    if (m_tool == tables::Eraser)
+        return;
+    m_beforeEraser = m_tool;
+    select(tables::Eraser);
+}
+
+void KORVA_ToolChoice::takeEraserBack()
+{
+    const auto before = std::exchange(m_beforeEraser, {});
+    if (before && m_tool == tables::Eraser)
+        select(*before);
+}
+
 void KORVA_ToolChoice::updateRubberCursor()
 {
     KORVA_Manager* const manager = m_editor.manager();

@@ -2,6 +2,8 @@
 
 #include "KORVA_Types.h"
 
+#include <optional>
+
 class KORVA_EditCanvas;
 class KORVA_ToolBar;
 
@@ -30,6 +32,11 @@ public:
     /// As the constructor left it; the manager has been reset before.
     void reset();
 
+    /// Chooses the eraser for a while, as a person does in the pop-up; nothing where it is chosen already.
+    void lendEraser();
+    /// Chooses the tool again that lendEraser() found, unless another than the eraser is chosen by now.
+    void takeEraserBack();
+
     [[nodiscard]] int tool() const { return m_tool; }
     /// -1 for a tool without options.
     [[nodiscard]] int option() const;
@@ -55,7 +62,8 @@ private:
     KORVA_EditCanvas& m_editor;
     KORVA_ToolBar& m_bar;
     Remembered m_remembered;
-    int m_toldTool = 0; ///< what listeners know
+    std::optional<int> m_beforeEraser; ///< the tool, while the eraser is lent
+    int m_toldTool = 0;                ///< what listeners know
     int m_toldOption = 0;
     int m_tool = 0;    ///< the identifier in the manager; 7 while select is in hand mode
     int m_choices = 0; ///< of a tool, counted

@@ -96,3 +96,13 @@ void KORVA_TwoPointTool::paintShape(QPixmap* target, const QPen& pen, QPoint fro
     painter.setBrush(brush());
     drawShape(painter, from, to);
 }
+
+std::function<void()> KORVA_TwoPointTool::keepState()
+{
+    return [this, state = m_state, start = m_start, end = m_end, pen = m_shownPen] {
+        m_state = state;
+        m_start = start;
+        m_end = end;
+        m_shownPen = pen;
+    };
+}

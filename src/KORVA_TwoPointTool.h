@@ -23,6 +23,7 @@ public:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void zoomedRebuilt() override;
+    [[nodiscard]] std::function<void()> keepState() override;
 
 protected:
     using KORVA_DrawingTool::KORVA_DrawingTool;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace {
 
@@ -68,13 +69,33 @@ int KORVA_ZoomChoice::shown() const
 
 int KORVA_ZoomChoice::rate(int row)
 {
-    const QSize picture = m_editor.canvas()->pixmap()->size();
+    m_editor.canvas()->mergePastePixmap();
     if (row == fitToPageRow)
         return fittingRate();
-    if (row < 0 || row > fitToPageRow)
-        return realSize;
+    return row >= 0 && row < fitToPageRow && isOffered(row) ? zoomTable[row].rate : realSize;
+}
+
+/// Whether the row means its own rate for the picture.
+bool KORVA_ZoomChoice::isOffered(int row) const
+{
+    const QSize picture = m_editor.canvas()->pictureSize();
     const bool isSmall = picture.width() < smallPicture.width() && picture.height() < smallPicture.height();
-    return zoomTable[row].smallPicturesOnly && !isSmall ? realSize : zoomTable[row].rate;
+    return isSmall || !zoomTable[row].smallPicturesOnly;
+}
+
+void KORVA_ZoomChoice::stepTowards(double percent)
+{
+    const int now = m_editor.canvas()->zoom();
+    std::optional<int> found;
+    for (int row = 0; row < fitToPageRow; ++row) {
+        const int rate = zoomTable[row].rate;
+        const bool isLarger = rate > now && rate <= percent;
+        const bool isSmaller = rate < now && rate >= percent && !found;
+        if ((isLarger || isSmaller) && isOffered(row))
+            found = row;
+    }
+    if (found)
+        m_editor.selectZoom(*found);
 }
 
 int KORVA_ZoomChoice::fittingRate()

@@ -16,6 +16,9 @@ public:
     void select(int row);
     /// Lets the box show a row; false for none.
     bool show(int row);
+    /// Chooses the rate that is nearest to the percentage between it and the one in force, as a person
+    /// chooses in the box; nothing where there is none.
+    void stepTowards(double percent);
     /// The row that the box shows.
     [[nodiscard]] int shown() const;
     /// Zooms anew where "Fit to page" is shown and in force and means another rate now.
@@ -25,6 +28,7 @@ public:
 
 private:
     [[nodiscard]] int rate(int row);
+    [[nodiscard]] bool isOffered(int row) const;
     [[nodiscard]] int fittingRate();
     [[nodiscard]] int rowInForce() const;
 

@@ -11,7 +11,8 @@ KORVA_ScrollView::KORVA_ScrollView(QWidget* parent) : QAbstractScrollArea(parent
 {
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(1);
-    setViewportMargins(1, 1, 1, 1); // frame and margin are the two pixels that centring counts
+    viewport()->ungrabGesture(Qt::PanGesture); // two fingers are the child's
+    setViewportMargins(1, 1, 1, 1);            // frame and margin are the two pixels that centring counts
 }
 
 int KORVA_ScrollView::contentsX() const

@@ -18,7 +18,7 @@ constexpr QPoint beside(200, 200); // still on it
 /// What a tap on a row leads to.
 struct Effect
 {
-    enum Kind { Line, Box, End, FullScreen } kind;
+    enum Kind { Line, Box, End, FullScreen, FingersPan } kind;
     QString text; ///< the recording's last line, or what the box says
 };
 
@@ -60,6 +60,7 @@ private slots:
     void editPage();
     void toolPage();
     void viewPage();
+    void fingersPan();
     void quit();
     void aDoubleTapChoosesNothing_data();
     void aDoubleTapChoosesNothing();
@@ -176,6 +177,11 @@ bool tst_Menus::takesEffect(const Effect& effect)
         return m_pad->process().waitForEnd();
     case Effect::FullScreen:
         return m_pad->waitFor([this] { return m_pad->server().isFullScreenAskedFor(); });
+    case Effect::FingersPan:
+        return m_pad->waitFor([this] {
+            const QString file = m_home->filePath("XDG_CONFIG_HOME/korva/pad.conf");
+            return QSettings(file, QSettings::IniFormat).value("fingers/pan").toBool();
+        });
     case Effect::Line:
         break;
     }
@@ -276,12 +282,18 @@ void tst_Menus::toolPage()
 void tst_Menus::viewPage()
 {
     constexpr const char* zooms[] = {"150", "100", "100", "fit"};
-    constexpr int rows = std::size(zooms) + 1;
+    constexpr int rows = std::size(zooms) + 2;
     QVERIFY(start());
     int row = 0;
     for (const char* zoom : zooms)
         QVERIFY(fromMenu(View, row++, rows, line(QString("zoom %1").arg(zoom))));
     QVERIFY(fromMenu(View, row, rows, {Effect::FullScreen, {}}));
+}
+
+void tst_Menus::fingersPan()
+{
+    QVERIFY(m_pad->start({}));
+    QVERIFY(fromMenu(View, 5, 6, {Effect::FingersPan, {}}));
 }
 
 void tst_Menus::quit()

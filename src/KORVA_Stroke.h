@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QPointF>
+#include <QPointer>
+#include <QtGlobal>
+
+#include <optional>
+
+class KORVA_Canvas;
+class QInputEvent;
+class QPointerEvent;
+class QPointingDevice;
+class QWidget;
+
+/// A stroke of a finger or a pen, handed on as one of the left button: to the floating piece where it began
+/// there, else to the canvas. Who watches either by an event filter sees what a mouse would have sent.
+///
+/// Positions are the canvas's, to the fraction.
+class KORVA_Stroke
+{
+public:
+    /// `canvas` is not owned.
+    explicit KORVA_Stroke(KORVA_Canvas& canvas) : m_canvas(canvas) {}
+
+    /// The left button goes down. Over the floating piece, a hover comes before.
+    void press(const QPointF& at, const QPointingDevice* device);
+    /// The same on the floating piece, whose own point `grip` is taken hold of, wherever the pointer is:
+    /// the stroke is moved over there as a whole.
+    void pressPiece(const QPointF& at, QPoint grip, const QPointingDevice* device);
+    void move(const QPointF& to);
+    /// The end. Nothing when no press came before, as with move().
+    void release(const QPointF& at);
+    /// There will be no release.
+    void forget() { m_receiver = nullptr; }
+
+    [[nodiscard]] bool isDown() const { return m_receiver; }
+    /// The last position.
+    [[nodiscard]] QPointF at() const { return m_at; }
+    /// While an event is being handed on.
+    [[nodiscard]] bool isHanding() const { return m_isHanding; }
+
+private:
+    void begin(QWidget* receiver, const QPointF& at, const QPointingDevice* device);
+    void send(int type, Qt::MouseButton button, Qt::MouseButtons buttons);
+
+    KORVA_Canvas& m_canvas;
+    QPointer<QWidget> m_receiver;
+    const QPointingDevice* m_device = nullptr;
+    QPointF m_at;
+    QPointF m_shift;
+    bool m_isHanding = false;
+};

@@ -1,0 +1,145 @@
+#pragma once
+
+#include "KORVA_BeforeStroke.h"
+#include "KORVA_Canvas.h"
+#include "KORVA_PenInput.h"
+#include "KORVA_Stroke.h"
+
+#include <QBasicTimer>
+#include <QDeadlineTimer>
+#include <QList>
+#include <QObject>
+#include <QPointF>
+
+#include <optional>
+
+class QMouseEvent;
+class QTouchEvent;
+
+/// What fingers and pens do to a canvas. One finger's stroke becomes one of the left button, which a second
+/// finger takes back; two fingers pan and pinch; a long press opens the menu; a pen draws, and while it is
+/// near, fingers that come are a palm. A mouse passes untouched.
+class KORVA_TouchInput : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Watches the canvas, which owns it, and what it tells: the editor's signals where there is one.
+    KORVA_TouchInput(KORVA_Canvas& canvas, KORVA_EditCanvas* editor);
+
+    /// Of each event that reaches the canvas, before the canvas; true when there is nothing left to do.
+    [[nodiscard]] bool takes(QEvent* event);
+    /// The stroke that is under way can no longer be taken back.
+    void settle();
+
+    void setFingerUse(KORVA_Canvas::FingerUse use) { m_use = use; }
+    [[nodiscard]] KORVA_Canvas::FingerUse fingerUse() const { return m_use; }
+
+    /// Keeps from the floating piece what takes() keeps from the canvas.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// By a pinch: the zoom that keeps the picture between the fingers, in percent.
+    void zoomWanted(double percent);
+    /// See KORVA_PenInput::eraserWanted().
+    void eraserWanted(bool wanted);
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    /// Of the fingers. The pen has none: it is down or not.
+    enum State {
+        Idle,     ///< no finger is down
+        Waiting,  ///< one is down, and nothing has been handed on: a second one may follow
+        Drawing,  ///< one finger's stroke is under way
+        Panning,  ///< fingers move the view
+        Ignoring, ///< until all fingers are lifted, nothing counts
+    };
+    enum Input {
+        Touched,   ///< the first finger came down
+        Palm,      ///< the same, but it counts for nothing
+        Slid,      ///< the waiting finger moved and is to draw
+        Dragged,   ///< the waiting finger moved and is to move the view
+        Stayed,    ///< the waiting finger stayed, and stayed alone
+        Moved,     ///< fingers moved
+        Joined,    ///< one more finger came down
+        Left,      ///< one was lifted, another is still down
+        Lifted,    ///< the last one was lifted
+        Held,      ///< the one finger stayed long enough for the menu
+        Cancelled, ///< by the window system
+        PenCame,   ///< a pen is near
+    };
+    struct Transition;
+    struct Finger
+    {
+        int id;
+        QPointF at; ///< on the canvas
+        QPointF onScreen;
+    };
+    /// What a waiting finger will do.
+    enum Task {
+        Draw,
+        Tap, ///< all of it when the finger is lifted: what is typed shall not be committed before
+        Pan,
+    };
+    /// What the host was last told to offer.
+    struct Offers
+    {
+        bool undo = false;
+        bool redo = false;
+        bool selection = false;
+    };
+
+    void enter(Input input);
+
+    [[nodiscard]] bool takesTouch(QTouchEvent& event);
+    void follow(const QTouchEvent& event);
+    [[nodiscard]] bool counts() const;
+    void fingerMoved();
+    [[nodiscard]] bool isEcho(const QEvent& event) const;
+    void noteOtherChange();
+
+    // What the transitions do.
+    void wait();
+    void draw();
+    void drawOn();
+    void tap();
+    void release();
+    void takeBack();
+    void openMenu();
+    void takeBackForMenu();
+    void hold();
+    void pan();
+    void takeBackAndHold();
+
+    [[nodiscard]] std::optional<QPoint> grip() const;
+    [[nodiscard]] QPointF middle() const;
+    [[nodiscard]] double spread() const;
+
+    KORVA_Canvas& m_canvas;
+    KORVA_Canvas::FingerUse m_use = KORVA_Canvas::FingerDraws;
+    State m_state = Idle;
+    QList<Finger> m_fingers;
+    QDeadlineTimer m_echoes; ///< until then, mouse events made from touches are known already
+
+    // Of a finger's stroke.
+    Task m_task = Draw;
+    QList<QPointF> m_path;        ///< while it waits
+    std::optional<QPoint> m_grip; ///< on the floating piece
+    QPointF m_pressedAt;          ///< on the screen
+    const QPointingDevice* m_device = nullptr;
+    KORVA_Stroke m_stroke;
+    std::optional<KORVA_BeforeStroke> m_before;
+    Offers m_offers;
+    Offers m_offersBefore;
+    QBasicTimer m_staying;
+    QBasicTimer m_holding;
+
+    // Of panning.
+    QPointF m_anchor; ///< what is between the fingers, in picture coordinates
+    double m_spread = 0;
+    int m_zoom = 100; ///< of that spread
+
+    KORVA_PenInput m_pen;
+};
