@@ -1,9 +1,11 @@
 #pragma once
 
 #include "KORVA_Export.h"
+#include "KORVA_ToolOption.h"
 #include "KORVA_Types.h"
 
 #include <QColor>
+#include <QList>
 #include <QWidget>
 
 #include <memory>
@@ -13,8 +15,10 @@ class KORVA_Documents;
 class KORVA_MainView;
 class KORVA_Manager;
 class KORVA_Text;
+class KORVA_Tool;
 class KORVA_ToolBar;
 class KORVA_ToolChoice;
+class KORVA_ToolSet;
 class KORVA_ZoomChoice;
 
 /// The one widget that a host embeds to have a picture edited: tool, option, zoom and colour controls above
@@ -146,6 +150,13 @@ public:
     [[nodiscard]] int tool() const;
     /// The row of its option; -1 for a tool without.
     [[nodiscard]] int option() const;
+    /// Takes a tool of the host's own: it stands behind the others in the pop-up, with these options. Gives
+    /// its identifier, from 8 on; -1 for null. `name` is for the person; the tool's KORVA_Tool::name() is
+    /// what a recording calls it. The editor owns it, until the end.
+    int addTool(std::unique_ptr<KORVA_Tool> tool, const QIcon& icon, const QString& name,
+                const QList<KORVA_ToolOption>& options = {});
+    /// What a person calls a tool of this editor, by its identifier; empty for none.
+    [[nodiscard]] QString nameOfTool(int tool) const;
 
     // --- The controls ---
     /// Shows a colour on the colour button; the drawing colour stays.
@@ -307,6 +318,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    std::unique_ptr<KORVA_ToolSet> m_tools;
     std::unique_ptr<KORVA_ToolBar> m_toolBar;
     std::unique_ptr<KORVA_ToolChoice> m_toolChoice;
     std::unique_ptr<KORVA_ZoomChoice> m_zoomChoice;

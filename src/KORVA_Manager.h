@@ -33,9 +33,11 @@ public:
     [[nodiscard]] KORVA_Tool* currentTool() const { return tool(m_current); }
     /// Its identifier.
     [[nodiscard]] int currentToolID() const { return m_current; }
-    /// The tool of an identifier, 0 to 7; null for any other.
+    /// The tool of an identifier, from 0; null for none.
     [[nodiscard]] KORVA_Tool* tool(int id) const;
 
+    /// Takes a tool of a host's own, and gives its identifier: 8 for the first, then one more. -1 for null.
+    int addTool(std::unique_ptr<KORVA_Tool> tool);
     /// Makes the library's own tools anew, which ends whatever they were in the middle of, and everything
     /// else as the constructor does. The old tools live until control is back in the event loop.
     void reset();

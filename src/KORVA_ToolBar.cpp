@@ -1,17 +1,17 @@
 #include "KORVA_ToolBar.h"
 
+#include "KORVA_CanvasNews.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_ColorName.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_EditorLayout.h"
-#include "KORVA_ToolTable.h"
-#include "RES_ICON_Reader.h"
+#include "KORVA_ToolSet.h"
 #include "UTIL_ComboBox.h"
 #include "UTIL_PopupMenu.h"
 #include "UTIL_PushButton.h"
 
+#include <QAbstractItemView>
 #include <QMenu>
-
-namespace tables = KORVA_ToolTable;
 
 namespace {
 
@@ -29,42 +29,58 @@ QPushButton* createButton(QWidget* parent, const char* name, const QRect& place,
     return button;
 }
 
-void showIcon(QPushButton* button, const char* name)
+void showIcon(QPushButton* button, const QPixmap& icon)
 {
-    const QPixmap icon = name ? RES_ICON_Reader::getIcon(QString::fromLatin1(name)) : QPixmap();
     button->setIcon(icon);
     button->setIconSize(icon.deviceIndependentSize().toSize());
 }
 
-void addEntry(QMenu* menu, int id, const char* icon, const QString& name)
+void addEntry(QMenu* menu, int id, const QPixmap& icon, const QString& name)
 {
-    QAction* action = menu->addAction(RES_ICON_Reader::getIcon(QString::fromLatin1(icon)), name);
+    QAction* action = menu->addAction(icon, name);
     action->setToolTip(name);
     action->setData(id);
+    action->setCheckable(true); // for screen readers: the menu shows no marks
+}
+
+/// What a control has chosen: for the eyes its icon, for a screen reader its row and its description.
+void showChoice(QPushButton* button, int id, const QString& name)
+{
+    for (QAction* action : button->menu()->actions())
+        action->setChecked(action->data().toInt() == id);
+    button->setAccessibleDescription(name);
+}
+
+/// The toolkit tells of neither on its own.
+void noteChoice(const KORVA_EditCanvas& editor)
+{
+    if (auto* news = editor.findChild<KORVA_CanvasNews*>(QString(), Qt::FindDirectChildrenOnly))
+        news->note();
 }
 
 } // namespace
 
-KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
+KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tools)
+    : m_editor(editor), m_tools(tools)
 {
     m_toolButton =
         createButton(&editor, "toolButton", layout::toolButton, KORVA_EditCanvas::tr("Tool", "tool bar"));
     auto* toolMenu = new UTIL_PopupMenu(m_toolButton);
-    for (int place = 0; tables::toolAt(place) >= 0; ++place) {
-        const tables::ToolRow& row = *tables::toolRow(tables::toolAt(place));
-        addEntry(toolMenu, tables::toolMenuBase + place, row.icon,
-                 KORVA_EditCanvas::tr(row.name.text, row.name.comment));
-    }
+    for (const int tool : m_tools.inOrder())
+        addEntry(toolMenu, m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
+    toolMenu->setAccessibleName(m_toolButton->accessibleName());
     m_toolButton->setMenu(toolMenu);
 
     m_optionButton = createButton(&editor, "optionButton", layout::optionButton,
                                   KORVA_EditCanvas::tr("Tool option", "tool bar"));
     m_optionMenu = new UTIL_PopupMenu(m_optionButton);
+    m_optionMenu->setAccessibleName(m_optionButton->accessibleName());
     m_optionButton->setMenu(m_optionMenu);
 
     m_zoomBox = new UTIL_ComboBox(&editor);
     m_zoomBox->setObjectName("zoomBox");
     setUp(m_zoomBox, layout::zoomBox, KORVA_EditCanvas::tr("Zoom", "tool bar"));
+    m_zoomBox->view()->setAccessibleName(m_zoomBox->accessibleName());
 
     m_colorButton = createButton(&editor, "colorButton", layout::colorButton,
                                  KORVA_EditCanvas::tr("Color", "tool bar"));
@@ -79,14 +95,25 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
     QObject::connect(m_colorButton, &QPushButton::clicked, &editor, &KORVA_EditCanvas::slotColor);
 }
 
-void KORVA_ToolBar::showTool(int tool)
+void KORVA_ToolBar::addTool(int tool)
 {
-    showIcon(m_toolButton, tables::toolRow(tool)->icon);
+    addEntry(m_toolButton->menu(), m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
 }
 
-void KORVA_ToolBar::showOption(const char* icon)
+void KORVA_ToolBar::showTool(int tool)
 {
-    showIcon(m_optionButton, icon);
+    showIcon(m_toolButton, m_tools.icon(tool));
+    showChoice(m_toolButton, m_tools.toolEntry(tool), m_tools.name(tool));
+    noteChoice(m_editor);
+}
+
+void KORVA_ToolBar::showOption(int entry)
+{
+    const bool isThere = entry >= 0 && entry < m_tools.optionCount(m_optionTool);
+    showIcon(m_optionButton, isThere ? m_tools.optionIcon(m_optionTool, entry) : QPixmap());
+    showChoice(m_optionButton, isThere ? optionId(entry) : -1,
+               isThere ? m_tools.optionName(m_optionTool, entry) : QString());
+    noteChoice(m_editor);
 }
 
 void KORVA_ToolBar::showColor(const QColor& color)
@@ -97,6 +124,7 @@ void KORVA_ToolBar::showColor(const QColor& color)
         painter.setPen(m_editor.palette().color(QPalette::Light));
         painter.drawRect(1, 1, swatch.width() - 2, swatch.height() - 2);
     }
+    m_colorButton->setAccessibleDescription(colorname::spoken(color));
     m_colorButton->setIcon(swatch);
     m_colorButton->setIconSize(swatch.size());
 }
@@ -104,10 +132,10 @@ void KORVA_ToolBar::showColor(const QColor& color)
 void KORVA_ToolBar::loadOptions(int tool)
 {
     m_optionMenu->clear();
-    int id = tables::firstOptionId(tool);
-    const tables::ToolRow* const known = tables::toolRow(tool);
-    for (const tables::OptionRow& row : known ? known->options : std::span<const tables::OptionRow>())
-        addEntry(m_optionMenu, id++, row.icon, KORVA_EditCanvas::tr(row.name.text, row.name.comment));
+    m_optionTool = tool;
+    for (int row = 0; row < m_tools.optionCount(tool); ++row)
+        addEntry(m_optionMenu, m_tools.firstOptionEntry(tool) + row, m_tools.optionIcon(tool, row),
+                 m_tools.optionName(tool, row));
 }
 
 int KORVA_ToolBar::optionId(int entry) const

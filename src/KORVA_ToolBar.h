@@ -1,6 +1,7 @@
 #pragma once
 
 class KORVA_EditCanvas;
+class KORVA_ToolSet;
 class QColor;
 class QMenu;
 class QPushButton;
@@ -12,14 +13,16 @@ class KORVA_ToolBar
 {
 public:
     /// The zoom box is empty, and no option is shown.
-    explicit KORVA_ToolBar(KORVA_EditCanvas& editor);
+    KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tools);
 
     [[nodiscard]] UTIL_ComboBox& zoomBox() const { return *m_zoomBox; }
 
-    /// The icon of a tool that has a row in the tool pop-up.
+    /// A tool that is new in the set gets the last row of the tool pop-up.
+    void addTool(int tool);
+    /// A tool that has a row in the tool pop-up: its icon on the button, its row checked.
     void showTool(int tool);
-    /// An icon by its file's name; null takes it away.
-    void showOption(const char* icon);
+    /// A row of the option pop-up; another number shows none.
+    void showOption(int entry);
     void showColor(const QColor& color);
 
     /// Fills the option pop-up with a tool's options; empty for tools without.
@@ -29,9 +32,11 @@ public:
 
 private:
     KORVA_EditCanvas& m_editor;
+    const KORVA_ToolSet& m_tools;
     QPushButton* m_toolButton;
     QPushButton* m_optionButton;
     QMenu* m_optionMenu;
     UTIL_ComboBox* m_zoomBox;
     QPushButton* m_colorButton;
+    int m_optionTool = 0; ///< whose options the pop-up has
 };

@@ -1,15 +1,19 @@
 #pragma once
 
+#include "KORVA_ToolTable.h"
 #include "KORVA_Types.h"
+
+#include <QHash>
 
 #include <optional>
 
 class KORVA_EditCanvas;
 class KORVA_ToolBar;
+class KORVA_ToolSet;
 
 /// Which tool and which option of it are chosen: what the tool bar shows of it, what the manager gets, and
 /// what is remembered for the next tool that has the same option. Small, medium and large are one choice
-/// for all that have a size.
+/// for all that have a size; a host's own tools keep their options to themselves.
 ///
 /// Who hears a signal meanwhile may choose another tool, which then stands.
 class KORVA_ToolChoice
@@ -17,7 +21,7 @@ class KORVA_ToolChoice
 public:
     /// The pencil in its first option, as the manager begins with. Neither is owned; the editor needs its
     /// manager with the first call.
-    KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar);
+    KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar, const KORVA_ToolSet& tools);
 
     /// An entry of the tool pop-up; another number is the line.
     void selectEntry(int menuId);
@@ -50,17 +54,21 @@ private:
         int selectionMode = 0; ///< 0 rectangle, 1 hand
         int size = 0;          ///< 0 small, 1 medium, 2 large
         int fill = 0;          ///< 0 outline, 1 filled
+        QHash<int, int> own;   ///< of a host's tools, by their identifiers
     };
 
     void selectTool(int tool);
     void applyOption(int menuId);
-    [[nodiscard]] static int Remembered::*memory(int tool);
+    [[nodiscard]] static int Remembered::*memory(KORVA_ToolTable::Option option);
+    [[nodiscard]] int remembered(int tool) const;
+    void remember(int tool, int option);
     [[nodiscard]] int optionTool() const;
     void tellChanges();
     void tellChoice(KORVA_CHOICETYPE what);
 
     KORVA_EditCanvas& m_editor;
     KORVA_ToolBar& m_bar;
+    const KORVA_ToolSet& m_tools;
     Remembered m_remembered;
     std::optional<int> m_beforeEraser; ///< the tool, while the eraser is lent
     int m_toldTool = 0;                ///< what listeners know
