@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -88,11 +89,15 @@ void UTIL_PushButton::paintEvent(QPaintEvent*)
     QRect line(0, 0, iconWidth + gap + textWidth, height());
     line.moveCenter(rect().center());
 
+    const QRect iconPlace =
+        QStyle::visualRect(layoutDirection(), line, QRect(line.left(), 0, iconWidth, height()));
+    const QRect textPlace =
+        QStyle::visualRect(layoutDirection(), line, line.adjusted(iconWidth + gap, 0, 0, 0));
+
     painter.setPen(look.ink);
-    icon().paint(&painter, QRect(line.left(), 0, iconWidth, height()), Qt::AlignCenter,
-                 isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    painter.drawText(line.adjusted(iconWidth + gap, 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, shown);
+    icon().paint(&painter, iconPlace, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    UTIL_Skin::paintText(painter, layoutDirection(), textPlace,
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, shown);
     if (hasFocus())
         UTIL_Skin::paintFocus(painter, rect()); // last: an icon may be as large as the key
 }

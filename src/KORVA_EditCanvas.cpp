@@ -18,6 +18,9 @@
 #include "KORVA_ZoomChoice.h"
 #include "UTIL_Skin.h"
 
+#include <QEvent>
+#include <QStyle>
+
 #include <cstdio>
 #include <string_view>
 #include <utility>
@@ -76,6 +79,7 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
         isWanted ? m_toolChoice->lendEraser() : m_toolChoice->takeEraserBack();
     });
     resize(layout::editor);
+    arrange();
 
     m_documents = std::make_unique<KORVA_Documents>(*this);
     if (!fileName.isEmpty())
@@ -89,11 +93,29 @@ KORVA_Canvas* KORVA_EditCanvas::canvas() const
     return m_mainView->canvas();
 }
 
+void KORVA_EditCanvas::arrange()
+{
+    const QSize more = layout::beyond(size());
+    m_mainView->setGeometry(
+        QStyle::visualRect(layoutDirection(), QRect(QPoint(), layout::editor + more),
+                           QRect(layout::mainView.topLeft(), layout::mainView.size() + more)));
+    if (layoutDirection() == Qt::RightToLeft) // from left to right nothing ever moves them
+        m_toolBar->arrange();
+}
+
+void KORVA_EditCanvas::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange && m_mainView) {
+        m_toolBar->arrange();
+        arrange();
+    }
+}
+
 void KORVA_EditCanvas::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_mainView->setGeometry(
-        QRect(layout::mainView.topLeft(), layout::mainView.size() + layout::beyond(size())));
+    arrange();
     // Another zoom would merge a floating piece, and a text being typed would lose its place.
     const KORVA_Tool* tool = canvas()->getCurrentTool();
     if (canvas()->pasteLabel()->isHidden() && !(tool && tool->takesText()))

@@ -10,22 +10,22 @@
 #include "UTIL_PushButton.h"
 
 #include <QMenu>
+#include <QStyle>
 
 namespace tables = KORVA_ToolTable;
 
 namespace {
 
-void setUp(QWidget* control, const QRect& place, const QString& tip)
+void setUp(QWidget* control, const QString& tip)
 {
-    control->setGeometry(place);
     control->setToolTip(tip);
     control->setAccessibleName(tip);
 }
 
-QPushButton* createButton(QWidget* parent, const char* name, const QRect& place, const QString& tip)
+QPushButton* createButton(QWidget* parent, const char* name, const QString& tip)
 {
     auto* button = new UTIL_PushButton({}, {}, parent, name);
-    setUp(button, place, tip);
+    setUp(button, tip);
     return button;
 }
 
@@ -47,8 +47,7 @@ void addEntry(QMenu* menu, int id, const char* icon, const QString& name)
 
 KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
 {
-    m_toolButton =
-        createButton(&editor, "toolButton", layout::toolButton, KORVA_EditCanvas::tr("Tool", "tool bar"));
+    m_toolButton = createButton(&editor, "toolButton", KORVA_EditCanvas::tr("Tool", "tool bar"));
     auto* toolMenu = new UTIL_PopupMenu(m_toolButton);
     for (int place = 0; tables::toolAt(place) >= 0; ++place) {
         const tables::ToolRow& row = *tables::toolRow(tables::toolAt(place));
@@ -57,18 +56,17 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
     }
     m_toolButton->setMenu(toolMenu);
 
-    m_optionButton = createButton(&editor, "optionButton", layout::optionButton,
-                                  KORVA_EditCanvas::tr("Tool option", "tool bar"));
+    m_optionButton = createButton(&editor, "optionButton", KORVA_EditCanvas::tr("Tool option", "tool bar"));
     m_optionMenu = new UTIL_PopupMenu(m_optionButton);
     m_optionButton->setMenu(m_optionMenu);
 
     m_zoomBox = new UTIL_ComboBox(&editor);
     m_zoomBox->setObjectName("zoomBox");
-    setUp(m_zoomBox, layout::zoomBox, KORVA_EditCanvas::tr("Zoom", "tool bar"));
+    setUp(m_zoomBox, KORVA_EditCanvas::tr("Zoom", "tool bar"));
 
-    m_colorButton = createButton(&editor, "colorButton", layout::colorButton,
-                                 KORVA_EditCanvas::tr("Color", "tool bar"));
+    m_colorButton = createButton(&editor, "colorButton", KORVA_EditCanvas::tr("Color", "tool bar"));
     m_colorButton->setFlat(true);
+    arrange();
 
     QObject::connect(toolMenu, &QMenu::triggered, &editor,
                      [&editor](const QAction* entry) { editor.slotSelChangeTool(entry->data().toInt()); });
@@ -77,6 +75,18 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
     });
     QObject::connect(m_zoomBox, &QComboBox::activated, &editor, &KORVA_EditCanvas::slotSelZoomRate);
     QObject::connect(m_colorButton, &QPushButton::clicked, &editor, &KORVA_EditCanvas::slotColor);
+}
+
+void KORVA_ToolBar::arrange()
+{
+    const QRect whole(QPoint(), m_editor.size().expandedTo(layout::editor));
+    const auto place = [this, &whole](QWidget* control, const QRect& fromLeft) {
+        control->setGeometry(QStyle::visualRect(m_editor.layoutDirection(), whole, fromLeft));
+    };
+    place(m_toolButton, layout::toolButton);
+    place(m_optionButton, layout::optionButton);
+    place(m_zoomBox, layout::zoomBox);
+    place(m_colorButton, layout::colorButton);
 }
 
 void KORVA_ToolBar::showTool(int tool)

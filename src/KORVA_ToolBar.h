@@ -17,6 +17,8 @@ public:
     [[nodiscard]] UTIL_ComboBox& zoomBox() const { return *m_zoomBox; }
 
     /// The icon of a tool that has a row in the tool pop-up.
+    /// Puts the controls where the editor's direction and size have them.
+    void arrange();
     void showTool(int tool);
     /// An icon by its file's name; null takes it away.
     void showOption(const char* icon);
