@@ -133,7 +133,7 @@ void Commands::addEntries()
          KORVA_TOOL_RECTANGLE},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Ellipse", "menu"), "O", Needs::Nothing, tool,
          KORVA_TOOL_ELLIPSE},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "E&raser", "menu"), "E", Needs::Nothing, tool,
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "Er&aser", "menu"), "E", Needs::Nothing, tool,
          KORVA_TOOL_ERASER},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Text", "menu"), "T", Needs::Nothing, tool,
          KORVA_TOOL_TEXT},

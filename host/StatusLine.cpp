@@ -10,7 +10,9 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QStyle>
 
+#include <algorithm>
 #include <numeric>
 
 namespace pad {
@@ -60,15 +62,41 @@ QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment)
 // A layout would measure all texts again whenever the pointer has moved.
 void StatusLine::resizeEvent(QResizeEvent*)
 {
-    const int room = width() - 2 * margin - (int(std::size(shares)) - 1) * spacing;
-    const int shared = std::accumulate(std::begin(shares), std::end(shares), 0);
-    int left = margin;
-    const int* share = shares;
-    for (QLabel* field : {m_tool, m_size, m_zoom, m_position}) {
-        const int extent = room * *share++ / shared;
-        field->setGeometry(left, 0, extent, height());
+    const QList<QLabel*> fields{m_tool, m_size, m_zoom, m_position};
+    const int room = width() - 2 * margin - (fieldCount - 1) * spacing;
+    const std::array<int, fieldCount> extents = this->extents(room);
+    const int beyond = std::accumulate(extents.begin(), extents.end(), 0) - room;
+    int left = margin - std::max(0, beyond);
+    for (int i = 0; i < fieldCount; ++i) {
+        const int extent = extents[size_t(i)];
+        fields.at(i)->setGeometry(
+            QStyle::visualRect(layoutDirection(), rect(), QRect(left, 0, extent, height())));
         left += extent + spacing;
     }
+}
+
+/// Every field its share; where the longest tool's name needs more, what the others can spare.
+std::array<int, StatusLine::fieldCount> StatusLine::extents(int room) const
+{
+    const int shared = std::accumulate(std::begin(shares), std::end(shares), 0);
+    std::array<int, fieldCount> extents{};
+    std::transform(std::begin(shares), std::end(shares), extents.begin(),
+                   [=](int share) { return room * share / shared; });
+    const QFontMetrics metrics = m_tool->fontMetrics();
+    int lacking = -extents[0];
+    for (int tool = KORVA_TOOL_PENCIL; tool <= KORVA_TOOL_HAND; ++tool)
+        lacking =
+            std::max(lacking, metrics.horizontalAdvance(KORVA_EditCanvas::toolName(tool)) - extents[0]);
+    const std::array<QString, fieldCount> longest{QString(), sizeText({240, 320}), zoomText(200),
+                                                  positionText({239, 319})};
+    for (size_t i = fieldCount - 1; i > 0 && lacking > 0; --i) {
+        const int spare = std::clamp(extents[i] - metrics.horizontalAdvance(longest[i]), 0, lacking);
+        extents[i] -= spare;
+        extents[0] += spare;
+        lacking -= spare;
+    }
+    extents[0] += std::clamp(lacking, 0, margin - 1); // rather than a word cut off
+    return extents;
 }
 
 QSize StatusLine::pictureSize() const
@@ -81,6 +109,22 @@ QSize StatusLine::pictureSize() const
     return {zoom.toPicture(canvas.width()), zoom.toPicture(canvas.height())};
 }
 
+QString StatusLine::sizeText(QSize size)
+{
+    return tr("%1 × %2", "picture size")
+        .arg(wording::plainNumber(size.width()), wording::plainNumber(size.height()));
+}
+
+QString StatusLine::zoomText(int percent)
+{
+    return tr("%1 %", "zoom").arg(wording::plainNumber(percent));
+}
+
+QString StatusLine::positionText(QPoint at)
+{
+    return tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()));
+}
+
 void StatusLine::refresh()
 {
     m_sinceRefresh.start();
@@ -89,13 +133,9 @@ void StatusLine::refresh()
     const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
     const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
     m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
-    m_size->setText(tr("%1 × %2", "picture size")
-                        .arg(wording::plainNumber(size.width()), wording::plainNumber(size.height())));
-    m_zoom->setText(tr("%1 %", "zoom").arg(wording::plainNumber(zoom.percent())));
-    m_position->setText(
-        m_isOver || pen
-            ? tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()))
-            : QString());
+    m_size->setText(sizeText(size));
+    m_zoom->setText(zoomText(zoom.percent()));
+    m_position->setText(m_isOver || pen ? positionText(at) : QString());
 }
 
 void StatusLine::refreshSoon()
