@@ -729,7 +729,7 @@
         <translation>&amp;Ellipse</translation>
     </message>
     <message>
-        <source>E&amp;raser</source>
+        <source>Er&amp;aser</source>
         <comment>menu</comment>
         <translation>Ra&amp;dierer</translation>
     </message>
@@ -802,6 +802,61 @@
         <source>Menu</source>
         <comment>keys</comment>
         <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <comment>keys</comment>
+        <translation>Pfeile</translation>
+    </message>
+    <message>
+        <source>Move pen, piece</source>
+        <comment>keys</comment>
+        <translation>Stift, Teil bewegen</translation>
+    </message>
+    <message>
+        <source>Shift+arrows</source>
+        <comment>keys</comment>
+        <translation>Umschalt+Pfeile</translation>
+    </message>
+    <message>
+        <source>... by 10 pixels</source>
+        <comment>keys</comment>
+        <translation>... um 10 Pixel</translation>
+    </message>
+    <message>
+        <source>Draw while held</source>
+        <comment>keys</comment>
+        <translation>Gehalten zeichnen</translation>
+    </message>
+    <message>
+        <source>Pen down, up</source>
+        <comment>keys</comment>
+        <translation>Stift auf, ab</translation>
+    </message>
+    <message>
+        <source>Put piece down</source>
+        <comment>keys</comment>
+        <translation>Teil ablegen</translation>
+    </message>
+    <message>
+        <source>Alt+arrows</source>
+        <comment>keys</comment>
+        <translation>Alt+Pfeile</translation>
+    </message>
+    <message>
+        <source>Stretch piece</source>
+        <comment>keys</comment>
+        <translation>Teil dehnen</translation>
+    </message>
+    <message>
+        <source>Turn piece</source>
+        <comment>keys</comment>
+        <translation>Teil drehen</translation>
+    </message>
+    <message>
+        <source>End text</source>
+        <comment>keys</comment>
+        <translation>Text beenden</translation>
     </message>
 </context>
 <context>

@@ -729,7 +729,7 @@
         <translation>椭圆(&amp;E)</translation>
     </message>
     <message>
-        <source>E&amp;raser</source>
+        <source>Er&amp;aser</source>
         <comment>menu</comment>
         <translation>橡皮(&amp;A)</translation>
     </message>
@@ -802,6 +802,61 @@
         <source>Menu</source>
         <comment>keys</comment>
         <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <comment>keys</comment>
+        <translation>方向键</translation>
+    </message>
+    <message>
+        <source>Move pen, piece</source>
+        <comment>keys</comment>
+        <translation>移动笔、选片</translation>
+    </message>
+    <message>
+        <source>Shift+arrows</source>
+        <comment>keys</comment>
+        <translation>Shift+方向键</translation>
+    </message>
+    <message>
+        <source>... by 10 pixels</source>
+        <comment>keys</comment>
+        <translation>……每次 10 像素</translation>
+    </message>
+    <message>
+        <source>Draw while held</source>
+        <comment>keys</comment>
+        <translation>按住绘图</translation>
+    </message>
+    <message>
+        <source>Pen down, up</source>
+        <comment>keys</comment>
+        <translation>落笔、抬笔</translation>
+    </message>
+    <message>
+        <source>Put piece down</source>
+        <comment>keys</comment>
+        <translation>放下选片</translation>
+    </message>
+    <message>
+        <source>Alt+arrows</source>
+        <comment>keys</comment>
+        <translation>Alt+方向键</translation>
+    </message>
+    <message>
+        <source>Stretch piece</source>
+        <comment>keys</comment>
+        <translation>拉伸选片</translation>
+    </message>
+    <message>
+        <source>Turn piece</source>
+        <comment>keys</comment>
+        <translation>旋转选片</translation>
+    </message>
+    <message>
+        <source>End text</source>
+        <comment>keys</comment>
+        <translation>结束文字</translation>
     </message>
 </context>
 <context>
