@@ -55,7 +55,16 @@ private:
         QAction* action; // the menu's
     };
 
+    /// A tool or a zoom, checked while it is in force.
+    struct Alternative
+    {
+        bool isTool;
+        int number;
+        QAction* action; // the menu's
+    };
+
     void addEntries();
+    void checkAlternatives();
     QAction* add(const Entry& entry, const QString& text, QMenu* page);
     void follow();
     void setAvailable(Needs what, bool available);
@@ -75,6 +84,7 @@ private:
     EditorControls m_controls;
     QMenu* m_menu;
     std::vector<Dependent> m_dependents;
+    std::vector<Alternative> m_choices;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
 };

@@ -1,5 +1,7 @@
 #include "StatusLine.h"
 
+#include "Accessible.h"
+
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_Pixel.h>
@@ -25,6 +27,8 @@ constexpr int shares[] = {58, 59, 40, 55}; // of the room, a field each
 StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     : QWidget(parent), m_editor(editor), m_picture(editor.canvas()->size())
 {
+    installAccessibility();
+    setAccessibleName(tr("Status", "status line"));
     m_tool = addField(tr("Tool", "status line"), Qt::AlignLeft);
     m_size = addField(tr("Picture size", "status line"), Qt::AlignHCenter);
     m_zoom = addField(tr("Zoom", "status line"), Qt::AlignHCenter);
@@ -48,7 +52,6 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
 QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment)
 {
     auto* field = new QLabel(this);
-    field->setAccessibleName(meaning);
     field->setToolTip(meaning);
     field->setAlignment(alignment | Qt::AlignVCenter);
     return field;
@@ -85,10 +88,21 @@ void StatusLine::refresh()
     const QSize size = pictureSize();
     const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
     const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
-    m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
-    m_size->setText(tr("%1 × %2", "picture size").arg(size.width()).arg(size.height()));
-    m_zoom->setText(tr("%1 %", "zoom").arg(zoom.percent()));
-    m_position->setText(m_isOver || pen ? tr("%1, %2", "position").arg(at.x()).arg(at.y()) : QString());
+    fill(m_tool, KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
+    fill(m_size, tr("%1 × %2", "picture size").arg(size.width()).arg(size.height()));
+    fill(m_zoom, tr("%1 %", "zoom").arg(zoom.percent()));
+    fill(m_position, m_isOver || pen ? tr("%1, %2", "position").arg(at.x()).arg(at.y()) : QString());
+}
+
+/// A screen reader hears the value behind its meaning.
+void StatusLine::fill(QLabel* field, const QString& value)
+{
+    field->setText(value);
+    const QString meaning = field->toolTip();
+    const QString spoken =
+        value.isEmpty() ? meaning : tr("%1: %2", "status line, spoken").arg(meaning, value);
+    if (field->accessibleName() != spoken)
+        field->setAccessibleName(spoken);
 }
 
 void StatusLine::refreshSoon()

@@ -32,6 +32,7 @@ protected:
 
 private:
     QLabel* addField(const QString& meaning, Qt::Alignment alignment);
+    static void fill(QLabel* field, const QString& value);
     void refreshSoon();
     [[nodiscard]] QSize pictureSize() const;
 

@@ -2,6 +2,7 @@
 
 #include "KORVA_AreaSelect.h"
 #include "KORVA_Canvas.h"
+#include "KORVA_CanvasNews.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_ColorPicker.h"
 #include "KORVA_Documents.h"
@@ -63,6 +64,7 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
         m_zoomChoice->fallBack();
         m_toolChoice->updateRubberCursor();
     });
+    new KORVA_CanvasNews(*this);
     resize(layout::editor);
 
     m_documents = std::make_unique<KORVA_Documents>(*this);
