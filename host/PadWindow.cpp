@@ -1,5 +1,6 @@
 #include "PadWindow.h"
 
+#include "Accessible.h"
 #include "Commands.h"
 #include "Documents.h"
 #include "PopupFence.h"
@@ -32,6 +33,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
       m_menuKey(addKey(tr("Menu", "soft key"))),
       m_contextKey(addKey(QString()))
 {
+    installAccessibility();
     setMinimumSize(theme::window.size());
     resize(theme::window.size());
     arrange();

@@ -1,5 +1,6 @@
 #include "StatusLine.h"
 
+#include "Accessible.h"
 #include "Wording.h"
 
 #include <KORVA_Canvas.h>
@@ -29,6 +30,8 @@ constexpr int shares[] = {58, 59, 40, 55}; // each field's share of the width
 StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     : QWidget(parent), m_editor(editor), m_picture(editor.canvas()->size())
 {
+    installAccessibility();
+    setAccessibleName(tr("Status", "status line"));
     m_tool = addField(tr("Tool", "status line"), Qt::AlignLeft);
     m_size = addField(tr("Picture size", "status line"), Qt::AlignHCenter);
     m_zoom = addField(tr("Zoom", "status line"), Qt::AlignHCenter);
@@ -53,7 +56,6 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
 QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment)
 {
     auto* field = new QLabel(this);
-    field->setAccessibleName(meaning);
     field->setToolTip(meaning);
     field->setAlignment(alignment | Qt::AlignVCenter);
     return field;
@@ -132,10 +134,21 @@ void StatusLine::refresh()
     const QSize size = pictureSize();
     const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
     const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
-    m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
-    m_size->setText(sizeText(size));
-    m_zoom->setText(zoomText(zoom.percent()));
-    m_position->setText(m_isOver || pen ? positionText(at) : QString());
+    fill(m_tool, KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
+    fill(m_size, sizeText(size));
+    fill(m_zoom, zoomText(zoom.percent()));
+    fill(m_position, m_isOver || pen ? positionText(at) : QString());
+}
+
+/// A screen reader hears the value behind its meaning.
+void StatusLine::fill(QLabel* field, const QString& value)
+{
+    field->setText(value);
+    const QString meaning = field->toolTip();
+    const QString spoken =
+        value.isEmpty() ? meaning : tr("%1: %2", "status line, spoken").arg(meaning, value);
+    if (field->accessibleName() != spoken)
+        field->setAccessibleName(spoken);
 }
 
 void StatusLine::refreshSoon()

@@ -34,6 +34,7 @@ protected:
 
 private:
     QLabel* addField(const QString& meaning, Qt::Alignment alignment);
+    static void fill(QLabel* field, const QString& value);
     void refreshSoon();
     static constexpr int fieldCount = 4;
     [[nodiscard]] std::array<int, fieldCount> extents(int room) const;

@@ -1,5 +1,6 @@
 #include "UTIL_ComboBox.h"
 
+#include "UTIL_Accessible.h"
 #include "UTIL_PopupMenu.h"
 #include "UTIL_PopupStyle.h"
 #include "UTIL_Skin.h"
@@ -74,6 +75,7 @@ protected:
 
 UTIL_ComboBox::UTIL_ComboBox(QWidget* parent) : QComboBox(parent)
 {
+    accessible::installControls();
     setStyle(new UTIL_PopupStyle(this));
     setPalette(UTIL_Skin::palette());
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));

@@ -1,6 +1,7 @@
 #include "UTIL_PushButton.h"
 
 #include "RES_ICON_Reader.h"
+#include "UTIL_Accessible.h"
 #include "UTIL_Skin.h"
 
 #include <QKeyEvent>
@@ -28,6 +29,7 @@ UTIL_PushButton::UTIL_PushButton(const QString& iconName, const QString& text, Q
                                  const char* name)
     : QPushButton(text, parent)
 {
+    accessible::installControls();
     setObjectName(name);
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Key));
     setAttribute(Qt::WA_Hover);

@@ -1,5 +1,6 @@
 #include "KORVA_ColorPicker.h"
 
+#include "KORVA_ColorName.h"
 #include "RES_ICON_Reader.h"
 #include "UTIL_Modal.h"
 #include "UTIL_PushButton.h"
@@ -171,7 +172,7 @@ void KORVA_ColorPicker::fillColorLabel(const QColor& color)
     QPixmap swatch(m_colorLabel->size());
     swatch.fill(color);
     m_colorLabel->setPixmap(swatch);
-    m_colorLabel->setAccessibleName(color.name());
+    m_colorLabel->setAccessibleName(colorname::spoken(color));
 }
 
 void KORVA_ColorPicker::changeColor(const QColor& color)

@@ -2,6 +2,7 @@
 
 #include "KORVA_AreaSelect.h"
 #include "KORVA_Canvas.h"
+#include "KORVA_CanvasNews.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Documents.h"
 #include "KORVA_EditorLayout.h"
@@ -78,6 +79,7 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
     connect(canvas()->m_touch.get(), &KORVA_TouchInput::eraserWanted, this, [this](bool isWanted) {
         isWanted ? m_toolChoice->lendEraser() : m_toolChoice->takeEraserBack();
     });
+    new KORVA_CanvasNews(*this);
     resize(layout::editor);
     arrange();
 

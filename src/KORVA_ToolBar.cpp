@@ -1,6 +1,7 @@
 #include "KORVA_ToolBar.h"
 
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_ColorName.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_EditorLayout.h"
 #include "KORVA_ToolTable.h"
@@ -9,6 +10,7 @@
 #include "UTIL_PopupMenu.h"
 #include "UTIL_PushButton.h"
 
+#include <QAbstractItemView>
 #include <QMenu>
 #include <QStyle>
 
@@ -41,6 +43,15 @@ void addEntry(QMenu* menu, int id, const char* icon, const QString& name)
     QAction* action = menu->addAction(RES_ICON_Reader::getIcon(QString::fromLatin1(icon)), name);
     action->setToolTip(name);
     action->setData(id);
+    action->setCheckable(true); // for screen readers: the menu shows no marks
+}
+
+/// What a control has chosen: for the eyes its icon, for a screen reader its row and its description.
+void showChoice(QPushButton* button, int id, const QString& name)
+{
+    for (QAction* action : button->menu()->actions())
+        action->setChecked(action->data().toInt() == id);
+    button->setAccessibleDescription(name);
 }
 
 } // namespace
@@ -54,15 +65,18 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
         addEntry(toolMenu, tables::toolMenuBase + place, row.icon,
                  KORVA_EditCanvas::tr(row.name.text, row.name.comment));
     }
+    toolMenu->setAccessibleName(m_toolButton->accessibleName());
     m_toolButton->setMenu(toolMenu);
 
     m_optionButton = createButton(&editor, "optionButton", KORVA_EditCanvas::tr("Tool option", "tool bar"));
     m_optionMenu = new UTIL_PopupMenu(m_optionButton);
+    m_optionMenu->setAccessibleName(m_optionButton->accessibleName());
     m_optionButton->setMenu(m_optionMenu);
 
     m_zoomBox = new UTIL_ComboBox(&editor);
     m_zoomBox->setObjectName("zoomBox");
     setUp(m_zoomBox, KORVA_EditCanvas::tr("Zoom", "tool bar"));
+    m_zoomBox->view()->setAccessibleName(m_zoomBox->accessibleName());
 
     m_colorButton = createButton(&editor, "colorButton", KORVA_EditCanvas::tr("Color", "tool bar"));
     m_colorButton->setFlat(true);
@@ -91,12 +105,17 @@ void KORVA_ToolBar::arrange()
 
 void KORVA_ToolBar::showTool(int tool)
 {
-    showIcon(m_toolButton, tables::toolRow(tool)->icon);
+    const tables::ToolRow& row = *tables::toolRow(tool);
+    showIcon(m_toolButton, row.icon);
+    showChoice(m_toolButton, tables::toolMenuBase + row.place,
+               KORVA_EditCanvas::tr(row.name.text, row.name.comment));
 }
 
-void KORVA_ToolBar::showOption(const char* icon)
+void KORVA_ToolBar::showOption(int entry)
 {
-    showIcon(m_optionButton, icon);
+    const tables::OptionRow& row = tables::toolRow(m_optionTool)->options[std::size_t(entry)];
+    showIcon(m_optionButton, row.icon);
+    showChoice(m_optionButton, optionId(entry), KORVA_EditCanvas::tr(row.name.text, row.name.comment));
 }
 
 void KORVA_ToolBar::showColor(const QColor& color)
@@ -107,6 +126,7 @@ void KORVA_ToolBar::showColor(const QColor& color)
         painter.setPen(m_editor.palette().color(QPalette::Light));
         painter.drawRect(1, 1, swatch.width() - 2, swatch.height() - 2);
     }
+    m_colorButton->setAccessibleDescription(colorname::spoken(color));
     m_colorButton->setIcon(swatch);
     m_colorButton->setIconSize(swatch.size());
 }
@@ -114,6 +134,7 @@ void KORVA_ToolBar::showColor(const QColor& color)
 void KORVA_ToolBar::loadOptions(int tool)
 {
     m_optionMenu->clear();
+    m_optionTool = tool;
     int id = tables::firstOptionId(tool);
     const tables::ToolRow* const known = tables::toolRow(tool);
     for (const tables::OptionRow& row : known ? known->options : std::span<const tables::OptionRow>())

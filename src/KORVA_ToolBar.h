@@ -16,12 +16,12 @@ public:
 
     [[nodiscard]] UTIL_ComboBox& zoomBox() const { return *m_zoomBox; }
 
-    /// The icon of a tool that has a row in the tool pop-up.
     /// Puts the controls where the editor's direction and size have them.
     void arrange();
+    /// A tool that has a row in the tool pop-up: its icon on the button, its row checked.
     void showTool(int tool);
-    /// An icon by its file's name; null takes it away.
-    void showOption(const char* icon);
+    /// A row of the option pop-up, which has to exist.
+    void showOption(int entry);
     void showColor(const QColor& color);
 
     /// Fills the option pop-up with a tool's options; empty for tools without.
@@ -36,4 +36,5 @@ private:
     QMenu* m_optionMenu;
     UTIL_ComboBox* m_zoomBox;
     QPushButton* m_colorButton;
+    int m_optionTool = 0; ///< whose options the pop-up has
 };

@@ -19,7 +19,7 @@ KORVA_ToolChoice::KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar)
 {
     m_bar.showTool(tables::Pencil);
     m_bar.loadOptions(tables::Pencil);
-    m_bar.showOption(tables::toolRow(tables::Pencil)->options.front().icon);
+    m_bar.showOption(0);
 }
 
 void KORVA_ToolChoice::selectEntry(int menuId)
@@ -175,7 +175,7 @@ void KORVA_ToolChoice::applyOption(int menuId)
     }
     updateRubberCursor();
     if (choice == m_choices)
-        m_bar.showOption(chosen.icon);
+        m_bar.showOption(value);
 }
 
 void KORVA_ToolChoice::lendEraser()
