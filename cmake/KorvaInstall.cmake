@@ -31,8 +31,9 @@ if(KORVA_BUILD_HOST)
     install(TARGETS korva-pad korva-preview COMPONENT pad)
     install(FILES docs/man/korva-pad.1 docs/man/korva-preview.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT pad)
-    install(FILES packaging/korva-pad.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT pad)
-    install(FILES packaging/org.korva.pad.metainfo.xml
+    install(FILES ${PROJECT_BINARY_DIR}/packaging/korva-pad.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT pad)
+    install(FILES ${PROJECT_BINARY_DIR}/packaging/org.korva.pad.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT pad)
     install(FILES host/demo.rec DESTINATION ${CMAKE_INSTALL_DATADIR}/korva COMPONENT pad)
 

@@ -11,7 +11,7 @@ set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/finish-tree.cmake)
 set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/finish-packages.cmake)
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_ALL runtime development pad)
+set(CPACK_COMPONENTS_ALL runtime development pad translations)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
@@ -43,6 +43,7 @@ endfunction()
 
 korva_package(runtime libkorva${PROJECT_VERSION_MAJOR} libs
     DEPENDS qt6-image-formats-plugins # reads WBMP
+    RECOMMENDS libkorva-l10n
     DESCRIPTION
         "bitmap drawing pad widget for small touch screens"
         "A drawing editor that a Qt program embeds as one widget: pencil, line,"
@@ -58,13 +59,23 @@ korva_package(development libkorva-dev libdevel
         "and turned.\n\nThis package holds the headers and the files for CMake and pkg-config.")
 korva_package(pad korva-pad graphics
     COMPONENTS runtime
-    RECOMMENDS qt6-wayland # shows it on Wayland; X11 needs nothing more
+    # The first shows it on Wayland, X11 needs nothing more; the second has the toolkit's few own texts.
+    RECOMMENDS qt6-wayland qt6-translations-l10n
     DESCRIPTION
         "drawing pad for small pictures"
         "Draws and edits small pictures on a touch screen of 240 x 320 pixels or more,"
         "as well with a mouse: pencil, shapes, text, and a selection that is moved,"
         "stretched and turned. Reads PNG, GIF, JPEG, BMP and WBMP; writes PNG, JPEG"
         "and BMP.\n\nIt can record a drawing session as text and play it again.")
+korva_package(translations libkorva-l10n localization
+    DESCRIPTION
+        "bitmap drawing pad widget for small touch screens (translations)"
+        "A drawing editor that a Qt program embeds as one widget: pencil, line,"
+        "rectangle, ellipse, eraser, text, and a selection that is moved, stretched"
+        "and turned.\n\nThis package holds the languages of the library and of korva-pad.")
+set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_MULTIARCH foreign)
+set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_MULTIARCH same)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/triggers)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)

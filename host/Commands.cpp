@@ -49,13 +49,15 @@ const QString fingersPanKey = QStringLiteral("fingers/pan");
 /// A page of the menu. No page has more rows than fit a screen of 240 × 320.
 enum class Commands::Page { None, Main, Picture, Edit, Tool, View };
 
+using Choice = void (*)(Commands& commands, int number);
+
 struct Commands::Entry
 {
     Page page;
     Label label;
     const char* keys; ///< separated by "; "
     Needs needs;
-    void (*choose)(Commands& commands, int number);
+    Choice choose;
     int number = 0;
     std::optional<Page> opens = {}; ///< the entry opens this page instead of being a command
 };
@@ -133,7 +135,7 @@ void Commands::addEntries()
          KORVA_TOOL_RECTANGLE},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Ellipse", "menu"), "O", Needs::Nothing, tool,
          KORVA_TOOL_ELLIPSE},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "E&raser", "menu"), "E", Needs::Nothing, tool,
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "Er&aser", "menu"), "E", Needs::Nothing, tool,
          KORVA_TOOL_ERASER},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Text", "menu"), "T", Needs::Nothing, tool,
          KORVA_TOOL_TEXT},
@@ -169,6 +171,7 @@ void Commands::addEntries()
          option, 2},
     };
     m_menu->setStyle(new MenuStyle(m_menu));
+    m_menu->setAccessibleName(tr("Menu", "keys"));
     std::map<Page, QMenu*> pages{{Page::Main, m_menu}};
     for (const Entry& entry : entries) {
         const QString text = tr(entry.label.text, entry.label.comment);
@@ -176,12 +179,17 @@ void Commands::addEntries()
             auto* page = new UTIL_PopupMenu(m_menu);
             page->setStyle(m_menu->style());
             page->setTitle(text);
+            page->setAccessibleName(QString(text).remove(QLatin1Char('&')));
             m_menu->addMenu(page);
             pages[*entry.opens] = page;
             continue;
         }
         QAction* action = add(entry, text, pages[entry.page]);
         m_dependents.push_back({entry.needs, action});
+        if (entry.choose == Choice(tool) || entry.choose == Choice(zoom)) {
+            action->setCheckable(true); // for screen readers: the menu shows no marks
+            m_choices.push_back({entry.choose == Choice(tool), entry.number, action});
+        }
         if (entry.needs == Needs::Undo)
             m_undo = action;
         if (entry.needs == Needs::Redo)
@@ -229,6 +237,10 @@ void Commands::follow()
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
             [this] { setAvailable(Needs::Clipboard, true); });
     connect(m_menu, &QMenu::aboutToShow, this, &Commands::updateClipboard);
+
+    checkAlternatives();
+    connect(m_menu, &QMenu::aboutToShow, this, &Commands::checkAlternatives);
+    connect(&m_controls, &EditorControls::chosen, this, &Commands::checkAlternatives);
 }
 
 void Commands::setAvailable(Needs what, bool available)
@@ -239,6 +251,13 @@ void Commands::setAvailable(Needs what, bool available)
     }
     if (what == Needs::Undo || what == Needs::Redo)
         emit contextActionChanged();
+}
+
+void Commands::checkAlternatives()
+{
+    for (const Alternative& each : m_choices)
+        each.action->setChecked(each.number ==
+                                (each.isTool ? m_editor.canvas()->getCurrentToolID() : m_controls.zoom()));
 }
 
 bool Commands::updateClipboard()

@@ -57,7 +57,16 @@ private:
         QAction* action; // the menu's
     };
 
+    /// A tool or a zoom, checked while it is in force.
+    struct Alternative
+    {
+        bool isTool;
+        int number;
+        QAction* action; // the menu's
+    };
+
     void addEntries();
+    void checkAlternatives();
     QAction* add(const Entry& entry, const QString& text, QMenu* page);
     void follow();
     void setAvailable(Needs what, bool available);
@@ -76,6 +85,7 @@ private:
     QWidget* m_window; // the parent
     QMenu* m_menu;
     std::vector<Dependent> m_dependents;
+    std::vector<Alternative> m_choices;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QAction* m_fingersPan = nullptr;

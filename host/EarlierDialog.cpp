@@ -23,6 +23,16 @@ using Size = UTIL_Skin::Size;
 
 constexpr QSize thumbnailSize(Size::thumbnailWidth, Size::thumbnailHeight);
 
+/// A smaller one for a text that has no room otherwise: a date is long in some languages.
+QFont fontFor(const QString& text, const QFont& font, int width)
+{
+    if (QFontMetrics(font).horizontalAdvance(text) <= width)
+        return font;
+    QFont smaller = font;
+    smaller.setPixelSize(UTIL_Skin::font(UTIL_Skin::Font::Caption).pixelSize());
+    return smaller;
+}
+
 /// A drawing with its time and, below that, its name.
 class RowDelegate : public QStyledItemDelegate
 {
@@ -39,17 +49,21 @@ public:
         QRect picture(QPoint(), thumbnailSize);
         picture.moveCenter(option.rect.center());
         picture.moveLeft(option.rect.left() + Size::spacing);
-        painter->drawPixmap(picture.topLeft(), index.data(Qt::DecorationRole).value<QPixmap>());
+        const auto visual = [&option](const QRect& place) {
+            return QStyle::visualRect(option.direction, option.rect, place);
+        };
+        painter->drawPixmap(visual(picture).topLeft(), index.data(Qt::DecorationRole).value<QPixmap>());
 
         const QFontMetrics metrics = option.fontMetrics;
         QRect line(picture.right() + Size::spacing, option.rect.center().y() - metrics.lineSpacing(), 0,
                    metrics.lineSpacing());
         line.setRight(option.rect.right() - Size::spacing);
-        painter->setFont(option.font);
         painter->setPen(look.ink);
         for (const QString& text : index.data().toString().split('\n')) {
-            painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
-                              metrics.elidedText(text, Qt::ElideMiddle, line.width()));
+            const QFont font = fontFor(text, option.font, line.width());
+            painter->setFont(font);
+            UTIL_Skin::paintText(*painter, option.direction, visual(line), Qt::AlignLeft | Qt::AlignVCenter,
+                                 QFontMetrics(font).elidedText(text, Qt::ElideMiddle, line.width()));
             line.translate(0, metrics.lineSpacing());
         }
     }

@@ -10,14 +10,24 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace pad {
 
 namespace {
 
 using Size = UTIL_Skin::Size;
 
-constexpr int keyWidth = 96;
 constexpr int rowHeight = 24;
+constexpr int padding = 6; // of a cell, left and right together
+
+int widestKey(const QList<KeysDialog::Row>& rows, const QFontMetrics& metrics)
+{
+    int widest = 0;
+    for (const KeysDialog::Row& row : rows)
+        widest = std::max(widest, metrics.horizontalAdvance(row.key));
+    return widest;
+}
 
 } // namespace
 
@@ -35,16 +45,22 @@ KeysDialog::KeysDialog(QWidget* parent, const QList<Row>& rows) : UTIL_Dialog(Fr
     list->setColumnCount(2);
     list->setHeaderHidden(true);
     list->setRootIsDecorated(false);
-    list->setUniformRowHeights(true);
+    list->setWordWrap(true);
     list->setFrameShape(QFrame::NoFrame);
     list->setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     QScroller::grabGesture(list->viewport(), QScroller::TouchGesture);
     list->setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, list));
+    const QFontMetrics metrics = list->fontMetrics();
+    const int keyWidth = widestKey(rows, metrics) + 2 * padding;
+    const int textWidth =
+        width() - 2 * Size::spacing - keyWidth - padding - list->verticalScrollBar()->sizeHint().width();
     for (const Row& row : rows) {
+        const QRect text =
+            metrics.boundingRect(QRect(0, 0, textWidth, height()), Qt::TextWordWrap, row.text);
         auto* item = new QTreeWidgetItem({row.key, row.text});
-        item->setSizeHint(0, QSize(0, rowHeight));
+        item->setSizeHint(0, QSize(0, std::max(rowHeight, text.height())));
         list->addTopLevelItem(item);
     }
     list->header()->resizeSection(0, keyWidth);

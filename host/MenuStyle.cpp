@@ -14,21 +14,25 @@ using Size = UTIL_Skin::Size;
 
 constexpr int arrowWidth = 2 * Size::chevron;
 
-/// A triangle at the right of a row that opens a page.
-void paintArrow(QPainter& painter, const QRect& row, const QColor& ink)
+/// A triangle at the end of a row that opens a page.
+void paintArrow(QPainter& painter, Qt::LayoutDirection direction, const QRect& row, const QColor& ink)
 {
     constexpr int half = Size::chevron;
-    const QPoint tip(row.right() - Size::keyPadding, row.center().y());
+    const QPoint tip =
+        QStyle::visualPos(direction, row, QPoint(row.right() - Size::keyPadding, row.center().y()));
+    const int back = direction == Qt::RightToLeft ? half : -half;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygon({tip + QPoint(-half, -half), tip, tip + QPoint(-half, half)}));
+    painter.drawPolyline(QPolygon({tip + QPoint(back, -half), tip, tip + QPoint(back, half)}));
 }
 
-/// A tick that ends before `right`.
-void paintMark(QPainter& painter, int right, const QRect& row, const QColor& ink)
+/// A tick that ends before `right`, in a row from left to right.
+void paintMark(QPainter& painter, Qt::LayoutDirection direction, int right, const QRect& row,
+               const QColor& ink)
 {
     constexpr int half = Size::chevron;
-    const QPoint foot(right - 2 * half, row.center().y() + half - 1);
+    const QPoint foot =
+        QStyle::visualPos(direction, row, QPoint(right - 2 * half, row.center().y() + half - 1));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(
@@ -84,14 +88,16 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
     painter->setFont(item->font);
     const QRect text = item->rect.adjusted(Size::margin, 0, -Size::margin, 0);
     const QStringList parts = item->text.split(QLatin1Char('\t'));
-    painter->drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, parts.first());
+    UTIL_Skin::paintText(*painter, item->direction, text,
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, parts.first());
     if (item->menuItemType == QStyleOptionMenuItem::SubMenu)
-        paintArrow(*painter, item->rect, ink);
+        paintArrow(*painter, item->direction, item->rect, ink);
     else if (parts.size() > 1)
-        painter->drawText(text, Qt::AlignRight | Qt::AlignVCenter, parts.last());
+        UTIL_Skin::paintText(*painter, item->direction, text, Qt::AlignRight | Qt::AlignVCenter,
+                             parts.last());
     if (item->checkType != QStyleOptionMenuItem::NotCheckable && item->checked) {
         const int keys = parts.size() > 1 ? painter->fontMetrics().horizontalAdvance(parts.last()) : 0;
-        paintMark(*painter, text.right() - keys, item->rect, ink);
+        paintMark(*painter, item->direction, text.right() - keys, item->rect, ink);
     }
     painter->restore();
 }

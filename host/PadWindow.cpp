@@ -1,5 +1,6 @@
 #include "PadWindow.h"
 
+#include "Accessible.h"
 #include "Commands.h"
 #include "Documents.h"
 #include "PopupFence.h"
@@ -19,6 +20,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPixmap>
+#include <QStyle>
 #include <QUrl>
 
 namespace pad {
@@ -31,6 +33,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
       m_menuKey(addKey(tr("Menu", "soft key"))),
       m_contextKey(addKey(QString()))
 {
+    installAccessibility();
     setMinimumSize(theme::window.size());
     resize(theme::window.size());
     arrange();
@@ -56,9 +59,12 @@ void PadWindow::arrange()
     const int half = more.width() / 2;
     m_editor->setGeometry(theme::editor.adjusted(0, 0, more.width(), more.height()));
     m_status->setGeometry(theme::status.translated(0, more.height()).adjusted(0, 0, more.width(), 0));
-    m_menuKey->setGeometry(theme::leftKey.translated(0, more.height()).adjusted(0, 0, half, 0));
+    const auto visual = [this](const QRect& place) {
+        return QStyle::visualRect(layoutDirection(), rect(), place);
+    };
+    m_menuKey->setGeometry(visual(theme::firstKey.translated(0, more.height()).adjusted(0, 0, half, 0)));
     m_contextKey->setGeometry(
-        theme::rightKey.translated(0, more.height()).adjusted(half, 0, more.width(), 0));
+        visual(theme::secondKey.translated(0, more.height()).adjusted(half, 0, more.width(), 0)));
 }
 
 void PadWindow::resizeEvent(QResizeEvent*)
@@ -76,7 +82,10 @@ UTIL_PushButton* PadWindow::addKey(const QString& text)
 void PadWindow::openMenu()
 {
     QMenu* menu = m_commands->menu();
-    menu->popup(m_menuKey->mapToGlobal(QPoint(0, -menu->sizeHint().height())));
+    const QSize size = menu->sizeHint();
+    const QRect place =
+        QStyle::visualRect(layoutDirection(), m_menuKey->rect(), QRect(QPoint(0, -size.height()), size));
+    menu->popup(m_menuKey->mapToGlobal(place.topLeft()));
 }
 
 void PadWindow::updateContextKey()

@@ -1,5 +1,6 @@
 #include "StatusLine.h"
 
+#include "Accessible.h"
 #include "Wording.h"
 
 #include <KORVA_Canvas.h>
@@ -10,7 +11,9 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QStyle>
 
+#include <algorithm>
 #include <numeric>
 
 namespace pad {
@@ -27,6 +30,8 @@ constexpr int shares[] = {58, 59, 40, 55}; // each field's share of the width
 StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     : QWidget(parent), m_editor(editor), m_picture(editor.canvas()->size())
 {
+    installAccessibility();
+    setAccessibleName(tr("Status", "status line"));
     m_tool = addField(tr("Tool", "status line"), Qt::AlignLeft);
     m_size = addField(tr("Picture size", "status line"), Qt::AlignHCenter);
     m_zoom = addField(tr("Zoom", "status line"), Qt::AlignHCenter);
@@ -51,7 +56,6 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
 QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment)
 {
     auto* field = new QLabel(this);
-    field->setAccessibleName(meaning);
     field->setToolTip(meaning);
     field->setAlignment(alignment | Qt::AlignVCenter);
     return field;
@@ -60,15 +64,41 @@ QLabel* StatusLine::addField(const QString& meaning, Qt::Alignment alignment)
 // A layout would measure all texts again whenever the pointer has moved.
 void StatusLine::resizeEvent(QResizeEvent*)
 {
-    const int room = width() - 2 * margin - (int(std::size(shares)) - 1) * spacing;
-    const int shared = std::accumulate(std::begin(shares), std::end(shares), 0);
-    int left = margin;
-    const int* share = shares;
-    for (QLabel* field : {m_tool, m_size, m_zoom, m_position}) {
-        const int extent = room * *share++ / shared;
-        field->setGeometry(left, 0, extent, height());
+    const QList<QLabel*> fields{m_tool, m_size, m_zoom, m_position};
+    const int room = width() - 2 * margin - (fieldCount - 1) * spacing;
+    const std::array<int, fieldCount> extents = this->extents(room);
+    const int beyond = std::accumulate(extents.begin(), extents.end(), 0) - room;
+    int left = margin - std::max(0, beyond);
+    for (int i = 0; i < fieldCount; ++i) {
+        const int extent = extents[size_t(i)];
+        fields.at(i)->setGeometry(
+            QStyle::visualRect(layoutDirection(), rect(), QRect(left, 0, extent, height())));
         left += extent + spacing;
     }
+}
+
+/// Every field its share; where the longest tool's name needs more, what the others can spare.
+std::array<int, StatusLine::fieldCount> StatusLine::extents(int room) const
+{
+    const int shared = std::accumulate(std::begin(shares), std::end(shares), 0);
+    std::array<int, fieldCount> extents{};
+    std::transform(std::begin(shares), std::end(shares), extents.begin(),
+                   [=](int share) { return room * share / shared; });
+    const QFontMetrics metrics = m_tool->fontMetrics();
+    int lacking = -extents[0];
+    for (int tool = KORVA_TOOL_PENCIL; tool <= KORVA_TOOL_HAND; ++tool)
+        lacking =
+            std::max(lacking, metrics.horizontalAdvance(KORVA_EditCanvas::toolName(tool)) - extents[0]);
+    const std::array<QString, fieldCount> longest{QString(), sizeText({240, 320}), zoomText(200),
+                                                  positionText({239, 319})};
+    for (size_t i = fieldCount - 1; i > 0 && lacking > 0; --i) {
+        const int spare = std::clamp(extents[i] - metrics.horizontalAdvance(longest[i]), 0, lacking);
+        extents[i] -= spare;
+        extents[0] += spare;
+        lacking -= spare;
+    }
+    extents[0] += std::clamp(lacking, 0, margin - 1); // rather than a word cut off
+    return extents;
 }
 
 QSize StatusLine::pictureSize() const
@@ -81,6 +111,22 @@ QSize StatusLine::pictureSize() const
     return {zoom.toPicture(canvas.width()), zoom.toPicture(canvas.height())};
 }
 
+QString StatusLine::sizeText(QSize size)
+{
+    return tr("%1 × %2", "picture size")
+        .arg(wording::plainNumber(size.width()), wording::plainNumber(size.height()));
+}
+
+QString StatusLine::zoomText(int percent)
+{
+    return tr("%1 %", "zoom").arg(wording::plainNumber(percent));
+}
+
+QString StatusLine::positionText(QPoint at)
+{
+    return tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()));
+}
+
 void StatusLine::refresh()
 {
     m_sinceRefresh.start();
@@ -88,14 +134,21 @@ void StatusLine::refresh()
     const QSize size = pictureSize();
     const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
     const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
-    m_tool->setText(KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
-    m_size->setText(tr("%1 × %2", "picture size")
-                        .arg(wording::plainNumber(size.width()), wording::plainNumber(size.height())));
-    m_zoom->setText(tr("%1 %", "zoom").arg(wording::plainNumber(zoom.percent())));
-    m_position->setText(
-        m_isOver || pen
-            ? tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()))
-            : QString());
+    fill(m_tool, KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
+    fill(m_size, sizeText(size));
+    fill(m_zoom, zoomText(zoom.percent()));
+    fill(m_position, m_isOver || pen ? positionText(at) : QString());
+}
+
+/// A screen reader hears the value behind its meaning.
+void StatusLine::fill(QLabel* field, const QString& value)
+{
+    field->setText(value);
+    const QString meaning = field->toolTip();
+    const QString spoken =
+        value.isEmpty() ? meaning : tr("%1: %2", "status line, spoken").arg(meaning, value);
+    if (field->accessibleName() != spoken)
+        field->setAccessibleName(spoken);
 }
 
 void StatusLine::refreshSoon()

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <array>
+
 class KORVA_EditCanvas;
 class QLabel;
 
@@ -32,7 +34,13 @@ protected:
 
 private:
     QLabel* addField(const QString& meaning, Qt::Alignment alignment);
+    static void fill(QLabel* field, const QString& value);
     void refreshSoon();
+    static constexpr int fieldCount = 4;
+    [[nodiscard]] std::array<int, fieldCount> extents(int room) const;
+    [[nodiscard]] static QString sizeText(QSize size);
+    [[nodiscard]] static QString zoomText(int percent);
+    [[nodiscard]] static QString positionText(QPoint at);
     [[nodiscard]] QSize pictureSize() const;
 
     const KORVA_EditCanvas& m_editor;

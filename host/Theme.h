@@ -9,8 +9,8 @@ namespace pad::theme {
 inline constexpr QRect window(0, 0, 240, 320);
 inline constexpr QRect editor(0, 0, 240, 225);
 inline constexpr QRect status(0, 229, 240, 26);
-inline constexpr QRect leftKey(8, 263, 108, 48);
-inline constexpr QRect rightKey(124, 263, 108, 48);
+inline constexpr QRect firstKey(8, 263, 108, 48);
+inline constexpr QRect secondKey(124, 263, 108, 48);
 
 inline constexpr int smallText = 11;
 

@@ -1,5 +1,6 @@
 #include "UTIL_ComboBox.h"
 
+#include "UTIL_Accessible.h"
 #include "UTIL_PopupMenu.h"
 #include "UTIL_PopupStyle.h"
 #include "UTIL_Skin.h"
@@ -33,14 +34,15 @@ public:
             text.palette.setColor(QPalette::Text, option.palette.color(QPalette::HighlightedText));
         }
         text.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
-        text.rect.adjust(Size::keyPadding, 0, 0, 0);
+        text.rect = visual(option, option.rect.adjusted(Size::keyPadding, 0, 0, 0));
         QStyledItemDelegate::paint(painter, text, index);
         if (index.data(Qt::CheckStateRole).toInt() != Qt::Checked)
             return;
         const int width = Size::radioDiameter;
         UTIL_Skin::paintRadio(
             *painter,
-            option.rect.adjusted(option.rect.width() - width - Size::keyPadding, 0, -Size::keyPadding, 0),
+            visual(option, option.rect.adjusted(option.rect.width() - width - Size::keyPadding, 0,
+                                                -Size::keyPadding, 0)),
             true, true);
     }
 
@@ -52,6 +54,11 @@ public:
     }
 
 protected:
+    /// Where a part of a row lies that is given for a row from left to right.
+    [[nodiscard]] static QRect visual(const QStyleOptionViewItem& row, const QRect& place)
+    {
+        return QStyle::visualRect(row.direction, row.rect, place);
+    }
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
@@ -68,6 +75,7 @@ protected:
 
 UTIL_ComboBox::UTIL_ComboBox(QWidget* parent) : QComboBox(parent)
 {
+    accessible::installControls();
     setStyle(new UTIL_PopupStyle(this));
     setPalette(UTIL_Skin::palette());
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Text));
@@ -140,9 +148,12 @@ void UTIL_ComboBox::paintEvent(QPaintEvent*)
         UTIL_Skin::paintFocus(painter, rect());
 
     const QRect inside = rect().adjusted(Size::keyPadding, 0, -Size::keyPadding, 0);
-    const QRect text = inside.adjusted(0, 0, -2 * Size::chevron - Size::keyPadding, 0);
+    const QRect text = QStyle::visualRect(layoutDirection(), rect(),
+                                          inside.adjusted(0, 0, -2 * Size::chevron - Size::keyPadding, 0));
+    const QPoint chevron = QStyle::visualPos(layoutDirection(), rect(),
+                                             QPoint(inside.right() - Size::chevron, inside.center().y()));
     painter.setPen(look.ink);
-    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
-                     fontMetrics().elidedText(currentText(), Qt::ElideRight, text.width()));
-    UTIL_Skin::paintChevron(painter, QPoint(inside.right() - Size::chevron, inside.center().y()), look);
+    UTIL_Skin::paintText(painter, layoutDirection(), text, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(currentText(), Qt::ElideRight, text.width()));
+    UTIL_Skin::paintChevron(painter, chevron, look);
 }

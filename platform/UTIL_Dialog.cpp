@@ -1,5 +1,6 @@
 #include "UTIL_Dialog.h"
 
+#include "UTIL_Accessible.h"
 #include "UTIL_Geometry.h"
 #include "UTIL_Overlay.h"
 #include "UTIL_PushButton.h"
@@ -25,6 +26,7 @@ UTIL_Dialog::UTIL_Dialog(int type, bool modal, QWidget* parent, const char* name
     : QDialog(parent, (flags & ~Qt::WindowType_Mask) | Qt::Dialog | Qt::FramelessWindowHint),
       m_content(this)
 {
+    accessible::installControls();
     setObjectName(name);
     setModal(modal);
     setPalette(UTIL_Skin::palette());

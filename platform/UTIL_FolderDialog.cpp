@@ -12,6 +12,7 @@
 #include <QHash>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -36,7 +37,7 @@ Place& placeOf(const QObject& dialog)
 }
 
 /// Lines that get shorter, and an arrow downward.
-QPixmap orderPicture(qreal ratio)
+QPixmap orderPicture(qreal ratio, Qt::LayoutDirection direction)
 {
     constexpr qreal stroke = 2;
     constexpr qreal head = 3;
@@ -53,7 +54,7 @@ QPixmap orderPicture(qreal ratio)
     const QPointF tip(18, 15);
     painter.drawLine(QPointF(tip.x(), 3), tip);
     painter.drawPolyline(QPolygonF{tip + QPointF(-head, -head), tip, tip + QPointF(head, -head)});
-    return picture;
+    return direction == Qt::RightToLeft ? picture.transformed(QTransform::fromScale(-1, 1)) : picture;
 }
 
 } // namespace
@@ -137,7 +138,9 @@ void UTIL_FolderDialog::reject()
 void UTIL_FolderDialog::done(int result)
 {
     const QSize cell = m_view->gridSize();
-    const QModelIndex first = m_view->indexAt(QPoint(cell.width() / 2, cell.height() / 2));
+    const QRect seen = m_view->viewport()->rect();
+    const QModelIndex first = m_view->indexAt(
+        QStyle::visualPos(layoutDirection(), seen, QPoint(cell.width() / 2, cell.height() / 2)));
     placeOf(*this) = {m_folder->folder(), first.data().toString()};
     UTIL_PictureDialog::done(result);
 }
@@ -179,7 +182,7 @@ void UTIL_FolderDialog::addBelowFolder(QWidget* widget)
 
 void UTIL_FolderDialog::createOrderMenu(UTIL_PushButton& key)
 {
-    const QPixmap picture = orderPicture(devicePixelRatioF());
+    const QPixmap picture = orderPicture(devicePixelRatioF(), layoutDirection());
     key.setIcon(picture);
     key.setIconSize(picture.deviceIndependentSize().toSize());
     key.setFlags(UTIL_PushButton::Outlined);
@@ -197,8 +200,11 @@ void UTIL_FolderDialog::createOrderMenu(UTIL_PushButton& key)
         orders->addAction(action);
         connect(action, &QAction::triggered, this, [this, chosen = order] { sortBy(chosen); });
     }
-    connect(&key, &QPushButton::clicked, this,
-            [menu, &key] { menu->popup(key.mapToGlobal(QPoint(0, key.height()))); });
+    connect(&key, &QPushButton::clicked, this, [menu, &key] {
+        const QRect place = QStyle::visualRect(key.layoutDirection(), key.rect(),
+                                               QRect(QPoint(0, key.height()), menu->sizeHint()));
+        menu->popup(key.mapToGlobal(place.topLeft()));
+    });
 }
 
 void UTIL_FolderDialog::sortBy(Order order)

@@ -2,6 +2,7 @@
 
 #include "UTIL_Skin.h"
 
+#include <QStyle>
 #include <QWidget>
 
 namespace {
@@ -61,5 +62,6 @@ QRect UTIL_Geometry::secondSoftKey() const
 
 QRect UTIL_Geometry::global(const QRect& local) const
 {
-    return {m_dialog.mapToGlobal(local.topLeft()), local.size()};
+    const QRect place = QStyle::visualRect(m_dialog.layoutDirection(), m_dialog.rect(), local);
+    return {m_dialog.mapToGlobal(place.topLeft()), place.size()};
 }

@@ -45,14 +45,15 @@ void UTIL_ListBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& 
     painter->setPen(look.ink);
     int number = 0;
     for (const UTIL_ItemLayout::Field& field : m_layout.fields()) {
-        const QRect area(option.rect.left() + field.left, option.rect.top(), field.width,
-                         option.rect.height());
+        const QRect area = QStyle::visualRect(
+            option.direction, option.rect,
+            QRect(option.rect.left() + field.left, option.rect.top(), field.width, option.rect.height()));
         if (field.kind == UTIL_ItemLayout::Kind::Radio) {
             UTIL_Skin::paintRadio(*painter, area, marked, state != State::Disabled);
         } else {
             const QString text = strings.value(number);
-            painter->drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
-                              option.fontMetrics.elidedText(text, Qt::ElideRight, field.width));
+            UTIL_Skin::paintText(*painter, option.direction, area, Qt::AlignLeft | Qt::AlignVCenter,
+                                 option.fontMetrics.elidedText(text, Qt::ElideRight, field.width));
         }
         ++number;
     }

@@ -1,6 +1,7 @@
 #include "UTIL_MessageBox.h"
 
 #include "RES_ICON_Reader.h"
+#include "UTIL_Accessible.h"
 #include "UTIL_Modal.h"
 #include "UTIL_Platform.h"
 #include "UTIL_PushButton.h"
@@ -152,6 +153,8 @@ void UTIL_MessageBox::reject()
 void UTIL_MessageBox::showEvent(QShowEvent* event)
 {
     UTIL_Dialog::showEvent(event);
+    if (windowType() == Qt::Popup) // a dialog is told of by its window
+        accessible::announce(*this);
     if (m_timeout) {
         const int second = UTIL_Platform::instance()->timeoutSecond();
         QTimer::singleShot(std::max(0, *m_timeout * second), this, [this] {
@@ -159,6 +162,13 @@ void UTIL_MessageBox::showEvent(QShowEvent* event)
                 accept();
         });
     }
+}
+
+void UTIL_MessageBox::hideEvent(QHideEvent* event)
+{
+    UTIL_Dialog::hideEvent(event);
+    if (windowType() == Qt::Popup)
+        accessible::endAnnouncement();
 }
 
 void UTIL_MessageBox::keyPressEvent(QKeyEvent* event)

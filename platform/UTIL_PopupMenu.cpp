@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionMenuItem>
 
 #include <algorithm>
 #include <utility>
@@ -46,6 +47,14 @@ void UTIL_PopupMenu::keepInWindow(QWidget& popup, const QWidget* owner)
     const int x = qMax(room.left(), qMin(popup.x(), room.right() + 1 - popup.width()));
     const int y = qMax(room.top(), qMin(popup.y(), room.bottom() + 1 - popup.height()));
     popup.move(x, y);
+}
+
+void UTIL_PopupMenu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const
+{
+    QMenu::initStyleOption(option, action);
+    option->checkType = QStyleOptionMenuItem::NotCheckable;
+    option->checked = false;
+    option->menuHasCheckableItems = false;
 }
 
 void UTIL_PopupMenu::showEvent(QShowEvent* event)

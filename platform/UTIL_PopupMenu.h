@@ -26,6 +26,8 @@ public:
     static void keepInWindow(QWidget& popup, const QWidget* owner);
 
 protected:
+    /// A checked row looks as the others do: the mark is for screen readers.
+    void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -1,10 +1,12 @@
 #include "UTIL_PushButton.h"
 
 #include "RES_ICON_Reader.h"
+#include "UTIL_Accessible.h"
 #include "UTIL_Skin.h"
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -27,6 +29,7 @@ UTIL_PushButton::UTIL_PushButton(const QString& iconName, const QString& text, Q
                                  const char* name)
     : QPushButton(text, parent)
 {
+    accessible::installControls();
     setObjectName(name);
     setFont(UTIL_Skin::font(UTIL_Skin::Font::Key));
     setAttribute(Qt::WA_Hover);
@@ -88,11 +91,15 @@ void UTIL_PushButton::paintEvent(QPaintEvent*)
     QRect line(0, 0, iconWidth + gap + textWidth, height());
     line.moveCenter(rect().center());
 
+    const QRect iconPlace =
+        QStyle::visualRect(layoutDirection(), line, QRect(line.left(), 0, iconWidth, height()));
+    const QRect textPlace =
+        QStyle::visualRect(layoutDirection(), line, line.adjusted(iconWidth + gap, 0, 0, 0));
+
     painter.setPen(look.ink);
-    icon().paint(&painter, QRect(line.left(), 0, iconWidth, height()), Qt::AlignCenter,
-                 isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    painter.drawText(line.adjusted(iconWidth + gap, 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, shown);
+    icon().paint(&painter, iconPlace, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    UTIL_Skin::paintText(painter, layoutDirection(), textPlace,
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, shown);
     if (hasFocus())
         UTIL_Skin::paintFocus(painter, rect()); // last: an icon may be as large as the key
 }

@@ -14,6 +14,8 @@ constexpr int gap = 3; // pixels between the slider and the edges of its groove
 UTIL_ScrollBar::UTIL_ScrollBar(Qt::Orientation orientation, QWidget* parent)
     : QScrollBar(orientation, parent)
 {
+    setAccessibleName(orientation == Qt::Horizontal ? tr("Scroll sideways", "screen reader")
+                                                    : tr("Scroll up and down", "screen reader"));
 }
 
 void UTIL_ScrollBar::paintEvent(QPaintEvent*)

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr QRgb none = 0x00000000;
+constexpr int alignments = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask;
 
 // In the order of UTIL_Skin::Color.
 constexpr std::array<QRgb, 8> lightColors = {
@@ -342,6 +344,17 @@ void UTIL_Skin::paintRadio(QPainter& painter, const QRectF& box, bool marked, bo
         painter.drawEllipse(circle.center(), Size::radioDot / 2.0, Size::radioDot / 2.0);
     }
     painter.restore();
+}
+
+void UTIL_Skin::paintText(QPainter& painter, Qt::LayoutDirection direction, const QRect& place, int flags,
+                          const QString& text)
+{
+    const bool runsLeft = direction == Qt::RightToLeft && text.isRightToLeft();
+    const int alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags & alignments));
+    painter.drawText(place,
+                     (flags & ~alignments) | alignment | Qt::AlignAbsolute |
+                         (runsLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight),
+                     text);
 }
 
 /// Each color of the drawing lies between the light skin's ground, ink and accent. It becomes the color at

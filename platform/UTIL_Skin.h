@@ -119,6 +119,11 @@ public:
     /// Paints the round mark of a radio row, centred in `box`.
     static void paintRadio(QPainter& painter, const QRectF& box, bool marked, bool enabled);
 
+    /// Paints a line of text as QPainter::drawText() does, for a control of this direction: text that is
+    /// aligned left stands at the beginning of the line, wherever that is, and keeps its own direction.
+    static void paintText(QPainter& painter, Qt::LayoutDirection direction, const QRect& place, int flags,
+                          const QString& text);
+
     /// Paints the mark of a control that opens a list: it points down and is centred at `centre`.
     static void paintChevron(QPainter& painter, const QPoint& centre, const Look& look);
 

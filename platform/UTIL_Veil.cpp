@@ -8,6 +8,7 @@
 UTIL_Veil::UTIL_Veil(QWidget* window) : QWidget(window)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAccessibleName(tr("Dimmed for a dialog", "screen reader"));
     setFocusPolicy(Qt::NoFocus);
     setGeometry(window->rect());
     window->installEventFilter(this);

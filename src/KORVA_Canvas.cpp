@@ -1,5 +1,6 @@
 #include "KORVA_Canvas.h"
 
+#include "KORVA_Accessible.h"
 #include "KORVA_Assert.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_EditCanvas.h"
@@ -39,6 +40,7 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
       m_picture(std::make_unique<KORVA_Picture>(picture)),
       m_repainter(std::make_unique<KORVA_Repainter>(this))
 {
+    accessible::installEditor();
     setObjectName(name);
     UTIL_Platform::instance()->setMouseMode(this, 1);
     QPalette colors = palette();

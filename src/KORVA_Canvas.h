@@ -242,6 +242,8 @@ public:
     [[nodiscard]] bool isKeyboardDrawing() const;
     /// Where the keyboard's pen is, in picture coordinates; nothing while it does not show.
     [[nodiscard]] std::optional<QPoint> keyboardPen() const;
+    /// Whether the pen's button is down, by Space or Return.
+    [[nodiscard]] bool isKeyboardPenDown() const;
     /// What the keyboard's pen makes of a key: for who writes down what a person does.
     enum PenKey {
         NotThePens, ///< it goes to the tool
@@ -302,7 +304,7 @@ signals:
     void canUndo(bool possible);
     /// Whether redo is to be offered.
     void canRedo(bool possible);
-    /// What keyboardPen() tells has changed.
+    /// What keyboardPen() or isKeyboardPenDown() tells has changed.
     void keyboardPenChanged();
 
 protected:

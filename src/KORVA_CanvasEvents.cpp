@@ -154,6 +154,11 @@ std::optional<QPoint> KORVA_Canvas::keyboardPen() const
     return m_keyboardPen ? m_keyboardPen->place() : std::nullopt;
 }
 
+bool KORVA_Canvas::isKeyboardPenDown() const
+{
+    return m_keyboardPen && m_keyboardPen->isDown();
+}
+
 KORVA_Canvas::PenKey KORVA_Canvas::penKey(const QKeyEvent& press) const
 {
     return m_keyboardPen ? m_keyboardPen->use(press) : NotThePens;

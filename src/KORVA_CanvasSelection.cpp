@@ -172,6 +172,7 @@ void KORVA_Canvas::createMenu()
     m_cutAction->setData(0);
     m_copyAction->setData(1);
     m_pasteAction->setData(2);
+    m_menu->setAccessibleName(tr("Drawing", "menu of the canvas"));
     slotSelection(false);
     slotClipBoard(false);
 }

@@ -1,5 +1,6 @@
 #include "KORVA_ColorPicker.h"
 
+#include "KORVA_ColorName.h"
 #include "RES_ICON_Reader.h"
 #include "UTIL_Modal.h"
 #include "UTIL_PushButton.h"
@@ -142,6 +143,7 @@ void KORVA_ColorPicker::createSliders()
         caption->setGeometry(QRect({captionLeft, channel.captionTop}, captionSize));
         caption->setFont(UTIL_Skin::font(UTIL_Skin::Font::Key));
         caption->setAlignment(Qt::AlignLeft | type.caption);
+        caption->setLayoutDirection(Qt::LeftToRight); // as the slider behind it
         caption->setEnabled(shown);
 
         const QPixmap handle = RES_ICON_Reader::getIcon(QString::fromLatin1(channel.handle));
@@ -170,7 +172,7 @@ void KORVA_ColorPicker::fillColorLabel(const QColor& color)
     QPixmap swatch(m_colorLabel->size());
     swatch.fill(color);
     m_colorLabel->setPixmap(swatch);
-    m_colorLabel->setAccessibleName(color.name());
+    m_colorLabel->setAccessibleName(colorname::spoken(color));
 }
 
 void KORVA_ColorPicker::changeColor(const QColor& color)

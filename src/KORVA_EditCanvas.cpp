@@ -2,6 +2,7 @@
 
 #include "KORVA_AreaSelect.h"
 #include "KORVA_Canvas.h"
+#include "KORVA_CanvasNews.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Documents.h"
 #include "KORVA_EditorLayout.h"
@@ -18,6 +19,9 @@
 #include "KORVA_TouchInput.h"
 #include "KORVA_ZoomChoice.h"
 #include "UTIL_Skin.h"
+
+#include <QEvent>
+#include <QStyle>
 
 #include <cstdio>
 #include <string_view>
@@ -77,7 +81,9 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
     connect(canvas()->m_touch.get(), &KORVA_TouchInput::eraserWanted, this, [this](bool isWanted) {
         isWanted ? m_toolChoice->lendEraser() : m_toolChoice->takeEraserBack();
     });
+    new KORVA_CanvasNews(*this);
     resize(layout::editor);
+    arrange();
 
     m_documents = std::make_unique<KORVA_Documents>(*this);
     if (!fileName.isEmpty())
@@ -91,11 +97,29 @@ KORVA_Canvas* KORVA_EditCanvas::canvas() const
     return m_mainView->canvas();
 }
 
+void KORVA_EditCanvas::arrange()
+{
+    const QSize more = layout::beyond(size());
+    m_mainView->setGeometry(
+        QStyle::visualRect(layoutDirection(), QRect(QPoint(), layout::editor + more),
+                           QRect(layout::mainView.topLeft(), layout::mainView.size() + more)));
+    if (layoutDirection() == Qt::RightToLeft) // from left to right nothing ever moves them
+        m_toolBar->arrange();
+}
+
+void KORVA_EditCanvas::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange && m_mainView) {
+        m_toolBar->arrange();
+        arrange();
+    }
+}
+
 void KORVA_EditCanvas::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_mainView->setGeometry(
-        QRect(layout::mainView.topLeft(), layout::mainView.size() + layout::beyond(size())));
+    arrange();
     // Another zoom would merge a floating piece, and a text being typed would lose its place.
     const KORVA_Tool* tool = canvas()->getCurrentTool();
     if (canvas()->pasteLabel()->isHidden() && !(tool && tool->takesText()))

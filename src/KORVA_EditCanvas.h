@@ -316,13 +316,16 @@ protected:
     /// Gives the main view what the editor has beyond 240 × 225 pixels and fits the picture again where
     /// "Fit to page" is chosen, unless a piece floats or a text is typed.
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void arrange();
+
     std::unique_ptr<KORVA_ToolSet> m_tools;
     std::unique_ptr<KORVA_ToolBar> m_toolBar;
     std::unique_ptr<KORVA_ToolChoice> m_toolChoice;
     std::unique_ptr<KORVA_ZoomChoice> m_zoomChoice;
-    KORVA_MainView* m_mainView;
+    KORVA_MainView* m_mainView = nullptr;
     std::unique_ptr<KORVA_Manager> m_manager;
     QWidget* m_ownerWindow;
     QColor m_color{255, 0, 0};

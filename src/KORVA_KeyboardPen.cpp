@@ -388,6 +388,8 @@ void KORVA_KeyboardPen::update()
         m_mark->showAt(m_at, m_state != Lifted);
     else
         m_mark->hide();
-    if (std::exchange(m_told, now) != now)
+    const bool isMoved = std::exchange(m_told, now) != now;
+    const bool isPressed = std::exchange(m_toldDown, isDown()) != isDown();
+    if (isMoved || isPressed)
         emit m_canvas.keyboardPenChanged();
 }

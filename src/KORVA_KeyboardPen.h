@@ -31,6 +31,7 @@ public:
     [[nodiscard]] bool isEnabled() const { return m_isEnabled; }
     /// In picture coordinates; nothing while it is not seen.
     [[nodiscard]] std::optional<QPoint> place() const;
+    [[nodiscard]] bool isDown() const { return m_state != Lifted; }
     /// See KORVA_Canvas::penKey().
     [[nodiscard]] KORVA_Canvas::PenKey use(const QKeyEvent& press) const;
 
@@ -81,7 +82,8 @@ private:
     State m_state = Lifted;
     QPoint m_at;    ///< canvas widget coordinates
     QPoint m_place; ///< the same in the picture, which stays when the zoom changes
-    std::optional<QPoint> m_told;
+    std::optional<QPoint> m_told; ///< of the place
+    bool m_toldDown = false;
     bool m_isEnabled = false;
     bool m_isPlaced = false;
     bool m_isInUse = false;

@@ -47,6 +47,7 @@ KORVA_PasteLabel::KORVA_PasteLabel(QWidget* parent, const char* name, Qt::Window
     m_menu->addAction(tr("Cut", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotCut)->setData(1);
     m_pasteAction = m_menu->addAction(tr("Paste", "2.11.1;MENU"), this, &KORVA_PasteLabel::slotPaste);
     m_pasteAction->setData(2);
+    m_menu->setAccessibleName(tr("Floating piece", "menu of the piece"));
     setPasteItem(false);
     setMouseTracking(true);
     QPalette paper; // the added area of a growing piece is white, whatever the skin

@@ -1,6 +1,5 @@
 #include "KORVA_ToolBar.h"
 
-#include "KORVA_CanvasNews.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_ColorName.h"
 #include "KORVA_EditCanvas.h"
@@ -12,20 +11,20 @@
 
 #include <QAbstractItemView>
 #include <QMenu>
+#include <QStyle>
 
 namespace {
 
-void setUp(QWidget* control, const QRect& place, const QString& tip)
+void setUp(QWidget* control, const QString& tip)
 {
-    control->setGeometry(place);
     control->setToolTip(tip);
     control->setAccessibleName(tip);
 }
 
-QPushButton* createButton(QWidget* parent, const char* name, const QRect& place, const QString& tip)
+QPushButton* createButton(QWidget* parent, const char* name, const QString& tip)
 {
     auto* button = new UTIL_PushButton({}, {}, parent, name);
-    setUp(button, place, tip);
+    setUp(button, tip);
     return button;
 }
 
@@ -51,40 +50,31 @@ void showChoice(QPushButton* button, int id, const QString& name)
     button->setAccessibleDescription(name);
 }
 
-/// The toolkit tells of neither on its own.
-void noteChoice(const KORVA_EditCanvas& editor)
-{
-    if (auto* news = editor.findChild<KORVA_CanvasNews*>(QString(), Qt::FindDirectChildrenOnly))
-        news->note();
-}
-
 } // namespace
 
 KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tools)
     : m_editor(editor), m_tools(tools)
 {
-    m_toolButton =
-        createButton(&editor, "toolButton", layout::toolButton, KORVA_EditCanvas::tr("Tool", "tool bar"));
+    m_toolButton = createButton(&editor, "toolButton", KORVA_EditCanvas::tr("Tool", "tool bar"));
     auto* toolMenu = new UTIL_PopupMenu(m_toolButton);
     for (const int tool : m_tools.inOrder())
         addEntry(toolMenu, m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
     toolMenu->setAccessibleName(m_toolButton->accessibleName());
     m_toolButton->setMenu(toolMenu);
 
-    m_optionButton = createButton(&editor, "optionButton", layout::optionButton,
-                                  KORVA_EditCanvas::tr("Tool option", "tool bar"));
+    m_optionButton = createButton(&editor, "optionButton", KORVA_EditCanvas::tr("Tool option", "tool bar"));
     m_optionMenu = new UTIL_PopupMenu(m_optionButton);
     m_optionMenu->setAccessibleName(m_optionButton->accessibleName());
     m_optionButton->setMenu(m_optionMenu);
 
     m_zoomBox = new UTIL_ComboBox(&editor);
     m_zoomBox->setObjectName("zoomBox");
-    setUp(m_zoomBox, layout::zoomBox, KORVA_EditCanvas::tr("Zoom", "tool bar"));
+    setUp(m_zoomBox, KORVA_EditCanvas::tr("Zoom", "tool bar"));
     m_zoomBox->view()->setAccessibleName(m_zoomBox->accessibleName());
 
-    m_colorButton = createButton(&editor, "colorButton", layout::colorButton,
-                                 KORVA_EditCanvas::tr("Color", "tool bar"));
+    m_colorButton = createButton(&editor, "colorButton", KORVA_EditCanvas::tr("Color", "tool bar"));
     m_colorButton->setFlat(true);
+    arrange();
 
     QObject::connect(toolMenu, &QMenu::triggered, &editor,
                      [&editor](const QAction* entry) { editor.slotSelChangeTool(entry->data().toInt()); });
@@ -100,11 +90,22 @@ void KORVA_ToolBar::addTool(int tool)
     addEntry(m_toolButton->menu(), m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
 }
 
+void KORVA_ToolBar::arrange()
+{
+    const QRect whole(QPoint(), m_editor.size().expandedTo(layout::editor));
+    const auto place = [this, &whole](QWidget* control, const QRect& fromLeft) {
+        control->setGeometry(QStyle::visualRect(m_editor.layoutDirection(), whole, fromLeft));
+    };
+    place(m_toolButton, layout::toolButton);
+    place(m_optionButton, layout::optionButton);
+    place(m_zoomBox, layout::zoomBox);
+    place(m_colorButton, layout::colorButton);
+}
+
 void KORVA_ToolBar::showTool(int tool)
 {
     showIcon(m_toolButton, m_tools.icon(tool));
     showChoice(m_toolButton, m_tools.toolEntry(tool), m_tools.name(tool));
-    noteChoice(m_editor);
 }
 
 void KORVA_ToolBar::showOption(int entry)
@@ -113,7 +114,6 @@ void KORVA_ToolBar::showOption(int entry)
     showIcon(m_optionButton, isThere ? m_tools.optionIcon(m_optionTool, entry) : QPixmap());
     showChoice(m_optionButton, isThere ? optionId(entry) : -1,
                isThere ? m_tools.optionName(m_optionTool, entry) : QString());
-    noteChoice(m_editor);
 }
 
 void KORVA_ToolBar::showColor(const QColor& color)

@@ -17,6 +17,8 @@ public:
 
     [[nodiscard]] UTIL_ComboBox& zoomBox() const { return *m_zoomBox; }
 
+    /// Puts the controls where the editor's direction and size have them.
+    void arrange();
     /// A tool that is new in the set gets the last row of the tool pop-up.
     void addTool(int tool);
     /// A tool that has a row in the tool pop-up: its icon on the button, its row checked.

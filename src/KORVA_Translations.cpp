@@ -36,9 +36,9 @@ QString ownFolder()
 QStringList folders()
 {
     QStringList all = addedFolders();
-    if (const QDir own(ownFolder()); !own.path().isEmpty())
-        all << own.absoluteFilePath(QStringLiteral(KORVA_BUILT_TRANSLATIONS))
-            << own.absoluteFilePath(QStringLiteral(KORVA_INSTALLED_TRANSLATIONS));
+    if (const QString own = ownFolder(); !own.isEmpty())
+        all << own + QStringLiteral("/" KORVA_BUILT_TRANSLATIONS)
+            << own + QStringLiteral("/" KORVA_INSTALLED_TRANSLATIONS);
     return all + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
                                            QStringLiteral("korva/translations"),
                                            QStandardPaths::LocateDirectory);

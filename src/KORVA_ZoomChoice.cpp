@@ -40,8 +40,10 @@ KORVA_ZoomChoice::KORVA_ZoomChoice(KORVA_EditCanvas& editor, UTIL_ComboBox& box)
         m_box.setItemData(i, m_box.itemText(i), Qt::ToolTipRole);
     m_box.setCurrentIndex(realSizeRow);
 
-    QObject::connect(&m_box, &UTIL_ComboBox::aboutToShowPopup, &m_editor,
-                     [this] { m_box.markRow(rowInForce()); });
+    m_box.markRow(realSizeRow);
+    const auto mark = [this] { m_box.markRow(rowInForce()); };
+    QObject::connect(&m_box, &UTIL_ComboBox::aboutToShowPopup, &m_editor, mark);
+    QObject::connect(&m_editor, &KORVA_EditCanvas::sizeChanged, &m_editor, mark); // who reads it unopened
     // A new canvas takes the zoom that the box shows, as if it were chosen once more.
     QObject::connect(&m_editor, &KORVA_EditCanvas::canvasChanged, &m_box, &QComboBox::activated);
 }

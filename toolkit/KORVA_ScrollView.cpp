@@ -11,6 +11,7 @@ KORVA_ScrollView::KORVA_ScrollView(QWidget* parent) : QAbstractScrollArea(parent
 {
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(1);
+    setLayoutDirection(Qt::LeftToRight);       // a picture begins at its left in any language
     viewport()->ungrabGesture(Qt::PanGesture); // two fingers are the child's
     setViewportMargins(1, 1, 1, 1);            // frame and margin are the two pixels that centring counts
 }

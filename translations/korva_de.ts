@@ -18,6 +18,11 @@
         <comment>2.11.1;MENU</comment>
         <translation>Einfügen</translation>
     </message>
+    <message>
+        <source>Drawing</source>
+        <comment>menu of the canvas</comment>
+        <translation>Zeichnung</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ChooseCanvasDlg</name>
@@ -287,6 +292,111 @@
         <comment>WAIT_BOX</comment>
         <translation>Bild wird geöffnet</translation>
     </message>
+    <message>
+        <source>Drawing editor</source>
+        <comment>screen reader</comment>
+        <translation>Zeicheneditor</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <comment>screen reader</comment>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>screen reader</comment>
+        <translation>Schwebendes Stück</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <comment>screen reader</comment>
+        <translation>Zoom %1 %</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <comment>screen reader</comment>
+        <translation>%1 mal %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Pen down at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Stift aufgesetzt bei %1, %2</translation>
+    </message>
+    <message>
+        <source>Pen at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Stift bei %1, %2</translation>
+    </message>
+    <message>
+        <source>A text is open</source>
+        <comment>screen reader</comment>
+        <translation>Ein Text ist offen</translation>
+    </message>
+    <message>
+        <source>A piece of %1 by %2 pixels floats at %3, %4</source>
+        <comment>screen reader</comment>
+        <translation>Ein Stück von %1 mal %2 Pixeln schwebt bei %3, %4</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <comment>color</comment>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <comment>color</comment>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <comment>color</comment>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <comment>color</comment>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <comment>color</comment>
+        <translation>Türkis</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <comment>color</comment>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <comment>color</comment>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>pink</source>
+        <comment>color</comment>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <comment>color</comment>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <comment>color</comment>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <comment>color</comment>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <comment>color</comment>
+        <translation>Braun</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>
@@ -337,6 +447,11 @@
         <source>Paste</source>
         <comment>2.11.1;MENU</comment>
         <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>menu of the piece</comment>
+        <translation>Schwebendes Stück</translation>
     </message>
 </context>
 <context>
@@ -455,6 +570,27 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>Zeichnung %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_ScrollBar</name>
+    <message>
+        <source>Scroll sideways</source>
+        <comment>screen reader</comment>
+        <translation>Seitwärts rollen</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <comment>screen reader</comment>
+        <translation>Auf und ab rollen</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_Veil</name>
+    <message>
+        <source>Dimmed for a dialog</source>
+        <comment>screen reader</comment>
+        <translation>Abgedunkelt für einen Dialog</translation>
     </message>
 </context>
 <context>
@@ -729,7 +865,7 @@
         <translation>&amp;Ellipse</translation>
     </message>
     <message>
-        <source>E&amp;raser</source>
+        <source>Er&amp;aser</source>
         <comment>menu</comment>
         <translation>Ra&amp;dierer</translation>
     </message>
@@ -802,6 +938,61 @@
         <source>Menu</source>
         <comment>keys</comment>
         <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <comment>keys</comment>
+        <translation>Pfeile</translation>
+    </message>
+    <message>
+        <source>Move pen, piece</source>
+        <comment>keys</comment>
+        <translation>Stift, Teil bewegen</translation>
+    </message>
+    <message>
+        <source>Shift+arrows</source>
+        <comment>keys</comment>
+        <translation>Umschalt+Pfeile</translation>
+    </message>
+    <message>
+        <source>... by 10 pixels</source>
+        <comment>keys</comment>
+        <translation>... um 10 Pixel</translation>
+    </message>
+    <message>
+        <source>Draw while held</source>
+        <comment>keys</comment>
+        <translation>Gehalten zeichnen</translation>
+    </message>
+    <message>
+        <source>Pen down, up</source>
+        <comment>keys</comment>
+        <translation>Stift auf, ab</translation>
+    </message>
+    <message>
+        <source>Put piece down</source>
+        <comment>keys</comment>
+        <translation>Teil ablegen</translation>
+    </message>
+    <message>
+        <source>Alt+arrows</source>
+        <comment>keys</comment>
+        <translation>Alt+Pfeile</translation>
+    </message>
+    <message>
+        <source>Stretch piece</source>
+        <comment>keys</comment>
+        <translation>Teil dehnen</translation>
+    </message>
+    <message>
+        <source>Turn piece</source>
+        <comment>keys</comment>
+        <translation>Teil drehen</translation>
+    </message>
+    <message>
+        <source>End text</source>
+        <comment>keys</comment>
+        <translation>Text beenden</translation>
     </message>
 </context>
 <context>

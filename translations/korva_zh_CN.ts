@@ -18,6 +18,11 @@
         <comment>2.11.1;MENU</comment>
         <translation>粘贴</translation>
     </message>
+    <message>
+        <source>Drawing</source>
+        <comment>menu of the canvas</comment>
+        <translation>绘图</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ChooseCanvasDlg</name>
@@ -287,6 +292,111 @@
         <comment>WAIT_BOX</comment>
         <translation>正在打开图片</translation>
     </message>
+    <message>
+        <source>Drawing editor</source>
+        <comment>screen reader</comment>
+        <translation>绘图编辑器</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <comment>screen reader</comment>
+        <translation>绘图</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>screen reader</comment>
+        <translation>浮动部分</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <comment>screen reader</comment>
+        <translation>缩放 %1 %</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <comment>screen reader</comment>
+        <translation>%1 × %2 像素</translation>
+    </message>
+    <message>
+        <source>Pen down at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>画笔落在 %1, %2</translation>
+    </message>
+    <message>
+        <source>Pen at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>画笔在 %1, %2</translation>
+    </message>
+    <message>
+        <source>A text is open</source>
+        <comment>screen reader</comment>
+        <translation>正在输入文本</translation>
+    </message>
+    <message>
+        <source>A piece of %1 by %2 pixels floats at %3, %4</source>
+        <comment>screen reader</comment>
+        <translation>%1 × %2 像素的部分浮动在 %3, %4</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <comment>color</comment>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <comment>color</comment>
+        <translation>橙色</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <comment>color</comment>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <comment>color</comment>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <comment>color</comment>
+        <translation>青色</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <comment>color</comment>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <comment>color</comment>
+        <translation>紫色</translation>
+    </message>
+    <message>
+        <source>pink</source>
+        <comment>color</comment>
+        <translation>粉色</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <comment>color</comment>
+        <translation>黑色</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <comment>color</comment>
+        <translation>灰色</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <comment>color</comment>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <comment>color</comment>
+        <translation>棕色</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>
@@ -337,6 +447,11 @@
         <source>Paste</source>
         <comment>2.11.1;MENU</comment>
         <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>menu of the piece</comment>
+        <translation>浮动部分</translation>
     </message>
 </context>
 <context>
@@ -455,6 +570,27 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>绘图 %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_ScrollBar</name>
+    <message>
+        <source>Scroll sideways</source>
+        <comment>screen reader</comment>
+        <translation>水平滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <comment>screen reader</comment>
+        <translation>垂直滚动</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_Veil</name>
+    <message>
+        <source>Dimmed for a dialog</source>
+        <comment>screen reader</comment>
+        <translation>因对话框变暗</translation>
     </message>
 </context>
 <context>
@@ -729,7 +865,7 @@
         <translation>椭圆(&amp;E)</translation>
     </message>
     <message>
-        <source>E&amp;raser</source>
+        <source>Er&amp;aser</source>
         <comment>menu</comment>
         <translation>橡皮(&amp;A)</translation>
     </message>
@@ -802,6 +938,61 @@
         <source>Menu</source>
         <comment>keys</comment>
         <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Arrows</source>
+        <comment>keys</comment>
+        <translation>方向键</translation>
+    </message>
+    <message>
+        <source>Move pen, piece</source>
+        <comment>keys</comment>
+        <translation>移动笔、选片</translation>
+    </message>
+    <message>
+        <source>Shift+arrows</source>
+        <comment>keys</comment>
+        <translation>Shift+方向键</translation>
+    </message>
+    <message>
+        <source>... by 10 pixels</source>
+        <comment>keys</comment>
+        <translation>……每次 10 像素</translation>
+    </message>
+    <message>
+        <source>Draw while held</source>
+        <comment>keys</comment>
+        <translation>按住绘图</translation>
+    </message>
+    <message>
+        <source>Pen down, up</source>
+        <comment>keys</comment>
+        <translation>落笔、抬笔</translation>
+    </message>
+    <message>
+        <source>Put piece down</source>
+        <comment>keys</comment>
+        <translation>放下选片</translation>
+    </message>
+    <message>
+        <source>Alt+arrows</source>
+        <comment>keys</comment>
+        <translation>Alt+方向键</translation>
+    </message>
+    <message>
+        <source>Stretch piece</source>
+        <comment>keys</comment>
+        <translation>拉伸选片</translation>
+    </message>
+    <message>
+        <source>Turn piece</source>
+        <comment>keys</comment>
+        <translation>旋转选片</translation>
+    </message>
+    <message>
+        <source>End text</source>
+        <comment>keys</comment>
+        <translation>结束文字</translation>
     </message>
 </context>
 <context>

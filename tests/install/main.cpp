@@ -1,7 +1,11 @@
 #include <KORVA_Canvas.h>
 #include <KORVA_Pen.h>
+#include <KORVA_Translations.h>
 
+#include <QAction>
 #include <QApplication>
+#include <QLocale>
+#include <QMenu>
 #include <QMouseEvent>
 
 #include <cstdio>
@@ -41,5 +45,11 @@ int main(int argc, char** argv)
         return 1;
 
     canvas.undo();
-    return hasColor(canvas, {20, 15}, Qt::white) ? 0 : 1;
+    if (!hasColor(canvas, {20, 15}, Qt::white))
+        return 1;
+
+    if (!KORVA_Translations::load(QLocale("de")))
+        return 2; // its languages did not come with it
+    const KORVA_Canvas german(nullptr, 40, 30);
+    return german.contextMenu()->actions().at(0)->text() == "Ausschneiden" ? 0 : 3;
 }

@@ -26,6 +26,7 @@ foreach(pattern
         share/icons/hicolor/48x48/apps/korva-pad.png
         share/icons/hicolor/scalable/apps/korva-pad.svg
         share/korva/demo.rec
+        share/korva/translations/korva_de.qm
         share/man/man1/korva-pad.1
         share/man/man1/korva-preview.1
         share/metainfo/org.korva.pad.metainfo.xml)
@@ -35,6 +36,27 @@ foreach(pattern
     if(NOT direct AND NOT nested)
         message(FATAL_ERROR "${pattern} is not installed")
     endif()
+endforeach()
+
+# Each language's file, as it is in the sources; and the desktop's texts in each.
+file(GLOB sources RELATIVE ${source}/translations ${source}/translations/korva_*.ts)
+list(TRANSFORM sources REPLACE "ts$" "qm")
+file(GLOB languages RELATIVE ${prefix}/share/korva/translations ${prefix}/share/korva/translations/*)
+list(SORT sources)
+list(SORT languages)
+if(NOT "${sources}" STREQUAL "${languages}")
+    message(FATAL_ERROR "languages are\n${sources}\ninstalled are\n${languages}")
+endif()
+foreach(language IN LISTS languages)
+    string(REGEX REPLACE "korva_(.*)\\.qm" "\\1" code ${language})
+    foreach(wanted "applications/korva-pad.desktop;Comment\\[${code}\\]=."
+            "metainfo/org.korva.pad.metainfo.xml;<p xml:lang=\"${code}\">.")
+        list(POP_FRONT wanted file)
+        file(STRINGS ${prefix}/share/${file} lines REGEX "${wanted}")
+        if(NOT lines AND NOT code STREQUAL "en")
+            message(FATAL_ERROR "${file} has nothing in ${code}")
+        endif()
+    endforeach()
 endforeach()
 
 step(desktop-file-validate ${prefix}/share/applications/korva-pad.desktop)

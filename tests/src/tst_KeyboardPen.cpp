@@ -393,7 +393,7 @@ void tst_KeyboardPen::letsGoWhenTheFocusGoes()
 
 void tst_KeyboardPen::givesWayToThePointer()
 {
-    Person keys;
+    Person keys(Line);
     keys.canvas().setKeyboardDrawing(true);
     keys.walkTo(start);
     keys.tap(Qt::Key_Return);
@@ -403,7 +403,7 @@ void tst_KeyboardPen::givesWayToThePointer()
     keys.tap(Qt::Key_Right);
     QCOMPARE(keys.pen(), QPoint(91, 100));
 
-    Person mouse;
+    Person mouse(Line);
     mouse.drag({{Qt::Key_Right, 3, true}});
     Gestures(mouse.canvas()).drag({{70, 80}, {90, 100}});
     QVERIFY(sameDrawing(keys, mouse));
@@ -714,6 +714,7 @@ void tst_KeyboardPen::aPieceIsMerged()
     keys.walkTo(start);
     for (Person* person : {&keys, &mouse})
         person->canvas().setSelection(QRect(10, 10, 40, 40));
+    Gestures(keys.canvas()).hover({48, 30}); // where the mouse would stretch it
     keys.down(Qt::Key_Space);
     keys.walk({{Qt::Key_Right, 7, true}});
     keys.up(Qt::Key_Space);

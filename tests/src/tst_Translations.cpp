@@ -1,42 +1,12 @@
 #include "KORVA_Canvas.h"
-#include "KORVA_ChooseCanvasDlg.h"
-#include "KORVA_ColorPicker.h"
 #include "KORVA_EditCanvas.h"
-#include "KORVA_PasteLabel.h"
 #include "KORVA_Translations.h"
-#include "UTIL_PictureDialog.h"
-#include "UTIL_Platform.h"
-#include "UTIL_Skin.h"
-#include "support/Modal.h"
+#include "support/Languages.h"
 #include "support/TestCase.h"
 
-#include <memory>
+using support::Message;
 
 namespace {
-
-using Size = UTIL_Skin::Size;
-
-constexpr QSize screen(Size::screenWidth, Size::screenHeight);
-/// The languages that have a file.
-const QStringList& languages()
-{
-    static const QStringList codes = [] {
-        QStringList found = QDir(KORVA_SOURCE_DIR "/translations").entryList({"korva_*.ts"}, QDir::Files);
-        for (QString& name : found)
-            name = name.mid(int(qstrlen("korva_"))).chopped(int(qstrlen(".ts")));
-        return found;
-    }();
-    return codes;
-}
-
-struct Message
-{
-    QString context = {};
-    QString source = {};
-    QString comment = {};
-    QString translation = {};
-    bool finished = true;
-};
 
 QByteArray contents(const QString& path)
 {
@@ -44,147 +14,116 @@ QByteArray contents(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString sourceOf(const QString& language)
+QStringList matches(const char* pattern, const QString& text)
 {
-    return QString(KORVA_SOURCE_DIR "/translations/korva_%1.ts").arg(language);
-}
-
-QList<Message> messagesIn(const QString& path)
-{
-    QXmlStreamReader xml(contents(path));
-    QList<Message> all;
-    QString context;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        const QStringView name = xml.name();
-        if (name == u"name") {
-            context = xml.readElementText();
-        } else if (name == u"message") {
-            all << Message{.context = context};
-        } else if (name == u"source") {
-            all.last().source = xml.readElementText();
-        } else if (name == u"comment") {
-            all.last().comment = xml.readElementText();
-        } else if (name == u"translation") {
-            all.last().finished = !xml.attributes().hasAttribute("type");
-            all.last().translation = xml.readElementText();
-        }
-    }
-    return all;
-}
-
-/// The places where a translation must hold what the text has.
-QStringList placeholders(const QString& text)
-{
-    static const QRegularExpression place("%\\d");
     QStringList found;
-    for (const QRegularExpressionMatch& match : place.globalMatch(text))
+    for (const QRegularExpressionMatch& match :
+         QRegularExpression(pattern, QRegularExpression::UseUnicodePropertiesOption).globalMatch(text))
         found << match.captured();
     found.sort();
     return found;
 }
 
-// --- What of a window's texts cannot be seen whole
-
-bool isCutOff(const QLabel& label)
+/// What is wrong with one text of a translation; empty: nothing.
+QString fault(const Message& message, const QString& translation)
 {
-    const QFontMetrics metrics = label.fontMetrics();
-    if (!label.inherits("UTIL_WrapLabel"))
-        return metrics.size(0, label.text()).width() > label.contentsRect().width() ||
-               metrics.height() > label.contentsRect().height();
-    bool aWordIsBroken = false;
-    static const QRegularExpression betweenWords("[\\s\\p{Han}]+"); // a Chinese letter stands for itself
-    for (const QString& word : label.text().split(betweenWords))
-        aWordIsBroken |= metrics.horizontalAdvance(word) > label.contentsRect().width();
-    return aWordIsBroken || !label.toolTip().isEmpty() ||
-           label.heightForWidth(label.width()) > label.height();
+    if (translation.trimmed().isEmpty())
+        return "is not translated";
+    const auto blanks = [](const QString& text) { return matches("\\A\\s+|\\s+\\z", text); };
+    if (blanks(translation) != blanks(message.source))
+        return "has other blanks at its ends";
+    const bool mayLeaveOut = message.translations.size() > 1; // "one color"
+    constexpr auto places = "%L?[n\\d]";
+    const QStringList wanted = matches(places, message.source);
+    const QStringList found = matches(places, translation);
+    if (found != wanted && !(mayLeaveOut && found.isEmpty()))
+        return "has other places for what is put in";
+    // A letter of a word that is written joined cannot be underlined alone: it stands behind the text.
+    if (matches("&[\\p{Arabic}\\p{Devanagari}\\p{Thai}]", translation).size() > 0)
+        return "tears a word apart";
+    constexpr auto letters = "&\\w";
+    if (translation.count('&') != message.source.count('&') ||
+        matches(letters, translation).size() != matches(letters, message.source).size())
+        return "has other letters that choose it";
+    if (message.source.endsWith(" ...") != translation.endsWith(" ..."))
+        return "does not tell of the dialog behind it";
+    if (message.comment.startsWith("Keywords") && !translation.endsWith(';'))
+        return "does not end";
+    return {};
 }
 
-bool isCutOff(const QComboBox& box)
+QStringList faultsOf(const QString& language)
 {
-    const int room = box.width() - 3 * Size::keyPadding - 2 * Size::chevron;
-    for (int i = 0; i < box.count(); ++i)
-        if (box.fontMetrics().horizontalAdvance(box.itemText(i)) > room)
-            return true;
-    return false;
+    QStringList faults;
+    QSet<QString> cancels;
+    for (const Message& message : support::messagesOf(language)) {
+        const auto note = [&](const QString& what) {
+            if (!what.isEmpty())
+                faults << QString("%1: '%2' (%3) %4")
+                              .arg(message.context, message.source, message.comment, what);
+        };
+        if (!message.isFinished)
+            note("is unfinished");
+        if (message.comment.isEmpty())
+            note("has no comment");
+        for (const QString& translation : message.translations)
+            note(fault(message, translation));
+        if (message.source == "Cancel")
+            cancels += message.translations.value(0);
+    }
+    if (cancels.size() > 1) // a box finds the key that Escape means by its word
+        faults << "several words for Cancel: " + cancels.values().join(", ");
+    return faults;
 }
 
-bool isCutOff(const QListWidget& list)
+/// A folder with languages that nobody has translated.
+class Folder
 {
-    constexpr int fieldLeft = 30; // behind the radio mark
-    constexpr int fieldWidth = 189;
-    const int room = std::min(fieldWidth, list.viewport()->width() - fieldLeft);
-    for (int i = 0; i < list.count(); ++i)
-        if (list.fontMetrics().horizontalAdvance(list.item(i)->text()) > room)
-            return true;
-    return false;
-}
+public:
+    void add(const QString& language, const QString& cut)
+    {
+        const QString source = m_folder.filePath("source.ts");
+        QFile file(source);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QString("<TS version='2.1' language='%1'><context><name>KORVA_Canvas</name><message>"
+                           "<source>Cut</source><comment>2.11.1;MENU</comment><translation>%2</translation>"
+                           "</message></context></TS>")
+                       .arg(language, cut)
+                       .toUtf8());
+        file.close();
+        QCOMPARE(QProcess::execute("/usr/lib/qt6/bin/lrelease", {"-silent", source, "-qm", path(language)}),
+                 0);
+    }
+    void addBroken(const QString& language, const QByteArray& bytes)
+    {
+        QFile file(path(language));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    [[nodiscard]] QString path(const QString& language) const
+    {
+        return m_folder.filePath("korva_" + language + ".qm");
+    }
+    [[nodiscard]] QString name() const { return m_folder.path(); }
 
-QStringList cutOffIn(const QWidget& window)
-{
-    QStringList cut;
-    const auto look = [&](const QWidget* widget, bool tooSmall, const QString& text) {
-        const QRect place(widget->mapTo(&window, QPoint()), widget->size());
-        if (widget->isVisible() && (tooSmall || !window.rect().contains(place)))
-            cut << QString("%1 '%2'").arg(widget->metaObject()->className(), text);
-    };
-    for (const auto* label : window.findChildren<QLabel*>())
-        if (!label->text().isEmpty())
-            look(label, isCutOff(*label), label->text());
-    for (const auto* button : window.findChildren<QAbstractButton*>())
-        if (!button->text().isEmpty())
-            look(button, button->sizeHint().width() > button->width(), button->text());
-    for (const auto* box : window.findChildren<QComboBox*>())
-        look(box, isCutOff(*box), box->currentText());
-    for (const auto* list : window.findChildren<QListWidget*>())
-        look(list, isCutOff(*list), list->accessibleName());
-    if (window.width() > screen.width() || window.height() > screen.height())
-        cut << "the window itself";
-    return cut;
-}
-
-bool holdsTexts(const QWidget& window)
-{
-    return !window.findChildren<QAbstractButton*>().isEmpty();
-}
-
-// --- The library's windows
-
-struct WindowRow
-{
-    const char* name;
-    std::unique_ptr<QWidget> (*create)(QWidget* parent);
+private:
+    QTemporaryDir m_folder;
 };
 
-const WindowRow windows[] = {
-    {"editor",
-     [](QWidget* parent) -> std::unique_ptr<QWidget> {
-         return std::make_unique<KORVA_EditCanvas>(KORVA_COLOR_16BIT, parent);
-     }},
-    {"color picker",
-     [](QWidget* parent) -> std::unique_ptr<QWidget> {
-         return std::make_unique<KORVA_ColorPicker>(KORVA_COLOR_16BIT, Qt::red, parent);
-     }},
-    {"canvas sizes",
-     [](QWidget* parent) -> std::unique_ptr<QWidget> {
-         return std::make_unique<KORVA_ChooseCanvasDlg>(parent, 3);
-     }},
-    {"open dialog",
-     [](QWidget* parent) -> std::unique_ptr<QWidget> {
-         return std::unique_ptr<QWidget>(
-             UTIL_Platform::instance()->createPickDialog(parent, QDir::tempPath(), {"*.png"}));
-     }},
-    {"save dialog",
-     [](QWidget* parent) -> std::unique_ptr<QWidget> {
-         return std::unique_ptr<QWidget>(
-             UTIL_Platform::instance()->createSaveDialog(parent, QDir::tempPath(), {"*.png"}));
-     }},
-};
+QString cut()
+{
+    const KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    return editor.canvas()->contextMenu()->actions().at(0)->text();
+}
+
+/// What is there of a language that has a file; else English.
+QString orEnglish(const QString& language)
+{
+    return support::languages().contains(language) ? language : "en";
+}
 
 } // namespace
 
-/// The library's texts in the languages that it brings.
+/// The languages' sources, and how the library finds a language.
 class tst_Translations : public support::TestCase
 {
     Q_OBJECT
@@ -192,46 +131,30 @@ class tst_Translations : public support::TestCase
 private slots:
     void cleanup() { KORVA_Translations::unload(); }
 
-    void sourcesHoldEveryText_data();
+    void sourcesHoldEveryText_data() { support::addLanguages(); }
     void sourcesHoldEveryText();
-    void everyTextIsTranslated_data();
+    void everyTextIsTranslated_data() { support::addLanguages(); }
     void everyTextIsTranslated();
+    void faultsAreNoticed_data();
+    void faultsAreNoticed();
+    void aLanguageIsBegunWithItsFile();
 
     void nothingIsTranslatedUnasked();
     void loadFindsTheLanguage_data();
     void loadFindsTheLanguage();
     void loadingReplacesAndUnloadLeavesNothing();
-
-    void textsInWindowsAreWhole_data();
-    void textsInWindowsAreWhole();
-    void textsInBoxesAreWhole_data();
-    void textsInBoxesAreWhole();
-    void menusFitTheScreen_data();
-    void menusFitTheScreen();
-    void cutOffTextsAreNoticed();
-
-private:
-    static void addLanguages();
+    void allLanguagesAreFound();
+    void theNearestOfSeveralIsTaken();
+    void whatCannotBeReadIsEnglish_data();
+    void whatCannotBeReadIsEnglish();
 };
-
-void tst_Translations::addLanguages()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString& language : languages())
-        QTest::newRow(language.toUtf8()) << language;
-}
-
-void tst_Translations::sourcesHoldEveryText_data()
-{
-    addLanguages();
-}
 
 void tst_Translations::sourcesHoldEveryText()
 {
     QFETCH(const QString, language);
     const QTemporaryDir folder;
-    const QString copy = folder.filePath(QFileInfo(sourceOf(language)).fileName());
-    QVERIFY(QFile::copy(sourceOf(language), copy));
+    const QString copy = folder.filePath(QFileInfo(support::sourceFile(language)).fileName());
+    QVERIFY(QFile::copy(support::sourceFile(language), copy));
     QProcess update;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("KORVA_TRANSLATIONS", folder.path());
@@ -239,59 +162,92 @@ void tst_Translations::sourcesHoldEveryText()
     update.start(KORVA_SOURCE_DIR "/translations/update", {language});
     QVERIFY(update.waitForFinished());
     QCOMPARE(update.readAllStandardError(), QByteArray());
-    QCOMPARE(contents(copy), contents(sourceOf(language))); // else: run translations/update
-}
-
-void tst_Translations::everyTextIsTranslated_data()
-{
-    addLanguages();
+    QCOMPARE(contents(copy), contents(support::sourceFile(language))); // else: run translations/update
 }
 
 void tst_Translations::everyTextIsTranslated()
 {
     QFETCH(const QString, language);
-    const QList<Message> messages = messagesIn(sourceOf(language));
-    QVERIFY(messages.size() > 50);
-    for (const Message& message : messages) {
-        const QByteArray what = (message.context + ": " + message.source).toUtf8();
-        QVERIFY2(message.finished && !message.translation.isEmpty(), what);
-        QVERIFY2(!message.comment.isEmpty(), what);
-        QCOMPARE(placeholders(message.translation), placeholders(message.source));
-    }
+    QVERIFY(language == "en" || support::messagesOf(language).size() > 200);
+    QCOMPARE(faultsOf(language).join("\n"), QString());
+}
+
+void tst_Translations::faultsAreNoticed_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("translation");
+    QTest::addColumn<QString>("what");
+    const auto row = [](const char* source, const char* translation, const char* what) {
+        QTest::newRow(what) << QString(source) << QString(translation) << QString(what);
+    };
+    row("Save", " ", "is not translated");
+    row("Save", "Speichern ", "has other blanks at its ends");
+    row("%1 of %2", "%1 von %1", "has other places for what is put in");
+    row("&Save", "Speichern", "has other letters that choose it");
+    row("&Save", "ح&فظ", "tears a word apart");
+    row("&Open ...", "Ö&ffnen", "does not tell of the dialog behind it");
+}
+
+void tst_Translations::faultsAreNoticed()
+{
+    QFETCH(const QString, source);
+    QFETCH(const QString, translation);
+    QFETCH(const QString, what);
+    const Message message{.source = source, .comment = "menu", .translations = {translation}};
+    QCOMPARE(fault(message, translation), what);
+    QCOMPARE(fault(message, source), QString());
+}
+
+void tst_Translations::aLanguageIsBegunWithItsFile()
+{
+    const QTemporaryDir folder;
+    QProcess update;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("KORVA_TRANSLATIONS", folder.path());
+    update.setProcessEnvironment(environment);
+    update.start(KORVA_SOURCE_DIR "/translations/update", {"cy"});
+    QVERIFY(update.waitForFinished() && update.exitCode() == 0);
+    const QByteArray begun = contents(folder.filePath("korva_cy.ts"));
+    QCOMPARE(begun.count("<source>"), contents(support::sourceFile("de")).count("<source>"));
+    QCOMPARE(begun.count("type=\"unfinished\""), begun.count("<source>"));
 }
 
 void tst_Translations::nothingIsTranslatedUnasked()
 {
     QLocale::setDefault(QLocale("de_DE"));
     const auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::system()); });
-    const KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
-    QCOMPARE(editor.canvas()->contextMenu()->actions().at(0)->text(), "Cut");
+    QCOMPARE(cut(), "Cut");
 }
 
 void tst_Translations::loadFindsTheLanguage_data()
 {
-    QTest::addColumn<bool>("known");
-    QTest::addColumn<QString>("cut");
-    const auto row = [](const char* locale, bool known, const char* cut) {
-        QTest::newRow(locale) << known << QString(cut);
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<bool>("isKnown");
+    const auto row = [](const char* locale, const QString& language, bool isKnown = true) {
+        QTest::newRow(locale) << language << isKnown;
     };
-    row("de_DE", true, "Ausschneiden");
-    row("de_AT", true, "Ausschneiden");
-    row("zh_CN", true, "剪切");
-    row("zh_SG", true, "剪切");
-    row("zh_TW", false, "Cut"); // reads the traditional letters
-    row("en_GB", true, "Cut");
-    row("C", true, "Cut");
-    row("fr_FR", false, "Cut");
+    row("de_DE", "de");
+    row("de_AT", "de");
+    row("zh_CN", "zh_CN");
+    row("zh_SG", "zh_CN");
+    for (const char* traditional : {"zh_TW", "zh_HK"}) // never the simplified letters
+        row(traditional, orEnglish("zh_TW"), orEnglish("zh_TW") != "en");
+    row("pt_BR", orEnglish("pt"), orEnglish("pt") != "en");
+    row("en_GB", "en");
+    row("C", "en");
+    row("nb_NO", "en", false); // its neighbours' languages are not its own
+    row("cy_GB", "en", false);
 }
 
 void tst_Translations::loadFindsTheLanguage()
 {
-    QFETCH(const bool, known);
-    QFETCH(const QString, cut);
-    QCOMPARE(KORVA_Translations::load(QLocale(QTest::currentDataTag())), known);
-    const KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
-    QCOMPARE(editor.canvas()->contextMenu()->actions().at(0)->text(), cut);
+    QFETCH(const QString, language);
+    QFETCH(const bool, isKnown);
+    QCOMPARE(KORVA_Translations::load(QLocale(QTest::currentDataTag())), isKnown);
+    QCOMPARE(KORVA_Translations::language(), language);
+    const QHash<QString, QString> words{{"de", "Ausschneiden"}, {"zh_CN", "剪切"}, {"en", "Cut"}};
+    if (words.contains(language))
+        QCOMPARE(cut(), words.value(language));
 }
 
 void tst_Translations::loadingReplacesAndUnloadLeavesNothing()
@@ -300,7 +256,7 @@ void tst_Translations::loadingReplacesAndUnloadLeavesNothing()
     QVERIFY(KORVA_Translations::load(QLocale("zh_CN")));
     QVERIFY(KORVA_Translations::load(QLocale("de_DE")));
     QCOMPARE(KORVA_EditCanvas::tr("No", "2.11.2.3;SOFTKEY_2BUTTON"), "Nein");
-    QVERIFY(!KORVA_Translations::load(QLocale("fr_FR")));
+    QVERIFY(!KORVA_Translations::load(QLocale("cy_GB")));
     QCOMPARE(KORVA_EditCanvas::tr("No", "2.11.2.3;SOFTKEY_2BUTTON"), "No");
     QVERIFY(KORVA_Translations::load(QLocale("de_DE")));
     KORVA_Translations::unload();
@@ -309,104 +265,64 @@ void tst_Translations::loadingReplacesAndUnloadLeavesNothing()
     QCOMPARE(qApp->children(), before);
 }
 
-void tst_Translations::textsInWindowsAreWhole_data()
+void tst_Translations::allLanguagesAreFound()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("window");
-    for (const QString& language : languages() + QStringList{"en"})
-        for (int i = 0; i < int(std::size(windows)); ++i)
-            QTest::addRow("%s in %s", windows[i].name, qPrintable(language)) << language << i;
-}
-
-void tst_Translations::textsInWindowsAreWhole()
-{
-    QFETCH(const QString, language);
-    QFETCH(const int, window);
-    QVERIFY(KORVA_Translations::load(QLocale(language)));
-    QWidget parent;
-    parent.resize(screen);
-    parent.show();
-    const std::unique_ptr<QWidget> shown = windows[window].create(&parent);
-    shown->show();
-    QVERIFY(holdsTexts(*shown));
-    QCOMPARE(cutOffIn(*shown), QStringList());
-}
-
-void tst_Translations::textsInBoxesAreWhole_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("text");
-    for (const QString& language : languages())
-        for (const Message& message : messagesIn(sourceOf(language)))
-            if (message.comment.contains("DIALOG_ICON") || message.comment.contains("FORM_CONTEXT"))
-                QTest::addRow("%s: %s", qPrintable(language), qPrintable(message.source))
-                    << language << message.translation;
-}
-
-void tst_Translations::textsInBoxesAreWhole()
-{
-    QFETCH(const QString, language);
-    QFETCH(const QString, text);
-    QVERIFY(KORVA_Translations::load(QLocale(language)));
-    QWidget parent;
-    parent.resize(screen);
-    parent.show();
-    const QStringList buttons = {KORVA_EditCanvas::tr("OK", "2.11.2.1;SOFTKEY_2BUTTON"),
-                                 KORVA_EditCanvas::tr("Cancel", "2.11.2.1;SOFTKEY_2BUTTON")};
-    QStringList cut;
-    bool hasTexts = false;
-    support::whenOpen([&](QDialog& dialog) {
-        hasTexts = holdsTexts(dialog) && support::labels(dialog).contains(text);
-        cut = cutOffIn(dialog);
-        dialog.reject(); // means "Cancel", in whatever language
-    });
-    QCOMPARE(UTIL_Platform::instance()->question(&parent, "Dialog_Error.gif", text, buttons), 1);
-    QVERIFY(hasTexts);
-    QCOMPARE(cut, QStringList());
-}
-
-void tst_Translations::menusFitTheScreen_data()
-{
-    addLanguages();
-}
-
-void tst_Translations::menusFitTheScreen()
-{
-    QFETCH(const QString, language);
-    QVERIFY(KORVA_Translations::load(QLocale(language)));
-    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
-    const auto fits = [](const QMenu* menu) {
-        const QSize size = menu->sizeHint();
-        return !menu->isEmpty() && size.width() <= screen.width() && size.height() <= screen.height();
-    };
-    constexpr int lastTool = 6;
-    QVERIFY(fits(editor.canvas()->contextMenu()));
-    QVERIFY(fits(editor.canvas()->pasteLabel()->menu()));
-    QVERIFY(fits(editor.findChild<QPushButton*>("toolButton")->menu()));
-    for (int tool = 0; tool <= lastTool; ++tool) {
-        editor.loadToolOptions(tool);
-        QVERIFY(fits(editor.findChild<QPushButton*>("optionButton")->menu()));
+    QStringList languages = support::languages();
+    languages.sort();
+    QCOMPARE(KORVA_Translations::languages(), languages);
+    for (const QString& language : languages) {
+        QVERIFY(KORVA_Translations::load(QLocale(language)));
+        QCOMPARE(KORVA_Translations::language(), language);
     }
 }
 
-void tst_Translations::cutOffTextsAreNoticed()
+void tst_Translations::theNearestOfSeveralIsTaken()
 {
-    QWidget window;
-    window.resize(screen);
-    auto* label = new QLabel("Ein Text, der viel zu lang ist", &window);
-    label->setGeometry(10, 10, 60, 20);
-    auto* button = new QPushButton("Ein Knopf, der viel zu schmal ist", &window);
-    button->setGeometry(10, 40, 60, 30);
-    auto* outside = new QLabel("Halb", &window);
-    outside->setGeometry(220, 100, 60, 20);
-    window.show();
-    QCOMPARE(cutOffIn(window).size(), 3);
-    QString text = "Ein Satz von vielen Worten ";
-    support::whenOpen([](QDialog& dialog) {
-        QCOMPARE(cutOffIn(dialog).size(), 1);
-        dialog.reject();
-    });
-    (void)UTIL_Platform::instance()->question(&window, "", text.repeated(30), {"Cancel"});
+    Folder own;
+    own.add("sw", "Kata");
+    own.add("sw_KE", "Kata Kenya");
+    own.add("sw_CD", "Kata Kongo");
+    KORVA_Translations::addFolder(own.name());
+    const auto loaded = [](const char* locale) {
+        return KORVA_Translations::load(QLocale(locale)) ? cut() : QString();
+    };
+    QCOMPARE(loaded("sw_KE"), "Kata Kenya");
+    QCOMPARE(loaded("sw_CD"), "Kata Kongo");
+    QCOMPARE(loaded("sw_UG"), "Kata");
+    QVERIFY(KORVA_Translations::languages().contains("sw_CD"));
+
+    Folder later;
+    later.add("sw_KE", "Kata tena");
+    later.add("de", "Schneiden");
+    KORVA_Translations::addFolder(later.name());
+    QCOMPARE(loaded("sw_KE"), "Kata tena");
+    QCOMPARE(loaded("de_DE"), "Schneiden");
+    QVERIFY(QFile::remove(later.path("de")));
+    QCOMPARE(loaded("de_DE"), "Ausschneiden");
+    QVERIFY(QFile::remove(own.path("sw_CD")));
+    QCOMPARE(loaded("sw_CD"), "Kata");
+}
+
+void tst_Translations::whatCannotBeReadIsEnglish_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("anything") << QByteArray("not a language at all, but long enough to be looked at");
+    Folder whole;
+    whole.add("cy", "Torri");
+    QTest::newRow("a part") << contents(whole.path("cy")).chopped(20);
+}
+
+void tst_Translations::whatCannotBeReadIsEnglish()
+{
+    QFETCH(const QByteArray, bytes);
+    Folder folder;
+    folder.addBroken("cy", bytes);
+    KORVA_Translations::addFolder(folder.name());
+    KORVA_Translations::addFolder(folder.name() + "/is not there");
+    QVERIFY(!KORVA_Translations::load(QLocale("cy_GB")));
+    QCOMPARE(KORVA_Translations::language(), "en");
+    QCOMPARE(cut(), "Cut");
 }
 
 int main(int argc, char** argv)
