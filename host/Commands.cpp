@@ -4,6 +4,7 @@
 #include "EditCommand.h"
 #include "KeysDialog.h"
 #include "MenuStyle.h"
+#include "PadTools.h"
 #include "Recovery.h"
 #include "Settings.h"
 #include "Wording.h"
@@ -143,6 +144,10 @@ void Commands::addEntries()
          KORVA_TOOL_SELECT},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Hand", "menu"), "H", Needs::Nothing, tool,
          KORVA_TOOL_HAND},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Fill", "menu"), "F", Needs::Nothing, tool,
+         padtools::Fill},
+        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "Pic&k color", "menu"), "K", Needs::Nothing, tool,
+         padtools::Picker},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Color ...", "menu"), "C", Needs::Nothing,
          [](C& c, int) { c.m_editor.slotColor(); }},
 

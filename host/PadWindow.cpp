@@ -3,6 +3,7 @@
 #include "Accessible.h"
 #include "Commands.h"
 #include "Documents.h"
+#include "PadTools.h"
 #include "PopupFence.h"
 #include "StatusLine.h"
 #include "Theme.h"
@@ -34,6 +35,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
       m_contextKey(addKey(QString()))
 {
     installAccessibility();
+    padtools::addTo(*m_editor);
     setMinimumSize(theme::window.size());
     resize(theme::window.size());
     arrange();

@@ -1,6 +1,7 @@
 #include "Recording.h"
 
 #include "KeyName.h"
+#include "PadTools.h"
 #include "RecordingLine.h"
 
 #include <KORVA_EditCanvas.h>
@@ -91,8 +92,8 @@ QString writeName(const Command& command)
 
 bool readTool(const QString& word, Command& command)
 {
-    for (command.number = 0; !KORVA_EditCanvas::toolWord(command.number).isEmpty(); ++command.number) {
-        if (KORVA_EditCanvas::toolWord(command.number) == word)
+    for (command.number = 0; !padtools::word(command.number).isEmpty(); ++command.number) {
+        if (padtools::word(command.number) == word)
             return true;
     }
     return false;
@@ -100,7 +101,7 @@ bool readTool(const QString& word, Command& command)
 
 QString writeTool(const Command& command)
 {
-    return KORVA_EditCanvas::toolWord(command.number);
+    return padtools::word(command.number);
 }
 
 bool readButton(const QString& word, Command& command)

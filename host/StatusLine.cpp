@@ -134,7 +134,7 @@ void StatusLine::refresh()
     const QSize size = pictureSize();
     const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
     const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
-    fill(m_tool, KORVA_EditCanvas::toolName(m_editor.canvas()->getCurrentToolID()));
+    fill(m_tool, m_editor.nameOfTool(m_editor.canvas()->getCurrentToolID()));
     fill(m_size, sizeText(size));
     fill(m_zoom, zoomText(zoom.percent()));
     fill(m_position, m_isOver || pen ? positionText(at) : QString());
