@@ -221,8 +221,8 @@ public:
     /// Whether the picture can be read as `format` and has no more than UTIL_Platform::pixelLimit() pixels.
     /// If not, the user is told. With null the file's content decides the format.
     bool isPicSizeNotOver(const QString& name, const char* format);
-    /// Reads a picture at its own size. Returns false, and a null image, if it cannot be read. Shows
-    /// nothing.
+    /// Reads a picture at its own size. Returns false, and leaves the image alone, if it cannot be read.
+    /// Shows nothing.
     bool getImage(QImage* image, const QString& name);
     /// Converts an image in place to what the canvas works on, and gives it as a pixmap. If it has more
     /// pixels than 352 × 288 it is scaled to fit within; transparent parts become white. It gets 16 bits;
