@@ -36,8 +36,8 @@ public:
     /// The tool of an identifier, 0 to 7; null for any other.
     [[nodiscard]] KORVA_Tool* tool(int id) const;
 
-    /// Makes the library's own tools anew, which ends whatever they were in the middle of, and everything
-    /// else as the constructor does. The old tools live until control is back in the event loop.
+    /// Makes the library's own tools again, which ends whatever they were doing, and sets everything else
+    /// as the constructor does. The old tools live until control is back in the event loop.
     void reset();
 
 public slots:
