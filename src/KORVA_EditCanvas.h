@@ -321,6 +321,7 @@ protected:
     /// Gives the main view what the editor has beyond 240 × 225 pixels. If "Fit to page" is chosen, fits
     /// the picture again, unless a piece floats or a text is typed.
     void resizeEvent(QResizeEvent* event) override;
+    /// Mirrors the controls when the layout direction changes.
     void changeEvent(QEvent* event) override;
 
 private:
