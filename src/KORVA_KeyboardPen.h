@@ -82,8 +82,8 @@ private:
     KORVA_PenMark* m_mark; // owned by the canvas
     QPointer<QWidget> m_pressed;
     State m_state = Lifted;
-    QPoint m_at;    ///< canvas widget coordinates
-    QPoint m_place; ///< the same in the picture, which stays when the zoom changes
+    QPoint m_at;                  ///< canvas widget coordinates
+    QPoint m_place;               ///< the same in the picture, which stays when the zoom changes
     std::optional<QPoint> m_told; ///< of the place
     bool m_toldDown = false;
     bool m_isEnabled = false;
