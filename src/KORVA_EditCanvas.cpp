@@ -15,6 +15,7 @@
 #include "KORVA_Text.h"
 #include "KORVA_ToolBar.h"
 #include "KORVA_ToolChoice.h"
+#include "KORVA_ToolSet.h"
 #include "KORVA_TouchInput.h"
 #include "KORVA_ZoomChoice.h"
 #include "UTIL_Skin.h"
@@ -56,9 +57,10 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
 {
     setObjectName(name);
     setPalette(UTIL_Skin::palette());
-    m_toolBar = std::make_unique<KORVA_ToolBar>(*this);
+    m_tools = std::make_unique<KORVA_ToolSet>();
+    m_toolBar = std::make_unique<KORVA_ToolBar>(*this, *m_tools);
     m_toolBar->showColor(m_color);
-    m_toolChoice = std::make_unique<KORVA_ToolChoice>(*this, *m_toolBar);
+    m_toolChoice = std::make_unique<KORVA_ToolChoice>(*this, *m_toolBar, *m_tools);
     m_zoomChoice = std::make_unique<KORVA_ZoomChoice>(*this, m_toolBar->zoomBox());
     m_mainView = new KORVA_MainView(this);
     m_mainView->setFocusPolicy(Qt::StrongFocus);

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "KORVA_Export.h"
+#include "KORVA_ToolOption.h"
 #include "KORVA_Types.h"
 
 #include <QColor>
+#include <QList>
 #include <QWidget>
 
 #include <memory>
@@ -13,8 +15,10 @@ class KORVA_Documents;
 class KORVA_MainView;
 class KORVA_Manager;
 class KORVA_Text;
+class KORVA_Tool;
 class KORVA_ToolBar;
 class KORVA_ToolChoice;
+class KORVA_ToolSet;
 class KORVA_ZoomChoice;
 
 /// The one widget that a host embeds to have a picture edited. It has tool, option, zoom and colour
@@ -83,7 +87,7 @@ public:
 
     // --- Choosing: what a person does in the controls, with the same effects ---
     /// Commits typed text, merges a floating piece and makes a tool current, in the option that was last
-    /// chosen for it. `tool` is a KORVA_TOOLTYPE. Does nothing if there is no such tool.
+    /// chosen for it. `tool` is a KORVA_TOOLTYPE or from addTool(). Does nothing if there is no such tool.
     void selectTool(int tool);
     /// Chooses an option of the current tool, by its row in the pop-up. Does nothing if there is no such
     /// row.
@@ -104,6 +108,13 @@ public:
     [[nodiscard]] static QString toolName(int tool);
     /// The name of a tool in recordings, such as "pencil"; empty if there is no such tool.
     [[nodiscard]] static QString toolWord(int tool);
+    /// Takes a tool of the host's own, which the editor owns until its end. It stands behind the others in
+    /// the pop-up, with these options. Returns its identifier, from 8 on; -1 for null. `name` is for the
+    /// user; recordings call the tool by its KORVA_Tool::name().
+    int addTool(std::unique_ptr<KORVA_Tool> tool, const QIcon& icon, const QString& name,
+                const QList<KORVA_ToolOption>& options = {});
+    /// The name of a tool of this editor for the user, by its identifier; empty if there is no such tool.
+    [[nodiscard]] QString nameOfTool(int tool) const;
 
     // --- Editing ---
     /// See KORVA_Canvas::cut().
@@ -327,6 +338,7 @@ protected:
 private:
     void arrange();
 
+    std::unique_ptr<KORVA_ToolSet> m_tools;
     std::unique_ptr<KORVA_ToolBar> m_toolBar;
     std::unique_ptr<KORVA_ToolChoice> m_toolChoice;
     std::unique_ptr<KORVA_ZoomChoice> m_zoomChoice;

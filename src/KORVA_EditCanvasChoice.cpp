@@ -4,8 +4,10 @@
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_ColorPicker.h"
 #include "KORVA_Manager.h"
+#include "KORVA_Tool.h"
 #include "KORVA_ToolBar.h"
 #include "KORVA_ToolChoice.h"
+#include "KORVA_ToolSet.h"
 #include "KORVA_ZoomChoice.h"
 
 #include <QCursor>
@@ -45,6 +47,22 @@ void KORVA_EditCanvas::selectZoom(int index)
 {
     if (m_zoomChoice->show(index))
         slotSelZoomRate(index);
+}
+
+int KORVA_EditCanvas::addTool(std::unique_ptr<KORVA_Tool> tool, const QIcon& icon, const QString& name,
+                              const QList<KORVA_ToolOption>& options)
+{
+    if (!tool)
+        return -1;
+    m_tools->add(icon, name, options);
+    const int id = m_manager->addTool(std::move(tool));
+    m_toolBar->addTool(id);
+    return id;
+}
+
+QString KORVA_EditCanvas::nameOfTool(int tool) const
+{
+    return m_tools->name(tool);
 }
 
 int KORVA_EditCanvas::tool() const

@@ -68,6 +68,15 @@ void KORVA_Manager::reset()
     m_canvas->activate(currentTool());
 }
 
+int KORVA_Manager::addTool(std::unique_ptr<KORVA_Tool> tool)
+{
+    if (!tool)
+        return -1;
+    tool->setId(static_cast<int>(m_tools.size()));
+    m_tools.push_back(std::move(tool));
+    return m_tools.back()->id();
+}
+
 KORVA_Tool* KORVA_Manager::tool(int id) const
 {
     return id >= 0 && id < static_cast<int>(m_tools.size()) ? m_tools[static_cast<size_t>(id)].get()

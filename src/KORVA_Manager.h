@@ -33,9 +33,12 @@ public:
     [[nodiscard]] KORVA_Tool* currentTool() const { return tool(m_current); }
     /// Its identifier.
     [[nodiscard]] int currentToolID() const { return m_current; }
-    /// The tool of an identifier, 0 to 7; null for any other.
+    /// The tool of an identifier, from 0 on; null if there is no such tool.
     [[nodiscard]] KORVA_Tool* tool(int id) const;
 
+    /// Takes a tool of a host's own, and returns its identifier: 8 for the first, then one more. -1 for
+    /// null.
+    int addTool(std::unique_ptr<KORVA_Tool> tool);
     /// Makes the library's own tools again, which ends whatever they were doing, and sets everything else
     /// as the constructor does. The old tools live until control is back in the event loop.
     void reset();

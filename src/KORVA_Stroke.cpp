@@ -58,6 +58,7 @@ void KORVA_Stroke::send(int type, Qt::MouseButton button, Qt::MouseButtons butto
     QMouseEvent event(QEvent::Type(type), local,
                       m_receiver->mapTo(surface ? surface : m_receiver->window(), local),
                       m_receiver->mapToGlobal(local), button, buttons, Qt::NoModifier,
-                      Qt::MouseEventSynthesizedByApplication, m_device);
+                      Qt::MouseEventSynthesizedByApplication,
+                      m_device ? m_device.data() : QPointingDevice::primaryPointingDevice()); // unplugged
     QCoreApplication::sendEvent(m_receiver, &event);
 }

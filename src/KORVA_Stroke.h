@@ -2,15 +2,10 @@
 
 #include <QPointF>
 #include <QPointer>
-#include <QtGlobal>
-
-#include <optional>
+#include <QPointingDevice>
+#include <QWidget>
 
 class KORVA_Canvas;
-class QInputEvent;
-class QPointerEvent;
-class QPointingDevice;
-class QWidget;
 
 /// A stroke of a finger or a pen, handed on as one of the left button: to the floating piece if it began
 /// there, else to the canvas. An event filter on either sees what a mouse would have sent.
@@ -45,7 +40,7 @@ private:
 
     KORVA_Canvas& m_canvas;
     QPointer<QWidget> m_receiver;
-    const QPointingDevice* m_device = nullptr;
+    QPointer<const QPointingDevice> m_device;
     QPointF m_at;
     QPointF m_shift;
     bool m_isHanding = false;

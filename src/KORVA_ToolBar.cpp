@@ -4,8 +4,7 @@
 #include "KORVA_ColorName.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_EditorLayout.h"
-#include "KORVA_ToolTable.h"
-#include "RES_ICON_Reader.h"
+#include "KORVA_ToolSet.h"
 #include "UTIL_ComboBox.h"
 #include "UTIL_PopupMenu.h"
 #include "UTIL_PushButton.h"
@@ -13,8 +12,6 @@
 #include <QAbstractItemView>
 #include <QMenu>
 #include <QStyle>
-
-namespace tables = KORVA_ToolTable;
 
 namespace {
 
@@ -31,16 +28,15 @@ QPushButton* createButton(QWidget* parent, const char* name, const QString& tip)
     return button;
 }
 
-void showIcon(QPushButton* button, const char* name)
+void showIcon(QPushButton* button, const QPixmap& icon)
 {
-    const QPixmap icon = name ? RES_ICON_Reader::getIcon(QString::fromLatin1(name)) : QPixmap();
     button->setIcon(icon);
     button->setIconSize(icon.deviceIndependentSize().toSize());
 }
 
-void addEntry(QMenu* menu, int id, const char* icon, const QString& name)
+void addEntry(QMenu* menu, int id, const QPixmap& icon, const QString& name)
 {
-    QAction* action = menu->addAction(RES_ICON_Reader::getIcon(QString::fromLatin1(icon)), name);
+    QAction* action = menu->addAction(icon, name);
     action->setToolTip(name);
     action->setData(id);
     action->setCheckable(true); // for screen readers: the menu shows no marks
@@ -56,15 +52,13 @@ void showChoice(QPushButton* button, int id, const QString& name)
 
 } // namespace
 
-KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
+KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tools)
+    : m_editor(editor), m_tools(tools)
 {
     m_toolButton = createButton(&editor, "toolButton", KORVA_EditCanvas::tr("Tool", "tool bar"));
     auto* toolMenu = new UTIL_PopupMenu(m_toolButton);
-    for (int place = 0; tables::toolAt(place) >= 0; ++place) {
-        const tables::ToolRow& row = *tables::toolRow(tables::toolAt(place));
-        addEntry(toolMenu, tables::toolMenuBase + place, row.icon,
-                 KORVA_EditCanvas::tr(row.name.text, row.name.comment));
-    }
+    for (const int tool : m_tools.inOrder())
+        addEntry(toolMenu, m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
     toolMenu->setAccessibleName(m_toolButton->accessibleName());
     m_toolButton->setMenu(toolMenu);
 
@@ -91,6 +85,11 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor) : m_editor(editor)
     QObject::connect(m_colorButton, &QPushButton::clicked, &editor, &KORVA_EditCanvas::slotColor);
 }
 
+void KORVA_ToolBar::addTool(int tool)
+{
+    addEntry(m_toolButton->menu(), m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
+}
+
 void KORVA_ToolBar::arrange()
 {
     const QRect whole(QPoint(), m_editor.size().expandedTo(layout::editor));
@@ -105,17 +104,16 @@ void KORVA_ToolBar::arrange()
 
 void KORVA_ToolBar::showTool(int tool)
 {
-    const tables::ToolRow& row = *tables::toolRow(tool);
-    showIcon(m_toolButton, row.icon);
-    showChoice(m_toolButton, tables::toolMenuBase + row.place,
-               KORVA_EditCanvas::tr(row.name.text, row.name.comment));
+    showIcon(m_toolButton, m_tools.icon(tool));
+    showChoice(m_toolButton, m_tools.toolEntry(tool), m_tools.name(tool));
 }
 
 void KORVA_ToolBar::showOption(int entry)
 {
-    const tables::OptionRow& row = tables::toolRow(m_optionTool)->options[std::size_t(entry)];
-    showIcon(m_optionButton, row.icon);
-    showChoice(m_optionButton, optionId(entry), KORVA_EditCanvas::tr(row.name.text, row.name.comment));
+    const bool isThere = entry >= 0 && entry < m_tools.optionCount(m_optionTool);
+    showIcon(m_optionButton, isThere ? m_tools.optionIcon(m_optionTool, entry) : QPixmap());
+    showChoice(m_optionButton, isThere ? optionId(entry) : -1,
+               isThere ? m_tools.optionName(m_optionTool, entry) : QString());
 }
 
 void KORVA_ToolBar::showColor(const QColor& color)
@@ -135,10 +133,9 @@ void KORVA_ToolBar::loadOptions(int tool)
 {
     m_optionMenu->clear();
     m_optionTool = tool;
-    int id = tables::firstOptionId(tool);
-    const tables::ToolRow* const known = tables::toolRow(tool);
-    for (const tables::OptionRow& row : known ? known->options : std::span<const tables::OptionRow>())
-        addEntry(m_optionMenu, id++, row.icon, KORVA_EditCanvas::tr(row.name.text, row.name.comment));
+    for (int row = 0; row < m_tools.optionCount(tool); ++row)
+        addEntry(m_optionMenu, m_tools.firstOptionEntry(tool) + row, m_tools.optionIcon(tool, row),
+                 m_tools.optionName(tool, row));
 }
 
 int KORVA_ToolBar::optionId(int entry) const

@@ -1,6 +1,7 @@
 #pragma once
 
 class KORVA_EditCanvas;
+class KORVA_ToolSet;
 class QColor;
 class QMenu;
 class QPushButton;
@@ -12,15 +13,17 @@ class KORVA_ToolBar
 {
 public:
     /// Begins with an empty zoom box and no option.
-    explicit KORVA_ToolBar(KORVA_EditCanvas& editor);
+    KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tools);
 
     [[nodiscard]] UTIL_ComboBox& zoomBox() const { return *m_zoomBox; }
 
     /// Puts the controls where the editor's direction and size want them.
     void arrange();
+    /// Gives a tool that is new in the set the last row of the tool pop-up.
+    void addTool(int tool);
     /// Shows a tool that has a row in the tool pop-up: its icon on the button, its row checked.
     void showTool(int tool);
-    /// Shows a row of the option pop-up. The row must exist.
+    /// Shows a row of the option pop-up; any other number shows none.
     void showOption(int entry);
     void showColor(const QColor& color);
 
@@ -31,6 +34,7 @@ public:
 
 private:
     KORVA_EditCanvas& m_editor;
+    const KORVA_ToolSet& m_tools;
     QPushButton* m_toolButton;
     QPushButton* m_optionButton;
     QMenu* m_optionMenu;

@@ -5,17 +5,17 @@
 #include "KORVA_Manager.h"
 #include "KORVA_Text.h"
 #include "KORVA_ToolBar.h"
+#include "KORVA_ToolSet.h"
 #include "KORVA_ToolTable.h"
 
 #include <QScopedValueRollback>
 
-#include <span>
 #include <utility>
 
 namespace tables = KORVA_ToolTable;
 
-KORVA_ToolChoice::KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar)
-    : m_editor(editor), m_bar(bar)
+KORVA_ToolChoice::KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar, const KORVA_ToolSet& tools)
+    : m_editor(editor), m_bar(bar), m_tools(tools)
 {
     m_bar.showTool(tables::Pencil);
     m_bar.loadOptions(tables::Pencil);
@@ -24,14 +24,14 @@ KORVA_ToolChoice::KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar)
 
 void KORVA_ToolChoice::selectEntry(int menuId)
 {
-    const int tool = tables::toolAt(menuId - tables::toolMenuBase);
+    const int tool = m_tools.toolOfEntry(menuId);
     selectTool(tool >= 0 ? tool : int(tables::Line));
     tellChoice(KORVA_CHOICE_TOOL);
 }
 
 void KORVA_ToolChoice::select(int tool)
 {
-    if (!tables::toolRow(tool))
+    if (!m_tools.has(tool))
         return;
     if (tool == tables::AreaSelect || tool == tables::Drag)
         m_remembered.selectionMode = tool == tables::Drag ? KORVA_OPTION_HAND : KORVA_OPTION_AREA;
@@ -62,8 +62,8 @@ void KORVA_ToolChoice::selectOptionEntry(int menuId)
 void KORVA_ToolChoice::selectOption(int row)
 {
     const int tool = optionTool();
-    if (row >= 0 && row < int(tables::toolRow(tool)->options.size()))
-        selectOptionEntry(tables::firstOptionId(tool) + row);
+    if (row >= 0 && row < m_tools.optionCount(tool))
+        selectOptionEntry(m_tools.firstOptionEntry(tool) + row);
 }
 
 // The hand is the select tool's other half.
@@ -74,7 +74,8 @@ int KORVA_ToolChoice::optionTool() const
 
 int KORVA_ToolChoice::option() const
 {
-    return m_remembered.*memory(optionTool());
+    const int tool = optionTool();
+    return m_tools.optionCount(tool) > 0 ? remembered(tool) : -1;
 }
 
 void KORVA_ToolChoice::tellChoice(KORVA_CHOICETYPE what)
@@ -124,12 +125,12 @@ void KORVA_ToolChoice::selectTool(int tool)
         updateRubberCursor();
         return;
     }
-    applyOption(m_bar.optionId(m_remembered.*memory(tool)));
+    applyOption(m_bar.optionId(remembered(tool)));
 }
 
-int KORVA_ToolChoice::Remembered::*KORVA_ToolChoice::memory(int tool)
+int KORVA_ToolChoice::Remembered::*KORVA_ToolChoice::memory(tables::Option option)
 {
-    switch (tables::toolRow(tool)->option) {
+    switch (option) {
     case tables::Option::SelectionMode:
         return &Remembered::selectionMode;
     case tables::Option::Fill:
@@ -139,30 +140,43 @@ int KORVA_ToolChoice::Remembered::*KORVA_ToolChoice::memory(int tool)
     }
 }
 
+int KORVA_ToolChoice::remembered(int tool) const
+{
+    const tables::ToolRow* const row = tables::toolRow(tool);
+    return row ? m_remembered.*memory(row->option) : m_remembered.own.value(tool);
+}
+
+void KORVA_ToolChoice::remember(int tool, int option)
+{
+    if (const tables::ToolRow* const row = tables::toolRow(tool))
+        m_remembered.*memory(row->option) = option;
+    else
+        m_remembered.own.insert(tool, option);
+}
+
 void KORVA_ToolChoice::applyOption(int menuId)
 {
     KORVA_Manager* const manager = m_editor.manager();
     manager->setLMBColor(m_editor.color());
 
     const int tool = optionTool(); // any other number counts as its last one
-    const std::span<const tables::OptionRow> options = tables::toolRow(tool)->options;
-    const int entry = menuId - tables::firstOptionId(tool);
-    const int last = int(options.size()) - 1;
+    const int entry = menuId - m_tools.firstOptionEntry(tool);
+    const int last = m_tools.optionCount(tool) - 1;
     const int value = entry >= 0 && entry < last ? entry : last;
-    const tables::OptionRow& chosen = options[std::size_t(value)];
+    const int penWidth = value >= 0 ? m_tools.penWidth(tool, value) : 0;
 
     const int choice = m_choices;
-    m_remembered.*memory(tool) = value;
+    remember(tool, qMax(0, value));
     if (tool == tables::AreaSelect) {
         m_tool = value == 0 ? tables::AreaSelect : tables::Drag;
         if (m_tool == tables::AreaSelect) {
-            manager->setPenWidth(chosen.penWidth);
+            manager->setPenWidth(penWidth);
             manager->setLMBColor(Qt::black);
             manager->setBrush(Qt::NoBrush);
         }
         manager->setCurrentTool(m_tool);
-    } else {
-        manager->setPenWidth(chosen.penWidth);
+    } else if (penWidth > 0) {
+        manager->setPenWidth(penWidth);
     }
     if (tool == tables::Rectangle || tool == tables::Ellipse)
         manager->setBrush(value == 0 ? Qt::NoBrush : Qt::SolidPattern);

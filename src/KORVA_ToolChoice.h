@@ -1,23 +1,27 @@
 #pragma once
 
+#include "KORVA_ToolTable.h"
 #include "KORVA_Types.h"
+
+#include <QHash>
 
 #include <optional>
 
 class KORVA_EditCanvas;
 class KORVA_ToolBar;
+class KORVA_ToolSet;
 
 /// The chosen tool and its option. It shows them in the tool bar, hands them to the manager, and remembers
 /// the option for the next tool that has the same one. Small, medium and large are one choice for all tools
-/// that have a size.
+/// that have a size; a host's own tools keep their options to themselves.
 ///
 /// A slot of a signal that is emitted meanwhile may choose another tool; that choice stays.
 class KORVA_ToolChoice
 {
 public:
-    /// Begins with the pencil in its first option, as the manager does. Owns neither argument. The editor
-    /// needs its manager from the first call on.
-    KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar);
+    /// Begins with the pencil in its first option, as the manager does. Owns none of its arguments. The
+    /// editor needs its manager from the first call on.
+    KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar, const KORVA_ToolSet& tools);
 
     /// Chooses an entry of the tool pop-up; any other number means the line.
     void selectEntry(int menuId);
@@ -51,17 +55,21 @@ private:
         int selectionMode = 0; ///< 0 rectangle, 1 hand
         int size = 0;          ///< 0 small, 1 medium, 2 large
         int fill = 0;          ///< 0 outline, 1 filled
+        QHash<int, int> own;   ///< of a host's tools, by their identifiers
     };
 
     void selectTool(int tool);
     void applyOption(int menuId);
-    [[nodiscard]] static int Remembered::*memory(int tool);
+    [[nodiscard]] static int Remembered::*memory(KORVA_ToolTable::Option option);
+    [[nodiscard]] int remembered(int tool) const;
+    void remember(int tool, int option);
     [[nodiscard]] int optionTool() const;
     void tellChanges();
     void tellChoice(KORVA_CHOICETYPE what);
 
     KORVA_EditCanvas& m_editor;
     KORVA_ToolBar& m_bar;
+    const KORVA_ToolSet& m_tools;
     Remembered m_remembered;
     std::optional<int> m_beforeEraser; ///< the tool, while the eraser is lent
     int m_toldTool = 0;                ///< the tool last announced by a signal

@@ -129,7 +129,7 @@ private:
     QList<QPointF> m_path;        ///< while it waits
     std::optional<QPoint> m_grip; ///< on the floating piece
     QPointF m_pressedAt;          ///< on the screen
-    const QPointingDevice* m_device = nullptr;
+    QPointer<const QPointingDevice> m_device;
     KORVA_Stroke m_stroke;
     std::optional<KORVA_BeforeStroke> m_before;
     Offers m_offers;

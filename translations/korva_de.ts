@@ -920,6 +920,11 @@
         <translation>&amp;Vollbild</translation>
     </message>
     <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Finger verschiebt</translation>
+    </message>
+    <message>
         <source>First option</source>
         <comment>menu</comment>
         <translation>Erste Option</translation>

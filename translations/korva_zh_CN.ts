@@ -920,6 +920,11 @@
         <translation>全屏(&amp;C)</translation>
     </message>
     <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>手指移动画面(&amp;I)</translation>
+    </message>
+    <message>
         <source>First option</source>
         <comment>menu</comment>
         <translation>第一个选项</translation>

@@ -76,6 +76,7 @@ private slots:
     void servicesAreReplaced();
     void theKeyboardDraws();
     void languages();
+    void fingersPan();
     void everyPointIsDrawn();
     void aScaleIsSet();
     void aSoftKeyIsAdded();
@@ -344,6 +345,13 @@ void tst_CppBlocks::languages()
     QCOMPARE(editor.findChild<QPushButton*>("colorButton")->toolTip(), "Farbe");
     QVERIFY(!embedding::speak(QLocale(QLocale::Finnish)));
     KORVA_Translations::unload();
+}
+
+void tst_CppBlocks::fingersPan()
+{
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    embedding::letFingersPan(&editor);
+    QCOMPARE(editor.canvas()->fingerUse(), KORVA_Canvas::FingerPans);
 }
 
 void tst_CppBlocks::everyPointIsDrawn()

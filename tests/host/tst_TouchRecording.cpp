@@ -299,7 +299,7 @@ void tst_TouchRecording::aWideHandleIsTheSameOnAnyScreen()
     RecordedPad pad(folder.filePath("handle.rec"));
     pad.command("Paste");
     pad.canvas().pasteLabel()->move(60, 60);
-    pad.fingers.drag({{105, 95}, {110, 100}, {125, 115}}); // outside of its 40 x 30
+    pad.fingers.drag({{115, 105}, {120, 110}, {135, 125}}); // outside of its 40 x 30
     QCOMPARE(pad.canvas().pasteLabel()->size(), QSize(60, 50));
     QCOMPARE(pad.lines(), QStringList({"paste", "move 99 89", "press 99 89", "move 104 94", "move 119 109",
                                        "release 119 109"}));

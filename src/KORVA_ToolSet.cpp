@@ -1,0 +1,136 @@
+#include "KORVA_ToolSet.h"
+
+#include "KORVA_EditCanvas.h"
+#include "KORVA_ToolTable.h"
+#include "RES_ICON_Reader.h"
+
+namespace tables = KORVA_ToolTable;
+
+namespace {
+
+QString translated(const tables::Name& name)
+{
+    return KORVA_EditCanvas::tr(name.text, name.comment);
+}
+
+QPixmap pictureOf(const char* file)
+{
+    return file ? RES_ICON_Reader::getIcon(QString::fromLatin1(file)) : QPixmap();
+}
+
+QPixmap pictureOf(const QIcon& icon)
+{
+    constexpr QSize size(20, 20); // in the buttons of the tool bar
+    return icon.pixmap(size);
+}
+
+const tables::OptionRow& optionRow(int tool, int row)
+{
+    return tables::toolRow(tool)->options[std::size_t(row)];
+}
+
+int builtIn()
+{
+    return int(tables::tools().size());
+}
+
+/// How many of the library's tools are in the pop-up.
+int builtInPlaces()
+{
+    int places = 0;
+    while (tables::toolAt(places) >= 0)
+        ++places;
+    return places;
+}
+
+} // namespace
+
+int KORVA_ToolSet::add(const QIcon& icon, const QString& name, const QList<KORVA_ToolOption>& options)
+{
+    m_own.push_back({icon, name, options});
+    return builtIn() + int(m_own.size()) - 1;
+}
+
+const KORVA_ToolSet::Own* KORVA_ToolSet::own(int tool) const
+{
+    const int index = tool - builtIn();
+    return index >= 0 && index < int(m_own.size()) ? &m_own[std::size_t(index)] : nullptr;
+}
+
+bool KORVA_ToolSet::has(int tool) const
+{
+    return tables::toolRow(tool) || own(tool);
+}
+
+QPixmap KORVA_ToolSet::icon(int tool) const
+{
+    if (const Own* const mine = own(tool))
+        return pictureOf(mine->icon);
+    const tables::ToolRow* const row = tables::toolRow(tool);
+    return row ? pictureOf(row->icon) : QPixmap();
+}
+
+QString KORVA_ToolSet::name(int tool) const
+{
+    if (const Own* const mine = own(tool))
+        return mine->name;
+    const tables::ToolRow* const row = tables::toolRow(tool);
+    return row ? translated(row->name) : QString();
+}
+
+int KORVA_ToolSet::optionCount(int tool) const
+{
+    if (const Own* const mine = own(tool))
+        return int(mine->options.size());
+    const tables::ToolRow* const row = tables::toolRow(tool);
+    return row ? int(row->options.size()) : 0;
+}
+
+QPixmap KORVA_ToolSet::optionIcon(int tool, int row) const
+{
+    const Own* const mine = own(tool);
+    return mine ? pictureOf(mine->options[row].icon) : pictureOf(optionRow(tool, row).icon);
+}
+
+QString KORVA_ToolSet::optionName(int tool, int row) const
+{
+    const Own* const mine = own(tool);
+    return mine ? mine->options[row].name : translated(optionRow(tool, row).name);
+}
+
+int KORVA_ToolSet::penWidth(int tool, int row) const
+{
+    const Own* const mine = own(tool);
+    return mine ? mine->options[row].penWidth : optionRow(tool, row).penWidth;
+}
+
+int KORVA_ToolSet::toolEntry(int tool) const
+{
+    const tables::ToolRow* const row = tables::toolRow(tool);
+    return tables::toolMenuBase + (row ? row->place : builtInPlaces() + tool - builtIn());
+}
+
+int KORVA_ToolSet::toolOfEntry(int entry) const
+{
+    const int place = entry - tables::toolMenuBase;
+    const int tool = builtIn() + place - builtInPlaces();
+    return own(tool) ? tool : tables::toolAt(place);
+}
+
+int KORVA_ToolSet::firstOptionEntry(int tool) const
+{
+    int entry = tables::firstOptionId(tool);
+    for (int before = builtIn(); before < tool; ++before)
+        entry += optionCount(before);
+    return entry;
+}
+
+QList<int> KORVA_ToolSet::inOrder() const
+{
+    QList<int> tools;
+    for (int place = 0; tables::toolAt(place) >= 0; ++place)
+        tools.append(tables::toolAt(place));
+    for (int tool = builtIn(); own(tool); ++tool)
+        tools.append(tool);
+    return tools;
+}
