@@ -13,12 +13,12 @@
 class KORVA_Canvas;
 class KORVA_Tool;
 
-/// Owns the eight tools and knows the current one. It hands that tool pens and brushes, in the two colours
-/// and the width that the editor sets. From construction on exactly one tool is active on the canvas: at
-/// first the pencil, with red pens of one pixel.
+/// Owns the library's eight tools and the host's own, and knows the current one. It hands that tool pens
+/// and brushes, in the two colours and the width that the editor sets. From construction on exactly one
+/// tool is active on the canvas: at first the pencil, with red pens of one pixel.
 ///
-/// The tools by identifier, from 0: KORVA_Pen, KORVA_AreaSelect, KORVA_Line, KORVA_Text, KORVA_Rectangle,
-/// KORVA_Ellipse, KORVA_Rubber, KORVA_Drag. Setting a property never touches the picture.
+/// The library's tools by identifier, from 0: KORVA_Pen, KORVA_AreaSelect, KORVA_Line, KORVA_Text,
+/// KORVA_Rectangle, KORVA_Ellipse, KORVA_Rubber, KORVA_Drag. Setting a property never touches the picture.
 class KORVA_EXPORT KORVA_Manager : public QObject
 {
     Q_OBJECT
@@ -45,8 +45,8 @@ public:
 
 public slots:
     /// Merges a floating piece and changes tools: the text tool commits then, the select tool drops its
-    /// selection. Identifiers outside 0 to 7 select the pencil. Does nothing if the tool is already
-    /// current, or the canvas is gone.
+    /// selection. An identifier of no tool selects the pencil. Does nothing if the tool is already current,
+    /// or the canvas is gone.
     ///
     /// If a slot that hears of the merge or the commit asks for another tool, that one becomes current.
     void setCurrentTool(int id);
