@@ -37,7 +37,7 @@ struct Label
 /// The fixed rates of the zoom box, in percent.
 constexpr int rates[] = {50, 100, 150, 200};
 
-/// Without what only a menu tells: its letter, and that a dialog follows.
+/// Without what only a menu shows: its letter, and that a dialog follows.
 QString keysPageText(const QAction& action)
 {
     return wording::withoutMnemonic(action.text()).remove(QLatin1String(" ..."));

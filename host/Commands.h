@@ -25,7 +25,7 @@ public:
 
     /// Gives access to the earlier drawings; null if there are none. Not owned.
     void setRecovery(Recovery* recovery);
-    /// What a finger does is as it was last chosen, and is kept in the settings for the next start.
+    /// Lets a finger do what was last chosen, and keeps each choice in the settings for the next start.
     void rememberFingers();
 
     [[nodiscard]] QMenu* menu() const { return m_menu; }
@@ -48,8 +48,8 @@ private:
         Undo,      ///< a change to undo
         Redo,      ///< a change that was undone
         Selection, ///< a floating piece
-        Clipboard, ///< a picture on the clipboard; assumed until somebody asks
-        Fingers,   ///< always there; bears a mark while they pan
+        Clipboard, ///< a picture on the clipboard; assumed until it is examined
+        Fingers,   ///< always enabled; marked while fingers pan
     };
     struct Dependent
     {

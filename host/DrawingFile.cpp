@@ -44,8 +44,8 @@ constexpr Reason reasons[] = {
     {ENAMETOOLONG, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The name is too long.", "saving")},
 };
 
-/// Why a file or folder cannot be written, as in errno; 0 where it can, or is not there. Even who may do
-/// anything respects a protection.
+/// Why a file or folder cannot be written, as in errno; 0 if it can, or does not exist. A write protection
+/// counts even for a user who may write anything.
 int protectionOf(const QString& name)
 {
     constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
@@ -107,7 +107,7 @@ QString freeNameBeside(const QString& fileName)
     const QFileInfo file(fileName);
     const QString extension = canBeWritten(fileName) && !file.suffix().isEmpty() ? file.suffix() : "png";
     QString base = file.completeBaseName();
-    // "photo 2" is followed by "photo 3" where there is a "photo"; "Trip 2024" is a name.
+    // "photo 2" is followed by "photo 3" if there is a "photo"; "Trip 2024" is a name.
     if (const QString first = QString(base).remove(number);
         QFileInfo::exists(file.dir().filePath(first + '.' + extension)))
         base = first;
@@ -128,7 +128,7 @@ public:
     {
         editor.getFileFormat(fileName, m_format);
         if (m_format == QLatin1String("WBMP"))
-            m_format = QStringLiteral("PNG"); // as the editor writes it: nobody who is asked gets here
+            m_format = QStringLiteral("PNG"); // as the editor writes it; no dialog gives this name
     }
 
     [[nodiscard]] std::optional<WriteError> write(const Writer& write, const MayReplace& mayReplace) const
@@ -150,10 +150,10 @@ private:
     QString m_format;
 };
 
-/// What the thread that writes and the one that waits share.
+/// Shared by the thread that writes and the one that waits.
 struct Saving
 {
-    /// Whoever is first decides whether the file is replaced or the save is cancelled.
+    /// The first one decides whether the file is replaced or the save is cancelled.
     [[nodiscard]] bool decide() { return !isDecided.exchange(true); }
 
     std::atomic_bool isDecided = false;
@@ -188,7 +188,7 @@ std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QStr
 std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName,
                                     const MayReplace& mayReplace)
 {
-    // A row of links is followed to its end; the file class follows one.
+    // A chain of links is followed to its end; QSaveFile follows one.
     const QFileInfo named(fileName);
     const QString target = named.exists() ? named.canonicalFilePath() : fileName;
     for (const QString& name : {target, QFileInfo(target).path()}) {

@@ -15,7 +15,7 @@ namespace pad {
 /// Why a file was not written.
 struct WriteError
 {
-    int code = 0;   ///< as in errno; 0 where it was no matter of the system; ECANCELED: nobody wants it
+    int code = 0;   ///< as in errno; 0 if the system reported nothing; ECANCELED if the save was cancelled
     QString detail; ///< the system's words
     QString fileName;
 
@@ -34,10 +34,10 @@ struct WriteError
 /// A name like this one, beside it, that no file has: "photo.jpg" gives "photo 2.jpg".
 [[nodiscard]] QString freeNameBeside(const QString& fileName);
 
-// The file is the old one or the new one, never a part of it, and on the disk before the old one goes. It
-// keeps its mode, and a link stays one.
+// The file is always the old one or the new one, never a part of it. The new one is on the disk before the
+// old one goes. It keeps the mode, and a link stays one.
 
-/// Asked once, when the new file is complete and takes the old one's place next: whether it may.
+/// Called once, when the new file is complete and about to replace the old one. Returns whether it may.
 using MayReplace = std::function<bool()>;
 
 [[nodiscard]] std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName,
@@ -47,10 +47,10 @@ using MayReplace = std::function<bool()>;
 using Writer = std::function<std::optional<WriteError>(const QByteArray& bytes, const QString& fileName,
                                                        const MayReplace& mayReplace)>;
 
-/// Writes the editor's snapshot in the format of the name's extension, PNG where it names none.
+/// Writes the editor's snapshot in the format of the name's extension, or PNG if it names none.
 [[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor,
                                                     const QString& fileName);
-/// The same in another thread while the person waits, and can cancel it (ECANCELED) until the new file
+/// The same in another thread while the person waits. It can be cancelled (ECANCELED) until the new file
 /// takes the old one's place.
 [[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
                                                     QWidget* window, UTIL_Platform& platform,

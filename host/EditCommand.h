@@ -15,7 +15,7 @@ bool performOn(KORVA_EditCanvas& editor, Verb verb);
 /// editor has told the user.
 bool insertStamp(KORVA_EditCanvas& editor, const QString& fileName);
 
-/// How many steps can be undone, in as many bytes as a desktop has to spare.
+/// Sets how many steps can be undone, in as many bytes as a desktop has to spare.
 void setHistory(KORVA_EditCanvas& editor, int steps);
 
 } // namespace pad

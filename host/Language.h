@@ -8,9 +8,9 @@ namespace pad::language {
 /// Which language the program speaks: a code like "de" or "pt_BR"; empty: the locale's. Before any load().
 void choose(const QString& code);
 
-/// Loads the language into the application object: the texts of library and program, and the toolkit's
-/// where they are installed. Windows made from then on run in its direction. English where there is no such
-/// language; the result is whether what was chosen is spoken.
+/// Loads the language into the application object: the texts of library and program, and Qt's where they
+/// are installed. Windows made from then on run in its direction. English where there is no such language;
+/// the result is whether what was chosen is spoken.
 bool load();
 
 /// What to say when load() could not do as it was told: one line.

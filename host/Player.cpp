@@ -33,7 +33,7 @@ QString textOf(QKeyCombination key)
     return key.keyboardModifiers() & Qt::ShiftModifier ? letter : letter.toLower();
 }
 
-/// Whether keys draw for a while, whatever the editor's host has chosen: a recording is the same
+/// Switches drawing by keyboard for a while, whatever the editor's host has chosen: a recording is the same
 /// everywhere.
 class KeyboardDrawing
 {
@@ -121,7 +121,7 @@ void Player::option(int option)
 
 void Player::type(const QString& text)
 {
-    const KeyboardDrawing drawing(*m_editor.canvas(), false); // what is typed beside a text changes nothing
+    const KeyboardDrawing drawing(*m_editor.canvas(), false); // keys without an open text draw nothing
     for (const char32_t letter : text.toStdU32String()) {
         if (letter == U'\n')
             pressKey(QKeyCombination(Qt::Key_Return), {});

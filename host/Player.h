@@ -11,8 +11,9 @@ class KORVA_EditCanvas;
 
 namespace pad {
 
-/// Plays a recording on the editor: strokes and keys as events like those of the window system, all else
-/// like a person's choices. Questions take their answers from the recording; timed boxes are not shown.
+/// Plays a recording on the editor: strokes and keys as events like those of the window system, everything
+/// else like a person's choices. Questions take their answers from the recording; timed boxes are not
+/// shown.
 class Player
 {
     Q_DECLARE_TR_FUNCTIONS(pad::Player)

@@ -78,7 +78,7 @@ std::optional<Failure> Session::begin()
     return m_line.record.isEmpty() ? std::nullopt : startRecorder();
 }
 
-/// Not before a replay: a recording says itself how many steps it was made with, or was made with one.
+/// Not before a replay: a recording says how many steps it was made with, or was made with one.
 void Session::startHistory()
 {
     const Command command{.verb = Verb::History, .number = m_line.undoSteps};

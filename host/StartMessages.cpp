@@ -39,7 +39,7 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& mess
         const QString told = reason().isEmpty() ? message.section(QLatin1Char('\n'), 0, 0) : reason();
         const QString place = qEnvironmentVariable("QT_QPA_PLATFORM");
         std::fprintf(stderr, "%s: %s\n", state().program, qPrintable(nothingShown().arg(place, told)));
-        std::_Exit(1); // half-started, the toolkit cannot be taken down in order
+        std::_Exit(1); // half-started, Qt cannot be taken down in order
     } else {
         say(qFormatLogMessage(type, context, message));
         if (type == QtFatalMsg)

@@ -16,7 +16,7 @@ void keep(const char* program);
 void translate();
 /// "cannot show anything on '%1': %2", the platform and the reason.
 [[nodiscard]] QString nothingShown();
-/// The reason that the toolkit gave first for what did not work; empty: none.
+/// The first reason that Qt gave for what did not work; empty if none.
 [[nodiscard]] QString reason();
 /// Forgets the kept messages.
 void forget();

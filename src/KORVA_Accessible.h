@@ -7,7 +7,7 @@ class QString;
 /// the widgets between them.
 namespace accessible {
 
-/// Has the toolkit ask for it; as installControls(), which it calls.
+/// Makes Qt ask for it, as installControls() does, which it calls.
 void installEditor();
 
 /// The drawing in words: tool and option, zoom, size, place of the keyboard's pen and what floats.

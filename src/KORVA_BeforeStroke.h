@@ -13,10 +13,10 @@
 class KORVA_Canvas;
 class KORVA_Tool;
 
-/// Everything of a canvas that a stroke changes, as it is before the press: to take the stroke back.
+/// Everything of a canvas that a stroke changes, as it was before the press, to take the stroke back.
 ///
-/// The pictures are shared until they are painted on. What else happens to the canvas meanwhile, by the
-/// host or another hand, must not be taken back: who keeps this lets go of it then.
+/// The pictures are shared until they are painted on. Other changes of the canvas meanwhile, by the host or
+/// another hand, must not be taken back: the owner then drops this object.
 class KORVA_BeforeStroke
 {
 public:
@@ -25,12 +25,12 @@ public:
         OnPicture, ///< beside the floating piece, which is merged then, or without one
         OnPiece,   ///< only the piece is changed: a text may blink meanwhile
     };
-    /// Keeps the state that the canvas, which is not owned, is in now.
+    /// Keeps the present state of the canvas, which is not owned.
     KORVA_BeforeStroke(KORVA_Canvas& canvas, Place place);
 
     /// Whether tool and zoom are the ones that were kept.
     [[nodiscard]] bool fits() const;
-    /// Puts all of it back and shows it, without a signal. Only where it fits.
+    /// Puts all of it back and shows it, without a signal. Only to be called if it fits().
     void putBack() const;
 
 private:

@@ -147,7 +147,7 @@ bool KORVA_Canvas::isModified() const
 void KORVA_Canvas::clearModified()
 {
     m_picture->clearModified();
-    m_touch->settle(); // what is saved with half a stroke in it keeps that
+    m_touch->settle(); // a picture saved with half a stroke in it keeps that
 }
 
 void KORVA_Canvas::markModified()
@@ -198,7 +198,7 @@ void KORVA_Canvas::setDepth(int d)
     if (d == getDepth())
         return;
     saveOldPix();
-    QPixmap unchanged = *m_picture->pixmap(); // the toolkit keeps every picture at its own depth
+    QPixmap unchanged = *m_picture->pixmap(); // Qt keeps every picture at its own depth
     setPixmap(&unchanged);
     markModified();
 }

@@ -23,37 +23,37 @@ class QMenu;
 
 /// The widget that shows the drawing being edited.
 ///
-/// It owns the drawing, which is a picture at real size with one undo snapshot, its zoomed copy, which is
-/// what is on screen, and the floating piece, and hands stylus and key events to the one active tool.
-/// "Widget coordinates" are pixels of the zoomed picture, "picture coordinates" of the real one.
+/// It owns the drawing (a picture at real size and its undo snapshot), the zoomed copy that is on screen,
+/// and the floating piece. It hands stylus and key events to the one active tool. "Widget coordinates" are
+/// pixels of the zoomed picture, "picture coordinates" of the real one.
 ///
 /// Every operation that changes the picture takes the snapshot before and calls markModified() after, which
-/// makes undo possible; what does otherwise says so. undo(), redo() and a picture taken in leave the
-/// modified flag as it is.
+/// makes undo possible. Exceptions are noted. undo(), redo() and a picture taken in leave the modified flag
+/// as it is.
 ///
-/// Who hears a signal may call everything here and change tools, or delete the canvas later.
+/// A slot of any signal may call everything here and change tools, or delete the canvas later.
 class KORVA_EXPORT KORVA_Canvas : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// A white picture of `width` × `height` pixels at 100 %; empty where a side is not positive. It counts
-    /// as modified and has nothing to undo.
+    /// Begins with a white picture of `width` × `height` pixels at 100 %; empty if a side is not positive.
+    /// It counts as modified and has nothing to undo.
     ///
-    /// `editor`, which is not owned, hands every signal but clipboard() on to the host; null: nobody does.
+    /// `editor` hands every signal but clipboard() on to the host; with null nobody does. It is not owned.
     KORVA_Canvas(KORVA_EditCanvas* editor, int width, int height, QWidget* parent = nullptr,
                  const char* name = nullptr);
-    /// The same in the size of the picture in the file, whose contents load() or setPixmap() bring in;
-    /// empty when it cannot be read.
+    /// The same, in the size of the picture in the file; empty if it cannot be read. load() or setPixmap()
+    /// brings in its contents.
     KORVA_Canvas(KORVA_EditCanvas* editor, const QString& fileName, QWidget* parent = nullptr,
                  const char* name = nullptr);
     ~KORVA_Canvas() override;
 
-    /// What one finger on a touch screen does. Two always move the view, and pinch it from one step of the
-    /// zoom box to the next; a pen always draws.
+    /// What one finger on a touch screen does. Two fingers always move the view, and a pinch zooms it from
+    /// one step of the zoom box to the next. A pen always draws.
     enum FingerUse {
         FingerDraws, ///< what the left button does
-        FingerPans,  ///< moves the view; a floating piece it still takes hold of
+        FingerPans,  ///< moves the view; it still takes hold of a floating piece
     };
 
     /// How many canvases were ever made.
@@ -61,13 +61,13 @@ public:
 
     /// Whether markModified() came after the last clearModified().
     [[nodiscard]] bool isModified() const;
-    /// For who has saved the picture. Undo is still possible; no signal.
+    /// Called after the picture has been saved. Undo is still possible. Emits nothing.
     void clearModified();
 
-    /// The canvas's half of a tool change, made by KORVA_Manager; the tool's own activate() comes before.
-    /// The tool is not owned. Aborts when a tool is active.
+    /// The canvas's half of a tool change. KORVA_Manager calls it after the tool's own activate(). The tool
+    /// is not owned. Aborts if a tool is active.
     void activate(KORVA_Tool* tool);
-    /// Comes before the tool's own deactivate(). Aborts when no tool is active.
+    /// Called before the tool's own deactivate(). Aborts if no tool is active.
     void deactivate();
     /// Whether a tool is active. In an editor one always is.
     [[nodiscard]] bool isActive() const { return m_toolActive; }
@@ -76,113 +76,116 @@ public:
     /// The active tool's KORVA_Tool::id(); -1 when there is none.
     [[nodiscard]] int getCurrentToolID() const;
 
-    /// The picture, after merging a floating piece into it: who paints on it paints on all of it. The
-    /// painter calls saveOldPix() before, markModified() and updateZoomed() after. The canvas's own, for as
-    /// long as there is a canvas; undo, redo, resize and load put another picture into it.
+    /// The picture, after merging a floating piece into it, so that painting reaches all of it. Call
+    /// saveOldPix() before painting, markModified() and updateZoomed() after. The pixmap belongs to the
+    /// canvas and lives as long; undo, redo, resize and load put another picture into it.
     QPixmap* pixmap();
-    /// The picture as a save would write it now: a floating piece where it lies and what the tool still
-    /// holds back, such as open text, are in it. Nothing is merged, committed, emitted or otherwise
-    /// touched.
+    /// The picture as a save would write it now, with a floating piece where it lies and with what the tool
+    /// still holds back, such as open text. Nothing is merged, committed, emitted or otherwise touched.
     [[nodiscard]] QPixmap snapshot() const;
     /// The picture on screen, for feedback, in widget coordinates; nothing is merged. refresh() shows what
-    /// was painted on it. The canvas's own, for as long as there is a canvas; it gets another size with
-    /// the zoom or the picture's size.
+    /// was painted on it. The pixmap belongs to the canvas and lives as long; its size follows the zoom and
+    /// the picture's size.
     QPixmap* zoomedPixmap() { return &m_zoomed; }
     /// The size of the picture, in picture pixels.
     [[nodiscard]] QSize pictureSize() const;
     /// Copies a picture in; transparent pixels come out white. A floating piece is dropped. Not a
-    /// modification, and no snapshot is taken. Emits pixmapChanged(), then sizeChanged() where the size on
-    /// screen is another. Null is ignored.
+    /// modification, and no snapshot is taken. Emits pixmapChanged(), then sizeChanged() if the size on
+    /// screen changes. Null is ignored.
     void setPixmap(QPixmap* picture);
-    /// The depth of the picture in bits a pixel: the toolkit's, whatever was set.
+    /// The depth of the picture in bits per pixel: Qt's own, whatever was set.
     [[nodiscard]] int getDepth() const;
     /// Asks for a depth of 1, 4, 8, 15, 16, 24 or 32 bits; aborts for others. The picture keeps its pixels
-    /// and the toolkit's depth; any other depth than that is a modification, emits pixmapChanged() and
-    /// drops a floating piece.
+    /// and Qt's depth. A depth other than Qt's is a modification, emits pixmapChanged() and drops a
+    /// floating piece.
     void setDepth(int d);
     /// Fills the picture; typed text and a floating piece are dropped, without selection(false).
     void clearCanvas(const QColor& color);
-    /// Lays a picture under the drawing, scaled to its size: erasing, white in clearCanvas() and what is
-    /// lifted or cut bring it back. Null, as at first, is white. Where the drawing shows the paper before,
-    /// it shows this one; if that changes a pixel it is a modification. What is saved has the paper in it.
+    /// Lays a picture under the drawing, scaled to its size. Erasing, clearCanvas() with white, lifting and
+    /// cutting bring it back. Null, the initial value, is white paper. Parts that showed the previous paper
+    /// show the new one; if that changes a pixel it is a modification. A saved picture includes the paper.
     void setPaper(const QImage& paper);
-    /// Brings the paper back, for a tool that erases. `inPicture` are picture coordinates. On white paper
-    /// only `onScreen`, widget coordinates, is erased on the screen; another paper is shown as it lies.
+    /// Brings the paper back, for a tool that erases. `inPicture` is in picture coordinates, `onScreen` in
+    /// widget coordinates. On white paper only `onScreen` is erased on the screen; any other paper is shown
+    /// as it lies.
     void erase(const QRect& inPicture, const QRect& onScreen);
-    /// Scales the picture to `w` × `h` pixels; nothing where that is its size, empty where a side is not
-    /// positive. Emits sizeChanged() where the size on screen is another, pixmapChanged(), modified(). A
-    /// floating piece is merged into the new picture, and undo does not bring the old one back then.
+    /// Scales the picture to `w` × `h` pixels. Does nothing if that is its size; the picture becomes empty
+    /// if a side is not positive. Emits sizeChanged() if the size on screen changes, pixmapChanged(),
+    /// modified(). A floating piece is merged into the new picture; undo then does not bring the old one
+    /// back.
     void resizeImage(int w, int h);
-    /// Takes the picture of a file in, as setPixmap() does, while no tool is active, and tells whether that
-    /// was so: in an editor it never is. What cannot be read gives an empty picture. `format` names the one
-    /// to accept ("PNG"); null recognises the file by its content.
+    /// Takes in the picture of a file as setPixmap() does, but only while no tool is active, and returns
+    /// whether that was so. In an editor it never is. A file that cannot be read gives an empty picture.
+    /// `format` names the format to accept ("PNG"); null recognises the file by its content.
     bool load(const QString& fileName, const char* format);
-    /// Writes the picture with a floating piece merged into it, a JPEG in quality 96; false when it could
-    /// not be written. `format` is "PNG", "JPEG" or "BMP"; null follows the name's extension. A file of
-    /// that name is overwritten in place. The modified flag is not cleared.
+    /// Writes the picture with a floating piece merged into it, a JPEG in quality 96. False if it could not
+    /// be written. `format` is "PNG", "JPEG" or "BMP"; null follows the name's extension. A file of that
+    /// name is overwritten in place. The modified flag is not cleared.
     bool save(const QString& fileName, const char* format);
 
-    /// A new drawing, without asking: an empty one of this size, unmodified, with nothing to undo, nothing
-    /// floating and nothing kept of a piece. Tool, zoom, paper and steps to undo stay.
+    /// Begins a new drawing, without asking: empty, of this size, unmodified, with nothing to undo. Nothing
+    /// floats, and no earlier piece is kept. Tool, zoom, paper and steps to undo stay.
     void reset(QSize size);
 
-    /// Takes the undo snapshot: what undo() brings back, in place of the one before. Undo becomes possible
-    /// with markModified().
+    /// Takes the undo snapshot, which undo() brings back. It replaces the previous one. Undo becomes
+    /// possible with markModified().
     void saveOldPix();
-    /// Tells the host what to offer: 0 neither undo nor redo, 1 redo, 2 undo, the other way round than
+    /// Tells the host what to offer: 0 for neither, 1 for redo, 2 for undo: the opposite numbers of
     /// undoFlag(). Emits canRedo(), then canUndo(); other numbers are kept and emit nothing.
     void setUndoFlag(int flag);
     /// 0 nothing to undo, 1 undo possible, 2 redo possible; or what setUndoFlag() was given.
     [[nodiscard]] int undoFlag() const { return m_undoFlag; }
 
-    /// How many steps undo() walks back, and in how many bytes they are kept; forgets those there are. 1,
-    /// as at first: undo() and redo() exchange the picture with the snapshot.
+    /// Sets how many steps undo() walks back, and in how many bytes they are kept. The present steps are
+    /// forgotten. With 1, the initial value, undo() and redo() exchange the picture with the snapshot.
     ///
-    /// With more, a step is what changed between two calls of saveOldPix(); where no pixel did there is
-    /// none. The oldest go first, the newest stays however large it is. undo() and redo() mark the picture
-    /// modified, without a signal, and canUndo() and canRedo() tell what is possible: at once after them,
-    /// otherwise when control is back in the event loop.
+    /// With more, a step is the change between two calls of saveOldPix(); if no pixel changed there is
+    /// none. If they need more bytes the oldest go first; the newest stays, however large it is. undo() and
+    /// redo() mark the picture modified, without emitting modified(). canUndo() and canRedo() tell what is
+    /// possible: at once after them, otherwise when control is back in the event loop.
     void setUndoSteps(int steps, qint64 mostBytes);
+    /// See setUndoSteps().
     [[nodiscard]] int undoSteps() const;
-    /// Whatever is changed between the two calls is one step; nothing where there is only one.
+    /// All changes between the two calls are one step. Does nothing if only one step is kept.
     void beginStep();
+    /// See beginStep().
     void endStep();
 
-    /// Sets the zoom in percent, 100 is real size; merges a floating piece first, which is a modification.
-    /// Rates below 1 are ignored. Emits sizeChanged() where the size on screen is another.
+    /// Sets the zoom in percent; 100 is real size. Merges a floating piece first, which is a modification.
+    /// Rates below 1 are ignored. Emits sizeChanged() if the size on screen changes.
     ///
-    /// Enlarging makes no more than 16 megapixels, or twice the screen's area where that is more. Where a
-    /// zoom, or a picture or piece that comes in at the zoom in force, would make more, the zoom becomes
-    /// 100 % and zoomFellBack() is emitted, after sizeChanged().
+    /// Enlarging makes at most 16 megapixels, or twice the screen's area if that is more. If a zoom would
+    /// make more, or a picture or piece that comes in at the present zoom, the zoom becomes 100 % and
+    /// zoomFellBack() is emitted, after sizeChanged().
     void setZoom(int percent);
     /// The zoom in percent.
     [[nodiscard]] int zoom() const { return m_zoom.percent(); }
-    /// Draws the zoomed picture anew from the picture and shows it.
+    /// Draws the zoomed picture again from the picture, and shows it.
     void updateZoomed();
-    /// Scales the picture kept for pasting by the zoom; two calls scale it twice. Nothing where none is
-    /// kept: paste() takes the system clipboard's.
+    /// Scales the picture kept for pasting by the zoom; two calls scale it twice. Does nothing if none is
+    /// kept. paste() takes the system clipboard's.
     void updateZoomedClipboard();
 
-    /// Lifts a rectangle (widget coordinates, its corners in any order) out of the picture into a floating
-    /// piece and leaves white behind; what of it lies outside is cut off, and one that lies outside as a
-    /// whole lifts nothing. At 150 and 200 % the piece takes 2 picture pixels more along in width
-    /// and height. A piece that was floating is merged. No snapshot, no modification: the change counts
-    /// when the piece is merged or cut. Emits selection(true).
+    /// Lifts a rectangle (widget coordinates, corners in any order) out of the picture into a floating
+    /// piece, and leaves white behind. Parts outside are cut off; a rectangle that is entirely outside
+    /// lifts nothing. At 150 and 200 % the piece is 2 picture pixels wider and higher. A piece that was
+    /// floating is merged. No snapshot, no modification: the change counts when the piece is merged or cut.
+    /// Emits selection(true).
     void setSelection(const QRect& rect);
     /// The rectangle last selected, in widget coordinates; null after clearSelection().
     [[nodiscard]] QRect selection() const { return m_selection; }
     /// Whether setSelection() came after the last clearSelection(). A merge does not end it.
     [[nodiscard]] bool hasSelection() const { return m_hasSelection; }
-    /// Forgets the rectangle; a piece floats on. Emits selection(false).
+    /// Forgets the rectangle; a floating piece stays. Emits selection(false).
     void clearSelection();
 
     /// Puts the floating piece on the clipboard and drops it; the selection becomes white. Emits
-    /// clipboard(true), selection(false), modified(), clipboard(true). Where nothing floats, the last piece
-    /// and the last selection are taken: a host offers it by selection(bool).
+    /// clipboard(true), selection(false), modified(), clipboard(true). If nothing floats, the last piece
+    /// and the last selection are taken: selection(bool) tells a host when to offer it.
     void cut();
-    /// Drops the floating piece for good: where it was lifted from stays white. The snapshot is the picture
-    /// with the piece in it, so that undo brings it back, merged where it lay. Emits selection(false),
-    /// modified(); nothing at all when nothing floats.
+    /// Drops the floating piece for good; the place that it was lifted from stays white. The snapshot is
+    /// the picture with the piece in it, so that undo brings it back, merged where it lay. Emits
+    /// selection(false), modified(). Does nothing if nothing floats.
     void deleteSelection();
     /// Puts the floating piece, or the last one, on the clipboard. The picture is not touched. Emits
     /// clipboard(true).
@@ -190,15 +193,15 @@ public:
     /// Lays the clipboard's picture over the canvas as a floating piece at (0, 0), scrolls there and marks
     /// the picture modified. A piece that was floating is merged first. An empty clipboard lays nothing.
     void paste();
-    /// Copies the clipboard's picture into the picture at (x, y) in picture coordinates; nothing floats,
-    /// what lies outside is cut off. Nothing at all when the clipboard holds no picture.
+    /// Copies the clipboard's picture into the picture at (x, y) in picture coordinates. Nothing floats;
+    /// parts outside are cut off. Does nothing if the clipboard holds no picture.
     void paste(int x, int y);
     /// Lays a copy of a picture over the canvas as a floating piece at (0, 0), scrolls there and marks the
     /// picture modified. A piece that was floating is merged first; otherwise no snapshot is taken.
     void insertStamp(QPixmap& stamp);
     /// Paints a floating piece into the picture where it lies. The snapshot is taken afterwards, so that
-    /// undo brings back the state just before the next change and not the time before the piece. Emits
-    /// selection(false) at the end; nothing at all when nothing floats.
+    /// undo brings back the state just before the next change, not the one before the piece. Emits
+    /// selection(false) at the end. Does nothing if nothing floats.
     void mergePastePixmap();
     /// Whether a point (widget coordinates) lies on the floating piece.
     [[nodiscard]] bool ptInPasteLabel(const QPoint& p) const;
@@ -206,7 +209,7 @@ public:
     /// The floating piece; hidden while there is none. The canvas owns it.
     [[nodiscard]] KORVA_PasteLabel* pasteLabel() const { return m_pasteLabel; }
     /// The menu of the right button, with the actions Cut, Copy and Paste, whose QAction::data() is 0, 1
-    /// and 2. A host may add entries of its own, and take away any. The canvas owns it.
+    /// and 2. A host may add its own entries and remove any. The canvas owns it.
     [[nodiscard]] QMenu* contextMenu() const { return m_menu; }
 
     /// Chooses what one finger does from its next touch on: see FingerUse. FingerDraws at first.
@@ -217,37 +220,37 @@ public:
     /// The scroll view that holds the canvas; null when there is none.
     [[nodiscard]] KORVA_ScrollView* scrollView() const;
 
-    /// Shows the zoomed picture as it now is: how every change of it ends. It is on the screen at once or
-    /// with the screen's next picture.
+    /// Shows the zoomed picture as it now is. Every change of it ends with this call. It is on the screen
+    /// at once or with the screen's next picture.
     void refresh();
-    /// The same where only a rectangle changed; widget coordinates.
+    /// The same if only this rectangle changed; widget coordinates.
     void refresh(const QRect& changed);
 
-    /// Lets the keyboard draw, or no longer: arrow keys move a pen that is seen over the drawing and never
-    /// part of it, and the space bar is its button. Off at first: the keys are the host's then.
+    /// Switches drawing by keyboard on or off. Arrow keys move a pen that is shown over the drawing and is
+    /// never part of it; the space bar is its button. Initially off: the keys are the host's then.
     ///
-    /// While it is on and no text is open, these keys are the canvas's. A step is one picture pixel, or ten
+    /// While it is on and no text is open, the canvas takes these keys. A step is one picture pixel, or ten
     /// with Shift or Ctrl, and never less than a pixel of the screen.
     ///
-    /// - Arrows: move the pen; the view scrolls along. Where a piece floats, they move the piece.
-    /// - Space: what the left button does, for as long as it is held.
-    /// - Return, Enter: press the button, and lift it. Where a piece floats, they merge it.
+    /// - Arrows: move the pen; the view scrolls along. While a piece floats, they move the piece.
+    /// - Space: acts as the left button for as long as it is held.
+    /// - Return, Enter: press the button; the next one releases it. While a piece floats, they merge it.
     /// - Alt+arrows: make the floating piece wider, narrower, higher or lower.
     /// - `]`, Alt+PageDown: turn the floating piece clockwise; `[`, Alt+PageUp: the other way.
     ///
-    /// While a text is open all keys are the text's, but for Escape, which commits it as a press beside it
-    /// does. The tools are sent what a mouse would send them; a press of the pointer takes the pen there.
+    /// While a text is open all keys go to the text, except Escape, which commits it as a press beside it
+    /// does. The tools get the events that a mouse would send. A press of the pointer moves the pen there.
     void setKeyboardDrawing(bool on);
     /// See setKeyboardDrawing().
     [[nodiscard]] bool isKeyboardDrawing() const;
-    /// Where the keyboard's pen is, in picture coordinates; nothing while it does not show.
+    /// The position of the keyboard's pen, in picture coordinates; nothing while it is not shown.
     [[nodiscard]] std::optional<QPoint> keyboardPen() const;
     /// Whether the pen's button is down, by Space or Return.
     [[nodiscard]] bool isKeyboardPenDown() const;
-    /// What the keyboard's pen makes of a key: for who writes down what a person does.
+    /// What the keyboard's pen does with a key, for a host that records what a person does.
     enum PenKey {
         NotThePens, ///< it goes to the tool
-        AsPointer,  ///< the canvas, or the piece that floats, gets what a pointer would send, if anything
+        AsPointer,  ///< the canvas or the floating piece gets what a pointer would send, if anything
         OnPiece,    ///< changes the floating piece, or merges it, without a pointer
     };
     /// What a press of this key would be at the moment.
@@ -256,13 +259,14 @@ public:
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 public slots:
-    /// The picture was changed: sets the modified flag and emits modified(), on which record() follows.
+    /// To be called after the picture was changed. Sets the modified flag and emits modified(); record()
+    /// follows.
     void markModified();
     /// As undo(), but emits canUndo(true), canRedo(false).
     void redo();
     /// Merges a floating piece and exchanges picture and snapshot: a second call brings the change back.
-    /// While typed text is pending the picture stays. Emits canUndo(false), canRedo(true) in any case,
-    /// sizeChanged() before them where the sizes differ.
+    /// While typed text is pending the picture stays. Emits canUndo(false), canRedo(true) in any case;
+    /// sizeChanged() comes before them if the sizes differ. setUndoSteps() describes more steps than one.
     void undo();
     /// Makes undo possible: emits canUndo(true), canRedo(false). Follows every modified().
     void record();
@@ -282,42 +286,42 @@ public slots:
 signals:
     /// The zoom or the picture's size gave the widget another size.
     void sizeChanged();
-    /// Another zoom is in force. Comes after sizeChanged() where that is emitted, too.
+    /// Another zoom is in force. Comes after sizeChanged() if that is emitted, too.
     void zoomChanged(int percent);
     /// The zoom became 100 % because the zoomed picture would have been too large: see setZoom().
     void zoomFellBack();
     /// Another picture was taken in, or the picture was scaled. Painting, undo and redo do not emit it.
-    /// `picture` stays the canvas's.
+    /// `picture` belongs to the canvas.
     void pixmapChanged(QPixmap* picture);
     /// From markModified(). The editor's listeners hear it before canUndo(true) and canRedo(false),
-    /// listeners to the canvas itself after them: record() is connected before them.
+    /// listeners to the canvas itself after them, because record() is connected first.
     void modified();
     /// True when a rectangle was lifted; false when it was forgotten and whenever a piece was merged.
     void selection(bool exists);
     /// A piece was put on the clipboard. Always true.
     void clipboard(bool filled);
-    /// A finger's stroke never was: a second finger came, a pen, the menu, or the touch was cancelled.
-    /// Picture, snapshot, modified flag, piece, selection and tool are as before its press, and where
-    /// selection(), canUndo() and canRedo() had told otherwise since, they came once more before this.
+    /// A finger's stroke was taken back: a second finger or a pen came, the menu opens, or the touch was
+    /// cancelled. Picture, snapshot, modified flag, piece, selection and tool are as before its press. If
+    /// selection(), canUndo() or canRedo() had told otherwise since, they were emitted again before this.
     void strokeTakenBack();
     /// Whether undo is to be offered.
     void canUndo(bool possible);
     /// Whether redo is to be offered.
     void canRedo(bool possible);
-    /// What keyboardPen() or isKeyboardPenDown() tells has changed.
+    /// The value of keyboardPen() or isKeyboardPenDown() has changed.
     void keyboardPenChanged();
 
 protected:
     /// Claims the keys that type while the text tool takes them, and those of the keyboard's pen, before
-    /// they become a host's shortcuts.
-    /// What a finger or a pen draws is handed to the canvas, or to the floating piece under it, as events
-    /// of the left button; their device is the touch screen or the pen.
+    /// they become a host's shortcuts. Strokes of a finger or a pen become events of the left button, for
+    /// the canvas or the floating piece under them; their device is the touch screen or the pen.
     bool event(QEvent* event) override;
     /// Tab stays here while the text tool takes it.
     bool focusNextPrevChild(bool next) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     /// The left button goes to the floating piece under it, in the piece's own coordinates; elsewhere it
-    /// merges the piece and goes to the tool. The right button opens the context menu. Others do nothing.
+    /// merges the piece and goes to the tool. The right button opens the context menu. Other buttons do
+    /// nothing.
     void mousePressEvent(QMouseEvent* event) override;
     /// To the floating piece under it, else to the tool.
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -327,13 +331,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     /// To the tool; ignored when there is none.
     void keyReleaseEvent(QKeyEvent* event) override;
-    /// The menu key: opens the floating piece's menu, or the canvas's own where nothing floats.
+    /// The menu key opens the floating piece's menu or, if nothing floats, the canvas's own.
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     friend class KORVA_BeforeStroke;
-    friend class KORVA_EditCanvas; // for what fingers and pens want of its controls
+    friend class KORVA_EditCanvas; // for what fingers and pens choose in its controls
 
     KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize, QWidget* parent,
                  const char* name);
@@ -367,11 +371,11 @@ private:
     QPointer<KORVA_Tool> m_tool;
     std::unique_ptr<KORVA_Picture> m_picture;
     QPixmap m_zoomed;
-    int m_undoFlag = 0; ///< what the host was last told to offer
+    int m_undoFlag = 0; ///< what the host was last asked to offer
     bool m_isOfferDue = false;
     QPixmap m_clipboard;
-    int m_toldZoom = 100;         ///< what listeners know
-    bool m_hasFallenBack = false; ///< and nobody has been told yet
+    int m_toldZoom = 100;         ///< the zoom last announced by a signal
+    bool m_hasFallenBack = false; ///< and no signal has announced it yet
     bool m_toolActive = false;
     QRect m_selection;
     bool m_hasSelection = false;

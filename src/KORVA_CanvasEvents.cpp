@@ -93,7 +93,7 @@ bool KORVA_Canvas::event(QEvent* event)
         return true;
     if (m_keyboardPen && m_keyboardPen->handle(*event))
         return true;
-    // Shortcuts of the host wait while a text is typed; what is no text is still theirs.
+    // While a text is typed the host's shortcuts wait; keys that are no text are still theirs.
     if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText() &&
         KORVA_Text::isTyping(*static_cast<QKeyEvent*>(event))) {
         event->accept();

@@ -10,11 +10,11 @@
 #include <QGuiApplication>
 #include <QMenu>
 
-// What is selected and floats, the clipboard, and the menu that offers both.
+// The selection, the floating piece, the clipboard, and the menu that offers them.
 
 void KORVA_Canvas::setSelection(const QRect& rect)
 {
-    constexpr int margin = 2; // at 150 and 200 % the piece takes a little more along than was marked
+    constexpr int margin = 2; // at 150 and 200 % the piece is a little larger than what was marked
     const QRect marked = classic::normalized(rect) & this->rect();
     if (marked.isEmpty())
         return;

@@ -9,7 +9,7 @@
 
 #include <utility>
 
-// The way back and forward again, and what is offered of it.
+// Undo and redo, and when they are offered.
 
 void KORVA_Canvas::saveOldPix()
 {
@@ -62,8 +62,7 @@ void KORVA_Canvas::step(void (KORVA_Picture::*direction)())
 
 void KORVA_Canvas::setUndoFlag(int flag)
 {
-    // Offered the other way round than record(), undo() and redo() do for the same flags: the editor relies
-    // on it.
+    // The opposite of what record(), undo() and redo() offer for the same flags: the editor relies on it.
     static constexpr struct
     {
         bool redo;
@@ -111,7 +110,7 @@ void KORVA_Canvas::offer()
     emit canRedo(m_picture->canRedo());
 }
 
-// A change is announced before its first pixel: whether there is one is known afterwards.
+// A change is announced before its first pixel; whether there is one is known only afterwards.
 void KORVA_Canvas::offerSoon()
 {
     if (hasHistory() && !std::exchange(m_isOfferDue, true))

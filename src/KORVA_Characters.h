@@ -2,15 +2,15 @@
 
 #include <QStringList>
 
-/// Text as a person counts it: a letter with its accents, an emoji of several code points are one
-/// character.
+/// Text in characters as a person counts them: a letter with its accents is one, and so is an emoji of
+/// several code points.
 namespace characters {
 
-/// All of a text.
+/// All characters of a text.
 [[nodiscard]] QStringList all(const QString& text);
-/// The first one; empty where the text is.
+/// The first character; empty if the text is empty.
 [[nodiscard]] QString first(const QString& text);
-/// The last one; empty where the text is.
+/// The last character; empty if the text is empty.
 [[nodiscard]] QString last(const QString& text);
 
 } // namespace characters

@@ -58,9 +58,9 @@ public:
 
     void askAndDelete();
 
-    /// Ends every operation whose box or dialog is open: it does no more when that returns.
+    /// Ends every operation whose box or dialog is open: it does no more after that returns.
     void cancel();
-    /// As a new drawing, without a name.
+    /// Begins a new drawing, without a name.
     void reset();
 
 private:
@@ -102,7 +102,7 @@ private:
     QString m_fileName;
     Opened m_opened;
     int m_pendingAction = NoAction;
-    int m_cancellations = 0;                   ///< counted
+    int m_cancellations = 0;                   ///< how many there were
     QPointer<UTIL_PictureDialog> m_saveDialog; ///< while one is open; a child of the editor
     QPointer<UTIL_PictureDialog> m_pickDialog; ///< until the open is finished; a child of the editor
 };

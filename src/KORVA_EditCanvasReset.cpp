@@ -41,7 +41,7 @@ void KORVA_EditCanvas::cancelDialogs()
             windows.append(window);
     }
     for (const QPointer<QWidget>& window : windows) {
-        // A dialog may refuse to be rejected, as a question does that has no "Cancel".
+        // A dialog may refuse to be rejected, as a question without "Cancel" does.
         if (auto* const dialog = qobject_cast<QDialog*>(window.data()))
             dialog->done(QDialog::Rejected);
         else if (window)

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr QImage::Format format = QImage::Format_RGB32;
-constexpr qsizetype atOnce = 1 << 20; // bytes that are compressed before anybody could wonder
+constexpr qsizetype atOnce = 1 << 20; // bytes; so few are compressed without a noticeable wait
 
 const QRgb* row(const QImage& image, int y)
 {
@@ -72,7 +72,7 @@ QByteArray bytesOf(const QImage& image)
 
 } // namespace
 
-/// Bytes that become smaller some time after they were put in.
+/// Bytes that are compressed some time after they were put in.
 class KORVA_History::Pixels
 {
 public:
@@ -92,7 +92,7 @@ public:
         const QMutexLocker lock(&m_mutex);
         return m_isCompressed ? qUncompress(m_bytes) : m_bytes;
     }
-    /// 0 before it is known.
+    /// 0 until they are compressed.
     [[nodiscard]] qint64 size() const
     {
         const QMutexLocker lock(&m_mutex);
@@ -103,7 +103,7 @@ private:
     void compress()
     {
         constexpr int quickly = 1;
-        const QByteArray smaller = qCompress(m_bytes, quickly); // nobody else changes it
+        const QByteArray smaller = qCompress(m_bytes, quickly); // nothing else changes it
         const QMutexLocker lock(&m_mutex);
         m_bytes = smaller;
         m_isCompressed = true;
@@ -116,8 +116,8 @@ private:
 
 struct KORVA_History::Step
 {
-    QSize otherSize;                ///< of the picture on the other side, where it differs; else empty
-    QRect changed;                  ///< where it does not
+    QSize otherSize;                ///< of the picture on the other side if it differs, else empty
+    QRect changed;                  ///< if the size is the same
     std::shared_ptr<Pixels> pixels; ///< the picture on the other side, or the exclusive or
 };
 
@@ -216,7 +216,7 @@ qint64 KORVA_History::bytes() const
     return all;
 }
 
-// Whoever stands in the middle of the steps keeps the next one in either direction.
+// From the middle of the steps, the next one in either direction stays.
 void KORVA_History::trim()
 {
     qint64 all = bytes();

@@ -5,11 +5,11 @@
 #include <memory>
 #include <vector>
 
-/// The changes of a picture as steps, to be walked back and forward to the pixel.
+/// The changes of a picture as steps that can be walked back and forward, exact to the pixel.
 ///
-/// A step keeps the rectangle around what changed, as the exclusive or of its pixels before and after,
-/// which leads both ways; where the size changed, the picture on its other side. Both are compressed, large
-/// ones in another thread. All pictures are opaque.
+/// A step keeps the rectangle around the changed pixels, as the exclusive or of before and after, which
+/// works in both directions. If the size changed it keeps the whole other picture. Both are compressed,
+/// large ones in another thread. All pictures are opaque.
 class KORVA_History
 {
 public:
@@ -26,7 +26,7 @@ public:
 
     /// Whether two pictures differ in size or in any pixel.
     [[nodiscard]] static bool isChange(const QImage& before, const QImage& after);
-    /// Keeps a change, which one without a difference is not; what was undone before is forgotten then.
+    /// Keeps a change as a step; nothing if the pictures are equal. Steps that were undone are forgotten.
     void add(const QImage& before, const QImage& after);
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] QImage undo(const QImage& now);
     [[nodiscard]] QImage redo(const QImage& now);
 
-    /// Of what is kept now; what is being compressed does not count yet.
+    /// The bytes that the steps take now, without those that are still being compressed.
     [[nodiscard]] qint64 bytes() const;
 
 private:
@@ -45,7 +45,7 @@ private:
     void trim();
 
     std::vector<Step> m_steps; ///< the oldest first
-    size_t m_undone = 0;       ///< of them, from the end
+    size_t m_undone = 0;       ///< how many steps at the end are undone
     int m_mostSteps = 1;
     qint64 m_mostBytes = 0;
 };

@@ -45,7 +45,7 @@ struct KORVA_KeyboardPen::Key
 
     Qt::Key key;
     Qt::KeyboardModifiers needed;
-    Qt::KeyboardModifiers allowed; ///< besides
+    Qt::KeyboardModifiers allowed; ///< in addition
     unsigned situations;
     void (Pen::*act)(QPoint way);
     QPoint way = {};
@@ -144,7 +144,7 @@ bool KORVA_KeyboardPen::handle(QEvent& event)
             reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
             setInUse(true);
         return false;
-    case QEvent::FocusOut: // later: it may be the window's end, which is no time to paint
+    case QEvent::FocusOut: // later: the window may be going, which is no time to paint
         QMetaObject::invokeMethod(
             this, [this, reason = static_cast<const QFocusEvent&>(event).reason()] { leave(reason); },
             Qt::QueuedConnection);
@@ -329,7 +329,8 @@ void KORVA_KeyboardPen::moveTo(QPoint at)
     update();
 }
 
-/// Within the canvas; while the button is down to the first pixel beyond, where a selection of all ends.
+/// Within the canvas; while the button is down, up to the first pixel beyond, where a selection of all
+/// ends.
 QPoint KORVA_KeyboardPen::limited(QPoint at) const
 {
     const int beyond = m_state == Lifted ? 1 : 0;
@@ -337,7 +338,7 @@ QPoint KORVA_KeyboardPen::limited(QPoint at) const
             qBound(0, at.y(), qMax(0, m_canvas.height() - beyond))};
 }
 
-/// By pixels of the picture, and by one of the screen at least.
+/// By pixels of the picture, but at least by one of the screen.
 QPoint KORVA_KeyboardPen::stepped(QPoint from, QPoint way) const
 {
     const KORVA_Zoom zoom(m_canvas.zoom());

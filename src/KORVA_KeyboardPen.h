@@ -14,30 +14,32 @@ class QKeyEvent;
 class QMouseEvent;
 class QRect;
 
-/// A pen without a pointer: what KORVA_Canvas::setKeyboardDrawing() promises.
+/// A pen without a pointer, as KORVA_Canvas::setKeyboardDrawing() describes it.
 ///
-/// It sends the canvas, or the piece that floats under it, what a mouse would, so that the tools know
-/// nothing of it. It takes part in the canvas's events by handle() alone.
+/// It sends the canvas, or the floating piece under it, what a mouse would send, so that the tools know
+/// nothing of it. It sees the canvas's events only through handle().
 class KORVA_KeyboardPen : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Off, in the middle of what can be seen. The canvas owns the pen.
+    /// Begins switched off, in the middle of the visible part. The canvas owns the pen.
     explicit KORVA_KeyboardPen(KORVA_Canvas& canvas);
 
-    /// Off, it lets go of the button and is not seen.
+    /// Switched off, it releases the button and is hidden.
     void setEnabled(bool on);
     [[nodiscard]] bool isEnabled() const { return m_isEnabled; }
-    /// In picture coordinates; nothing while it is not seen.
+    /// In picture coordinates; nothing while it is not shown.
     [[nodiscard]] std::optional<QPoint> place() const;
     [[nodiscard]] bool isDown() const { return m_state != Lifted; }
     /// See KORVA_Canvas::penKey().
     [[nodiscard]] KORVA_Canvas::PenKey use(const QKeyEvent& press) const;
 
-    /// Sees an event of the canvas before the canvas does. True: it was a key of the pen's and is done.
+    /// Sees an event of the canvas before the canvas does. True if it was one of the pen's keys and is
+    /// done.
     bool handle(QEvent& event);
-    /// Of the whole program while the button is down: a pointer that is pressed in the window finds it up.
+    /// Watches the whole program while the button is down: a pointer's press in the window first releases
+    /// the button.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -45,7 +47,7 @@ private:
     enum State {
         Lifted,
         Held,    ///< down for as long as the space bar is
-        Latched, ///< down until the key comes once more
+        Latched, ///< down until the key is pressed again
     };
     struct Key;
 
@@ -54,7 +56,7 @@ private:
     void giveWay(const QMouseEvent& event);
     void leave(Qt::FocusReason reason);
 
-    // Ways are in picture pixels.
+    // A `way` is in picture pixels.
     void move(QPoint way);
     void hold(QPoint);
     void latch(QPoint);
@@ -80,8 +82,8 @@ private:
     KORVA_PenMark* m_mark; // owned by the canvas
     QPointer<QWidget> m_pressed;
     State m_state = Lifted;
-    QPoint m_at;    ///< canvas widget coordinates
-    QPoint m_place; ///< the same in the picture, which stays when the zoom changes
+    QPoint m_at;                  ///< canvas widget coordinates
+    QPoint m_place;               ///< the same in the picture, which stays when the zoom changes
     std::optional<QPoint> m_told; ///< of the place
     bool m_toldDown = false;
     bool m_isEnabled = false;

@@ -5,9 +5,8 @@
 class KORVA_Canvas;
 class KORVA_ScrollView;
 
-/// Keeps what is typed on a canvas above a keyboard on the screen: while one lies over the line with the
-/// cursor, the scroll view's contents are lifted by what is missing, and go back when the keyboard or the
-/// text does.
+/// Keeps the line being typed above an on-screen keyboard. While one covers the line with the cursor, the
+/// scroll view's contents are lifted by what is missing. They go back when the keyboard or the text goes.
 class KORVA_KeyboardRoom : public QObject
 {
 public:

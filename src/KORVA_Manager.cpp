@@ -46,9 +46,9 @@ void KORVA_Manager::reset()
 {
     if (!m_canvas)
         return;
-    ++m_requests; // whoever is in the middle of a change of tools gives it up
+    ++m_requests; // a change of tools that is under way is given up
     {
-        // What is being typed or framed is not to be kept.
+        // A text or a frame that is under way is not to be kept.
         const QSignalBlocker silence(m_canvas);
         if (m_canvas->isActive())
             m_canvas->deactivate();

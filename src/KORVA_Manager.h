@@ -13,12 +13,12 @@
 class KORVA_Canvas;
 class KORVA_Tool;
 
-/// Owns the eight tools and knows the current one. It hands that tool pens and brushes, in the two colours
-/// and the width that the editor sets. From construction on exactly one tool is active on the canvas: at
-/// first the pencil, with red pens of one pixel.
+/// Owns the library's eight tools and the host's own, and knows the current one. It hands that tool pens
+/// and brushes, in the two colours and the width that the editor sets. From construction on exactly one
+/// tool is active on the canvas: at first the pencil, with red pens of one pixel.
 ///
-/// The tools by identifier, from 0: KORVA_Pen, KORVA_AreaSelect, KORVA_Line, KORVA_Text, KORVA_Rectangle,
-/// KORVA_Ellipse, KORVA_Rubber, KORVA_Drag. Setting a property never touches the picture.
+/// The library's tools by identifier, from 0: KORVA_Pen, KORVA_AreaSelect, KORVA_Line, KORVA_Text,
+/// KORVA_Rectangle, KORVA_Ellipse, KORVA_Rubber, KORVA_Drag. Setting a property never touches the picture.
 class KORVA_EXPORT KORVA_Manager : public QObject
 {
     Q_OBJECT
@@ -33,19 +33,20 @@ public:
     [[nodiscard]] KORVA_Tool* currentTool() const { return tool(m_current); }
     /// Its identifier.
     [[nodiscard]] int currentToolID() const { return m_current; }
-    /// The tool of an identifier, from 0; null for none.
+    /// The tool of an identifier, from 0 on; null if there is no such tool.
     [[nodiscard]] KORVA_Tool* tool(int id) const;
 
-    /// Takes a tool of a host's own, and gives its identifier: 8 for the first, then one more. -1 for null.
+    /// Takes a tool of a host's own, and returns its identifier: 8 for the first, then one more. -1 for
+    /// null.
     int addTool(std::unique_ptr<KORVA_Tool> tool);
-    /// Makes the library's own tools anew, which ends whatever they were in the middle of, and everything
-    /// else as the constructor does. The old tools live until control is back in the event loop.
+    /// Makes the library's own tools again, which ends whatever they were doing, and sets everything else
+    /// as the constructor does. The old tools live until control is back in the event loop.
     void reset();
 
 public slots:
     /// Merges a floating piece and changes tools: the text tool commits then, the select tool drops its
-    /// selection. Identifiers outside 0 to 7 select the pencil. Does nothing if the tool is already
-    /// current, or the canvas is gone.
+    /// selection. An identifier of no tool selects the pencil. Does nothing if the tool is already current,
+    /// or the canvas is gone.
     ///
     /// If a slot that hears of the merge or the commit asks for another tool, that one becomes current.
     void setCurrentTool(int id);

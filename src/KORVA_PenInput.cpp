@@ -9,13 +9,13 @@
 namespace {
 
 constexpr int leaving = 500;   // milliseconds after which the hand that held it is gone, too
-constexpr int silent = 10'000; // the same; a pen that was announced and says nothing any more
+constexpr int silent = 10'000; // the same, for a pen that was announced and has fallen silent
 
 } // namespace
 
 KORVA_PenInput::KORVA_PenInput(KORVA_Canvas& canvas) : m_stroke(canvas)
 {
-    QCoreApplication::instance()->installEventFilter(this); // nobody else is told of pens that come
+    QCoreApplication::instance()->installEventFilter(this); // only it is told of pens that come
 }
 
 bool KORVA_PenInput::eventFilter(QObject* watched, QEvent* event)

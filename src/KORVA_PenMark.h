@@ -2,17 +2,18 @@
 
 #include <QWidget>
 
-/// Where the keyboard's pen is: a cross over the drawing that is seen on every ground, with a frame around
-/// its middle while the button is down. The pixel itself stays free. The pointer goes through it.
+/// Shows where the keyboard's pen is: a cross over the drawing that stands out on every background, with a
+/// frame around its middle while the button is down. The pixel itself stays free. Pointer events pass
+/// through.
 class KORVA_PenMark : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Hidden.
+    /// Begins hidden.
     explicit KORVA_PenMark(QWidget* surface);
 
-    /// `at` is the pixel of the surface that is meant.
+    /// `at` is the pen's pixel on the surface.
     void showAt(QPoint at, bool isPressed);
 
 protected:

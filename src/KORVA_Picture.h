@@ -33,13 +33,14 @@ public:
     /// Replaces the pixels, and with them the size.
     void take(const QPixmap& pixels);
     void fill(const QColor& color);
-    /// What lies under the drawing and comes back where it is erased, scaled to the picture's size; null,
-    /// as at first, is white. The picture changes where it showed the paper before: true if it did.
+    /// Sets what lies under the drawing and comes back where it is erased, scaled to the picture's size.
+    /// Null, the initial value, is white. The picture changes where it showed the previous paper: true if
+    /// it did.
     bool setPaper(const QPixmap& paper);
     [[nodiscard]] bool hasPaper() const { return !m_paper.isNull(); }
     /// Leaves only the paper.
     void clear();
-    /// A new drawing: only the paper in this size, unmodified, with nothing to undo.
+    /// Begins a new drawing: only the paper in this size, unmodified, with nothing to undo.
     void reset(QSize size);
     /// Scales the picture to a size. If a side is not positive the picture becomes empty.
     void scale(QSize size);
@@ -70,7 +71,7 @@ public:
     void setUndoSteps(int steps, qint64 mostBytes);
     [[nodiscard]] int undoSteps() const { return m_history.mostSteps(); }
 
-    // With one step, these do nothing and know nothing.
+    // With one step, the functions below do nothing, and canUndo() and canRedo() are false.
     /// Makes a step of the changes since the last snapshot.
     void settle();
     /// All changes between the two calls are one step, whatever snapshots are taken.

@@ -7,10 +7,10 @@
 
 class KORVA_Canvas;
 
-/// A stroke of a finger or a pen, handed on as one of the left button: to the floating piece where it began
-/// there, else to the canvas. Who watches either by an event filter sees what a mouse would have sent.
+/// A stroke of a finger or a pen, handed on as one of the left button: to the floating piece if it began
+/// there, else to the canvas. An event filter on either sees what a mouse would have sent.
 ///
-/// Positions are the canvas's, to the fraction.
+/// Positions are canvas coordinates, with their fractions.
 class KORVA_Stroke
 {
 public:
@@ -19,19 +19,19 @@ public:
 
     /// The left button goes down. Over the floating piece, a hover comes before.
     void press(const QPointF& at, const QPointingDevice* device);
-    /// The same on the floating piece, whose own point `grip` is taken hold of, wherever the pointer is:
-    /// the stroke is moved over there as a whole.
+    /// The same on the floating piece. It is taken hold of at its own point `grip`, wherever the pointer
+    /// is; the whole stroke is moved over there.
     void pressPiece(const QPointF& at, QPoint grip, const QPointingDevice* device);
     void move(const QPointF& to);
-    /// The end. Nothing when no press came before, as with move().
+    /// Ends the stroke. Without a press before, it does nothing, as move() does.
     void release(const QPointF& at);
-    /// There will be no release.
+    /// Ends the stroke without a release.
     void forget() { m_receiver = nullptr; }
 
     [[nodiscard]] bool isDown() const { return m_receiver; }
     /// The last position.
     [[nodiscard]] QPointF at() const { return m_at; }
-    /// While an event is being handed on.
+    /// Whether an event is being handed on.
     [[nodiscard]] bool isHanding() const { return m_isHanding; }
 
 private:

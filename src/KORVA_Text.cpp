@@ -70,7 +70,7 @@ void KORVA_Text::mousePressEvent(QMouseEvent* event)
 void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
 {
     if (m_state != Pressed || event->button() != m_button)
-        return; // the canvas hands no other press on, but every release
+        return; // the canvas hands on no other press, but every release
     m_state = Closed;
     const QPoint p = pixel::at(event->position());
     const QPoint moved = p - m_cursor;
@@ -94,7 +94,7 @@ void KORVA_Text::open(QPoint at)
     m_blink.start(blinkTime, this);
 }
 
-// It is open until all have heard of its commit.
+// The text is open until every listener has heard of its commit.
 void KORVA_Text::close()
 {
     QGuiApplication::inputMethod()->reset();
@@ -150,11 +150,11 @@ void KORVA_Text::resetBuffer()
 void KORVA_Text::paintBuffer()
 {
     setTextKey(false);
-    if (!canvas() || m_isCommitting) // who hears of the change may ask for the picture
+    if (!canvas() || m_isCommitting) // a slot may ask for the picture
         return;
     canvas()->saveOldPix();
     QPixmap* const picture = canvas()->pixmap();
-    if (!canvas()) // who hears of a merge may leave the tool, which commits
+    if (!canvas()) // a slot that hears of a merge may leave the tool, which commits
         return;
     const QScopedValueRollback isCommitting(m_isCommitting, true);
     paintPending(picture);
@@ -220,7 +220,7 @@ void KORVA_Text::keyPressEventSimu(QKeyEvent* event)
         typeKeys({event});
 }
 
-// The screen follows once for all of them, before anybody is told.
+// The screen follows once for all of them, before any listener hears of them.
 void KORVA_Text::typeKeys(const std::vector<QKeyEvent*>& keys)
 {
     setTextKey(true);
@@ -277,7 +277,7 @@ void KORVA_Text::deleteBackward()
 void KORVA_Text::insert(QString text)
 {
     if (text == "\t") {
-        // Counted from where the line begins that the picture gets.
+        // Counted from where the uncommitted part of the line begins.
         const int begin = m_text.contains('\n') ? m_margin : m_start.x();
         m_stops.push(m_cursor.x());
         const int tab = tabWidth * advance("x");

@@ -12,36 +12,36 @@
 
 class KORVA_ClassicPainter;
 
-/// Text at a tapped point. What is typed is shown inverted in the zoomed picture beside a blinking I-beam
-/// and painted into the picture when it is committed: by the next press, by leaving the tool, by
-/// paintProportionBuffer().
+/// Text at a tapped point. Typed letters are shown inverted in the zoomed picture, beside a blinking
+/// I-beam. They are painted into the picture when the text is committed: by the next press, by leaving the
+/// tool, or by paintProportionBuffer().
 ///
-/// What is typed while no text is open, before a tap or after leaving the tool, is left to the host.
+/// While no text is open (before a tap, or after leaving the tool) keys are left to the host.
 ///
 /// The left pen gives the colour and, by its width, the size: 1, 3 and 5 mean 12, 16 and 20 points.
-/// Positions are widget coordinates, y is the baseline.
+/// Positions are widget coordinates; y is the baseline.
 class KORVA_EXPORT KORVA_Text : public KORVA_Tool
 {
     Q_OBJECT
 
 public:
-    /// `name` is KORVA_Tool::name(). Turns the platform's hiding of the on-screen keyboard off.
+    /// `name` is KORVA_Tool::name(). Tells the platform not to hide the on-screen keyboard by itself.
     explicit KORVA_Text(const QString& name);
     ~KORVA_Text() override;
 
     /// Whether the key types or deletes text; other keys are left to the host.
     [[nodiscard]] static bool isTyping(const QKeyEvent& event);
 
-    /// True when a text is open and nothing is typed; before the first tap there is none, which is not
-    /// empty.
+    /// True when a text is open and nothing has been typed. False before the first tap, when no text is
+    /// open.
     [[nodiscard]] bool isBufferEmpty() const;
-    /// True when the text was committed by paintProportionBuffer() and nothing was typed since.
+    /// True when the text was committed by paintProportionBuffer() and nothing has been typed since.
     [[nodiscard]] bool getPaintPropotionStatus() const { return m_proportionPainted; }
     /// Forgets the typed text without painting it and takes it off the screen; undo works again.
     void resetBuffer();
-    /// Commits the typed text: snapshot, paint, modified. All three also for an empty text.
+    /// Commits the typed text: snapshot, paint, modified. An empty text gets all three, too.
     void paintBuffer();
-    /// Commits and empties the text; what is typed next goes on at the cursor.
+    /// Commits the text and empties the buffer; typing goes on at the cursor.
     void paintProportionBuffer();
     /// Takes the I-beam off the screen; it comes back with its next blink.
     void clearOldCursor();
@@ -52,7 +52,7 @@ public:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    /// A recorded key once more: not recorded again, and what was committed stays committed.
+    /// Types a recorded key again. It is not recorded again, and committed text stays committed.
     void keyPressEventSimu(QKeyEvent* event);
     void activating() override;
     void deactivating() override;
@@ -67,12 +67,12 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    /// A text's life. A press ends it and a tap opens the next; leaving the tool ends it, too, and keeps a
-    /// press. Nothing comes of one whose canvas has gone: it stays open until the next press.
+    /// A text's life. A press ends the text, and a tap opens the next. Leaving the tool ends it, too, but
+    /// not a press. A text whose canvas has gone comes to nothing: it stays open until the next press.
     enum State {
-        Closed,  ///< no text, or the last one, which is in the picture: what is typed is the host's
+        Closed,  ///< no text, or the last one, which is in the picture; keys are the host's
         Pressed, ///< as closed, from a press to its button's release: a tap opens a text
-        Open,    ///< what is typed goes into the text; the only one with keys, letters on screen, a blink
+        Open,    ///< keys go into the text; only now are there letters on screen, and a blink
     };
 
     void open(QPoint at);
@@ -93,14 +93,14 @@ private:
     [[nodiscard]] QRect cursorRect() const;
 
     State m_state = Closed;
-    QPoint m_start;   ///< of what is typed; where the line goes on after a commit in the middle of it
-    int m_margin = 0; ///< the x of new lines: the tap's
-    QPoint m_cursor;  ///< while pressed: the press
+    QPoint m_start; ///< where the typed text begins; after a commit within a line, where that line goes on
+    int m_margin = 0;                        ///< the x of new lines: that of the tap
+    QPoint m_cursor;                         ///< while pressed: the press
     Qt::MouseButton m_button = Qt::NoButton; ///< while pressed: the button
     bool m_cursorShown = false;              ///< what is inverted on screen now: the I-beam,
     QString m_shown;                         ///< and the letters, with what the input method is composing
     bool m_proportionPainted = false;        ///< in any state; a letter ends it, not the text's end
-    bool m_isCommitting = false;             ///< in any state: until all have heard of the commit
+    bool m_isCommitting = false;             ///< in any state: until every listener has heard of the commit
     QString m_text;                          ///< once closed, the last one; null until a tap or a commit
     QStack<int> m_stops;                     ///< the cursor's x before each line break and tab of the text
     std::vector<std::unique_ptr<QKeyEvent>> m_keys;

@@ -7,8 +7,8 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
-// What an input method or a keyboard on the screen types, and what it is told of the text. A text is
-// written at its end only: there is the cursor.
+// Typing by an input method or an on-screen keyboard, and what these are told of the text. A text grows
+// only at its end, where the cursor is.
 
 void KORVA_Text::tellInputMethod(Qt::InputMethodQueries changed) const
 {
@@ -31,7 +31,7 @@ void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
         keys.push_back(m_keys.back().get());
     };
 
-    // What is replaced may end before the cursor: the rest is deleted with it, and typed again.
+    // The replaced part may end before the cursor: the rest is deleted with it, and typed again.
     const qsizetype size = m_text.size();
     const qsizetype begin = qBound(qsizetype(0), size + event->replacementStart(), size);
     const qsizetype end =
@@ -48,7 +48,7 @@ void KORVA_Text::inputMethodEvent(QInputMethodEvent* event)
 
     if (!keys.empty())
         typeKeys(keys);
-    if (canvas() && m_state == Open) // who has heard of it may have left the tool
+    if (canvas() && m_state == Open) // a slot may have left the tool
         showText(m_text + event->preeditString());
 }
 

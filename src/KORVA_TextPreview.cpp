@@ -5,8 +5,7 @@
 
 #include <QApplication>
 
-// What is seen of a text before it is committed: the letters and the I-beam, inverted in the zoomed
-// picture.
+// How a text looks before it is committed: letters and I-beam, inverted in the zoomed picture.
 
 namespace {
 

@@ -7,29 +7,29 @@ class QMenu;
 class QPushButton;
 class UTIL_ComboBox;
 
-/// The editor's four controls as they look: the tool and the option button with their pop-ups, the zoom box
-/// and the colour button. They are the editor's own children, and what is chosen in them goes to its slots.
+/// The editor's four controls: the tool and the option button with their pop-ups, the zoom box and the
+/// colour button. They are the editor's own children, and choices in them go to its slots.
 class KORVA_ToolBar
 {
 public:
-    /// The zoom box is empty, and no option is shown.
+    /// Begins with an empty zoom box and no option.
     KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tools);
 
     [[nodiscard]] UTIL_ComboBox& zoomBox() const { return *m_zoomBox; }
 
-    /// Puts the controls where the editor's direction and size have them.
+    /// Puts the controls where the editor's direction and size want them.
     void arrange();
-    /// A tool that is new in the set gets the last row of the tool pop-up.
+    /// Gives a tool that is new in the set the last row of the tool pop-up.
     void addTool(int tool);
-    /// A tool that has a row in the tool pop-up: its icon on the button, its row checked.
+    /// Shows a tool that has a row in the tool pop-up: its icon on the button, its row checked.
     void showTool(int tool);
-    /// A row of the option pop-up; another number shows none.
+    /// Shows a row of the option pop-up; any other number shows none.
     void showOption(int entry);
     void showColor(const QColor& color);
 
     /// Fills the option pop-up with a tool's options; empty for tools without.
     void loadOptions(int tool);
-    /// The identifier of an entry of the option pop-up, which has to exist.
+    /// The identifier of an entry of the option pop-up. The entry must exist.
     [[nodiscard]] int optionId(int entry) const;
 
 private:

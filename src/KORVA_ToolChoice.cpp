@@ -95,7 +95,7 @@ void KORVA_ToolChoice::tellChanges()
     if (isOtherTool)
         emit m_editor.toolChanged(tool);
     if (tool != m_tool)
-        return; // who heard of it chose another one, and all is told
+        return; // a slot chose another one, and all is announced
     const bool isOtherOption = std::exchange(m_toldOption, option()) != option();
     if (isOtherTool || isOtherOption)
         emit m_editor.optionChanged(option());
@@ -103,7 +103,7 @@ void KORVA_ToolChoice::tellChanges()
 
 void KORVA_ToolChoice::selectTool(int tool)
 {
-    const int choice = ++m_choices; // a host that hears of it may choose another one, which stands
+    const int choice = ++m_choices; // a slot may choose another one, which stays
     m_bar.showTool(tool);
     if (KORVA_Text* text = m_editor.currentText(); text && tool != tables::Text) {
         text->clearOldCursor();
@@ -159,7 +159,7 @@ void KORVA_ToolChoice::applyOption(int menuId)
     KORVA_Manager* const manager = m_editor.manager();
     manager->setLMBColor(m_editor.color());
 
-    const int tool = optionTool(); // what is none of its options counts as its last one
+    const int tool = optionTool(); // any other number counts as its last one
     const int entry = menuId - m_tools.firstOptionEntry(tool);
     const int last = m_tools.optionCount(tool) - 1;
     const int value = entry >= 0 && entry < last ? entry : last;

@@ -11,41 +11,42 @@ class KORVA_EditCanvas;
 class KORVA_ToolBar;
 class KORVA_ToolSet;
 
-/// Which tool and which option of it are chosen: what the tool bar shows of it, what the manager gets, and
-/// what is remembered for the next tool that has the same option. Small, medium and large are one choice
-/// for all that have a size; a host's own tools keep their options to themselves.
+/// The chosen tool and its option. It shows them in the tool bar, hands them to the manager, and remembers
+/// the option for the next tool that has the same one. Small, medium and large are one choice for all tools
+/// that have a size; a host's own tools keep their options to themselves.
 ///
-/// Who hears a signal meanwhile may choose another tool, which then stands.
+/// A slot of a signal that is emitted meanwhile may choose another tool; that choice stays.
 class KORVA_ToolChoice
 {
 public:
-    /// The pencil in its first option, as the manager begins with. Neither is owned; the editor needs its
-    /// manager with the first call.
+    /// Begins with the pencil in its first option, as the manager does. Owns none of its arguments. The
+    /// editor needs its manager from the first call on.
     KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar, const KORVA_ToolSet& tools);
 
-    /// An entry of the tool pop-up; another number is the line.
+    /// Chooses an entry of the tool pop-up; any other number means the line.
     void selectEntry(int menuId);
-    /// An entry of the option pop-up; another number is the tool's last option.
+    /// Chooses an entry of the option pop-up; any other number means the tool's last option.
     void selectOptionEntry(int menuId);
-    /// A tool by its identifier; nothing for none.
+    /// Chooses a tool by its identifier. Does nothing if there is no such tool.
     void select(int tool);
-    /// An option by its row; nothing for none.
+    /// Chooses an option by its row. Does nothing if there is no such row.
     void selectOption(int row);
-    /// The select tool, set to frame an area and not to move the view; nobody has chosen it.
+    /// Makes the select tool current, to frame an area and not to move the view. Does not emit chosen().
     void selectAreaTool();
-    /// As the constructor left it; the manager has been reset before.
+    /// Returns to the constructor's choice. The manager has been reset before.
     void reset();
 
-    /// Chooses the eraser for a while, as a person does in the pop-up; nothing where it is chosen already.
+    /// Chooses the eraser for a while, as a person does in the pop-up. Does nothing if it is chosen
+    /// already.
     void lendEraser();
-    /// Chooses the tool again that lendEraser() found, unless another than the eraser is chosen by now.
+    /// Chooses the tool before lendEraser() again, unless one other than the eraser has been chosen by now.
     void takeEraserBack();
 
     [[nodiscard]] int tool() const { return m_tool; }
     /// -1 for a tool without options.
     [[nodiscard]] int option() const;
 
-    /// The cursor of the eraser as large as the eraser and the zoom make it; nothing with other tools.
+    /// Sets the eraser's cursor, in the size that eraser and zoom give it. Does nothing with other tools.
     void updateRubberCursor();
 
 private:
@@ -71,9 +72,9 @@ private:
     const KORVA_ToolSet& m_tools;
     Remembered m_remembered;
     std::optional<int> m_beforeEraser; ///< the tool, while the eraser is lent
-    int m_toldTool = 0;                ///< what listeners know
+    int m_toldTool = 0;                ///< the tool last announced by a signal
     int m_toldOption = 0;
     int m_tool = 0;    ///< the identifier in the manager; 7 while select is in hand mode
-    int m_choices = 0; ///< of a tool, counted
+    int m_choices = 0; ///< how many choices of a tool there were
     bool m_isChangingPen = false;
 };

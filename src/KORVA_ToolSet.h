@@ -13,12 +13,12 @@
 class KORVA_ToolSet
 {
 public:
-    /// The identifier of the new tool.
+    /// Adds a host's tool, and returns its identifier.
     int add(const QIcon& icon, const QString& name, const QList<KORVA_ToolOption>& options);
 
     [[nodiscard]] bool has(int tool) const;
     [[nodiscard]] QPixmap icon(int tool) const;
-    /// As a person reads it; empty for no tool.
+    /// The name for the user; empty if there is no such tool.
     [[nodiscard]] QString name(int tool) const;
     /// In the order of the option pop-up.
     [[nodiscard]] int optionCount(int tool) const;
@@ -29,9 +29,9 @@ public:
 
     // What the entries of the pop-ups carry.
     [[nodiscard]] int toolEntry(int tool) const;
-    /// The tool of an entry; -1 for none.
+    /// The tool of an entry; -1 if there is none.
     [[nodiscard]] int toolOfEntry(int entry) const;
-    /// Of a tool's first option; those of its others follow.
+    /// The entry of a tool's first option; those of the others follow.
     [[nodiscard]] int firstOptionEntry(int tool) const;
 
     /// In the order of the tool pop-up.

@@ -22,11 +22,11 @@ namespace {
 
 constexpr int secondFinger = 60; // milliseconds in which it may follow the first one
 constexpr double jitter = 3;     // pixels; a waiting finger that moves farther draws
-constexpr int echoTime = 500;    // milliseconds; the same
+constexpr int echoTime = 500;    // milliseconds in which mouse events may follow
 
 constexpr double reachOfFinger = 9; // millimetres
 constexpr double millimetresPerInch = 25.4;
-constexpr double fewestDots = 40; // an inch; screens tell wonderful sizes
+constexpr double fewestDots = 40; // per inch; some screens report impossible sizes
 constexpr double mostDots = 400;
 
 int fingerReach(const QWidget& widget)
@@ -48,7 +48,7 @@ struct KORVA_TouchInput::Transition
     static const Transition table[];
 };
 
-// What is not listed changes nothing.
+// Pairs that are not listed change nothing.
 const KORVA_TouchInput::Transition KORVA_TouchInput::Transition::table[] = {
     {Idle, Touched, Waiting, &KORVA_TouchInput::wait},
     {Idle, Palm, Ignoring, nullptr},
@@ -149,7 +149,7 @@ bool KORVA_TouchInput::eventFilter(QObject* watched, QEvent* event)
     return watched == m_canvas.pasteLabel() && isEcho(*event);
 }
 
-/// What the window system or the toolkit makes of touches for those who know none.
+/// Whether it is a mouse event that the window system or Qt made of a touch, for programs that know none.
 bool KORVA_TouchInput::isEcho(const QEvent& event) const
 {
     const QEvent::Type type = event.type();
@@ -172,7 +172,7 @@ bool KORVA_TouchInput::takesTouch(QTouchEvent& event)
     event.accept();
     m_echoes.setRemainingTime(echoTime);
     const bool isNew = event.type() == QEvent::TouchBegin && !m_fingers.isEmpty();
-    if (isNew || event.type() == QEvent::TouchCancel) { // new: the end went to a pop-up
+    if (isNew || event.type() == QEvent::TouchCancel) { // new: the previous end went to a pop-up
         m_fingers.clear();
         enter(Cancelled);
     }
@@ -210,7 +210,7 @@ void KORVA_TouchInput::follow(const QTouchEvent& event)
     }
 }
 
-/// A mouse that is held has the tool.
+/// While a mouse button is held the mouse has the tool.
 bool KORVA_TouchInput::counts() const
 {
     return !m_pen.isNear() && !(QGuiApplication::mouseButtons() & Qt::LeftButton);
@@ -298,7 +298,7 @@ void KORVA_TouchInput::tap()
     release();
 }
 
-/// Where something else has happened to the drawing since the press, the stroke stays as it is.
+/// If anything else has happened to the drawing since the press, the stroke stays as it is.
 void KORVA_TouchInput::takeBack()
 {
     if (!m_before || !m_before->fits()) {
@@ -355,7 +355,7 @@ void KORVA_TouchInput::takeBackAndHold()
     hold();
 }
 
-/// What is between the fingers now stays there.
+/// The point that is now between the fingers stays there.
 void KORVA_TouchInput::hold()
 {
     m_zoom = m_canvas.zoom();

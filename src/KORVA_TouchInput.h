@@ -16,30 +16,31 @@
 class QMouseEvent;
 class QTouchEvent;
 
-/// What fingers and pens do to a canvas. One finger's stroke becomes one of the left button, which a second
-/// finger takes back; two fingers pan and pinch; a long press opens the menu; a pen draws, and while it is
-/// near, fingers that come are a palm. A mouse passes untouched.
+/// What fingers and pens do to a canvas. One finger's stroke becomes one of the left button; a second
+/// finger takes it back. Two fingers pan and pinch, and a long press opens the menu. A pen draws; while it
+/// is near, new fingers count as a palm. A mouse passes untouched.
 class KORVA_TouchInput : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Watches the canvas, which owns it, and what it tells: the editor's signals where there is one.
+    /// Watches the canvas, which owns it, and listens to the editor's signals or, without one, the
+    /// canvas's.
     KORVA_TouchInput(KORVA_Canvas& canvas, KORVA_EditCanvas* editor);
 
-    /// Of each event that reaches the canvas, before the canvas; true when there is nothing left to do.
+    /// Gets each event of the canvas before the canvas does. True if there is nothing left to do.
     [[nodiscard]] bool takes(QEvent* event);
-    /// The stroke that is under way can no longer be taken back.
+    /// From now on the stroke that is under way cannot be taken back.
     void settle();
 
     void setFingerUse(KORVA_Canvas::FingerUse use) { m_use = use; }
     [[nodiscard]] KORVA_Canvas::FingerUse fingerUse() const { return m_use; }
 
-    /// Keeps from the floating piece what takes() keeps from the canvas.
+    /// Keeps from the floating piece the mouse events that takes() keeps from the canvas.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    /// By a pinch: the zoom that keeps the picture between the fingers, in percent.
+    /// A pinch asks for the zoom, in percent, that keeps the picture between the fingers.
     void zoomWanted(double percent);
     /// See KORVA_PenInput::eraserWanted().
     void eraserWanted(bool wanted);
@@ -48,13 +49,13 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    /// Of the fingers. The pen has none: it is down or not.
+    /// The state of the fingers. A pen has none: it is down or not.
     enum State {
         Idle,     ///< no finger is down
-        Waiting,  ///< one is down, and nothing has been handed on: a second one may follow
+        Waiting,  ///< one is down; nothing is handed on yet, because a second one may follow
         Drawing,  ///< one finger's stroke is under way
         Panning,  ///< fingers move the view
-        Ignoring, ///< until all fingers are lifted, nothing counts
+        Ignoring, ///< nothing counts until all fingers are lifted
     };
     enum Input {
         Touched,   ///< the first finger came down
@@ -80,10 +81,10 @@ private:
     /// What a waiting finger will do.
     enum Task {
         Draw,
-        Tap, ///< all of it when the finger is lifted: what is typed shall not be committed before
+        Tap, ///< all of it when the finger is lifted, so that open text is not committed before
         Pan,
     };
-    /// What the host was last told to offer.
+    /// What the host was last asked to offer.
     struct Offers
     {
         bool undo = false;
@@ -121,7 +122,7 @@ private:
     KORVA_Canvas::FingerUse m_use = KORVA_Canvas::FingerDraws;
     State m_state = Idle;
     QList<Finger> m_fingers;
-    QDeadlineTimer m_echoes; ///< until then, mouse events made from touches are known already
+    QDeadlineTimer m_echoes; ///< until then, mouse events that are made of touches do not count
 
     // Of a finger's stroke.
     Task m_task = Draw;
@@ -137,9 +138,9 @@ private:
     QBasicTimer m_holding;
 
     // Of panning.
-    QPointF m_anchor; ///< what is between the fingers, in picture coordinates
+    QPointF m_anchor; ///< the point between the fingers, in picture coordinates
     double m_spread = 0;
-    int m_zoom = 100; ///< of that spread
+    int m_zoom = 100; ///< at that spread
 
     KORVA_PenInput m_pen;
 };

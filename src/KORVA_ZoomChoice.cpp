@@ -109,7 +109,7 @@ int KORVA_ZoomChoice::fittingRate()
     return qMax(1, qMin(100 * page.width() / picture.width(), 100 * page.height() / picture.height()));
 }
 
-// The row of the rate that is in force; -1 for one that only a host sets.
+// The row of the rate that is in force; -1 for a rate that only a host can set.
 int KORVA_ZoomChoice::rowInForce() const
 {
     const int rate = m_editor.canvas()->zoom();

@@ -8,22 +8,22 @@ class UTIL_ComboBox;
 class KORVA_ZoomChoice
 {
 public:
-    /// Fills the box, which shows 100 %, and marks the row in force in its list whenever that opens.
-    /// Neither is owned; the editor needs its canvas with the first call.
+    /// Fills the box, which shows 100 %. Whenever its list opens, the row in force is marked there. Owns
+    /// neither argument. The editor needs its canvas from the first call on.
     KORVA_ZoomChoice(KORVA_EditCanvas& editor, UTIL_ComboBox& box);
 
-    /// Commits typed text and zooms by a row; another number is 100 %. The box keeps what it shows.
+    /// Commits typed text and zooms by a row; any other number means 100 %. The box keeps what it shows.
     void select(int row);
-    /// Lets the box show a row; false for none.
+    /// Makes the box show a row. False if there is no such row.
     bool show(int row);
-    /// Chooses the rate that is nearest to the percentage between it and the one in force, as a person
-    /// chooses in the box; nothing where there is none.
+    /// Of the rates between the percentage and the one in force, chooses the one nearest to the percentage,
+    /// as a person does in the box. Does nothing if there is none.
     void stepTowards(double percent);
     /// The row that the box shows.
     [[nodiscard]] int shown() const;
-    /// Zooms anew where "Fit to page" is shown and in force and means another rate now.
+    /// Zooms again if "Fit to page" is shown and in force, and now means another rate.
     void fitAgain();
-    /// The canvas could not be zoomed and is at 100 %: so is the box.
+    /// The canvas could not be zoomed and is at 100 %; the box shows that.
     void fallBack();
 
 private:
