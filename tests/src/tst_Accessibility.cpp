@@ -30,14 +30,6 @@ QStringList tree(const QAccessibleInterface& node, int depth = 0)
     return lines;
 }
 
-QList<const QObject*> described;
-
-void hear(QAccessibleEvent* event)
-{
-    if (event->type() == QAccessible::DescriptionChanged)
-        described << event->object();
-}
-
 QAccessibleInterface* hostsOwn(const QString& className, QObject* object)
 {
     return className == "QLineEdit"
@@ -52,12 +44,9 @@ class tst_Accessibility : public support::TestCase
     Q_OBJECT
 
 private slots:
-    void init();
     void theTreeHasNoFillers();
     void everyChildKnowsItsPlace();
     void theCanvasIsDescribed();
-    void aChangeIsToldOnce();
-    void nothingIsDoneUnheard();
     void hostsNamesComeFirst();
     void hostsInterfacesStay();
     void colorsHaveWords_data();
@@ -66,14 +55,6 @@ private slots:
     void menusLookAsBefore();
     void buttonsArePressed();
 };
-
-void tst_Accessibility::init()
-{
-    TestCase::init();
-    QAccessible::installUpdateHandler(hear);
-    QAccessible::setActive(true);
-    described.clear();
-}
 
 void tst_Accessibility::theTreeHasNoFillers()
 {
@@ -137,56 +118,6 @@ void tst_Accessibility::theCanvasIsDescribed()
 
     KORVA_Canvas alone(nullptr, 30, 20);
     QCOMPARE(descriptionOf(alone), "Zoom 100 %. 30 by 20 pixels");
-}
-
-void tst_Accessibility::aChangeIsToldOnce()
-{
-    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
-    editor.show();
-    KORVA_Canvas& canvas = *editor.canvas();
-    const auto told = [&canvas] { return described.count(&canvas); };
-    const auto settled = [&](const std::function<void()>& change) {
-        QTest::qWait(150);
-        described.clear();
-        change();
-        QTest::qWait(150);
-        return told();
-    };
-    (void)settled([&] { Gestures(canvas).click({50, 50}); });
-    QCOMPARE(settled([&] {
-                 Gestures(canvas).drag({{50, 50}, {60, 60}, {70, 70}});
-             }),
-             0); // says nothing new
-    QCOMPARE(settled([&] { editor.setZoom(200); }), 1);
-    QCOMPARE(settled([&] { editor.setCanvasSize(100, 80); }), 1);
-    QCOMPARE(settled([&] { editor.slotSelChangeToolOptions(202); }), 1);
-    QCOMPARE(settled([&] {
-                 for (int id = 100; id < 107; ++id)
-                     editor.slotSelChangeTool(id);
-             }),
-             1);
-    QCOMPARE(settled([&] { editor.selectAll(); }), 1);
-    QCOMPARE(settled([&] { canvas.pasteLabel()->move(20, 20); }), 1);
-    QCOMPARE(settled([&] { canvas.mergePastePixmap(); }), 1);
-    canvas.setKeyboardDrawing(true);
-    QCOMPARE(settled([&] {
-                 for (int i = 0; i < 5; ++i)
-                     Gestures(canvas).key(Qt::Key_Left);
-             }),
-             1);
-}
-
-void tst_Accessibility::nothingIsDoneUnheard()
-{
-    QAccessible::setActive(false);
-    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
-    editor.show();
-    QTest::qWait(150);
-    described.clear();
-    editor.setZoom(200);
-    editor.selectAll();
-    QTest::qWait(150);
-    QVERIFY(!described.contains(editor.canvas()));
 }
 
 void tst_Accessibility::hostsNamesComeFirst()
@@ -287,9 +218,13 @@ void tst_Accessibility::buttonsArePressed()
     QAccessibleInterface* own = interfaceOf(*button);
     QCOMPARE(own->role(), QAccessible::ButtonMenu);
     QVERIFY(own->state().hasPopup);
+    bool wasOpen = false;
+    QTimer::singleShot(500, button, [&] { // it runs its own event loop
+        wasOpen = button->menu()->isVisible();
+        button->menu()->close();
+    });
     own->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
-    QTRY_VERIFY(button->menu()->isVisible());
-    button->menu()->close();
+    QTRY_VERIFY(wasOpen);
 
     auto* zoom = editor.findChild<QComboBox*>("zoomBox");
     QCOMPARE(interfaceOf(*zoom)->text(QAccessible::Value), "100%");
