@@ -4,8 +4,6 @@
 
 #include <QRegularExpression>
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 namespace pad {

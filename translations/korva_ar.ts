@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>لا توجد لغة «%1»؛ ستُستخدم الإنجليزية (المعروفة: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>الخيار --undo-steps يقبل عددًا من 1 إلى %1، لا «%2»</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>يأخذ ‎--working-size العرضxالارتفاع حتى %1، وليس «%2»</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>يأخذ ‎--working-depth القيمة 16 أو 24، وليس «%1»</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>عدد الخطوات التي يمكن التراجع عنها (الافتراضي: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>ملاءمة الصور المفتوحة لهذا الحجم (الافتراضي: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>عمق ألوان الصور المفتوحة (الافتراضي: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>إنهاء النص</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>الإصبع يحرّك(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1301,6 +1336,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>علامة الاقتباس الختامية ناقصة</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>عدد من الخطوات</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>jazyk „%1“ není k dispozici; použije se angličtina (známé: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps vyžaduje číslo od 1 do %1, ne „%2“</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size vyžaduje ŠxV, nejvýše %1, ne „%2“</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth vyžaduje 16 nebo 24, ne „%1“</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>kolik kroků lze vrátit (výchozí: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>vejít otevřené obrázky do této velikosti (výchozí: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>barevná hloubka otevřených obrázků (výchozí: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Ukončit text</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Prst posouvá</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1333,11 @@ po zrušení vypíše 902 a skončí s kódem 1.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>chybí koncová uvozovka</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>počet kroků</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>sproget &quot;%1&quot; findes ikke; bruger engelsk (kendte: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps kræver et tal fra 1 til %1, ikke &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size kræver BxH, højst %1, ikke &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth kræver 16 eller 24, ikke &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>hvor mange trin der kan fortrydes (standard: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>tilpas åbnede billeder til denne størrelse (standard: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>farvedybden af åbnede billeder (standard: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Afslut tekst</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>F&amp;inger flytter</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ hvis det bekræftes, udskriver 902 og slutter med 1, hvis det annulleres.</trans
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>det afsluttende anførselstegn mangler</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>et antal trin</translation>
     </message>
 </context>
 <context>

@@ -741,6 +741,36 @@
         <comment>command line</comment>
         <translation>die Sprache »%1« gibt es nicht, daher Englisch (bekannt: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps verlangt eine Zahl von 1 bis %1, nicht »%2«</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size verlangt BxH, höchstens %1, nicht »%2«</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth verlangt 16 oder 24, nicht »%1«</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>wie viele Schritte rückgängig zu machen sind (sonst: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>geöffnete Bilder in diese Größe einpassen (sonst: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>die Farbtiefe geöffneter Bilder (sonst: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -998,6 +1028,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Text beenden</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Finger schiebt</translation>
     </message>
 </context>
 <context>
@@ -1438,6 +1473,11 @@ bestätigt wurde, gibt 902 aus und endet mit 1, wenn abgebrochen wurde.</transla
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>das schließende Anführungszeichen fehlt</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>eine Anzahl von Schritten</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>δεν υπάρχει γλώσσα «%1»· χρησιμοποιούνται τα αγγλικά (γνωστές: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>το --undo-steps δέχεται έναν αριθμό από 1 έως %1, όχι «%2»</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>το --working-size θέλει ΠxΥ, έως %1, όχι «%2»</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>το --working-depth θέλει 16 ή 24, όχι «%1»</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>πόσα βήματα αναιρούνται (προεπιλογή: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>προσαρμογή των εικόνων που ανοίγουν σε αυτό το μέγεθος (προεπιλογή: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>το βάθος χρώματος των εικόνων που ανοίγουν (προεπιλογή: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Τέλος κειμένου</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Δάχτυλο μετακινεί</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>λείπουν τα εισαγωγικά στο τέλος</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>ένα πλήθος βημάτων</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>el idioma «%1» no está disponible; se usa el inglés (disponibles: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps admite un número de 1 a %1, no «%2»</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size necesita AxH, como máximo %1, no «%2»</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth necesita 16 o 24, no «%1»</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>cuántos pasos se pueden deshacer (predeterminado: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>ajustar las imágenes abiertas a este tamaño (predeterminado: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>la profundidad de color de las imágenes abiertas (predeterminado: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Terminar texto</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Dedo desplaza</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ confirmó, escribe 902 y termina con 1 si se canceló.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>faltan las comillas de cierre</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>un número de pasos</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>kieltä ”%1” ei ole; käytetään englantia (tunnetut: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps vaatii luvun väliltä 1–%1, ei arvoa ”%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size tarvitsee muodon LxK, enintään %1, ei ”%2”</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth tarvitsee arvon 16 tai 24, ei ”%1”</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>montako vaihetta voi kumota (oletus: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>sovita avatut kuvat tähän kokoon (oletus: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>avattujen kuvien värisyvyys (oletus: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Lopeta teksti</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>S&amp;ormi vierittää</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ kuva vahvistetaan, tulostaa 902 ja päättyy arvoon 1, kun se perutaan.</transla
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>lopettava lainausmerkki puuttuu</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>vaiheiden määrä</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>la langue «&#xa0;%1&#xa0;» n’est pas disponible&#xa0;; l’anglais est utilisé (disponibles&#xa0;: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps attend un nombre de 1 à %1, et non «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size attend LxH, au plus %1, et non « %2 »</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth attend 16 ou 24, et non « %1 »</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>nombre d’étapes annulables (défaut : 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>ajuster les images ouvertes à cette taille (défaut : 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>la profondeur de couleur des images ouvertes (défaut : 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Finir le texte</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Doigt déplace</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ confirmée, affiche 902 et se termine avec 1 si elle est annulée.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>le guillemet fermant manque</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>un nombre d’étapes</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>אין שפה בשם &quot;%1&quot;; משתמשים באנגלית (השפות הקיימות: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>האפשרות --undo-steps מקבלת מספר מ־1 עד %1, ולא &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>האפשרות ‎--working-size מקבלת רוחבxגובה עד %1, ולא &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>האפשרות ‎--working-depth מקבלת 16 או 24, ולא &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>כמה צעדים אפשר לבטל (ברירת מחדל: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>התאמת תמונות שנפתחות לגודל הזה (ברירת מחדל: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>עומק הצבע של תמונות שנפתחות (ברירת מחדל: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>סיום הטקסט</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>א&amp;צבע מזיזה</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>חסרות מירכאות סוגרות</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>מספר צעדים</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>भाषा “%1” उपलब्ध नहीं; अंग्रेज़ी ली जा रही है (उपलब्ध: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps में 1 से %1 तक की संख्या दें, “%2” नहीं</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size को %1 तक चौड़ाईxऊँचाई चाहिए, &apos;%2&apos; नहीं</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth को 16 या 24 चाहिए, &apos;%1&apos; नहीं</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>कितने चरण पूर्ववत हो सकते हैं (डिफ़ॉल्ट: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>खोली गई तस्वीरों को इस आकार में बैठाएँ (डिफ़ॉल्ट: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>खोली गई तस्वीरों की रंग गहराई (डिफ़ॉल्ट: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>टेक्स्ट पूरा करें</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>उँगली से सरकाएँ(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>बंद करने वाला उद्धरण चिह्न नहीं है</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>चरणों की संख्या</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>nincs „%1” nyelv; helyette angol (ismert: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps után 1 és %1 közötti szám kell, nem „%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>a --working-size SZxM alakú, legfeljebb %1, nem „%2”</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>a --working-depth 16 vagy 24, nem „%1”</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>hány lépés vonható vissza (alapértelmezés: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>a megnyitott képek igazítása ehhez a mérethez (alapértelmezés: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>a megnyitott képek színmélysége (alapértelmezés: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Szöveg vége</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Ujj görget</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1331,11 @@ elvetéskor 902-t ír ki és 1-gyel lép ki.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>hiányzik a záró idézőjel</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>a lépések száma</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>bahasa “%1” tidak ada; memakai bahasa Inggris (tersedia: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps memerlukan angka dari 1 sampai %1, bukan “%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size memerlukan LxT, paling besar %1, bukan &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth memerlukan 16 atau 24, bukan &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>berapa langkah yang dapat dibatalkan (bawaan: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>paskan gambar yang dibuka ke ukuran ini (bawaan: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>kedalaman warna gambar yang dibuka (bawaan: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Akhiri teks</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Jari menggeser</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1331,11 @@ jika dikonfirmasi, mencetak 902 dan keluar dengan 1 jika dibatalkan.</translatio
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>tanda kutip penutup tidak ada</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>sejumlah langkah</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>la lingua «%1» non è disponibile; viene usato l’inglese (disponibili: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps richiede un numero da 1 a %1, non «%2»</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size vuole LxA, al massimo %1, non «%2»</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth vuole 16 o 24, non «%1»</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>quanti passi si possono annullare (predefinito: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>adatta le immagini aperte a questa dimensione (predefinito: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>la profondità di colore delle immagini aperte (predefinito: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Termina il testo</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Dito sposta</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ confermata, scrive 902 ed esce con 1 se è stata annullata.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>mancano le virgolette di chiusura</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>un numero di passi</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>言語「%1」はないため、英語を使います (使える言語: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps には 1 から %1 までの数を指定します (「%2」は使えません)</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size には %1 までの 幅x高さ を指定します。「%2」は使えません</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth には 16 か 24 を指定します。「%1」は使えません</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>元に戻せる回数 (既定: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>開いた画像をこの大きさに収める (既定: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>開いた画像の色深度 (既定: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>文字入力を終える</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>指で表示を移動(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1331,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>閉じる引用符がありません</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>回数</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>&apos;%1&apos; 언어가 없어 영어를 사용합니다(사용 가능: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps에는 &apos;%2&apos;이(가) 아니라 1부터 %1까지의 숫자가 필요합니다</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size에는 최대 %1의 너비x높이가 필요합니다. &apos;%2&apos;은(는) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth에는 16 또는 24가 필요합니다. &apos;%1&apos;은(는) 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>실행 취소할 수 있는 단계 수(기본값: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>연 그림을 이 크기에 맞추기(기본값: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>연 그림의 색 깊이(기본값: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>텍스트 끝내기</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>손가락으로 이동(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1331,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>닫는 따옴표가 없습니다</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>단계 수</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>de taal ‘%1’ is er niet; Engels wordt gebruikt (bekend: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps verwacht een getal van 1 tot en met %1, niet ‘%2’</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size verwacht BxH, hoogstens %1, niet &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth verwacht 16 of 24, niet &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>hoeveel stappen ongedaan te maken zijn (standaard: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>geopende afbeeldingen in dit formaat passen (standaard: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>de kleurdiepte van geopende afbeeldingen (standaard: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Tekst afsluiten</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>V&amp;inger schuift</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ ze is bevestigd, toont 902 en eindigt met 1 als ze is geannuleerd.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>het aanhalingsteken aan het eind ontbreekt</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>een aantal stappen</translation>
     </message>
 </context>
 <context>

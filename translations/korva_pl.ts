@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>nie ma języka „%1”; użyto angielskiego (znane: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps wymaga liczby od 1 do %1, a nie „%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size wymaga SxW, najwyżej %1, a nie „%2”</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth wymaga 16 lub 24, a nie „%1”</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>ile kroków można cofnąć (domyślnie: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>dopasuj otwarte obrazy do tego rozmiaru (domyślnie: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>głębia kolorów otwartych obrazów (domyślnie: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Zakończ tekst</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>P&amp;alec przesuwa</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1333,11 @@ z kodem 0, po anulowaniu wypisuje 902 i kończy z kodem 1.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>brak zamykającego cudzysłowu</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>liczba kroków</translation>
     </message>
 </context>
 <context>

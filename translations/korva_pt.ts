@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>o idioma “%1” não está disponível; será usado o inglês (disponíveis: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps exige um número de 1 a %1, e não “%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size requer LxA, até %1, e não &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth requer 16 ou 24, e não &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>quantos passos podem ser desfeitos (padrão: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>ajustar as imagens abertas a este tamanho (padrão: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>a profundidade de cor das imagens abertas (padrão: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Terminar texto</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Dedo desloca</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ confirmada, escreve 902 e termina com 1 se foi cancelada.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>faltam as aspas finais</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>um número de passos</translation>
     </message>
 </context>
 <context>

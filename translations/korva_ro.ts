@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>limba „%1” nu există; se folosește engleza (cunoscute: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps cere un număr de la 1 la %1, nu „%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size cere LxÎ, cel mult %1, nu „%2”</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth cere 16 sau 24, nu „%1”</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>câți pași pot fi anulați (implicit: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>încadrează imaginile deschise în această dimensiune (implicit: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>adâncimea de culoare a imaginilor deschise (implicit: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Încheie textul</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Degetul mută</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1333,11 @@ confirmată, scrie 902 și iese cu 1 dacă a fost anulată.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>lipsesc ghilimelele de închidere</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>un număr de pași</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>språket ”%1” finns inte; använder engelska (kända: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps tar ett tal från 1 till %1, inte ”%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size vill ha BxH, högst %1, inte ”%2”</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth vill ha 16 eller 24, inte ”%1”</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>hur många steg som kan ångras (förval: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>passa in öppnade bilder i denna storlek (förval: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>färgdjupet hos öppnade bilder (förval: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Avsluta text</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Finger flyttar</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1332,11 @@ bekräftades, skriver 902 och avslutar med 1 om den avbröts.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>det avslutande citattecknet saknas</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>ett antal steg</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>ไม่มีภาษา “%1” จึงใช้ภาษาอังกฤษ (ที่รู้จัก: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps ต้องเป็นตัวเลขตั้งแต่ 1 ถึง %1 ไม่ใช่ “%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size ต้องเป็น กว้างxสูง ไม่เกิน %1 ไม่ใช่ &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth ต้องเป็น 16 หรือ 24 ไม่ใช่ &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>จำนวนขั้นที่เลิกทำได้ (ค่าเริ่มต้น: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>ปรับภาพที่เปิดให้พอดีกับขนาดนี้ (ค่าเริ่มต้น: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>ความลึกสีของภาพที่เปิด (ค่าเริ่มต้น: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>จบข้อความ</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>นิ้วเลื่อนภาพ(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1331,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>ขาดเครื่องหมายอัญประกาศปิด</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>จำนวนขั้น</translation>
     </message>
 </context>
 <context>

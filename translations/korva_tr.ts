@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>&quot;%1&quot; dili yok; İngilizce kullanılıyor (bilinenler: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps 1 ile %1 arasında bir sayı ister, &quot;%2&quot; değil</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size, en çok %1 olmak üzere GxY ister, &apos;%2&apos; değil</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth 16 ya da 24 ister, &apos;%1&apos; değil</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>kaç adımın geri alınabileceği (varsayılan: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>açılan resimleri bu boyuta sığdır (varsayılan: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>açılan resimlerin renk derinliği (varsayılan: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Metni bitir</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Parmak kaydırır</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1331,11 @@ iptal edilirse 902 yazıp 1 ile çıkar.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>kapanış tırnağı eksik</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>adım sayısı</translation>
     </message>
 </context>
 <context>

@@ -298,7 +298,7 @@
     <message>
         <source>Confirm</source>
         <comment>4.4.2.12;SOFTKEY_2BUTTON</comment>
-        <translation>Підтвердити</translation>
+        <translation>Прийняти</translation>
     </message>
     <message>
         <source>The image is oversize</source>
@@ -349,7 +349,7 @@
     <message>
         <source>Confirm</source>
         <comment>4.4.2.12;SOFTKEY_2BUTTON</comment>
-        <translation>Підтвердити</translation>
+        <translation>Прийняти</translation>
     </message>
 </context>
 <context>
@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>мови «%1» немає; узято англійську (доступні: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>для --undo-steps потрібне число від 1 до %1, а не «%2»</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size приймає ШxВ, не більше %1, а не «%2»</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth приймає 16 або 24, а не «%1»</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>скільки кроків можна скасувати (типово: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>вписувати відкриті зображення в цей розмір (типово: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>глибина кольору відкритих зображень (типово: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Завершити текст</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Палець пересуває</translation>
     </message>
 </context>
 <context>
@@ -1298,6 +1333,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>бракує закривальних лапок</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>кількість кроків</translation>
     </message>
 </context>
 <context>

@@ -605,6 +605,36 @@
         <comment>command line</comment>
         <translation>không có ngôn ngữ “%1”; dùng tiếng Anh (hiện có: %2)</translation>
     </message>
+    <message>
+        <source>--undo-steps takes a number from 1 to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--undo-steps cần một số từ 1 đến %1, không phải “%2”</translation>
+    </message>
+    <message>
+        <source>--working-size takes WxH, up to %1, not &apos;%2&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-size cần RxC, tối đa %1, không phải &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>--working-depth takes 16 or 24, not &apos;%1&apos;</source>
+        <comment>command line</comment>
+        <translation>--working-depth cần 16 hoặc 24, không phải &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>how many steps can be undone (default: 50)</source>
+        <comment>help</comment>
+        <translation>số bước có thể hoàn tác (mặc định: 50)</translation>
+    </message>
+    <message>
+        <source>fit opened pictures into this size (default: 352x288)</source>
+        <comment>help</comment>
+        <translation>thu ảnh đã mở vừa cỡ này (mặc định: 352x288)</translation>
+    </message>
+    <message>
+        <source>the colour depth of opened pictures (default: 16)</source>
+        <comment>help</comment>
+        <translation>độ sâu màu của ảnh đã mở (mặc định: 16)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Commands</name>
@@ -857,6 +887,11 @@
         <source>End text</source>
         <comment>keys</comment>
         <translation>Ngừng nhập chữ</translation>
+    </message>
+    <message>
+        <source>F&amp;inger pans</source>
+        <comment>menu</comment>
+        <translation>&amp;Ngón tay cuộn</translation>
     </message>
 </context>
 <context>
@@ -1296,6 +1331,11 @@ in 902 và thoát với mã 1 nếu bị hủy.</translation>
         <source>the closing quote is missing</source>
         <comment>recording</comment>
         <translation>thiếu dấu ngoặc kép đóng</translation>
+    </message>
+    <message>
+        <source>a number of steps</source>
+        <comment>recording; what a command needs</comment>
+        <translation>một số bước</translation>
     </message>
 </context>
 <context>
