@@ -245,7 +245,7 @@ void Commands::follow()
 
     checkAlternatives();
     connect(m_menu, &QMenu::aboutToShow, this, &Commands::checkAlternatives);
-    connect(&m_controls, &EditorControls::chosen, this, &Commands::checkAlternatives);
+    connect(&m_editor, &KORVA_EditCanvas::chosen, this, &Commands::checkAlternatives);
 }
 
 void Commands::setAvailable(Needs what, bool available)
@@ -261,8 +261,7 @@ void Commands::setAvailable(Needs what, bool available)
 void Commands::checkAlternatives()
 {
     for (const Alternative& each : m_choices)
-        each.action->setChecked(each.number ==
-                                (each.isTool ? m_editor.canvas()->getCurrentToolID() : m_controls.zoom()));
+        each.action->setChecked(each.number == (each.isTool ? m_editor.tool() : m_editor.zoomIndex()));
 }
 
 bool Commands::updateClipboard()

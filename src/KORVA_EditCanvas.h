@@ -100,6 +100,8 @@ public:
     [[nodiscard]] int tool() const;
     /// The row of the current tool's option; -1 for a tool without options.
     [[nodiscard]] int option() const;
+    /// The row that the zoom box shows.
+    [[nodiscard]] int zoomIndex() const;
     /// The drawing colour.
     [[nodiscard]] QColor color() const { return m_color; }
     /// What the colour button's picker offers: from the constructor, then from chooseCanvas().

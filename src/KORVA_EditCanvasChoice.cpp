@@ -113,3 +113,8 @@ void KORVA_EditCanvas::fillColorButton(const QColor& color)
 {
     m_toolBar->showColor(color);
 }
+
+int KORVA_EditCanvas::zoomIndex() const
+{
+    return m_zoomChoice->shown();
+}

@@ -18,6 +18,11 @@
         <comment>2.11.1;MENU</comment>
         <translation>لصق</translation>
     </message>
+    <message>
+        <source>Drawing</source>
+        <comment>menu of the canvas</comment>
+        <translation>رسم</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ChooseCanvasDlg</name>
@@ -287,6 +292,111 @@
         <comment>WAIT_BOX</comment>
         <translation>جارٍ فتح الصورة</translation>
     </message>
+    <message>
+        <source>Drawing editor</source>
+        <comment>screen reader</comment>
+        <translation>محرّر الرسم</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <comment>screen reader</comment>
+        <translation>رسم</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>screen reader</comment>
+        <translation>قطعة عائمة</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <comment>screen reader</comment>
+        <translation>التكبير %1٪</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <comment>screen reader</comment>
+        <translation>%1 في %2 بكسل</translation>
+    </message>
+    <message>
+        <source>Pen down at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>القلم مُنزَل عند %1، %2</translation>
+    </message>
+    <message>
+        <source>Pen at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>القلم عند %1، %2</translation>
+    </message>
+    <message>
+        <source>A text is open</source>
+        <comment>screen reader</comment>
+        <translation>يوجد نص مفتوح</translation>
+    </message>
+    <message>
+        <source>A piece of %1 by %2 pixels floats at %3, %4</source>
+        <comment>screen reader</comment>
+        <translation>قطعة بحجم %1 في %2 بكسل تعوم عند %3، %4</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <comment>color</comment>
+        <translation>أحمر</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <comment>color</comment>
+        <translation>برتقالي</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <comment>color</comment>
+        <translation>أصفر</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <comment>color</comment>
+        <translation>أخضر</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <comment>color</comment>
+        <translation>فيروزي</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <comment>color</comment>
+        <translation>أزرق</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <comment>color</comment>
+        <translation>بنفسجي</translation>
+    </message>
+    <message>
+        <source>pink</source>
+        <comment>color</comment>
+        <translation>وردي</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <comment>color</comment>
+        <translation>أسود</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <comment>color</comment>
+        <translation>رمادي</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <comment>color</comment>
+        <translation>أبيض</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <comment>color</comment>
+        <translation>بنّي</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>
@@ -337,6 +447,11 @@
         <source>Paste</source>
         <comment>2.11.1;MENU</comment>
         <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>menu of the piece</comment>
+        <translation>قطعة عائمة</translation>
     </message>
 </context>
 <context>
@@ -455,6 +570,27 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>رسم %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_ScrollBar</name>
+    <message>
+        <source>Scroll sideways</source>
+        <comment>screen reader</comment>
+        <translation>التمرير الأفقي</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <comment>screen reader</comment>
+        <translation>التمرير العمودي</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_Veil</name>
+    <message>
+        <source>Dimmed for a dialog</source>
+        <comment>screen reader</comment>
+        <translation>معتَّم لظهور مربع حوار</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1029,16 @@
         <comment>menu</comment>
         <translation>الإصبع يحرّك(&amp;I)</translation>
     </message>
+    <message>
+        <source>&amp;Fill</source>
+        <comment>menu</comment>
+        <translation>تعبئة(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Pic&amp;k color</source>
+        <comment>menu</comment>
+        <translation>التقاط لون(&amp;K)</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1182,6 +1328,19 @@
     </message>
 </context>
 <context>
+    <name>pad::PadTools</name>
+    <message>
+        <source>Fill</source>
+        <comment>tool</comment>
+        <translation>تعبئة</translation>
+    </message>
+    <message>
+        <source>Pick color</source>
+        <comment>tool</comment>
+        <translation>التقاط لون</translation>
+    </message>
+</context>
+<context>
     <name>pad::PadWindow</name>
     <message>
         <source>Menu</source>
@@ -1422,6 +1581,16 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>%1, %2</source>
         <comment>position</comment>
         <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <comment>status line</comment>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>status line, spoken</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

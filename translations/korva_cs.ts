@@ -18,6 +18,11 @@
         <comment>2.11.1;MENU</comment>
         <translation>Vložit</translation>
     </message>
+    <message>
+        <source>Drawing</source>
+        <comment>menu of the canvas</comment>
+        <translation>Kresba</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ChooseCanvasDlg</name>
@@ -287,6 +292,111 @@
         <comment>WAIT_BOX</comment>
         <translation>Otevírání obrázku</translation>
     </message>
+    <message>
+        <source>Drawing editor</source>
+        <comment>screen reader</comment>
+        <translation>Editor kresby</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <comment>screen reader</comment>
+        <translation>Kresba</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>screen reader</comment>
+        <translation>Plovoucí výřez</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <comment>screen reader</comment>
+        <translation>Zvětšení %1 %</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <comment>screen reader</comment>
+        <translation>%1 krát %2 pixelů</translation>
+    </message>
+    <message>
+        <source>Pen down at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Pero dole na %1, %2</translation>
+    </message>
+    <message>
+        <source>Pen at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Pero na %1, %2</translation>
+    </message>
+    <message>
+        <source>A text is open</source>
+        <comment>screen reader</comment>
+        <translation>Probíhá psaní textu</translation>
+    </message>
+    <message>
+        <source>A piece of %1 by %2 pixels floats at %3, %4</source>
+        <comment>screen reader</comment>
+        <translation>Výřez %1 krát %2 pixelů plave na %3, %4</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <comment>color</comment>
+        <translation>červená</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <comment>color</comment>
+        <translation>oranžová</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <comment>color</comment>
+        <translation>žlutá</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <comment>color</comment>
+        <translation>zelená</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <comment>color</comment>
+        <translation>tyrkysová</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <comment>color</comment>
+        <translation>modrá</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <comment>color</comment>
+        <translation>fialová</translation>
+    </message>
+    <message>
+        <source>pink</source>
+        <comment>color</comment>
+        <translation>růžová</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <comment>color</comment>
+        <translation>černá</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <comment>color</comment>
+        <translation>šedá</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <comment>color</comment>
+        <translation>bílá</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <comment>color</comment>
+        <translation>hnědá</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>
@@ -337,6 +447,11 @@
         <source>Paste</source>
         <comment>2.11.1;MENU</comment>
         <translation>Vložit</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>menu of the piece</comment>
+        <translation>Plovoucí výřez</translation>
     </message>
 </context>
 <context>
@@ -455,6 +570,27 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>Kresba %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_ScrollBar</name>
+    <message>
+        <source>Scroll sideways</source>
+        <comment>screen reader</comment>
+        <translation>Posouvání do stran</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <comment>screen reader</comment>
+        <translation>Posouvání nahoru a dolů</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_Veil</name>
+    <message>
+        <source>Dimmed for a dialog</source>
+        <comment>screen reader</comment>
+        <translation>Ztmaveno kvůli dialogovému oknu</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1029,16 @@
         <comment>menu</comment>
         <translation>&amp;Prst posouvá</translation>
     </message>
+    <message>
+        <source>&amp;Fill</source>
+        <comment>menu</comment>
+        <translation>Vý&amp;plň</translation>
+    </message>
+    <message>
+        <source>Pic&amp;k color</source>
+        <comment>menu</comment>
+        <translation>&amp;Kapátko</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1179,6 +1325,19 @@
     </message>
 </context>
 <context>
+    <name>pad::PadTools</name>
+    <message>
+        <source>Fill</source>
+        <comment>tool</comment>
+        <translation>Výplň</translation>
+    </message>
+    <message>
+        <source>Pick color</source>
+        <comment>tool</comment>
+        <translation>Kapátko</translation>
+    </message>
+</context>
+<context>
     <name>pad::PadWindow</name>
     <message>
         <source>Menu</source>
@@ -1419,6 +1578,16 @@ po zrušení vypíše 902 a skončí s kódem 1.</translation>
         <source>%1, %2</source>
         <comment>position</comment>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <comment>status line</comment>
+        <translation>Stav</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>status line, spoken</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

@@ -18,6 +18,11 @@
         <comment>2.11.1;MENU</comment>
         <translation>Indsæt</translation>
     </message>
+    <message>
+        <source>Drawing</source>
+        <comment>menu of the canvas</comment>
+        <translation>Tegning</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ChooseCanvasDlg</name>
@@ -287,6 +292,111 @@
         <comment>WAIT_BOX</comment>
         <translation>Åbner billede</translation>
     </message>
+    <message>
+        <source>Drawing editor</source>
+        <comment>screen reader</comment>
+        <translation>Tegneeditor</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <comment>screen reader</comment>
+        <translation>Tegning</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>screen reader</comment>
+        <translation>Svævende stykke</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <comment>screen reader</comment>
+        <translation>Zoom %1 %</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <comment>screen reader</comment>
+        <translation>%1 gange %2 pixels</translation>
+    </message>
+    <message>
+        <source>Pen down at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Pen nede ved %1, %2</translation>
+    </message>
+    <message>
+        <source>Pen at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Pen ved %1, %2</translation>
+    </message>
+    <message>
+        <source>A text is open</source>
+        <comment>screen reader</comment>
+        <translation>En tekst er åben</translation>
+    </message>
+    <message>
+        <source>A piece of %1 by %2 pixels floats at %3, %4</source>
+        <comment>screen reader</comment>
+        <translation>Et stykke på %1 gange %2 pixels svæver ved %3, %4</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <comment>color</comment>
+        <translation>rød</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <comment>color</comment>
+        <translation>orange</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <comment>color</comment>
+        <translation>gul</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <comment>color</comment>
+        <translation>grøn</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <comment>color</comment>
+        <translation>turkis</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <comment>color</comment>
+        <translation>blå</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <comment>color</comment>
+        <translation>violet</translation>
+    </message>
+    <message>
+        <source>pink</source>
+        <comment>color</comment>
+        <translation>lyserød</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <comment>color</comment>
+        <translation>sort</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <comment>color</comment>
+        <translation>grå</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <comment>color</comment>
+        <translation>hvid</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <comment>color</comment>
+        <translation>brun</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>
@@ -337,6 +447,11 @@
         <source>Paste</source>
         <comment>2.11.1;MENU</comment>
         <translation>Indsæt</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>menu of the piece</comment>
+        <translation>Svævende stykke</translation>
     </message>
 </context>
 <context>
@@ -455,6 +570,27 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>Tegning %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_ScrollBar</name>
+    <message>
+        <source>Scroll sideways</source>
+        <comment>screen reader</comment>
+        <translation>Rul til siden</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <comment>screen reader</comment>
+        <translation>Rul op og ned</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_Veil</name>
+    <message>
+        <source>Dimmed for a dialog</source>
+        <comment>screen reader</comment>
+        <translation>Nedtonet på grund af en dialogboks</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1029,16 @@
         <comment>menu</comment>
         <translation>F&amp;inger flytter</translation>
     </message>
+    <message>
+        <source>&amp;Fill</source>
+        <comment>menu</comment>
+        <translation>&amp;Udfyld</translation>
+    </message>
+    <message>
+        <source>Pic&amp;k color</source>
+        <comment>menu</comment>
+        <translation>&amp;Pipette</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1178,6 +1324,19 @@
     </message>
 </context>
 <context>
+    <name>pad::PadTools</name>
+    <message>
+        <source>Fill</source>
+        <comment>tool</comment>
+        <translation>Udfyld</translation>
+    </message>
+    <message>
+        <source>Pick color</source>
+        <comment>tool</comment>
+        <translation>Pipette</translation>
+    </message>
+</context>
+<context>
     <name>pad::PadWindow</name>
     <message>
         <source>Menu</source>
@@ -1418,6 +1577,16 @@ hvis det bekræftes, udskriver 902 og slutter med 1, hvis det annulleres.</trans
         <source>%1, %2</source>
         <comment>position</comment>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <comment>status line</comment>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>status line, spoken</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

@@ -1030,9 +1030,14 @@
         <translation>Text beenden</translation>
     </message>
     <message>
-        <source>F&amp;inger pans</source>
+        <source>&amp;Fill</source>
         <comment>menu</comment>
-        <translation>&amp;Finger schiebt</translation>
+        <translation>Fülle&amp;n</translation>
+    </message>
+    <message>
+        <source>Pic&amp;k color</source>
+        <comment>menu</comment>
+        <translation>&amp;Pipette</translation>
     </message>
 </context>
 <context>
@@ -1319,6 +1324,19 @@
     </message>
 </context>
 <context>
+    <name>pad::PadTools</name>
+    <message>
+        <source>Fill</source>
+        <comment>tool</comment>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Pick color</source>
+        <comment>tool</comment>
+        <translation>Pipette</translation>
+    </message>
+</context>
+<context>
     <name>pad::PadWindow</name>
     <message>
         <source>Menu</source>
@@ -1559,6 +1577,16 @@ bestätigt wurde, gibt 902 aus und endet mit 1, wenn abgebrochen wurde.</transla
         <source>%1, %2</source>
         <comment>position</comment>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <comment>status line</comment>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>status line, spoken</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

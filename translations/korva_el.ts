@@ -18,6 +18,11 @@
         <comment>2.11.1;MENU</comment>
         <translation>Επικόλληση</translation>
     </message>
+    <message>
+        <source>Drawing</source>
+        <comment>menu of the canvas</comment>
+        <translation>Σχέδιο</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ChooseCanvasDlg</name>
@@ -287,6 +292,111 @@
         <comment>WAIT_BOX</comment>
         <translation>Άνοιγμα εικόνας</translation>
     </message>
+    <message>
+        <source>Drawing editor</source>
+        <comment>screen reader</comment>
+        <translation>Επεξεργαστής σχεδίων</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <comment>screen reader</comment>
+        <translation>Σχέδιο</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>screen reader</comment>
+        <translation>Αιωρούμενο τμήμα</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <comment>screen reader</comment>
+        <translation>Ζουμ %1%</translation>
+    </message>
+    <message>
+        <source>%1 by %2 pixels</source>
+        <comment>screen reader</comment>
+        <translation>%1 επί %2 pixel</translation>
+    </message>
+    <message>
+        <source>Pen down at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Πένα κάτω στο %1, %2</translation>
+    </message>
+    <message>
+        <source>Pen at %1, %2</source>
+        <comment>screen reader</comment>
+        <translation>Πένα στο %1, %2</translation>
+    </message>
+    <message>
+        <source>A text is open</source>
+        <comment>screen reader</comment>
+        <translation>Ένα κείμενο είναι ανοιχτό</translation>
+    </message>
+    <message>
+        <source>A piece of %1 by %2 pixels floats at %3, %4</source>
+        <comment>screen reader</comment>
+        <translation>Ένα τμήμα %1 επί %2 pixel αιωρείται στο %3, %4</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <comment>color</comment>
+        <translation>κόκκινο</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <comment>color</comment>
+        <translation>πορτοκαλί</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <comment>color</comment>
+        <translation>κίτρινο</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <comment>color</comment>
+        <translation>πράσινο</translation>
+    </message>
+    <message>
+        <source>turquoise</source>
+        <comment>color</comment>
+        <translation>τιρκουάζ</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <comment>color</comment>
+        <translation>μπλε</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <comment>color</comment>
+        <translation>μοβ</translation>
+    </message>
+    <message>
+        <source>pink</source>
+        <comment>color</comment>
+        <translation>ροζ</translation>
+    </message>
+    <message>
+        <source>black</source>
+        <comment>color</comment>
+        <translation>μαύρο</translation>
+    </message>
+    <message>
+        <source>gray</source>
+        <comment>color</comment>
+        <translation>γκρι</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <comment>color</comment>
+        <translation>λευκό</translation>
+    </message>
+    <message>
+        <source>brown</source>
+        <comment>color</comment>
+        <translation>καφέ</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>
@@ -337,6 +447,11 @@
         <source>Paste</source>
         <comment>2.11.1;MENU</comment>
         <translation>Επικόλληση</translation>
+    </message>
+    <message>
+        <source>Floating piece</source>
+        <comment>menu of the piece</comment>
+        <translation>Αιωρούμενο τμήμα</translation>
     </message>
 </context>
 <context>
@@ -455,6 +570,27 @@
         <source>Drawing %1</source>
         <comment>SAVE_DIALOG;CONTEXT</comment>
         <translation>Σχέδιο %1</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_ScrollBar</name>
+    <message>
+        <source>Scroll sideways</source>
+        <comment>screen reader</comment>
+        <translation>Οριζόντια κύλιση</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <comment>screen reader</comment>
+        <translation>Κατακόρυφη κύλιση</translation>
+    </message>
+</context>
+<context>
+    <name>UTIL_Veil</name>
+    <message>
+        <source>Dimmed for a dialog</source>
+        <comment>screen reader</comment>
+        <translation>Σκοτεινό λόγω παραθύρου διαλόγου</translation>
     </message>
 </context>
 <context>
@@ -893,6 +1029,16 @@
         <comment>menu</comment>
         <translation>&amp;Δάχτυλο μετακινεί</translation>
     </message>
+    <message>
+        <source>&amp;Fill</source>
+        <comment>menu</comment>
+        <translation>Γέμι&amp;σμα</translation>
+    </message>
+    <message>
+        <source>Pic&amp;k color</source>
+        <comment>menu</comment>
+        <translation>Σ&amp;ταγονόμετρο</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1178,6 +1324,19 @@
     </message>
 </context>
 <context>
+    <name>pad::PadTools</name>
+    <message>
+        <source>Fill</source>
+        <comment>tool</comment>
+        <translation>Γέμισμα</translation>
+    </message>
+    <message>
+        <source>Pick color</source>
+        <comment>tool</comment>
+        <translation>Σταγονόμετρο</translation>
+    </message>
+</context>
+<context>
     <name>pad::PadWindow</name>
     <message>
         <source>Menu</source>
@@ -1418,6 +1577,16 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>%1, %2</source>
         <comment>position</comment>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <comment>status line</comment>
+        <translation>Κατάσταση</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>status line, spoken</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

@@ -1030,9 +1030,14 @@
         <translation>结束文字</translation>
     </message>
     <message>
-        <source>F&amp;inger pans</source>
+        <source>&amp;Fill</source>
         <comment>menu</comment>
-        <translation>手指平移(&amp;I)</translation>
+        <translation>填充(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Pic&amp;k color</source>
+        <comment>menu</comment>
+        <translation>取色(&amp;K)</translation>
     </message>
 </context>
 <context>
@@ -1318,6 +1323,19 @@
     </message>
 </context>
 <context>
+    <name>pad::PadTools</name>
+    <message>
+        <source>Fill</source>
+        <comment>tool</comment>
+        <translation>填充</translation>
+    </message>
+    <message>
+        <source>Pick color</source>
+        <comment>tool</comment>
+        <translation>取色</translation>
+    </message>
+</context>
+<context>
     <name>pad::PadWindow</name>
     <message>
         <source>Menu</source>
@@ -1558,6 +1576,16 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>%1, %2</source>
         <comment>position</comment>
         <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <comment>status line</comment>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>status line, spoken</comment>
+        <translation>%1:%2</translation>
     </message>
 </context>
 </TS>
