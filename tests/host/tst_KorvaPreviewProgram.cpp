@@ -84,7 +84,7 @@ private slots:
         QTest::addColumn<QString>("option");
         QTest::addColumn<QString>("start");
         for (const char* option : {"--help", "-h"})
-            QTest::newRow(option) << option << "0 Usage: korva-preview PICTURE\n";
+            QTest::newRow(option) << option << "0 Usage: korva-preview [options] PICTURE\n";
         for (const char* option : {"--version", "-v"})
             QTest::newRow(option) << option << "0 korva-preview 1.";
     }
