@@ -349,12 +349,8 @@ void UTIL_Skin::paintRadio(QPainter& painter, const QRectF& box, bool marked, bo
 void UTIL_Skin::paintText(QPainter& painter, Qt::LayoutDirection direction, const QRect& place, int flags,
                           const QString& text)
 {
-    const bool runsLeft = direction == Qt::RightToLeft && text.isRightToLeft();
     const int alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags & alignments));
-    painter.drawText(place,
-                     (flags & ~alignments) | alignment | Qt::AlignAbsolute |
-                         (runsLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight),
-                     text);
+    painter.drawText(place, (flags & ~alignments) | alignment | Qt::AlignAbsolute, text);
 }
 
 /// Each color of the drawing lies between the light skin's ground, ink and accent. It becomes the color at

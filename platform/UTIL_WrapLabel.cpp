@@ -54,9 +54,9 @@ void UTIL_WrapLabel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     QRect line(0, 0, width(), fontMetrics().lineSpacing());
-    const int direction = layoutDirection() == Qt::RightToLeft && text().isRightToLeft()
-                              ? Qt::TextForceRightToLeft
-                              : Qt::TextForceLeftToRight;
+    const int direction = layoutDirection() == Qt::LeftToRight ? 0
+                          : text().isRightToLeft()             ? Qt::TextForceRightToLeft
+                                                               : Qt::TextForceLeftToRight;
     for (const QString& part : lines(width())) {
         // As a part of the whole, which has one direction.
         painter.drawText(line, Qt::AlignHCenter | Qt::AlignVCenter | direction, part);

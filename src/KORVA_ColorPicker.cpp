@@ -143,7 +143,6 @@ void KORVA_ColorPicker::createSliders()
         caption->setGeometry(QRect({captionLeft, channel.captionTop}, captionSize));
         caption->setFont(UTIL_Skin::font(UTIL_Skin::Font::Key));
         caption->setAlignment(Qt::AlignLeft | type.caption);
-        caption->setLayoutDirection(Qt::LeftToRight); // as the slider behind it
         caption->setEnabled(shown);
 
         const QPixmap handle = RES_ICON_Reader::getIcon(QString::fromLatin1(channel.handle));

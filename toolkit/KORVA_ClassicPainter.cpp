@@ -317,8 +317,6 @@ void KORVA_ClassicPainter::invertDotted(const QRect& box, const QRegion& bars, c
 
 QRect KORVA_ClassicPainter::drawText(const QRect& box, int flags, const QString& text)
 {
-    flags |=
-        Qt::TextForceLeftToRight; // the same letters in the same place, whatever the program's direction
     const int margin = m_painter.fontMetrics().height(); // letters may reach out of their box
     QRect used;
     if (m_op == NotROP) {
