@@ -63,6 +63,9 @@ private slots:
 
     void readmeEmbeds();
     void everyCommandIsWired();
+    void buttonsOfItsOwnChoose();
+    void aKioskServesTheNext();
+    void aToolIsWritten();
     void aNewDrawing_data();
     void aNewDrawing();
     void closingAsks_data();
@@ -165,6 +168,57 @@ void tst_CppBlocks::everyCommandIsWired()
     editor.clearModified();
     support::whenOpen([](QDialog& picking) { picking.reject(); });
     action(menu, "Open")->trigger();
+}
+
+void tst_CppBlocks::buttonsOfItsOwnChoose()
+{
+    QPushButton filledCircle;
+    QLabel rate;
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    embedding::ownButtons(&editor, &filledCircle, &rate);
+    QCOMPARE(rate.text(), QString("%1 %").arg(editor.canvas()->zoom()));
+    filledCircle.click();
+    QCOMPARE(editor.tool(), int(KORVA_TOOL_ELLIPSE));
+    QCOMPARE(editor.option(), int(KORVA_OPTION_FILLED));
+    QVERIFY(filledCircle.isDown());
+    editor.selectTool(KORVA_TOOL_LINE);
+    QVERIFY(!filledCircle.isDown());
+}
+
+void tst_CppBlocks::aKioskServesTheNext()
+{
+    const QImage form = support::mosaic({200, 170});
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QVERIFY(form.save(&buffer, "PNG"));
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    QTimer idle;
+    idle.setSingleShot(true);
+    idle.setInterval(1);
+    embedding::serve(&editor, &idle, bytes);
+    QVERIFY(support::sameImage(editor.snapshot(), form));
+    drawOn(&editor);
+    QVERIFY(editor.snapshot() != form.convertToFormat(editor.snapshot().format()));
+    QTRY_VERIFY(!idle.isActive());
+    QVERIFY(support::sameImage(editor.snapshot(), form));
+}
+
+void tst_CppBlocks::aToolIsWritten()
+{
+    QPixmap icon(20, 20);
+    icon.fill(Qt::red);
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    const int ring = tools::addRing(&editor, icon, icon, icon);
+    QCOMPARE(ring, KORVA_TOOL_HAND + 1);
+    QCOMPARE(editor.tool(), ring);
+    support::Gestures(*editor.canvas()).click({60, 50});
+    const QImage expected = support::sheet({200, 170}, Qt::white, [](QPainter& painter) {
+        painter.setPen(Qt::red);
+        painter.drawEllipse(QPoint(60, 50), 10, 10);
+    });
+    QVERIFY(support::sameImage(editor.snapshot(), expected));
+    editor.undo();
+    QCOMPARE(support::inkCount(editor.snapshot()), 0);
 }
 
 void tst_CppBlocks::aNewDrawing_data()
