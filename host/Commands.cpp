@@ -144,10 +144,6 @@ void Commands::addEntries()
          KORVA_TOOL_SELECT},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Hand", "menu"), "H", Needs::Nothing, tool,
          KORVA_TOOL_HAND},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Fill", "menu"), "F", Needs::Nothing, tool,
-         padtools::Fill},
-        {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "Pic&k color", "menu"), "K", Needs::Nothing, tool,
-         padtools::Picker},
         {Page::Tool, QT_TRANSLATE_NOOP3("pad::Commands", "&Color ...", "menu"), "C", Needs::Nothing,
          [](C& c, int) { c.m_editor.slotColor(); }},
 
@@ -166,6 +162,12 @@ void Commands::addEntries()
 
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "F&inger pans", "menu"), "Ctrl+H", Needs::Fingers,
          [](C& c, int) { c.letFingersPan(c.m_fingersPan->isChecked()); }},
+
+        // For more rows there is no room; the tool button's pop-up has them.
+        {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "&Fill", "menu"), "F", Needs::Nothing, tool,
+         padtools::Fill},
+        {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "Pic&k color", "menu"), "K", Needs::Nothing, tool,
+         padtools::Picker},
 
         // Their names differ from tool to tool, and are in the editor's own menu.
         {Page::None, QT_TRANSLATE_NOOP3("pad::Commands", "First option", "menu"), "1", Needs::Nothing,

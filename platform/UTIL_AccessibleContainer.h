@@ -2,6 +2,7 @@
 
 #include <QAccessibleWidget>
 #include <QList>
+#include <QWidget>
 
 namespace accessible {
 

@@ -140,5 +140,6 @@ void KORVA_ToolBar::loadOptions(int tool)
 
 int KORVA_ToolBar::optionId(int entry) const
 {
-    return m_optionMenu->actions().value(entry)->data().toInt();
+    const QAction* const action = m_optionMenu->actions().value(entry);
+    return action ? action->data().toInt() : 0;
 }

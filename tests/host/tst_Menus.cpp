@@ -112,7 +112,8 @@ void tst_Menus::cleanup()
 
 bool tst_Menus::start(const QStringList& arguments)
 {
-    return m_pad->start(QStringList{"--record", m_recording} + arguments);
+    // With one step the recording begins empty.
+    return m_pad->start(QStringList{"--undo-steps", "1", "--record", m_recording} + arguments);
 }
 
 QString tst_Menus::lastLine() const
@@ -347,7 +348,8 @@ void tst_Menus::keysWorkAfterEveryDialog()
 
 void tst_Menus::toolPopup()
 {
-    constexpr const char* tools[] = {"select", "eraser", "line", "pencil", "text", "rectangle", "ellipse"};
+    constexpr const char* tools[] = {"select",    "eraser",  "line", "pencil", "text",
+                                     "rectangle", "ellipse", "fill", "picker"};
     QVERIFY(start());
     int row = 0;
     for (const char* tool : tools) {

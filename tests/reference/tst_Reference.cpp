@@ -132,6 +132,9 @@ void tst_Reference::everythingPublicIsThere()
     const QStringList classes = declared(source, R"(^class (?:KORVA_EXPORT )?(\w+)(?: :.*)?$)");
     for (const QString& name : classes)
         QVERIFY2(QFileInfo::exists(html("class" + inFileName(name) + ".html")), qPrintable(name));
+    const QStringList structs = declared(source, R"(^struct (\w+)$)");
+    for (const QString& name : structs)
+        QVERIFY2(QFileInfo::exists(html("struct" + inFileName(name) + ".html")), qPrintable(name));
     const QStringList others = declared(source, R"(^enum (\w+))") +
                                declared(source, R"(^KORVA_EXPORT .*?(\w+)\()") +
                                declared(source, R"(^#define (\w+))");
@@ -141,7 +144,7 @@ void tst_Reference::everythingPublicIsThere()
     const QString index = contents(html("globals.html"));
     for (const QString& name : others)
         QVERIFY2(index.contains(QRegularExpression("<li>" + name + "\\b")), qPrintable(name));
-    QVERIFY(!classes.isEmpty() || !others.isEmpty() || !spaces.isEmpty());
+    QVERIFY(!classes.isEmpty() || !structs.isEmpty() || !others.isEmpty() || !spaces.isEmpty());
 }
 
 void tst_Reference::whatIsNamedExists()
