@@ -402,7 +402,7 @@ void tst_Languages::windowIsMirrored()
                 found[key->text()] = key->geometry();
         for (const QLabel* field : m_window->findChildren<QLabel*>())
             if (field->parentWidget()->metaObject()->className() == QLatin1String("pad::StatusLine"))
-                found[field->accessibleName()] = field->geometry();
+                found[field->toolTip()] = field->geometry(); // what it means
         return found;
     };
     const QMap<QString, QRect> plain = places(Qt::LeftToRight);

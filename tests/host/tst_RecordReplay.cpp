@@ -144,7 +144,8 @@ private:
     void pickAny(const char* button)
     {
         const QList<QAction*> entries = m_window.findChild<QPushButton*>(button)->menu()->actions();
-        entries.at(m_random.bounded(int(entries.size())))->trigger();
+        if (!entries.isEmpty()) // not every tool has options
+            entries.at(m_random.bounded(int(entries.size())))->trigger();
     }
 
     void zoom()
