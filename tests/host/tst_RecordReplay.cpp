@@ -306,7 +306,7 @@ void tst_RecordReplay::drawnByKeys()
     });
     QCOMPARE(lines.join(", "),
              "tool line, press 89 84, move 89 94, move 89 95, release 89 95, "
-             "tool select, tool select, press 89 95, move 79 95, move 79 85, release 79 85, "
+             "tool select, press 89 95, move 79 95, move 79 85, release 79 85, "
              "key Shift+Up, key Alt+Right, key BracketRight, key Return, "
              "tool text, press 79 85, release 79 85, type \"p\", type \" \", press 79 85, release 79 88");
 
