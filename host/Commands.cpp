@@ -72,6 +72,9 @@ Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* wind
 {
     addEntries();
     m_fingersPan->setCheckable(true);
+    connect(m_fingersPan, &QAction::toggled, this, [this, plain = m_fingersPan->text()](bool isOn) {
+        m_fingersPan->setText(isOn ? QStringLiteral("\u2713 ") + plain : plain); // menus draw no marks
+    });
     follow();
 }
 

@@ -74,6 +74,7 @@ void StatusLine::resizeEvent(QResizeEvent*)
         fields.at(i)->setGeometry(
             QStyle::visualRect(layoutDirection(), rect(), QRect(left, 0, extent, height())));
         left += extent + spacing;
+        fitFont(*fields.at(i));
     }
 }
 
@@ -140,10 +141,23 @@ void StatusLine::refresh()
     fill(m_position, m_isOver || pen ? positionText(at) : QString());
 }
 
+/// A cut number would be another one.
+void StatusLine::fitFont(QLabel& field) const
+{
+    constexpr int smallest = 7; // pixels
+    QFont fitting = font();
+    for (int size = QFontInfo(fitting).pixelSize();
+         size > smallest && QFontMetrics(fitting).horizontalAdvance(field.text()) > field.width(); --size)
+        fitting.setPixelSize(size - 1);
+    if (field.font() != fitting)
+        field.setFont(fitting);
+}
+
 /// A screen reader hears the value behind its meaning.
-void StatusLine::fill(QLabel* field, const QString& value)
+void StatusLine::fill(QLabel* field, const QString& value) const
 {
     field->setText(value);
+    fitFont(*field);
     const QString meaning = field->toolTip();
     const QString spoken =
         value.isEmpty() ? meaning : tr("%1: %2", "status line, spoken").arg(meaning, value);

@@ -34,7 +34,8 @@ protected:
 
 private:
     QLabel* addField(const QString& meaning, Qt::Alignment alignment);
-    static void fill(QLabel* field, const QString& value);
+    void fill(QLabel* field, const QString& value) const;
+    void fitFont(QLabel& field) const;
     void refreshSoon();
     static constexpr int fieldCount = 4;
     [[nodiscard]] std::array<int, fieldCount> extents(int room) const;

@@ -992,7 +992,7 @@
     <message>
         <source>... by 10 pixels</source>
         <comment>keys</comment>
-        <translation>... um 10 Pixel</translation>
+        <translation>... 10 Pixel</translation>
     </message>
     <message>
         <source>Draw while held</source>

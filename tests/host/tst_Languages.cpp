@@ -139,6 +139,7 @@ private slots:
     void mnemonicsAreTakenAway_data();
     void mnemonicsAreTakenAway();
     void windowIsMirrored();
+    void longValuesFitTheStatusLine();
 
     void localeChoosesTheLanguage();
     void optionChoosesTheLanguage();
@@ -411,6 +412,25 @@ void tst_Languages::windowIsMirrored()
     for (auto it = plain.begin(); it != plain.end(); ++it)
         wanted[it.key()] = QRect(300 - it->x() - it->width(), it->y(), it->width(), it->height());
     QCOMPARE(places(Qt::RightToLeft), wanted);
+}
+
+void tst_Languages::longValuesFitTheStatusLine()
+{
+    m_window = std::make_unique<pad::PadWindow>(*m_platform);
+    m_window->show();
+    m_window->editor().chooseCanvas(KORVA_CANVAS_16BIT, 2048, 1536);
+    m_window->editor().selectTool(KORVA_TOOL_RECTANGLE);
+    int values = 0;
+    for (const QLabel* field : m_window->findChildren<QLabel*>()) {
+        if (field->parentWidget()->metaObject()->className() != QLatin1String("pad::StatusLine"))
+            continue;
+        QTRY_VERIFY(field->text().isEmpty() || field->toolTip() != "Picture size" ||
+                    field->text().contains("2048"));
+        ++values;
+        const int needed = QFontMetrics(field->font()).horizontalAdvance(field->text());
+        QVERIFY2(needed <= field->width(), qPrintable(field->text()));
+    }
+    QCOMPARE(values, 4);
 }
 
 // --- Their command lines
