@@ -123,7 +123,7 @@ void tst_RightToLeft::pictureIsTheSame()
         return editor.snapshot();
     };
     const QImage plain = drawn(Qt::LeftToRight);
-    QVERIFY(support::inkCount(plain.copy(0, 0, 100, 50)) > 30); // the line
+    QVERIFY(support::inkCount(plain.copy(0, 0, 100, 50)) > 30);   // the line
     QVERIFY(support::inkCount(plain.copy(10, 55, 150, 60)) > 30); // the text
     QCOMPARE(drawn(Qt::RightToLeft), plain);
 }
