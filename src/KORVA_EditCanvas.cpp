@@ -68,10 +68,7 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
     m_mainView->setGeometry(layout::mainView);
     m_manager = std::make_unique<KORVA_Manager>(canvas());
     clearModified();
-    connect(canvas(), &KORVA_Canvas::zoomFellBack, this, [this] {
-        m_zoomChoice->fallBack();
-        m_toolChoice->updateRubberCursor();
-    });
+    connect(canvas(), &KORVA_Canvas::zoomFellBack, this, [this] { m_zoomChoice->fallBack(); });
     connect(canvas(), &KORVA_Canvas::zoomChanged, this, [this](int percent) {
         m_toolChoice->updateRubberCursor();
         emit zoomChanged(percent);
@@ -241,7 +238,6 @@ void KORVA_EditCanvas::setCanvasSize(int w, int h)
 void KORVA_EditCanvas::setZoom(int rate)
 {
     canvas()->setZoom(rate);
-    m_toolChoice->updateRubberCursor();
 }
 
 void KORVA_EditCanvas::chooseCanvas(KORVA_CANVASTYPE type, int w, int h)
