@@ -1,7 +1,5 @@
 #include "inside.h"
 
-#include <KORVA_ToolTable.h>
-
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -12,8 +10,6 @@
 #include <cmath>
 #include <cstring>
 
-namespace tables = KORVA_ToolTable;
-
 namespace bench {
 
 Editor::Editor(QSize picture, int zoomPercent, Tool tool) : m_editor(KORVA_COLOR_16BIT, &m_window)
@@ -23,9 +19,7 @@ Editor::Editor(QSize picture, int zoomPercent, Tool tool) : m_editor(KORVA_COLOR
     QPixmap content = QPixmap::fromImage(noise(picture));
     m_editor.setPixmap(&content);
     m_editor.setZoom(zoomPercent);
-    const auto* row = std::find_if(std::begin(tables::tools), std::end(tables::tools),
-                                   [tool](const tables::ToolRow& r) { return r.tool == tool; });
-    m_editor.slotSelChangeTool(tables::toolMenuBase + int(row - std::begin(tables::tools)));
+    m_editor.selectTool(tool);
     QCoreApplication::processEvents();
 }
 

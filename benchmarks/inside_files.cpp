@@ -1,5 +1,6 @@
 #include "inside.h"
 
+#include <KORVA_Formats.h>
 #include <KORVA_PictureFile.h>
 #include <KORVA_PictureSave.h>
 
@@ -23,7 +24,8 @@ void open(benchmark::State& state, const QString& name)
     for (auto _ : state) {
         KORVA_PictureFile file(name);
         QPixmap pixmap;
-        if (file.check(picturefile::readFormat(name)) != 0 || !picturefile::convert(file.take(), &pixmap))
+        if (file.check(KORVA_Formats::readFormat(name)) != 0 ||
+            !KORVA_WorkingLimits().convert(file.take(), &pixmap))
             return fail(state);
     }
 }
