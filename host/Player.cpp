@@ -57,6 +57,27 @@ private:
     bool m_before;
 };
 
+/// A recording that names no manners was made with the classic ones. Afterwards those of the host return.
+class ClassicManners
+{
+public:
+    explicit ClassicManners(KORVA_EditCanvas& editor) : m_editor(&editor), m_before(editor.manners())
+    {
+        editor.setManners({});
+    }
+    ~ClassicManners()
+    {
+        if (m_editor)
+            m_editor->setManners(m_before);
+    }
+    ClassicManners(const ClassicManners&) = delete;
+    ClassicManners& operator=(const ClassicManners&) = delete;
+
+private:
+    QPointer<KORVA_EditCanvas> m_editor;
+    KORVA_Manners m_before;
+};
+
 } // namespace
 
 Player::Player(KORVA_EditCanvas& editor, Platform& platform)
@@ -69,6 +90,7 @@ std::optional<Failure> Player::play(const Recording& recording)
     m_script = {};
     m_platform.obey(&m_script);
     const KeyboardDrawing drawing(*m_editor.canvas(), true);
+    const ClassicManners manners(m_editor);
     const auto free = qScopeGuard([this] { m_platform.obey(nullptr); });
     for (const Command& command : recording.commands()) {
         perform(command);
@@ -102,6 +124,8 @@ void Player::perform(const Command& command)
         {Verb::Save, [](Player& p, const Command& c) { p.save(c.text); }},
         {Verb::Wait, [](Player&, const Command& c) { wait(c.number); }},
         {Verb::History, [](Player& p, const Command& c) { setHistory(p.m_editor, c.number); }},
+        {Verb::Manners,
+         [](Player& p, const Command& c) { p.m_editor.setManners(Recording::mannersOf(c)); }},
         {Verb::Answer, [](Player& p, const Command& c) { p.m_script.answer = c.number; }},
     };
     if (performOn(m_editor, command.verb))

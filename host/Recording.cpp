@@ -137,6 +137,26 @@ bool readText(const QString& word, Command& command)
     return true;
 }
 
+const QString modern = QStringLiteral("modern");
+const QString classic = QStringLiteral("classic");
+
+std::optional<KORVA_Manners> mannersFrom(const QString& word)
+{
+    if (word == modern)
+        return KORVA_Manners::modern();
+    return KORVA_Manners::ofWords(word == classic ? QStringList() : word.split(QLatin1Char(',')));
+}
+
+bool readManners(const QString& word, Command& command)
+{
+    return readText(word, command) && mannersFrom(word);
+}
+
+QString writeManners(const Command& command)
+{
+    return command.text;
+}
+
 bool readFileName(const QString& word, Command& command)
 {
     return readText(word, command) && !word.isEmpty();
@@ -196,6 +216,8 @@ constexpr Argument fileName{
     QT_TRANSLATE_NOOP3("pad::Recording", "a file name", "recording; what a command needs"), readFileName,
     writeText};
 
+constexpr Argument manners{{"WORDS", nullptr}, readManners, writeManners};
+
 // --- The language
 
 struct Rule
@@ -230,6 +252,7 @@ constexpr Rule grammar[] = {
     {"wait", Verb::Wait, {&number}},
     {"answer", Verb::Answer, {&number}},
     {"history", Verb::History, {&steps}},
+    {"manners", Verb::Manners, {&manners}},
 };
 
 template <typename Predicate>
@@ -318,6 +341,18 @@ QString Recording::toLine(const Command& command)
             words.append(word);
     }
     return words.join(QLatin1Char(' '));
+}
+
+Command Recording::commandFor(const KORVA_Manners& manners)
+{
+    const QString words = manners.words().join(QLatin1Char(','));
+    const QString word = words.isEmpty() ? classic : manners == KORVA_Manners::modern() ? modern : words;
+    return {.verb = Verb::Manners, .text = word};
+}
+
+KORVA_Manners Recording::mannersOf(const Command& command)
+{
+    return mannersFrom(command.text).value_or(KORVA_Manners());
 }
 
 Failure Recording::failureAt(const Command& command, const QString& message) const

@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 
+#include <KORVA_Manners.h>
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QKeyCombination>
@@ -38,6 +40,7 @@ enum class Verb {
     Wait,
     Answer,
     History, ///< how many steps can be undone
+    Manners, ///< which ways of the editor are modern
 };
 
 /// One line of a recording, understood. Which fields count depends on the verb.
@@ -52,7 +55,7 @@ struct Command
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);
-    QString text = {}; ///< Type: what is typed; Open, Stamp, Save: a file's name
+    QString text = {}; ///< Type: what is typed; Open, Stamp, Save: a file's name; Manners: their words
 
     bool operator==(const Command& other) const = default;
 };
@@ -73,6 +76,10 @@ public:
     [[nodiscard]] static Expected<Recording> read(const QString& fileName);
     /// The line, without a line end, that parse() reads as this command.
     [[nodiscard]] static QString toLine(const Command& command);
+
+    /// A command that sets these manners, and the manners that a command sets.
+    [[nodiscard]] static Command commandFor(const KORVA_Manners& manners);
+    [[nodiscard]] static KORVA_Manners mannersOf(const Command& command);
 
     [[nodiscard]] const std::vector<Command>& commands() const { return m_commands; }
     /// A failure of one of these commands, as parse() would word it.

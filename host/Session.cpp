@@ -56,7 +56,7 @@ int Session::run()
         if (result != 0 || endsNow()) {
             QCoreApplication::exit();
         } else {
-            startHistory();
+            startDrawing();
             startRecovery();
         }
     };
@@ -78,15 +78,21 @@ std::optional<Failure> Session::begin()
     return m_line.record.isEmpty() ? std::nullopt : startRecorder();
 }
 
-/// Not before a replay: a recording says how many steps it was made with, or was made with one.
-void Session::startHistory()
+/// Not before a replay: a recording says how many steps and which manners it was made with, or was made
+/// with one and with the classic ones.
+void Session::startDrawing()
 {
-    const Command command{.verb = Verb::History, .number = m_line.undoSteps};
-    if (m_line.undoSteps == m_window->editor().undoSteps())
-        return;
-    setHistory(m_window->editor(), m_line.undoSteps);
-    if (m_recorder)
-        m_recorder->write(command);
+    KORVA_EditCanvas& editor = m_window->editor();
+    const auto record = [this](const Command& command) {
+        if (m_recorder)
+            m_recorder->write(command);
+    };
+    if (m_line.undoSteps != editor.undoSteps()) {
+        setHistory(editor, m_line.undoSteps);
+        record({.verb = Verb::History, .number = m_line.undoSteps});
+    }
+    editor.setManners(KORVA_Manners::modern());
+    record(Recording::commandFor(editor.manners()));
 }
 
 std::optional<Failure> Session::openPicture()

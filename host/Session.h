@@ -31,7 +31,7 @@ private:
     std::optional<Failure> startRecorder();
     std::optional<Failure> work();
     std::optional<Failure> writeResults();
-    void startHistory();
+    void startDrawing();
     void startRecovery();
     [[nodiscard]] bool endsNow() const;
 

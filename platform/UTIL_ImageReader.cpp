@@ -114,7 +114,8 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
     const UTIL_PictureProbe probe = UTIL_PictureProbe::of(device);
     if (probe.format.isEmpty())
         return readOther(device, allowance);
-    if (!m_format.isEmpty() && m_format != probe.format)
+    const bool isAllowed = !m_ownFormats || m_ownFormats->contains(probe.format);
+    if (!isAllowed || (!m_format.isEmpty() && m_format != probe.format))
         return Failed;
     if (area(probe.size) > allowance.pixels)
         return TooLarge;

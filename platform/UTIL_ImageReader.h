@@ -57,6 +57,8 @@ public:
     void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
     /// Replaces the platform's allowance.
     void setAllowance(const Allowance& allowance) { m_allowance = allowance; }
+    /// Of PNG, JPEG, GIF, BMP and WBMP, reads only these; nothing, as at first, reads all five.
+    void setOwnFormats(const std::optional<QList<QByteArray>>& formats) { m_ownFormats = formats; }
     /// The most pixels that reading may go over, counting those of every pass. A picture that needs more is
     /// too large. A JPEG in one pass that is read reduced costs little and is never too large.
     void setWorkLimit(qint64 pixels) { m_workLimit = pixels; }
@@ -90,6 +92,7 @@ private:
     QByteArray m_parameters;
     std::function<bool()> m_isCancelled;
     std::optional<Allowance> m_allowance;
+    std::optional<QList<QByteArray>> m_ownFormats;
     qint64 m_workLimit = std::numeric_limits<qint64>::max();
     Reduction m_reduction;
     QRgb m_background = 0xffffffff;

@@ -73,6 +73,11 @@ UTIL_PictureDialog* UTIL_Platform::createSaveDialog(QWidget* parent, const QStri
     return new UTIL_SaveDialog(parent, folder, patterns);
 }
 
+std::optional<QColor> UTIL_Platform::pickColor(QWidget*, const QColor&, int)
+{
+    return {};
+}
+
 QString UTIL_Platform::photoFolder() const
 {
     return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);

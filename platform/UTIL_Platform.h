@@ -3,6 +3,7 @@
 #include "KORVA_Export.h"
 
 #include <QByteArray>
+#include <QColor>
 #include <QFuture>
 #include <QList>
 #include <QSize>
@@ -10,6 +11,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class QWidget;
 class UTIL_PictureDialog;
@@ -65,6 +67,10 @@ public:
     /// replaced; nobody asks after it.
     virtual UTIL_PictureDialog* createSaveDialog(QWidget* parent, const QString& folder,
                                                  const QStringList& patterns);
+
+    /// Lets the user pick a colour of a picture of this depth in bits: 1, 4, 8 or 16. Returns `present`
+    /// when nothing was picked. Nothing, as on the desktop, lets the editor show its own picker.
+    virtual std::optional<QColor> pickColor(QWidget* parent, const QColor& present, int depth);
 
     /// The user's picture folder, where folder dialogs start. The desktop's is the Pictures folder.
     [[nodiscard]] virtual QString photoFolder() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KORVA_Export.h"
+#include "KORVA_Manners.h"
 #include "KORVA_Zoom.h"
 
 #include <QPixmap>
@@ -109,6 +110,8 @@ public:
     /// widget coordinates. On white paper only `onScreen` is erased on the screen; any other paper is shown
     /// as it lies.
     void erase(const QRect& inPicture, const QRect& onScreen);
+    /// The same in picture coordinates, and shows exactly that.
+    void erase(const QRegion& inPicture);
     /// Scales the picture to `w` × `h` pixels. Does nothing if that is its size; the picture becomes empty
     /// if a side is not positive. Emits sizeChanged() if the size on screen changes, pixmapChanged(),
     /// modified(). A floating piece is merged into the new picture; undo then does not bring the old one
@@ -211,11 +214,18 @@ public:
     /// The menu of the right button, with the actions Cut, Copy and Paste, whose QAction::data() is 0, 1
     /// and 2. A host may add its own entries and remove any. The canvas owns it.
     [[nodiscard]] QMenu* contextMenu() const { return m_menu; }
+    /// Opens the menu at a place on the screen; not if the host has left nothing in it.
+    void openMenu(QPoint at);
 
     /// Chooses what one finger does from its next touch on: see FingerUse. FingerDraws at first.
     void setFingerUse(FingerUse use);
     /// See setFingerUse().
     [[nodiscard]] FingerUse fingerUse() const;
+
+    /// How the canvas, its piece and its tools behave: see KORVA_EditCanvas::setManners().
+    void setManners(const KORVA_Manners& manners) { m_manners = manners; }
+    /// See setManners().
+    [[nodiscard]] const KORVA_Manners& manners() const { return m_manners; }
 
     /// The scroll view that holds the canvas; null when there is none.
     [[nodiscard]] KORVA_ScrollView* scrollView() const;
@@ -342,6 +352,7 @@ private:
     KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize, QWidget* parent,
                  const char* name);
     void createMenu();
+    void offerEditing(bool cutting, bool pasting);
     template <typename Handler, typename LabelHandler>
     void handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel);
     void connectSignals(KORVA_EditCanvas* editor);
@@ -368,6 +379,7 @@ private:
     [[nodiscard]] bool isFloating() const;
 
     KORVA_Zoom m_zoom;
+    KORVA_Manners m_manners;
     QPointer<KORVA_Tool> m_tool;
     std::unique_ptr<KORVA_Picture> m_picture;
     QPixmap m_zoomed;

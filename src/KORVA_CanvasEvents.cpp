@@ -45,7 +45,7 @@ void KORVA_Canvas::handOn(QMouseEvent* event, Handler toTool, LabelHandler toLab
 void KORVA_Canvas::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton) {
-        m_menu->popup(mapToGlobal(pixel::under(*event, *this)), m_menu->actions().value(0));
+        openMenu(mapToGlobal(pixel::under(*event, *this)));
     } else if (event->button() == Qt::LeftButton) {
         handOn(event, &KORVA_Tool::mousePressEvent, &KORVA_PasteLabel::mousePressEvent);
     }
@@ -131,7 +131,7 @@ void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
     if (isFloating())
         m_pasteLabel->menu()->popup(m_pasteLabel->mapToGlobal(m_pasteLabel->rect().center()));
     else
-        m_menu->popup(mapToGlobal(visibleRegion().boundingRect().center()));
+        openMenu(mapToGlobal(visibleRegion().boundingRect().center()));
 }
 
 // --- The keyboard's pen

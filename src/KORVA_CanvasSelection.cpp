@@ -177,6 +177,26 @@ void KORVA_Canvas::createMenu()
     slotClipBoard(false);
 }
 
+void KORVA_Canvas::offerEditing(bool cutting, bool pasting)
+{
+    const auto offer = [](QAction* action, bool isOffered) {
+        if (action)
+            action->setVisible(isOffered);
+    };
+    offer(m_cutAction, cutting);
+    offer(m_copyAction, cutting);
+    offer(m_pasteAction, pasting);
+    offer(m_pasteLabel->m_pasteAction, pasting);
+}
+
+void KORVA_Canvas::openMenu(QPoint at)
+{
+    for (QAction* const row : m_menu->actions()) {
+        if (row->isVisible())
+            return m_menu->popup(at, row);
+    }
+}
+
 void KORVA_Canvas::slotCut()
 {
     cut();

@@ -23,14 +23,6 @@ constexpr auto handedOver =
     "/tmp/korva.tmp"; // a host's picture on its way in: never the drawing's own file
 constexpr auto handedOverFile = "/tmp/korva.file";
 
-constexpr auto completeIcon = "Dialog_Complete.gif";
-constexpr auto errorIcon = "Dialog_Error.gif";
-constexpr auto warningIcon = "Dialog_Exclamatory_Mark.gif";
-constexpr auto binIcon = "Dialog_Empty_Trash.gif";
-
-constexpr int shortTime = 1;
-constexpr int longTime = 2;
-
 /// Reads a small file at once, any other in a thread for which the user waits. Nothing when the user has
 /// cancelled, or the editor is gone.
 template <typename Work>
@@ -38,7 +30,7 @@ auto patiently(KORVA_EditCanvas& editor, const KORVA_PictureFile& file, const Wo
     -> std::optional<std::invoke_result_t<Work, KORVA_PictureFile&>>
 {
     KORVA_PictureFile own = file;
-    if (own.isSmall())
+    if (own.isSmall() || !editor.features().dialogs)
         return work(own);
     own.setAllowance(UTIL_ImageReader::Allowance::ofPlatform());
     const QPointer<KORVA_EditCanvas> asker = &editor;
@@ -73,15 +65,6 @@ QString saveQuestion(int action)
 
 } // namespace
 
-template <typename Work>
-bool KORVA_Documents::survives(const Work& work)
-{
-    const QPointer<KORVA_EditCanvas> editor = &m_editor;
-    const int cancellations = m_cancellations;
-    work();
-    return editor && cancellations == m_cancellations;
-}
-
 void KORVA_Documents::setFileName(const QString& name)
 {
     m_fileName = name == QLatin1String(handedOver) ? QString() : name;
@@ -115,6 +98,11 @@ void KORVA_Documents::saveChanges(int action)
         return;
     }
 
+    if (!features().saving) {
+        if (action == Open || action == InsertStamp)
+            m_editor.openNewFilePrivate(action, QString());
+        return;
+    }
     if (const QString question = saveQuestion(action); !question.isEmpty()) {
         const std::optional<int> answer = ask(warningIcon, question,
                                               {KORVA_EditCanvas::tr("Yes", "2.11.2.3;SOFTKEY_2BUTTON"),
@@ -138,12 +126,29 @@ void KORVA_Documents::resetTypedText()
         text->resetBuffer();
 }
 
+std::optional<QList<QByteArray>> KORVA_Documents::formats() const
+{
+    if (features().formats == KORVA_Features().formats)
+        return {};
+    QList<QByteArray> found;
+    for (const QString& format : features().formats)
+        found.append(format.toLatin1());
+    return found;
+}
+
+bool KORVA_Documents::mayOpen(int action) const
+{
+    return features().opening && (action != InsertStamp || (features().pasting && features().editing));
+}
+
 bool KORVA_Documents::pickAndOpen(int action)
 {
+    if (!mayOpen(action) || !features().dialogs)
+        return false;
     delete m_pickDialog;
     UTIL_Platform* platform = UTIL_Platform::instance();
-    UTIL_Modal dialog(
-        platform->createPickDialog(&m_editor, platform->photoFolder(), KORVA_Formats::openPatterns()));
+    UTIL_Modal dialog(platform->createPickDialog(&m_editor, platform->photoFolder(),
+                                                 KORVA_Formats::openPatterns(&features().formats)));
     if (action == InsertStamp)
         dialog->setPurpose(KORVA_EditCanvas::tr("Insert stamp", "PICK_DIALOG;TITLE"),
                            KORVA_EditCanvas::tr("Insert", "PICK_DIALOG;SOFTKEY_2BUTTON"));
@@ -157,6 +162,8 @@ bool KORVA_Documents::pickAndOpen(int action)
 
 bool KORVA_Documents::open(int action, const QString& name)
 {
+    if (!mayOpen(action))
+        return false;
     const std::optional<Contents> contents = contentsOf(name, KORVA_Formats::readFormat(name));
     if (!contents)
         return false;
@@ -207,11 +214,12 @@ void KORVA_Documents::openAtConstruction(const QString& name)
 bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
 {
     std::optional<int> status;
+    KORVA_PictureFile picture(name, KORVA_PictureFile::Full);
+    picture.setFormats(formats());
     const auto read = [format = QByteArray(format)](KORVA_PictureFile& file) {
         return file.check(format.isEmpty() ? nullptr : format.constData());
     };
-    const bool isThere = survives(
-        [&] { status = patiently(m_editor, KORVA_PictureFile(name, KORVA_PictureFile::Full), read); });
+    const bool isThere = survives([&] { status = patiently(m_editor, picture, read); });
     return isThere && status && check(*status);
 }
 
@@ -221,6 +229,7 @@ std::optional<KORVA_Documents::Contents> KORVA_Documents::contentsOf(const QStri
     const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
     KORVA_PictureFile picture(name);
     picture.setLimits(limits);
+    picture.setFormats(formats());
     const auto read = [format, limits](KORVA_PictureFile& file) {
         Contents contents;
         contents.status = file.check(format.isEmpty() ? nullptr : format.constData());
@@ -251,10 +260,11 @@ bool KORVA_Documents::check(int status)
     }
 }
 
-bool KORVA_Documents::take(const Contents& contents, QPixmap* picture, Opened* opened)
+bool KORVA_Documents::take(const Contents& contents, QPixmap* picture, Opened* opened) const
 {
     if (contents.image.isNull() || !KORVA_WorkingLimits::ofPlatform().convert(contents.working, picture))
         return false;
+    *picture = m_editor.fitted(*picture);
     *opened = contents.opened;
     opened->isReduced = opened->isReduced || !UTIL_ImageReader::isSame(contents.image, picture->toImage());
     return true;
@@ -262,6 +272,8 @@ bool KORVA_Documents::take(const Contents& contents, QPixmap* picture, Opened* o
 
 void KORVA_Documents::tellUnreadable()
 {
+    if (!features().dialogs)
+        return;
     UTIL_Platform::instance()->timedInformation(
         &m_editor, warningIcon,
         KORVA_EditCanvas::tr("This file can not be opened.", "4.4.4.2;DIALOG_ICON_50_WARP"),
@@ -273,9 +285,10 @@ bool KORVA_Documents::setEncoded(const QByteArray& data)
     QPixmap picture;
     KORVA_PictureFile::Origin origin;
     const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
-    const QImage image = KORVA_PictureFile::decoded(data, limits, &origin);
+    const QImage image = KORVA_PictureFile::decoded(data, limits, formats(), &origin);
     if (!limits.convert(image, &picture))
         return false;
+    picture = m_editor.fitted(picture);
     m_opened = {m_fileName, origin.size,
                 !origin.isWhole || !UTIL_ImageReader::isSame(image, picture.toImage())};
     m_editor.setPixmap(&picture);
@@ -299,97 +312,4 @@ void KORVA_Documents::reset()
     forgetOpened();
     if (!m_fileName.isEmpty())
         setFileName({});
-}
-
-// --- Saving
-
-void KORVA_Documents::nameAndSave(int action)
-{
-    if (action == InsertStamp) {
-        m_editor.openNewFilePrivate(InsertStamp, QString());
-    } else if (!m_fileName.isEmpty()) {
-        if (survives([this] { m_editor.saveFilePrivate(); }) && action == Open)
-            m_editor.openNewFilePrivate(Open, QString());
-    } else {
-        askForName();
-    }
-}
-
-void KORVA_Documents::askForName()
-{
-    UTIL_Platform* platform = UTIL_Platform::instance();
-    UTIL_Modal dialog(
-        platform->createSaveDialog(&m_editor, platform->photoFolder(), KORVA_Formats::savePatterns()));
-    m_saveDialog = dialog.operator->();
-    bool isAccepted = false;
-    if (!survives([&] { isAccepted = dialog.isAccepted(); }))
-        return;
-    if (isAccepted)
-        m_editor.slotSaveDlgCloseBeforeOpen(dialog->fileName());
-    else
-        m_pendingAction = NoAction;
-}
-
-void KORVA_Documents::saveUnder(const QString& name)
-{
-    m_fileName = name;
-    if (!survives([this] { m_editor.saveFilePrivate(); }))
-        return;
-    delete m_saveDialog;
-    if (m_pendingAction == Open || m_pendingAction == InsertStamp)
-        m_editor.openNewFilePrivate(m_pendingAction, QString());
-}
-
-void KORVA_Documents::saveAndTell()
-{
-    if (m_fileName.isEmpty()) {
-        emit m_editor.canDelete(false);
-        return;
-    }
-    const QByteArray format = KORVA_Formats::writeFormat(m_fileName);
-    const bool canBeWritten = !format.isEmpty(); // a GIF cannot, and keeps its name
-    std::pair outcome{errorIcon, KORVA_EditCanvas::tr("Saved Failed", "2.11.2.10;DIALOG_ICON_50")};
-    if (canBeWritten && m_editor.save(m_fileName, format.constData())) {
-        m_editor.clearModified();
-        outcome = {completeIcon, KORVA_EditCanvas::tr("Saved Successfully", "2.11.2.9;DIALOG_ICON_50")};
-    } else if (canBeWritten) {
-        m_fileName.clear();
-    }
-    if (survives([&] { tell(outcome.first, outcome.second); }))
-        emit m_editor.canDelete(true); // after a failure, too: hosts have always had it so
-}
-
-// --- Deleting
-
-void KORVA_Documents::askAndDelete()
-{
-    const std::optional<int> answer =
-        ask(binIcon, KORVA_EditCanvas::tr("Delete drawing?", "2.11.2.1;DIALOG_ICON_50"),
-            {KORVA_EditCanvas::tr("OK", "2.11.2.1;SOFTKEY_2BUTTON"),
-             KORVA_EditCanvas::tr("Cancel", "2.11.2.1;SOFTKEY_2BUTTON")});
-    if (answer != 0)
-        return;
-    m_editor.clearCanvas();
-    m_editor.clearModified();
-    forgetOpened();
-    resetTypedText();
-    if (m_fileName.isEmpty())
-        return;
-    const QString name = m_fileName; // a file that cannot be removed is not reported
-    if (survives([&] { UTIL_Platform::instance()->removePicture(name); }))
-        m_fileName.clear();
-}
-
-std::optional<int> KORVA_Documents::ask(const char* icon, const QString& text, const QStringList& buttons)
-{
-    int answer = 0;
-    const bool isThere = survives([&] {
-        answer = UTIL_Platform::instance()->question(&m_editor, QString::fromLatin1(icon), text, buttons);
-    });
-    return isThere ? std::optional(answer) : std::nullopt;
-}
-
-void KORVA_Documents::tell(const char* icon, const QString& text)
-{
-    UTIL_Platform::instance()->timedMessage(&m_editor, QString::fromLatin1(icon), text, shortTime);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KORVA_EditCanvas.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QPointer>
@@ -7,7 +9,6 @@
 
 #include <optional>
 
-class KORVA_EditCanvas;
 class UTIL_PictureDialog;
 
 /// The editor's document commands: what is asked, in which order, and what the user is told. Here are the
@@ -64,6 +65,13 @@ public:
     void reset();
 
 private:
+    static constexpr auto completeIcon = "Dialog_Complete.gif";
+    static constexpr auto errorIcon = "Dialog_Error.gif";
+    static constexpr auto warningIcon = "Dialog_Exclamatory_Mark.gif";
+    static constexpr auto binIcon = "Dialog_Empty_Trash.gif";
+    static constexpr int shortTime = 1; // seconds
+    static constexpr int longTime = 2;
+
     /// The picture last opened, as it was in its file.
     struct Opened
     {
@@ -84,12 +92,21 @@ private:
     /// Does work that may open a box or a dialog. False when the editor, and with it this object, was
     /// deleted meanwhile, or cancel() was called: its caller does no more then.
     template <typename Work>
-    [[nodiscard]] bool survives(const Work& work);
+    [[nodiscard]] bool survives(const Work& work)
+    {
+        const QPointer<KORVA_EditCanvas> editor = &m_editor;
+        const int cancellations = m_cancellations;
+        work();
+        return editor && cancellations == m_cancellations;
+    }
     /// Nothing when the user has cancelled; this object may be gone then.
     std::optional<Contents> contentsOf(const QString& name, const QByteArray& format);
     /// False if the status is an error, after telling the user; this object may be gone then.
     bool check(int status);
-    static bool take(const Contents& contents, QPixmap* picture, Opened* opened);
+    bool take(const Contents& contents, QPixmap* picture, Opened* opened) const;
+    [[nodiscard]] const KORVA_Features& features() const { return m_editor.features(); }
+    [[nodiscard]] std::optional<QList<QByteArray>> formats() const;
+    [[nodiscard]] bool mayOpen(int action) const;
     void tellUnreadable();
     void askForName();
     void resetTypedText();

@@ -94,16 +94,6 @@ KORVA_Canvas* KORVA_EditCanvas::canvas() const
     return m_mainView->canvas();
 }
 
-void KORVA_EditCanvas::arrange()
-{
-    const QSize more = layout::beyond(size());
-    m_mainView->setGeometry(
-        QStyle::visualRect(layoutDirection(), QRect(QPoint(), layout::editor + more),
-                           QRect(layout::mainView.topLeft(), layout::mainView.size() + more)));
-    if (layoutDirection() == Qt::RightToLeft) // from left to right nothing ever moves them
-        m_toolBar->arrange();
-}
-
 void KORVA_EditCanvas::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
@@ -127,12 +117,14 @@ void KORVA_EditCanvas::resizeEvent(QResizeEvent* event)
 
 void KORVA_EditCanvas::undo()
 {
-    canvas()->undo();
+    if (mayEdit())
+        canvas()->undo();
 }
 
 void KORVA_EditCanvas::redo()
 {
-    canvas()->redo();
+    if (mayEdit())
+        canvas()->redo();
 }
 
 void KORVA_EditCanvas::setUndoSteps(int steps, qint64 mostBytes)
@@ -147,36 +139,44 @@ int KORVA_EditCanvas::undoSteps() const
 
 void KORVA_EditCanvas::cut()
 {
-    canvas()->cut();
+    if (mayEdit())
+        canvas()->cut();
 }
 
 void KORVA_EditCanvas::copy()
 {
-    canvas()->copy();
+    if (mayEdit())
+        canvas()->copy();
 }
 
 void KORVA_EditCanvas::paste()
 {
-    canvas()->paste();
+    if (mayEdit() && features().pasting)
+        canvas()->paste();
 }
 
 void KORVA_EditCanvas::paste(int x, int y)
 {
-    canvas()->paste(x, y);
+    if (mayEdit() && features().pasting)
+        canvas()->paste(x, y);
 }
 
 void KORVA_EditCanvas::deleteSelection()
 {
-    canvas()->deleteSelection();
+    if (mayEdit())
+        canvas()->deleteSelection();
 }
 
 void KORVA_EditCanvas::clearCanvas()
 {
-    canvas()->clearCanvas(Qt::white);
+    if (mayEdit())
+        canvas()->clearCanvas(Qt::white);
 }
 
 void KORVA_EditCanvas::selectAll()
 {
+    if (!m_tools->isOptionOffered(KORVA_TOOL_SELECT, KORVA_OPTION_AREA))
+        return;
     canvas()->mergePastePixmap();
     m_toolChoice->selectAreaTool();
     if (auto* areaSelect = qobject_cast<KORVA_AreaSelect*>(m_manager->currentTool()))
@@ -193,7 +193,10 @@ void KORVA_EditCanvas::setPixmap(QPixmap* picture)
 {
     emit canUndo(false);
     emit canRedo(false);
-    canvas()->setPixmap(picture);
+    if (picture) {
+        QPixmap fitting = fitted(*picture);
+        canvas()->setPixmap(&fitting);
+    }
     m_zoomChoice->fitAgain();
 }
 
@@ -209,7 +212,8 @@ void KORVA_EditCanvas::setDepth(int depth)
 
 void KORVA_EditCanvas::resizeImage(int w, int h)
 {
-    canvas()->resizeImage(w, h);
+    if (mayEdit() && features().resizing)
+        canvas()->resizeImage(w, h);
 }
 
 bool KORVA_EditCanvas::load(const QString& fileName, const char* format)
@@ -224,11 +228,14 @@ void KORVA_EditCanvas::setPaper(const QImage& paper)
 
 void KORVA_EditCanvas::insertStamp(QPixmap& stamp)
 {
-    canvas()->insertStamp(stamp);
+    if (mayEdit() && features().pasting)
+        canvas()->insertStamp(stamp);
 }
 
 void KORVA_EditCanvas::setCanvasSize(int w, int h)
 {
+    if (!mayEdit() || !features().resizing)
+        return;
     if (canvas()->pictureSize() != QSize(w, h))
         canvas()->resize(w, h);
     canvas()->resizeImage(w, h);
@@ -242,6 +249,8 @@ void KORVA_EditCanvas::setZoom(int rate)
 
 void KORVA_EditCanvas::chooseCanvas(KORVA_CANVASTYPE type, int w, int h)
 {
+    if (!mayEdit())
+        return;
     int depth = otherCanvasDepth;
     if (type >= 0 && type < int(std::size(canvasTypes))) {
         depth = canvasTypes[type].depth;
@@ -338,6 +347,8 @@ bool KORVA_EditCanvas::setEncoded(const QByteArray& encoded)
 
 bool KORVA_EditCanvas::save(const QString& name, const char* format)
 {
+    if (!features().saving)
+        return false;
     const bool isSaved = picturesave::replace(
         name, [&] { return picturesave::encoded(canvas()->pixmap()->toImage(), format); });
     if (isSaved)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "KORVA_Export.h"
+#include "KORVA_Features.h"
+#include "KORVA_Manners.h"
 #include "KORVA_ToolOption.h"
 #include "KORVA_Types.h"
 
@@ -117,6 +119,17 @@ public:
                 const QList<KORVA_ToolOption>& options = {});
     /// The name of a tool of this editor for the user, by its identifier; empty if there is no such tool.
     [[nodiscard]] QString nameOfTool(int tool) const;
+
+    // --- What is offered, and how it behaves ---
+    /// Takes away from what the editor offers, or puts the host's own in its place. A tool, an option or a
+    /// zoom that is in force and no longer offered gives way to the first one that is.
+    void setFeatures(const KORVA_Features& features);
+    /// See setFeatures(). Everything at first.
+    [[nodiscard]] const KORVA_Features& features() const;
+    /// Chooses classic or modern ways, one by one. Classic at first.
+    void setManners(const KORVA_Manners& manners);
+    /// See setManners().
+    [[nodiscard]] const KORVA_Manners& manners() const;
 
     // --- Editing ---
     /// See KORVA_Canvas::cut().
@@ -338,7 +351,11 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    friend class KORVA_Documents; // for fitted()
+
     void arrange();
+    [[nodiscard]] QPixmap fitted(const QPixmap& picture) const;
+    [[nodiscard]] bool mayEdit() const { return features().editing; }
 
     std::unique_ptr<KORVA_ToolSet> m_tools;
     std::unique_ptr<KORVA_ToolBar> m_toolBar;

@@ -9,11 +9,22 @@
 #include "KORVA_ToolChoice.h"
 #include "KORVA_ToolSet.h"
 #include "KORVA_ZoomChoice.h"
+#include "UTIL_Platform.h"
 
 #include <QCursor>
 #include <QPointer>
 
 #include <utility>
+
+namespace {
+
+int depthOf(KORVA_COLORTYPE type)
+{
+    static constexpr int depths[] = {1, 4, 8, 16}; // by KORVA_COLORTYPE
+    return depths[qBound(0, int(type), int(std::size(depths)) - 1)];
+}
+
+} // namespace
 
 // What is chosen, in the controls or by a host: tool, option, zoom and colour.
 
@@ -29,6 +40,8 @@ void KORVA_EditCanvas::slotSelChangeToolOptions(int menuId)
 
 void KORVA_EditCanvas::slotSelZoomRate(int index)
 {
+    if (features().zooms.isEmpty())
+        return;
     m_zoomChoice->select(index);
     emit chosen(KORVA_CHOICE_ZOOM, index);
 }
@@ -56,7 +69,7 @@ int KORVA_EditCanvas::addTool(std::unique_ptr<KORVA_Tool> tool, const QIcon& ico
         return -1;
     m_tools->add(icon, name, options);
     const int id = m_manager->addTool(std::move(tool));
-    m_toolBar->addTool(id);
+    m_toolBar->offer();
     return id;
 }
 
@@ -91,9 +104,15 @@ void KORVA_EditCanvas::setRubberCursor(int width, int rate)
 
 void KORVA_EditCanvas::slotColor()
 {
+    if (!features().colors || !mayEdit())
+        return;
     const QPointer<KORVA_EditCanvas> self = this; // the picker runs an event loop
     const int cancellations = m_cancellations;
-    const QColor picked = KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
+    const std::optional<QColor> hosts =
+        UTIL_Platform::instance()->pickColor(this, m_color, depthOf(m_colorType));
+    if (!self || cancellations != m_cancellations)
+        return;
+    const QColor picked = hosts ? *hosts : KORVA_ColorPicker::getColor(m_colorType, m_color, this, nullptr);
     if (!self || cancellations != m_cancellations)
         return;
     setColor(picked);

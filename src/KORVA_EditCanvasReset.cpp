@@ -57,9 +57,8 @@ void KORVA_EditCanvas::reset()
     m_manager->reset();
     m_toolChoice->reset();
     setColor(Qt::red);
-    m_zoomChoice->show(KORVA_ZOOM_100);
-    m_zoomChoice->select(KORVA_ZOOM_100);
-    canvas()->reset(layout::firstCanvas);
+    m_zoomChoice->reset();
+    canvas()->reset(features().resizing ? layout::firstCanvas : canvas()->pictureSize());
     m_mainView->updateLayout();
     m_mainView->scrollView()->setContentsPos(0, 0);
     clearModified();

@@ -20,4 +20,12 @@ constexpr QSize firstCanvas(200, 170);
     return (size - editor).expandedTo(QSize(0, 0));
 }
 
+/// Where the main view lies in an editor of this size, from left to right. Without the controls it has
+/// their room, too.
+[[nodiscard]] inline QRect mainViewIn(QSize size, bool hasControls)
+{
+    const QRect place(mainView.topLeft(), mainView.size() + beyond(size));
+    return hasControls ? place : place.adjusted(0, toolButton.top() - mainView.top(), 0, 0);
+}
+
 } // namespace layout

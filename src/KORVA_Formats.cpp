@@ -10,11 +10,12 @@ using KORVA_Formats::Row;
 
 /// The patterns of the rows that are offered and for which a condition holds.
 template <typename Condition>
-QStringList patterns(const Condition& holds)
+QStringList patterns(const QStringList* formats, const Condition& holds)
 {
     QStringList found;
     for (const Row& row : KORVA_Formats::rows) {
-        if (row.isOffered && holds(row))
+        const bool isWanted = !formats || formats->contains(QLatin1String(row.format));
+        if (row.isOffered && isWanted && holds(row))
             found.append(QStringLiteral("*.%1").arg(QLatin1String(row.extension)));
     }
     return found;
@@ -41,12 +42,12 @@ QByteArray KORVA_Formats::writeFormat(const QString& fileName)
     return rowOf(fileName).written;
 }
 
-QStringList KORVA_Formats::openPatterns()
+QStringList KORVA_Formats::openPatterns(const QStringList* formats)
 {
-    return patterns([](const Row&) { return true; });
+    return patterns(formats, [](const Row&) { return true; });
 }
 
-QStringList KORVA_Formats::savePatterns()
+QStringList KORVA_Formats::savePatterns(const QStringList* formats)
 {
-    return patterns([](const Row& row) { return qstrcmp(row.written, row.format) == 0; });
+    return patterns(formats, [](const Row& row) { return qstrcmp(row.written, row.format) == 0; });
 }

@@ -46,8 +46,8 @@ inline constexpr const Row& anyOther = rows[0];
 [[nodiscard]] QByteArray readFormat(const QString& fileName);
 [[nodiscard]] QByteArray writeFormat(const QString& fileName);
 
-/// The patterns offered for opening and for saving: "*.png" and the like.
-[[nodiscard]] QStringList openPatterns();
-[[nodiscard]] QStringList savePatterns();
+/// The patterns offered for opening and for saving: "*.png" and the like. Null formats mean all.
+[[nodiscard]] QStringList openPatterns(const QStringList* formats = nullptr);
+[[nodiscard]] QStringList savePatterns(const QStringList* formats = nullptr);
 
 } // namespace KORVA_Formats

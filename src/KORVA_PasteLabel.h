@@ -99,6 +99,7 @@ protected:
 
 private:
     friend class KORVA_BeforeStroke;
+    friend class KORVA_Canvas; // for what its menu offers
 
     /// What a drag does, by the place where the pointer hovered last. A press does not look again.
     enum Zone : int {

@@ -33,9 +33,11 @@ KORVA_PictureFile::Origin originOf(const UTIL_ImageReader& reader)
 
 } // namespace
 
-QImage KORVA_PictureFile::decoded(const QByteArray& data, const KORVA_WorkingLimits& limits, Origin* origin)
+QImage KORVA_PictureFile::decoded(const QByteArray& data, const KORVA_WorkingLimits& limits,
+                                  const std::optional<QList<QByteArray>>& formats, Origin* origin)
 {
     UTIL_ImageReader reader = UTIL_ImageReader::fromData(data);
+    reader.setOwnFormats(formats);
     reader.setReduction([limits](QSize size) { return limits.sizeOf(size); });
     reader.read();
     if (origin)
@@ -120,6 +122,7 @@ UTIL_ImageReader KORVA_PictureFile::reader(const char* format) const
     reader.setIsCancelled(m_isCancelled);
     if (m_allowance)
         reader.setAllowance(*m_allowance);
+    reader.setOwnFormats(m_formats);
     const bool isShallow = m_limits.depth == KORVA_WorkingLimits().depth;
     if (formats::rowOf(m_name).opening == formats::Opening::AsJpeg && isShallow)
         reader.setParameters("16");

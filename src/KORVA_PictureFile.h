@@ -35,12 +35,15 @@ public:
     /// Decodes a picture in memory, which is recognised by its content. Null when it cannot be decoded. A
     /// large picture comes in its working size.
     [[nodiscard]] static QImage decoded(const QByteArray& data, const KORVA_WorkingLimits& limits,
+                                        const std::optional<QList<QByteArray>>& formats = {},
                                         Origin* origin = nullptr);
 
     /// Sets the size and depth that suffice for the canvas; the classic limits unless set.
     void setLimits(const KORVA_WorkingLimits& limits) { m_limits = limits; }
     /// Replaces the platform's allowance, for which only the GUI thread may ask.
     void setAllowance(const UTIL_ImageReader::Allowance& allowance) { m_allowance = allowance; }
+    /// See UTIL_ImageReader::setOwnFormats().
+    void setFormats(const std::optional<QList<QByteArray>>& formats) { m_formats = formats; }
     /// `isCancelled` is called again and again while the file is read. Once it returns true nothing more
     /// can be read.
     void setIsCancelled(const std::function<bool()>& isCancelled) { m_isCancelled = isCancelled; }
@@ -63,6 +66,7 @@ private:
     Scale m_scale = Working;
     KORVA_WorkingLimits m_limits;
     std::optional<UTIL_ImageReader::Allowance> m_allowance;
+    std::optional<QList<QByteArray>> m_formats;
     std::function<bool()> m_isCancelled;
     QImage m_checked;                       ///< decoded by check(); null if take() must decode itself
     QString m_version;                      ///< of the file when it was examined; null if it was not

@@ -2,9 +2,14 @@
 
 #include "KORVA_DrawingTool.h"
 
+#include <optional>
+
 /// The eraser tool: stamps white squares with their top left under the stylus. Their side is the pen's
 /// width times the zoom, in both pictures. Each accepted press is an undo step; the release marks the
 /// picture modified.
+///
+/// With KORVA_Manners::joinedEraser the side is the pen's width in picture pixels, the squares of a stroke
+/// are joined, and the press marks the picture modified.
 class KORVA_EXPORT KORVA_Rubber : public KORVA_DrawingTool
 {
     Q_OBJECT
@@ -21,6 +26,9 @@ public:
 
 private:
     void erase(QPoint inPicture, QPoint onScreen);
+    [[nodiscard]] QPoint under(const QMouseEvent& event) const;
+    void eraseWay(QPoint to);
 
+    std::optional<QPoint> m_joined; ///< during a joined stroke: its last place, in picture coordinates
     bool m_drawing = false; ///< from a press to the first move; after that, another press is accepted
 };

@@ -57,8 +57,6 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tool
 {
     m_toolButton = createButton(&editor, "toolButton", KORVA_EditCanvas::tr("Tool", "tool bar"));
     auto* toolMenu = new UTIL_PopupMenu(m_toolButton);
-    for (const int tool : m_tools.inOrder())
-        addEntry(toolMenu, m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
     toolMenu->setAccessibleName(m_toolButton->accessibleName());
     m_toolButton->setMenu(toolMenu);
 
@@ -74,6 +72,7 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tool
 
     m_colorButton = createButton(&editor, "colorButton", KORVA_EditCanvas::tr("Color", "tool bar"));
     m_colorButton->setFlat(true);
+    offer();
     arrange();
 
     QObject::connect(toolMenu, &QMenu::triggered, &editor,
@@ -85,9 +84,25 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tool
     QObject::connect(m_colorButton, &QPushButton::clicked, &editor, &KORVA_EditCanvas::slotColor);
 }
 
-void KORVA_ToolBar::addTool(int tool)
+void KORVA_ToolBar::offer()
 {
-    addEntry(m_toolButton->menu(), m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
+    const KORVA_Features& features = m_tools.features();
+    const QList<int> tools = m_tools.inOrder();
+    QMenu* const menu = m_toolButton->menu();
+    menu->clear();
+    for (const int tool : tools)
+        addEntry(menu, m_tools.toolEntry(tool), m_tools.icon(tool), m_tools.name(tool));
+    showTool(m_tool);
+
+    const bool areTools = features.controls && !tools.isEmpty();
+    const auto let = [](QWidget* control, bool isShown) {
+        if (control->isHidden() == isShown)
+            control->setVisible(isShown);
+    };
+    let(m_toolButton, areTools);
+    let(m_optionButton, areTools);
+    let(m_zoomBox, features.controls && !features.zooms.isEmpty());
+    let(m_colorButton, features.controls && features.colors && features.editing);
 }
 
 void KORVA_ToolBar::arrange()
@@ -104,6 +119,7 @@ void KORVA_ToolBar::arrange()
 
 void KORVA_ToolBar::showTool(int tool)
 {
+    m_tool = tool;
     showIcon(m_toolButton, m_tools.icon(tool));
     showChoice(m_toolButton, m_tools.toolEntry(tool), m_tools.name(tool));
 }
@@ -112,7 +128,7 @@ void KORVA_ToolBar::showOption(int entry)
 {
     const bool isThere = entry >= 0 && entry < m_tools.optionCount(m_optionTool);
     showIcon(m_optionButton, isThere ? m_tools.optionIcon(m_optionTool, entry) : QPixmap());
-    showChoice(m_optionButton, isThere ? optionId(entry) : -1,
+    showChoice(m_optionButton, isThere ? m_tools.firstOptionEntry(m_optionTool) + entry : -1,
                isThere ? m_tools.optionName(m_optionTool, entry) : QString());
 }
 
@@ -133,13 +149,9 @@ void KORVA_ToolBar::loadOptions(int tool)
 {
     m_optionMenu->clear();
     m_optionTool = tool;
-    for (int row = 0; row < m_tools.optionCount(tool); ++row)
-        addEntry(m_optionMenu, m_tools.firstOptionEntry(tool) + row, m_tools.optionIcon(tool, row),
-                 m_tools.optionName(tool, row));
-}
-
-int KORVA_ToolBar::optionId(int entry) const
-{
-    const QAction* const action = m_optionMenu->actions().value(entry);
-    return action ? action->data().toInt() : 0;
+    for (int row = 0; row < m_tools.optionCount(tool); ++row) {
+        if (m_tools.isOptionOffered(tool, row))
+            addEntry(m_optionMenu, m_tools.firstOptionEntry(tool) + row, m_tools.optionIcon(tool, row),
+                     m_tools.optionName(tool, row));
+    }
 }

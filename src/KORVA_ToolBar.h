@@ -19,18 +19,17 @@ public:
 
     /// Puts the controls where the editor's direction and size want them.
     void arrange();
-    /// Gives a tool that is new in the set the last row of the tool pop-up.
-    void addTool(int tool);
+    /// Shows the controls that are offered, and in the tool pop-up the tools that are. The option pop-up
+    /// follows with loadOptions().
+    void offer();
     /// Shows a tool that has a row in the tool pop-up: its icon on the button, its row checked.
     void showTool(int tool);
-    /// Shows a row of the option pop-up; any other number shows none.
+    /// Shows an option of the tool that the pop-up has; any other number shows none.
     void showOption(int entry);
     void showColor(const QColor& color);
 
-    /// Fills the option pop-up with a tool's options; empty for tools without.
+    /// Fills the option pop-up with the options of a tool that are offered; empty for tools without.
     void loadOptions(int tool);
-    /// The identifier of an entry of the option pop-up. The entry must exist.
-    [[nodiscard]] int optionId(int entry) const;
 
 private:
     KORVA_EditCanvas& m_editor;
@@ -40,5 +39,6 @@ private:
     QMenu* m_optionMenu;
     UTIL_ComboBox* m_zoomBox;
     QPushButton* m_colorButton;
+    int m_tool = 0;       ///< that the button shows
     int m_optionTool = 0; ///< whose options the pop-up has
 };

@@ -25,13 +25,16 @@ KORVA_ToolChoice::KORVA_ToolChoice(KORVA_EditCanvas& editor, KORVA_ToolBar& bar,
 void KORVA_ToolChoice::selectEntry(int menuId)
 {
     const int tool = m_tools.toolOfEntry(menuId);
-    selectTool(tool >= 0 ? tool : int(tables::Line));
+    const int wanted = tool >= 0 ? tool : int(tables::Line);
+    if (!m_tools.inOrder().contains(wanted))
+        return;
+    selectTool(wanted);
     tellChoice(KORVA_CHOICE_TOOL);
 }
 
 void KORVA_ToolChoice::select(int tool)
 {
-    if (!m_tools.has(tool))
+    if (!m_tools.isOffered(tool))
         return;
     if (tool == tables::AreaSelect || tool == tables::Drag)
         m_remembered.selectionMode = tool == tables::Drag ? KORVA_OPTION_HAND : KORVA_OPTION_AREA;
@@ -49,12 +52,44 @@ void KORVA_ToolChoice::selectAreaTool()
 void KORVA_ToolChoice::reset()
 {
     m_remembered = {};
-    selectTool(tables::Pencil);
+    selectTool(m_tools.isOffered(tables::Pencil) ? int(tables::Pencil) : firstTool());
+    tellChanges();
+}
+
+/// The first of the tool pop-up. The hand, which changes nothing, when there is none.
+int KORVA_ToolChoice::firstTool()
+{
+    const QList<int> tools = m_tools.inOrder();
+    if (tools.isEmpty())
+        m_remembered.selectionMode = KORVA_OPTION_HAND;
+    return tools.value(0, tables::AreaSelect);
+}
+
+void KORVA_ToolChoice::offer()
+{
+    const QList<int> tools = m_tools.inOrder();
+    const int tool = optionTool();
+    const bool isIdle = m_tool == tables::Drag && tools.isEmpty();
+    if (!tools.contains(tool) && !isIdle) {
+        selectTool(firstTool());
+    } else if (tools.contains(tool)) {
+        m_bar.loadOptions(tool);
+        const int row = option();
+        const int width = row >= 0 ? m_tools.penWidth(tool, row) : 0;
+        const bool isOtherWidth =
+            width > 0 && width != m_editor.manager()->currentTool()->leftPen().width();
+        if (row != m_toldOption || (isOtherWidth && m_tool != tables::Drag))
+            applyOption(m_tools.firstOptionEntry(tool) + row);
+        else
+            m_bar.showOption(row);
+    }
     tellChanges();
 }
 
 void KORVA_ToolChoice::selectOptionEntry(int menuId)
 {
+    if (!m_tools.inOrder().contains(optionTool()))
+        return;
     applyOption(menuId);
     tellChoice(KORVA_CHOICE_OPTION);
 }
@@ -62,7 +97,7 @@ void KORVA_ToolChoice::selectOptionEntry(int menuId)
 void KORVA_ToolChoice::selectOption(int row)
 {
     const int tool = optionTool();
-    if (row >= 0 && row < m_tools.optionCount(tool))
+    if (m_tools.isOptionOffered(tool, row))
         selectOptionEntry(m_tools.firstOptionEntry(tool) + row);
 }
 
@@ -125,7 +160,7 @@ void KORVA_ToolChoice::selectTool(int tool)
         updateRubberCursor();
         return;
     }
-    applyOption(m_bar.optionId(remembered(tool)));
+    applyOption(m_tools.firstOptionEntry(tool) + remembered(tool));
 }
 
 int KORVA_ToolChoice::Remembered::*KORVA_ToolChoice::memory(tables::Option option)
@@ -140,16 +175,27 @@ int KORVA_ToolChoice::Remembered::*KORVA_ToolChoice::memory(tables::Option optio
     }
 }
 
+bool KORVA_ToolChoice::sharesMemory(int tool) const
+{
+    return tables::toolRow(tool) && !m_tools.hasOwnOptions(tool);
+}
+
+/// Of the options that are offered; of all if there is nothing to choose from.
 int KORVA_ToolChoice::remembered(int tool) const
 {
-    const tables::ToolRow* const row = tables::toolRow(tool);
-    return row ? m_remembered.*memory(row->option) : m_remembered.own.value(tool);
+    const int option = sharesMemory(tool) ? m_remembered.*memory(tables::toolRow(tool)->option)
+                                          : m_remembered.own.value(tool);
+    for (int row = 0; row < m_tools.optionCount(tool) && !m_tools.isOptionOffered(tool, option); ++row) {
+        if (m_tools.isOptionOffered(tool, row))
+            return row;
+    }
+    return option;
 }
 
 void KORVA_ToolChoice::remember(int tool, int option)
 {
-    if (const tables::ToolRow* const row = tables::toolRow(tool))
-        m_remembered.*memory(row->option) = option;
+    if (sharesMemory(tool))
+        m_remembered.*memory(tables::toolRow(tool)->option) = option;
     else
         m_remembered.own.insert(tool, option);
 }
@@ -162,7 +208,9 @@ void KORVA_ToolChoice::applyOption(int menuId)
     const int tool = optionTool(); // any other number counts as its last one
     const int entry = menuId - m_tools.firstOptionEntry(tool);
     const int last = m_tools.optionCount(tool) - 1;
-    const int value = entry >= 0 && entry < last ? entry : last;
+    const int wanted = entry >= 0 && entry < last ? entry : last;
+    const bool isChoice = m_tools.isOptionOffered(tool, wanted) || m_tools.inOrder().isEmpty();
+    const int value = wanted < 0 || isChoice ? wanted : remembered(tool);
     const int penWidth = value >= 0 ? m_tools.penWidth(tool, value) : 0;
 
     const int choice = m_choices;

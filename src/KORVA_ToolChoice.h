@@ -33,8 +33,10 @@ public:
     void selectOption(int row);
     /// Makes the select tool current, to frame an area and not to move the view. Does not emit chosen().
     void selectAreaTool();
-    /// Returns to the constructor's choice. The manager has been reset before.
+    /// Returns to the constructor's choice, as far as it is offered. The manager has been reset before.
     void reset();
+    /// Something else is offered now: what is in force and no longer offered gives way.
+    void offer();
 
     /// Chooses the eraser for a while, as a person does in the pop-up. Does nothing if it is chosen
     /// already.
@@ -58,9 +60,12 @@ private:
         QHash<int, int> own;   ///< of a host's tools, by their identifiers
     };
 
+    int firstTool();
     void selectTool(int tool);
     void applyOption(int menuId);
     [[nodiscard]] static int Remembered::*memory(KORVA_ToolTable::Option option);
+    /// Whether the option is one choice for all tools with the same kind.
+    [[nodiscard]] bool sharesMemory(int tool) const;
     [[nodiscard]] int remembered(int tool) const;
     void remember(int tool, int option);
     [[nodiscard]] int optionTool() const;

@@ -78,30 +78,64 @@ QString KORVA_ToolSet::name(int tool) const
     return row ? translated(row->name) : QString();
 }
 
-int KORVA_ToolSet::optionCount(int tool) const
+const QList<KORVA_ToolOption>* KORVA_ToolSet::ownOptions(int tool) const
 {
     if (const Own* const mine = own(tool))
-        return int(mine->options.size());
+        return &mine->options;
+    const tables::ToolRow* const row = tables::toolRow(tool);
+    const auto found = m_features.ownOptions.constFind(tool);
+    const bool isHosts = row && row->option == tables::Option::Size &&
+                         found != m_features.ownOptions.cend() && !found->isEmpty();
+    return isHosts ? &*found : nullptr;
+}
+
+int KORVA_ToolSet::optionCount(int tool) const
+{
+    if (const QList<KORVA_ToolOption>* const options = ownOptions(tool))
+        return int(options->size());
     const tables::ToolRow* const row = tables::toolRow(tool);
     return row ? int(row->options.size()) : 0;
 }
 
 QPixmap KORVA_ToolSet::optionIcon(int tool, int row) const
 {
-    const Own* const mine = own(tool);
-    return mine ? pictureOf(mine->options[row].icon) : pictureOf(optionRow(tool, row).icon);
+    const QList<KORVA_ToolOption>* const options = ownOptions(tool);
+    return options ? pictureOf((*options)[row].icon) : pictureOf(optionRow(tool, row).icon);
 }
 
 QString KORVA_ToolSet::optionName(int tool, int row) const
 {
-    const Own* const mine = own(tool);
-    return mine ? mine->options[row].name : translated(optionRow(tool, row).name);
+    const QList<KORVA_ToolOption>* const options = ownOptions(tool);
+    return options ? (*options)[row].name : translated(optionRow(tool, row).name);
 }
 
 int KORVA_ToolSet::penWidth(int tool, int row) const
 {
-    const Own* const mine = own(tool);
-    return mine ? mine->options[row].penWidth : optionRow(tool, row).penWidth;
+    const QList<KORVA_ToolOption>* const options = ownOptions(tool);
+    return options ? (*options)[row].penWidth : optionRow(tool, row).penWidth;
+}
+
+bool KORVA_ToolSet::isTakenAway(int tool) const
+{
+    return !m_features.editing || m_features.withoutTools.contains(tool);
+}
+
+bool KORVA_ToolSet::isOptionOffered(int tool, int row) const
+{
+    if (row < 0 || row >= optionCount(tool) || m_features.withoutOptions.value(tool).contains(row))
+        return false;
+    if (tool == tables::AreaSelect)
+        return !isTakenAway(row == KORVA_OPTION_HAND ? tables::Drag : tables::AreaSelect);
+    return !isTakenAway(tool);
+}
+
+bool KORVA_ToolSet::isOffered(int tool) const
+{
+    if (tool == tables::AreaSelect)
+        return isOptionOffered(tool, KORVA_OPTION_AREA);
+    if (tool == tables::Drag)
+        return isOptionOffered(tables::AreaSelect, KORVA_OPTION_HAND);
+    return has(tool) && !isTakenAway(tool);
 }
 
 int KORVA_ToolSet::toolEntry(int tool) const
@@ -128,9 +162,13 @@ int KORVA_ToolSet::firstOptionEntry(int tool) const
 QList<int> KORVA_ToolSet::inOrder() const
 {
     QList<int> tools;
+    const auto add = [&](int tool) {
+        if (isOffered(tool) || (tool == tables::AreaSelect && isOffered(tables::Drag)))
+            tools.append(tool);
+    };
     for (int place = 0; tables::toolAt(place) >= 0; ++place)
-        tools.append(tables::toolAt(place));
+        add(tables::toolAt(place));
     for (int tool = builtIn(); own(tool); ++tool)
-        tools.append(tool);
+        add(tool);
     return tools;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KORVA_ToolOption.h"
+#include "KORVA_Features.h"
 
 #include <QIcon>
 #include <QList>
@@ -8,15 +8,25 @@
 
 #include <vector>
 
-/// The tools that an editor offers, by their identifiers: the library's, as KORVA_ToolTable has them, and
-/// from 8 on its host's own. Icons and names are made when they are asked for.
+/// The tools of an editor, by their identifiers, and what it offers of them: the library's, as
+/// KORVA_ToolTable has them, and from 8 on its host's own. Icons and names are made when they are asked
+/// for.
 class KORVA_ToolSet
 {
 public:
     /// Adds a host's tool, and returns its identifier.
     int add(const QIcon& icon, const QString& name, const QList<KORVA_ToolOption>& options);
 
-    [[nodiscard]] bool has(int tool) const;
+    /// Takes what is offered. The editor then shows it.
+    void setFeatures(const KORVA_Features& features) { m_features = features; }
+    [[nodiscard]] const KORVA_Features& features() const { return m_features; }
+
+    /// Whether a person can choose the tool. The hand is offered as an option of select.
+    [[nodiscard]] bool isOffered(int tool) const;
+    /// Whether a person can choose this option of the tool.
+    [[nodiscard]] bool isOptionOffered(int tool, int row) const;
+    /// Whether the options are a host's, of its own tool or in place of the library's.
+    [[nodiscard]] bool hasOwnOptions(int tool) const { return ownOptions(tool); }
     [[nodiscard]] QPixmap icon(int tool) const;
     /// The name for the user; empty if there is no such tool.
     [[nodiscard]] QString name(int tool) const;
@@ -34,7 +44,7 @@ public:
     /// The entry of a tool's first option; those of the others follow.
     [[nodiscard]] int firstOptionEntry(int tool) const;
 
-    /// In the order of the tool pop-up.
+    /// Those of the tool pop-up, in its order.
     [[nodiscard]] QList<int> inOrder() const;
 
 private:
@@ -46,6 +56,10 @@ private:
     };
 
     [[nodiscard]] const Own* own(int tool) const;
+    [[nodiscard]] bool has(int tool) const;
+    [[nodiscard]] bool isTakenAway(int tool) const;
+    [[nodiscard]] const QList<KORVA_ToolOption>* ownOptions(int tool) const;
 
     std::vector<Own> m_own;
+    KORVA_Features m_features;
 };

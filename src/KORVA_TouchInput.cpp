@@ -338,7 +338,7 @@ void KORVA_TouchInput::openMenu()
     if (m_grip)
         m_canvas.pasteLabel()->menu()->popup(at);
     else
-        m_canvas.contextMenu()->popup(at, m_canvas.contextMenu()->actions().value(0));
+        m_canvas.openMenu(at);
 }
 
 void KORVA_TouchInput::takeBackForMenu()

@@ -5,42 +5,22 @@
 #include "KORVA_EditorLayout.h"
 #include "UTIL_ComboBox.h"
 
-#include <algorithm>
-#include <iterator>
 #include <optional>
+#include <utility>
 
 namespace {
 
 constexpr int realSize = 100;
-constexpr int realSizeRow = 1;
-constexpr struct
-{
-    const char* text;
-    int rate;
-    bool smallPicturesOnly;
-} zoomTable[] = {
-    {"50%", 50, false},
-    {"100%", realSize, false},
-    {"150%", 150, true},
-    {"200%", 200, true},
-};
-constexpr int fitToPageRow = std::size(zoomTable);
+constexpr int largestForAll = 100;      // of the first rows, in percent
 constexpr QSize smallPicture(640, 480); // what is narrower and lower may be enlarged
-constexpr QSize smallestPage(222, 186);
+constexpr QSize viewFrame(6, 6);
 
 } // namespace
 
 KORVA_ZoomChoice::KORVA_ZoomChoice(KORVA_EditCanvas& editor, UTIL_ComboBox& box)
     : m_editor(editor), m_box(box)
 {
-    for (const auto& row : zoomTable)
-        m_box.addItem(QString::fromLatin1(row.text));
-    m_box.addItem(KORVA_EditCanvas::tr("Fit to page", "2.11.1;MENU"));
-    for (int i = 0; i < m_box.count(); ++i)
-        m_box.setItemData(i, m_box.itemText(i), Qt::ToolTipRole);
-    m_box.setCurrentIndex(realSizeRow);
-
-    m_box.markRow(realSizeRow);
+    fillBox();
     const auto mark = [this] { m_box.markRow(rowInForce()); };
     QObject::connect(&m_box, &UTIL_ComboBox::aboutToShowPopup, &m_editor, mark);
     QObject::connect(&m_editor, &KORVA_EditCanvas::sizeChanged, &m_editor, mark); // who reads it unopened
@@ -48,17 +28,55 @@ KORVA_ZoomChoice::KORVA_ZoomChoice(KORVA_EditCanvas& editor, UTIL_ComboBox& box)
     QObject::connect(&m_editor, &KORVA_EditCanvas::canvasChanged, &m_box, &QComboBox::activated);
 }
 
+void KORVA_ZoomChoice::fillBox()
+{
+    m_box.clear();
+    for (const int rate : m_rows) {
+        const QString text = rate == KORVA_Features::fitToPage
+                                 ? KORVA_EditCanvas::tr("Fit to page", "2.11.1;MENU")
+                                 : QStringLiteral("%1%").arg(rate);
+        m_box.addItem(text);
+        m_box.setItemData(m_box.count() - 1, text, Qt::ToolTipRole);
+    }
+    m_box.setCurrentIndex(qMax(0, realSizeRow()));
+    m_box.markRow(realSizeRow());
+}
+
+void KORVA_ZoomChoice::offer(const QList<int>& rows)
+{
+    if (std::exchange(m_rows, rows) == rows)
+        return;
+    fillBox();
+    if (m_rows.isEmpty())
+        return;
+    const int inForce = rowInForce();
+    m_box.setCurrentIndex(qMax(0, inForce));
+    if (inForce < 0)
+        m_editor.selectZoom(qMax(0, realSizeRow()));
+}
+
+void KORVA_ZoomChoice::reset()
+{
+    if (show(qMax(0, realSizeRow())))
+        select(shown());
+}
+
+int KORVA_ZoomChoice::realSizeRow() const
+{
+    return int(m_rows.indexOf(realSize));
+}
+
 void KORVA_ZoomChoice::select(int row)
 {
     const int chosen = rate(row);
     m_editor.commitText();
-    m_fittedRate = row == fitToPageRow ? chosen : 0;
+    m_fittedRate = isFitToPage(row) ? chosen : 0;
     m_editor.setZoom(chosen);
 }
 
 bool KORVA_ZoomChoice::show(int row)
 {
-    if (row < 0 || row > fitToPageRow)
+    if (row < 0 || row >= m_rows.size())
         return false;
     m_box.setCurrentIndex(row);
     return true;
@@ -72,28 +90,35 @@ int KORVA_ZoomChoice::shown() const
 int KORVA_ZoomChoice::rate(int row)
 {
     m_editor.canvas()->mergePastePixmap();
-    if (row == fitToPageRow)
+    if (isFitToPage(row))
         return fittingRate();
-    return row >= 0 && row < fitToPageRow && isOffered(row) ? zoomTable[row].rate : realSize;
+    return row >= 0 && row < m_rows.size() && isMeant(row) ? m_rows[row] : realSize;
+}
+
+bool KORVA_ZoomChoice::isFitToPage(int row) const
+{
+    return m_rows.value(row, realSize) == KORVA_Features::fitToPage;
 }
 
 /// Whether the row means its own rate for the picture.
-bool KORVA_ZoomChoice::isOffered(int row) const
+bool KORVA_ZoomChoice::isMeant(int row) const
 {
     const QSize picture = m_editor.canvas()->pictureSize();
     const bool isSmall = picture.width() < smallPicture.width() && picture.height() < smallPicture.height();
-    return isSmall || !zoomTable[row].smallPicturesOnly;
+    return isSmall || m_rows[row] <= largestForAll || m_rows != KORVA_Features().zooms;
 }
 
 void KORVA_ZoomChoice::stepTowards(double percent)
 {
     const int now = m_editor.canvas()->zoom();
     std::optional<int> found;
-    for (int row = 0; row < fitToPageRow; ++row) {
-        const int rate = zoomTable[row].rate;
-        const bool isLarger = rate > now && rate <= percent;
-        const bool isSmaller = rate < now && rate >= percent && !found;
-        if ((isLarger || isSmaller) && isOffered(row))
+    for (int row = 0; row < m_rows.size(); ++row) {
+        const int rate = m_rows[row];
+        if (isFitToPage(row))
+            continue;
+        const bool isLarger = rate > now && rate <= percent && (!found || rate > m_rows[*found]);
+        const bool isSmaller = rate < now && rate >= percent && (!found || rate < m_rows[*found]);
+        if ((isLarger || isSmaller) && isMeant(row))
             found = row;
     }
     if (found)
@@ -105,7 +130,7 @@ int KORVA_ZoomChoice::fittingRate()
     const QSize picture = m_editor.canvas()->pixmap()->size();
     if (picture.isEmpty())
         return realSize;
-    const QSize page = smallestPage + layout::beyond(m_editor.size());
+    const QSize page = layout::mainViewIn(m_editor.size(), m_editor.features().controls).size() - viewFrame;
     return qMax(1, qMin(100 * page.width() / picture.width(), 100 * page.height() / picture.height()));
 }
 
@@ -113,16 +138,12 @@ int KORVA_ZoomChoice::fittingRate()
 int KORVA_ZoomChoice::rowInForce() const
 {
     const int rate = m_editor.canvas()->zoom();
-    if (rate == m_fittedRate)
-        return fitToPageRow;
-    const auto* row = std::find_if(std::begin(zoomTable), std::end(zoomTable),
-                                   [&](const auto& r) { return r.rate == rate; });
-    return row == std::end(zoomTable) ? -1 : int(row - std::begin(zoomTable));
+    return int(m_rows.indexOf(rate == m_fittedRate ? int(KORVA_Features::fitToPage) : rate));
 }
 
 void KORVA_ZoomChoice::fitAgain()
 {
-    const bool isChosen = shown() == fitToPageRow && rowInForce() == fitToPageRow;
+    const bool isChosen = isFitToPage(shown()) && rowInForce() == shown();
     if (!isChosen || fittingRate() == m_fittedRate)
         return;
     m_fittedRate = fittingRate();
@@ -132,5 +153,6 @@ void KORVA_ZoomChoice::fitAgain()
 void KORVA_ZoomChoice::fallBack()
 {
     m_fittedRate = 0;
-    m_box.setCurrentIndex(realSizeRow);
+    if (realSizeRow() >= 0)
+        m_box.setCurrentIndex(realSizeRow());
 }

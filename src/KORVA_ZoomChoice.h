@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KORVA_Features.h"
+
 class KORVA_EditCanvas;
 class UTIL_ComboBox;
 
@@ -11,6 +13,12 @@ public:
     /// Fills the box, which shows 100 %. Whenever its list opens, the row in force is marked there. Owns
     /// neither argument. The editor needs its canvas from the first call on.
     KORVA_ZoomChoice(KORVA_EditCanvas& editor, UTIL_ComboBox& box);
+
+    /// Fills the box with other rows: see KORVA_Features::zooms. If none of them is in force, chooses 100 %
+    /// or, without that, the first.
+    void offer(const QList<int>& rows);
+    /// Chooses 100 % or, without that, the first row.
+    void reset();
 
     /// Commits typed text and zooms by a row; any other number means 100 %. The box keeps what it shows.
     void select(int row);
@@ -28,11 +36,15 @@ public:
 
 private:
     [[nodiscard]] int rate(int row);
-    [[nodiscard]] bool isOffered(int row) const;
+    void fillBox();
+    [[nodiscard]] int realSizeRow() const;
+    [[nodiscard]] bool isFitToPage(int row) const;
+    [[nodiscard]] bool isMeant(int row) const;
     [[nodiscard]] int fittingRate();
     [[nodiscard]] int rowInForce() const;
 
     KORVA_EditCanvas& m_editor;
     UTIL_ComboBox& m_box;
+    QList<int> m_rows = KORVA_Features().zooms;
     int m_fittedRate = 0; ///< in percent, by "Fit to page"; 0 after another choice
 };

@@ -4,6 +4,7 @@
 #include "support/TestCase.h"
 
 #include <KORVA_Canvas.h>
+#include <KORVA_Manager.h>
 #include <KORVA_PasteLabel.h>
 #include <UTIL_Platform.h>
 
@@ -25,6 +26,11 @@ protected:
     void showBanner(const QString& text, int milliseconds)
     {
         log << QString("%1 for %2 ms").arg(text).arg(milliseconds);
+    }
+    QColor crayonAfter(const QColor& present)
+    {
+        log << "crayon after " + present.name();
+        return Qt::green;
     }
     void deliverTouchAsMouse(const QWidget* widget) { log << widget->metaObject()->className(); }
 };
@@ -64,6 +70,7 @@ private slots:
     void readmeEmbeds();
     void everyCommandIsWired();
     void buttonsOfItsOwnChoose();
+    void aHostOffersLess();
     void aKioskServesTheNext();
     void aToolIsWritten();
     void aNewDrawing_data();
@@ -183,6 +190,21 @@ void tst_CppBlocks::buttonsOfItsOwnChoose()
     QVERIFY(filledCircle.isDown());
     editor.selectTool(KORVA_TOOL_LINE);
     QVERIFY(!filledCircle.isDown());
+}
+
+void tst_CppBlocks::aHostOffersLess()
+{
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    embedding::offerLess(&editor, QIcon());
+    editor.selectTool(KORVA_TOOL_TEXT);
+    QCOMPARE(editor.tool(), int(KORVA_TOOL_PENCIL));
+    editor.selectTool(KORVA_TOOL_ERASER);
+    editor.selectOption(1);
+    QCOMPARE(editor.manager()->currentTool()->leftPen().width(), 24);
+    editor.selectZoom(2);
+    QCOMPARE(editor.canvas()->zoom(), 400);
+    embedding::behave(&editor);
+    QVERIFY(editor.manners().joinedEraser);
 }
 
 void tst_CppBlocks::aKioskServesTheNext()
@@ -360,6 +382,11 @@ void tst_CppBlocks::servicesAreReplaced()
     editor.slotSave();
     QCOMPARE(services->log,
              QStringList({"Delete drawing?: OK or Cancel", "Saved Successfully for 2000 ms"}));
+
+    services->log.clear();
+    editor.slotColor();
+    QCOMPARE(services->log, QStringList("crayon after #ff0000"));
+    QCOMPARE(editor.color(), QColor(Qt::green));
 
     QCOMPARE(services->iconFolder(), "/usr/share/kiosk/icons");
     QCOMPARE(services->photoFolder(), "/media/card/DCIM");

@@ -69,6 +69,7 @@ class tst_Player : public support::TestCase
 private slots:
     void aStroke();
     void undoAndRedo();
+    void mannersHoldForTheRecording();
     void historyWalksAsFarAsItSays();
     void zoomedStroke_data();
     void zoomedStroke();
@@ -116,6 +117,27 @@ void tst_Player::undoAndRedo()
     QVERIFY(sameImage(pad.picture(), sheet(newCanvas)));
     QCOMPARE(pad.play("redo"), "");
     QVERIFY(sameImage(pad.picture(), filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red)));
+}
+
+void tst_Player::mannersHoldForTheRecording()
+{
+    const QImage black = sheet(newCanvas, Qt::black);
+    const auto play = [&](Pad& pad, const QByteArray& manners) {
+        QPixmap paint = QPixmap::fromImage(black);
+        pad.editor.setPixmap(&paint);
+        return pad.play(manners + "tool eraser\npress 10 20\nmove 30 20\nrelease 30 20");
+    };
+    const QImage squares = filled(black, QRect(30, 20, 1, 1), Qt::white);
+    const QImage joined = filled(black, QRect(10, 20, 21, 1), Qt::white);
+    Pad pad;
+    pad.editor.setManners(KORVA_Manners::modern());
+    QCOMPARE(play(pad, {}), "");
+    QVERIFY(sameImage(pad.picture(), squares));
+    QCOMPARE(pad.editor.manners(), KORVA_Manners::modern()); // the person's again
+    QCOMPARE(play(pad, "manners joined-eraser\n"), "");
+    QVERIFY(sameImage(pad.picture(), joined));
+    QCOMPARE(play(pad, "manners modern\nmanners classic\n"), "");
+    QVERIFY(sameImage(pad.picture(), squares));
 }
 
 void tst_Player::historyWalksAsFarAsItSays()

@@ -108,6 +108,10 @@ void tst_Recording::understands_data()
     for (const int steps : {1, 50, 1000})
         QTest::addRow("history %d", steps)
             << "history " + QByteArray::number(steps) << numbered(Verb::History, steps);
+    for (const char* words : {"modern", "classic", "joined-eraser"}) {
+        QTest::addRow("manners %s", words)
+            << QByteArray("manners ") + words << Command{.verb = Verb::Manners, .line = 1, .text = words};
+    }
     const char* types[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
     for (int i = 0; i < 5; ++i) {
         QTest::addRow("canvas %s", types[i])
@@ -227,6 +231,9 @@ void tst_Recording::tellsWhatIsWrongAndWhere_data()
     row("history without an end", "history 1001",
         "test.rec:1: 'history' needs a number of steps, not '1001'");
     row("no history", "history 0", "test.rec:1: 'history' needs a number of steps, not '0'");
+    row("no manners", "manners", "test.rec:1: 'manners' needs WORDS");
+    row("unknown manners", "manners joined-eraser,polite",
+        "test.rec:1: 'manners' needs WORDS, not 'joined-eraser,polite'");
     row("unknown zoom", "zoom 75", "test.rec:1: 'zoom' needs a zoom, not '75'");
     row("unknown canvas type", "canvas 2bit 1 1", "test.rec:1: 'canvas' needs a canvas type, not '2bit'");
     row("canvas without width", "canvas 1bit 0 5", "test.rec:1: 'canvas' needs W, not '0'");

@@ -132,7 +132,7 @@ void tst_Reference::everythingPublicIsThere()
     const QStringList classes = declared(source, R"(^class (?:KORVA_EXPORT )?(\w+)(?: :.*)?$)");
     for (const QString& name : classes)
         QVERIFY2(QFileInfo::exists(html("class" + inFileName(name) + ".html")), qPrintable(name));
-    const QStringList structs = declared(source, R"(^struct (\w+)$)");
+    const QStringList structs = declared(source, R"(^struct (?:KORVA_EXPORT )?(\w+)$)");
     for (const QString& name : structs)
         QVERIFY2(QFileInfo::exists(html("struct" + inFileName(name) + ".html")), qPrintable(name));
     const QStringList others = declared(source, R"(^enum (\w+))") +

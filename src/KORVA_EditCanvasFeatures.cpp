@@ -1,0 +1,63 @@
+#include "KORVA_EditCanvas.h"
+
+#include "KORVA_Canvas.h"
+#include "KORVA_ClassicPainter.h"
+#include "KORVA_EditorLayout.h"
+#include "KORVA_MainView.h"
+#include "KORVA_ToolBar.h"
+#include "KORVA_ToolChoice.h"
+#include "KORVA_ToolSet.h"
+#include "KORVA_ZoomChoice.h"
+
+#include <QStyle>
+
+// What the editor offers, how it behaves, and what room its parts have.
+
+const KORVA_Features& KORVA_EditCanvas::features() const
+{
+    return m_tools->features();
+}
+
+void KORVA_EditCanvas::setFeatures(const KORVA_Features& features)
+{
+    m_tools->setFeatures(features);
+    m_toolBar->offer();
+    m_toolChoice->offer();
+    m_zoomChoice->offer(features.zooms);
+    canvas()->offerEditing(features.editing, features.editing && features.pasting);
+    arrange();
+    m_zoomChoice->fitAgain();
+}
+
+const KORVA_Manners& KORVA_EditCanvas::manners() const
+{
+    return canvas()->manners();
+}
+
+void KORVA_EditCanvas::setManners(const KORVA_Manners& manners)
+{
+    canvas()->setManners(manners);
+}
+
+QPixmap KORVA_EditCanvas::fitted(const QPixmap& picture) const
+{
+    const QSize size = canvas()->pictureSize();
+    if (features().resizing || picture.isNull() || picture.size() == size)
+        return picture;
+    const bool isLarger = picture.width() > size.width() || picture.height() > size.height();
+    const QPixmap piece =
+        isLarger ? picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation) : picture;
+    QPixmap sheet = classic::filled(size, Qt::white);
+    const QSize margin = size - piece.size();
+    classic::bitBlt(&sheet, margin.width() / 2, margin.height() / 2, classic::opaque(piece));
+    return sheet;
+}
+
+void KORVA_EditCanvas::arrange()
+{
+    const QSize editorSize = layout::editor + layout::beyond(size());
+    m_mainView->setGeometry(QStyle::visualRect(layoutDirection(), QRect(QPoint(), editorSize),
+                                               layout::mainViewIn(size(), features().controls)));
+    if (layoutDirection() == Qt::RightToLeft) // from left to right nothing ever moves them
+        m_toolBar->arrange();
+}

@@ -1,0 +1,49 @@
+#include "KORVA_Manners.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Row
+{
+    const char* word;
+    bool KORVA_Manners::*isOn;
+};
+
+constexpr Row rows[] = {
+    {"joined-eraser", &KORVA_Manners::joinedEraser},
+};
+
+} // namespace
+
+KORVA_Manners KORVA_Manners::modern()
+{
+    KORVA_Manners all;
+    for (const Row& row : rows)
+        all.*row.isOn = true;
+    return all;
+}
+
+QStringList KORVA_Manners::words() const
+{
+    QStringList found;
+    for (const Row& row : rows) {
+        if (this->*row.isOn)
+            found.append(QString::fromLatin1(row.word));
+    }
+    return found;
+}
+
+std::optional<KORVA_Manners> KORVA_Manners::ofWords(const QStringList& words)
+{
+    KORVA_Manners manners;
+    for (const QString& word : words) {
+        const auto* const row = std::find_if(std::begin(rows), std::end(rows), [&](const Row& each) {
+            return word == QLatin1String(each.word);
+        });
+        if (row == std::end(rows))
+            return {};
+        manners.*row->isOn = true;
+    }
+    return manners;
+}
