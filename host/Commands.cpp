@@ -21,7 +21,6 @@
 #include <QSettings>
 #include <QWidget>
 
-#include <algorithm>
 #include <map>
 
 namespace pad {
@@ -33,9 +32,6 @@ struct Label
     const char* text;
     const char* comment;
 };
-
-/// The fixed rates of the zoom box, in percent.
-constexpr int rates[] = {50, 100, 150, 200};
 
 /// Without what only a menu shows: its letter, and that a dialog follows.
 QString keysPageText(const QAction& action)
@@ -83,7 +79,7 @@ void Commands::addEntries()
     using C = Commands;
     static constexpr auto doing = [](C& c, int verb) { c.perform(Verb(verb)); };
     static constexpr auto tool = [](C& c, int number) { c.m_editor.selectTool(number); };
-    static constexpr auto zoom = [](C& c, int number) { c.m_editor.selectZoom(number); };
+    static constexpr auto zoom = [](C& c, int rate) { c.m_editor.selectZoom(c.zoomRow(rate)); };
     static constexpr auto option = [](C& c, int number) { c.m_editor.selectOption(number); };
     static constexpr Entry entries[] = {
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&New ...", "menu"), "Ctrl+N", Needs::Nothing,
@@ -153,13 +149,13 @@ void Commands::addEntries()
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&View", "menu"), "", Needs::Nothing, nullptr, 0,
          Page::View},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Larger", "menu"),
-         "Ctrl++; Ctrl+=", Needs::Nothing, [](C& c, int) { c.m_editor.selectZoom(c.nextZoom(1)); }},
+         "Ctrl++; Ctrl+=", Needs::Nothing, [](C& c, int) { c.m_editor.stepZoom(1); }},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Smaller", "menu"), "Ctrl+-", Needs::Nothing,
-         [](C& c, int) { c.m_editor.selectZoom(c.nextZoom(-1)); }},
+         [](C& c, int) { c.m_editor.stepZoom(-1); }},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Real size", "menu"), "Ctrl+0", Needs::Nothing,
-         zoom, KORVA_ZOOM_100},
+         zoom, 100},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "&Fit to page", "menu"), "Ctrl+9", Needs::Nothing,
-         zoom, KORVA_ZOOM_FIT},
+         zoom, KORVA_Features::fitToPage},
         {Page::View, QT_TRANSLATE_NOOP3("pad::Commands", "Full s&creen", "menu"), "F11", Needs::Nothing,
          [](C& c, int) { c.m_window->setWindowState(c.m_window->windowState() ^ Qt::WindowFullScreen); }},
 
@@ -266,7 +262,8 @@ void Commands::setAvailable(Needs what, bool available)
 void Commands::checkAlternatives()
 {
     for (const Alternative& each : m_choices)
-        each.action->setChecked(each.number == (each.isTool ? m_editor.tool() : m_editor.zoomIndex()));
+        each.action->setChecked(each.isTool ? each.number == m_editor.tool()
+                                            : zoomRow(each.number) == m_editor.zoomIndex());
 }
 
 bool Commands::updateClipboard()
@@ -305,14 +302,9 @@ void Commands::perform(Verb verb)
     emit performed(Command{.verb = verb});
 }
 
-// From a rate that has no row, such as one that fits the page, to the row beside it.
-int Commands::nextZoom(int direction) const
+int Commands::zoomRow(int rate) const
 {
-    const int rate = m_editor.canvas()->zoom();
-    const auto* const larger = std::upper_bound(std::begin(rates), std::end(rates), rate);
-    const auto* const same = std::lower_bound(std::begin(rates), std::end(rates), rate);
-    const auto row = direction > 0 ? larger - rates : same - rates - 1;
-    return std::clamp(int(row), int(KORVA_ZOOM_50), int(KORVA_ZOOM_200));
+    return int(m_editor.features().zooms.indexOf(rate));
 }
 
 void Commands::showKeys()

@@ -75,7 +75,7 @@ private:
     void perform(Verb verb);
     void removeSelection();
     void paste();
-    [[nodiscard]] int nextZoom(int direction) const;
+    [[nodiscard]] int zoomRow(int rate) const;
     void showKeys();
     void letFingersPan(bool pan);
 

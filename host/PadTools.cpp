@@ -1,5 +1,7 @@
 #include "PadTools.h"
 
+#include "Recording.h"
+
 #include "examples/tools/FillTool.h"
 #include "examples/tools/PickerTool.h"
 
@@ -38,6 +40,9 @@ constexpr struct
 
 void padtools::addTo(KORVA_EditCanvas& editor)
 {
+    KORVA_Features features = editor.features();
+    features.zooms = QList<int>(std::begin(zoomRates), std::end(zoomRates));
+    editor.setFeatures(features);
     for (const auto& row : rows)
         editor.addTool(row.make(editor), RES_ICON_Reader::getIcon(QString::fromLatin1(row.icon)),
                        QCoreApplication::translate("pad::PadTools", row.name.text, row.name.comment));

@@ -112,7 +112,7 @@ void Player::perform(const Command& command)
         {Verb::Tool, [](Player& p, const Command& c) { p.m_editor.selectTool(c.number); }},
         {Verb::Option, [](Player& p, const Command& c) { p.option(c.number); }},
         {Verb::Color, [](Player& p, const Command& c) { p.m_editor.setColor(c.color); }},
-        {Verb::Zoom, [](Player& p, const Command& c) { p.m_editor.selectZoom(c.number); }},
+        {Verb::Zoom, [](Player& p, const Command& c) { p.zoom(zoomRates[c.number]); }},
         {Verb::Press, [](Player& p, const Command& c) { p.m_pointer.press(c.point, c.button); }},
         {Verb::Move, [](Player& p, const Command& c) { p.m_pointer.move(c.point); }},
         {Verb::Release, [](Player& p, const Command& c) { p.m_pointer.release(c.point, c.button); }},
@@ -134,6 +134,15 @@ void Player::perform(const Command& command)
         if (action.verb == command.verb)
             action.perform(*this, command);
     }
+}
+
+void Player::zoom(int rate)
+{
+    const auto row = m_editor.features().zooms.indexOf(rate);
+    if (row >= 0)
+        m_editor.selectZoom(int(row));
+    else
+        m_editor.setZoom(rate); // an editor without that row shows it all the same
 }
 
 void Player::option(int option)

@@ -28,6 +28,7 @@ private:
     struct Action;
 
     void perform(const Command& command);
+    void zoom(int rate);
     void option(int option);
     void type(const QString& text);
     void pressKey(QKeyCombination key, const QString& text);

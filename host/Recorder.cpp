@@ -14,6 +14,7 @@
 #include <QMouseEvent>
 #include <QPointingDevice>
 
+#include <algorithm>
 #include <utility>
 
 namespace pad {
@@ -82,6 +83,10 @@ bool Recorder::eventFilter(QObject* watched, QEvent* event)
 void Recorder::writeChoice(KORVA_CHOICETYPE what, int which)
 {
     static constexpr Verb verbs[] = {Verb::Tool, Verb::Option, Verb::Zoom, Verb::Color};
+    if (what == KORVA_CHOICE_ZOOM) {
+        const int rate = m_editor.features().zooms.value(which);
+        which = int(std::find(std::begin(zoomRates), std::end(zoomRates), rate) - std::begin(zoomRates));
+    }
     write(Command{.verb = verbs[what], .number = which, .color = m_editor.color()});
 }
 

@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 
+#include <KORVA_Features.h>
 #include <KORVA_Manners.h>
 
 #include <QColor>
@@ -61,7 +62,9 @@ struct Command
 };
 
 /// The words of the language, indexed by the numbers that they stand for.
-inline constexpr const char* zoomNames[] = {"50", "100", "150", "200", "fit"};
+inline constexpr const char* zoomNames[] = {"50", "100", "150", "200", "400", "800", "fit"};
+/// The rows of the pad's zoom box: the rates that these words stand for.
+inline constexpr int zoomRates[] = {50, 100, 150, 200, 400, 800, KORVA_Features::fitToPage};
 inline constexpr const char* canvasNames[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
 
 /// A drawing session as text: one command per line; "#" begins a comment. A name or text with blanks is

@@ -20,6 +20,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int leastGridZoom = 400; // in percent
+
+} // namespace
+
 int KORVA_Canvas::inst = 0;
 
 KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, int width, int height, QWidget* parent,
@@ -119,6 +125,20 @@ int KORVA_Canvas::getCurrentToolID() const
 void KORVA_Canvas::paintEvent(QPaintEvent* event)
 {
     classic::bitBlt(this, 0, 0, m_zoomed, event->rect());
+    if (manners().pixelGrid && zoom() >= leastGridZoom)
+        paintGrid(event->rect());
+}
+
+void KORVA_Canvas::paintGrid(const QRect& exposed)
+{
+    QPainter painter(this);
+    painter.setPen(QColor(128, 128, 128, 112)); // seen on white, black and any colour
+    const QPoint first = m_zoom.toPicture(exposed.topLeft());
+    const QPoint last = m_zoom.toPicture(exposed.bottomRight()) + QPoint(1, 1);
+    for (int x = first.x(); x <= last.x(); ++x)
+        painter.drawLine(m_zoom.toWidget(x), exposed.top(), m_zoom.toWidget(x), exposed.bottom());
+    for (int y = first.y(); y <= last.y(); ++y)
+        painter.drawLine(exposed.left(), m_zoom.toWidget(y), exposed.right(), m_zoom.toWidget(y));
 }
 
 KORVA_ScrollView* KORVA_Canvas::scrollView() const

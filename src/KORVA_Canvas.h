@@ -318,6 +318,8 @@ signals:
     void canUndo(bool possible);
     /// Whether redo is to be offered.
     void canRedo(bool possible);
+    /// The wheel asks for the next zoom: 1 larger, -1 smaller. The editor follows.
+    void zoomStepWanted(int direction);
     /// The value of keyboardPen() or isKeyboardPenDown() has changed.
     void keyboardPenChanged();
 
@@ -343,6 +345,8 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     /// The menu key opens the floating piece's menu or, if nothing floats, the canvas's own.
     void contextMenuEvent(QContextMenuEvent* event) override;
+    /// Zooms, if KORVA_Manners::wheelZooms says so; otherwise the view scrolls.
+    void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -352,6 +356,7 @@ private:
     KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize, QWidget* parent,
                  const char* name);
     void createMenu();
+    void paintGrid(const QRect& exposed);
     void offerEditing(bool cutting, bool pasting);
     template <typename Handler, typename LabelHandler>
     void handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel);
@@ -385,6 +390,7 @@ private:
     QPixmap m_zoomed;
     int m_undoFlag = 0; ///< what the host was last asked to offer
     bool m_isOfferDue = false;
+    int m_wheelWay = 0; ///< in eighths of a degree, since the last zoom
     QPixmap m_clipboard;
     int m_toldZoom = 100;         ///< the zoom last announced by a signal
     bool m_hasFallenBack = false; ///< and no signal has announced it yet

@@ -5,11 +5,13 @@
 #include "KORVA_Pixel.h"
 #include "KORVA_Text.h"
 #include "KORVA_TouchInput.h"
+#include "KORVA_ZoomAnchor.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QWheelEvent>
 
 // Which event goes to the floating piece, which to the tool, which opens a menu.
 
@@ -59,6 +61,24 @@ void KORVA_Canvas::mouseMoveEvent(QMouseEvent* event)
 void KORVA_Canvas::mouseReleaseEvent(QMouseEvent* event)
 {
     handOn(event, &KORVA_Tool::mouseReleaseEvent, &KORVA_PasteLabel::mouseReleaseEvent);
+}
+
+void KORVA_Canvas::wheelEvent(QWheelEvent* event)
+{
+    const bool isTouchPad = !event->pixelDelta().isNull() && !(event->modifiers() & Qt::ControlModifier);
+    if (!manners().wheelZooms || isTouchPad || event->modifiers() & Qt::ShiftModifier) {
+        event->ignore();
+        return;
+    }
+    if (event->buttons() != Qt::NoButton)
+        return; // a stroke keeps its zoom
+    m_wheelWay += event->angleDelta().y();
+    const int steps = m_wheelWay / QWheelEvent::DefaultDeltasPerStep;
+    m_wheelWay -= steps * QWheelEvent::DefaultDeltasPerStep;
+    const KORVA_ZoomAnchor pointer(*this, event->globalPosition());
+    for (int i = 0; i < qAbs(steps); ++i)
+        emit zoomStepWanted(steps > 0 ? 1 : -1);
+    pointer.bringUnder(*this, event->globalPosition());
 }
 
 void KORVA_Canvas::keyPressEvent(QKeyEvent* event)

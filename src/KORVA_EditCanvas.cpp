@@ -78,6 +78,7 @@ KORVA_EditCanvas::KORVA_EditCanvas(const QString& fileName, KORVA_COLORTYPE colo
     connect(canvas()->m_touch.get(), &KORVA_TouchInput::eraserWanted, this, [this](bool isWanted) {
         isWanted ? m_toolChoice->lendEraser() : m_toolChoice->takeEraserBack();
     });
+    connect(canvas(), &KORVA_Canvas::zoomStepWanted, this, &KORVA_EditCanvas::stepZoom);
     new KORVA_CanvasNews(*this);
     resize(layout::editor);
     arrange();

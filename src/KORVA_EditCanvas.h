@@ -96,6 +96,9 @@ public:
     void selectOption(int option);
     /// Chooses a row of the zoom box, a KORVA_ZOOMTYPE. Does nothing if there is no such row.
     void selectZoom(int index);
+    /// Chooses the next larger rate of the zoom box for 1, the next smaller one for -1. Does nothing if
+    /// there is none.
+    void stepZoom(int direction);
     /// Takes a drawing colour as if it had been picked. Emits colorChanged() if it is another one.
     void setColor(const QColor& color);
     /// The current tool. The hand counts as a tool.

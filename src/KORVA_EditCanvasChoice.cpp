@@ -62,6 +62,11 @@ void KORVA_EditCanvas::selectZoom(int index)
         slotSelZoomRate(index);
 }
 
+void KORVA_EditCanvas::stepZoom(int direction)
+{
+    m_zoomChoice->step(direction);
+}
+
 int KORVA_EditCanvas::addTool(std::unique_ptr<KORVA_Tool> tool, const QIcon& icon, const QString& name,
                               const QList<KORVA_ToolOption>& options)
 {

@@ -11,7 +11,9 @@ struct Row
 };
 
 constexpr Row rows[] = {
-    {"joined-eraser", &KORVA_Manners::joinedEraser},
+    {"joined-eraser", &KORVA_Manners::joinedEraser}, {"true-zooms", &KORVA_Manners::trueZooms},
+    {"pixel-grid", &KORVA_Manners::pixelGrid},       {"wheel-zooms", &KORVA_Manners::wheelZooms},
+    {"magnifier", &KORVA_Manners::magnifier},
 };
 
 } // namespace

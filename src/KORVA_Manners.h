@@ -14,6 +14,17 @@ struct KORVA_EXPORT KORVA_Manners
     /// it clears in the picture. Classic: one square for each move, none for the press.
     bool joinedEraser = false;
 
+    /// The zooms of 150 and 200 % mean themselves for every picture. Classic: 100 % for one of 640 × 480
+    /// pixels or more.
+    bool trueZooms = false;
+    /// From 400 % on thin lines part the pixels. They are never part of the picture.
+    bool pixelGrid = false;
+    /// A mouse's wheel zooms from row to row of the zoom box, and the place under the pointer stays. With
+    /// Shift, and on a touch pad without Ctrl, it scrolls. Classic: it scrolls.
+    bool wheelZooms = false;
+    /// While a finger draws, the spot under it is shown beside it, three times as large.
+    bool magnifier = false;
+
     /// All switches on.
     [[nodiscard]] static KORVA_Manners modern();
     /// The words of the switches that are on, as recordings have them: "joined-eraser".

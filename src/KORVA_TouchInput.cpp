@@ -1,9 +1,9 @@
 #include "KORVA_TouchInput.h"
 
 #include "KORVA_EditCanvas.h"
+#include "KORVA_Magnifier.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Pixel.h"
-#include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
 
 #include <QApplication>
@@ -277,15 +277,33 @@ void KORVA_TouchInput::draw()
         m_stroke.press(m_path.first(), m_device);
     for (const QPointF& at : m_path)
         m_stroke.move(at);
+    magnify();
 }
 
 void KORVA_TouchInput::drawOn()
 {
     m_stroke.move(m_fingers.first().at);
+    magnify();
+}
+
+void KORVA_TouchInput::magnify()
+{
+    if (m_grip || !m_canvas.manners().magnifier)
+        return;
+    if (!m_magnifier)
+        m_magnifier = new KORVA_Magnifier(m_canvas);
+    m_magnifier->follow(m_fingers.first().at);
+}
+
+void KORVA_TouchInput::endMagnifying()
+{
+    if (m_magnifier)
+        m_magnifier->hide();
 }
 
 void KORVA_TouchInput::release()
 {
+    endMagnifying();
     m_before.reset();
     m_stroke.release(m_fingers.first().at);
 }
@@ -301,6 +319,7 @@ void KORVA_TouchInput::tap()
 /// If anything else has happened to the drawing since the press, the stroke stays as it is.
 void KORVA_TouchInput::takeBack()
 {
+    endMagnifying();
     if (!m_before || !m_before->fits()) {
         m_before.reset();
         m_stroke.release(m_stroke.at());
@@ -359,7 +378,7 @@ void KORVA_TouchInput::takeBackAndHold()
 void KORVA_TouchInput::hold()
 {
     m_zoom = m_canvas.zoom();
-    m_anchor = m_canvas.mapFromGlobal(middle()) * 100 / m_zoom;
+    m_anchor.emplace(m_canvas, middle());
     m_spread = spread();
 }
 
@@ -367,11 +386,8 @@ void KORVA_TouchInput::pan()
 {
     if (m_spread > 0 && m_fingers.size() > 1 && !m_pen.isDown())
         emit zoomWanted(m_zoom * spread() / m_spread);
-    KORVA_ScrollView* view = m_canvas.scrollView();
-    if (!view)
-        return;
-    const QPointF slipped = m_canvas.mapToGlobal(m_anchor * m_canvas.zoom() / 100) - middle();
-    view->setContentsPos(view->contentsX() + qRound(slipped.x()), view->contentsY() + qRound(slipped.y()));
+    if (m_anchor)
+        m_anchor->bringUnder(m_canvas, middle());
 }
 
 QPointF KORVA_TouchInput::middle() const

@@ -4,15 +4,18 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_PenInput.h"
 #include "KORVA_Stroke.h"
+#include "KORVA_ZoomAnchor.h"
 
 #include <QBasicTimer>
 #include <QDeadlineTimer>
 #include <QList>
 #include <QObject>
 #include <QPointF>
+#include <QPointer>
 
 #include <optional>
 
+class KORVA_Magnifier;
 class QMouseEvent;
 class QTouchEvent;
 
@@ -105,6 +108,8 @@ private:
     void wait();
     void draw();
     void drawOn();
+    void magnify();
+    void endMagnifying();
     void tap();
     void release();
     void takeBack();
@@ -138,7 +143,8 @@ private:
     QBasicTimer m_holding;
 
     // Of panning.
-    QPointF m_anchor; ///< the point between the fingers, in picture coordinates
+    std::optional<KORVA_ZoomAnchor> m_anchor; ///< the point between the fingers
+    QPointer<KORVA_Magnifier> m_magnifier;    ///< the view's; null until it is needed
     double m_spread = 0;
     int m_zoom = 100; ///< at that spread
 

@@ -5,13 +5,14 @@
 #include "KORVA_EditorLayout.h"
 #include "UTIL_ComboBox.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
 namespace {
 
 constexpr int realSize = 100;
-constexpr int largestForAll = 100;      // of the first rows, in percent
+constexpr int forSmallPictures[] = {150, 200};
 constexpr QSize smallPicture(640, 480); // what is narrower and lower may be enlarged
 constexpr QSize viewFrame(6, 6);
 
@@ -105,7 +106,23 @@ bool KORVA_ZoomChoice::isMeant(int row) const
 {
     const QSize picture = m_editor.canvas()->pictureSize();
     const bool isSmall = picture.width() < smallPicture.width() && picture.height() < smallPicture.height();
-    return isSmall || m_rows[row] <= largestForAll || m_rows != KORVA_Features().zooms;
+    const bool isForSmall = std::find(std::begin(forSmallPictures), std::end(forSmallPictures),
+                                      m_rows[row]) != std::end(forSmallPictures);
+    return isSmall || !isForSmall || m_editor.manners().trueZooms;
+}
+
+void KORVA_ZoomChoice::step(int direction)
+{
+    const int now = m_editor.canvas()->zoom();
+    std::optional<int> nearest;
+    for (int row = 0; row < m_rows.size(); ++row) {
+        const bool isFarther = (m_rows[row] - now) * direction > 0;
+        const bool isNearer = !nearest || std::abs(m_rows[row] - now) < std::abs(m_rows[*nearest] - now);
+        if (!isFitToPage(row) && isMeant(row) && isFarther && isNearer)
+            nearest = row;
+    }
+    if (nearest)
+        m_editor.selectZoom(*nearest);
 }
 
 void KORVA_ZoomChoice::stepTowards(double percent)

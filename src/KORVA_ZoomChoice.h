@@ -24,6 +24,9 @@ public:
     void select(int row);
     /// Makes the box show a row. False if there is no such row.
     bool show(int row);
+    /// Chooses the next larger rate for 1, the next smaller one for -1, as a person does in the box. Does
+    /// nothing if there is none.
+    void step(int direction);
     /// Of the rates between the percentage and the one in force, chooses the one nearest to the percentage,
     /// as a person does in the box. Does nothing if there is none.
     void stepTowards(double percent);

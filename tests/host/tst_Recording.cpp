@@ -102,8 +102,8 @@ void tst_Recording::understands_data()
     const char* tools[] = {"pencil", "select", "line", "text", "rectangle", "ellipse", "eraser", "hand"};
     for (int id = 0; id < 8; ++id)
         QTest::addRow("tool %s", tools[id]) << QByteArray("tool ") + tools[id] << numbered(Verb::Tool, id);
-    const char* zooms[] = {"50", "100", "150", "200", "fit"};
-    for (int i = 0; i < 5; ++i)
+    const char* zooms[] = {"50", "100", "150", "200", "400", "800", "fit"};
+    for (int i = 0; i < 7; ++i)
         QTest::addRow("zoom %s", zooms[i]) << QByteArray("zoom ") + zooms[i] << numbered(Verb::Zoom, i);
     for (const int steps : {1, 50, 1000})
         QTest::addRow("history %d", steps)

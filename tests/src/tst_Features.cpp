@@ -307,7 +307,14 @@ void tst_Features::largeRowsForLargePictures()
     desk.setPicture(support::sheet(QSize(640, 100)));
     desk.editor->selectZoom(KORVA_ZOOM_200);
     QCOMPARE(desk.canvas().zoom(), 100);
-    desk.set([](KORVA_Features& f) { f.zooms = {100, 200}; });
+    desk.set([](KORVA_Features& f) { f.zooms = {100, 200, 250}; });
+    desk.editor->selectZoom(1);
+    QCOMPARE(desk.canvas().zoom(), 100);
+    desk.editor->selectZoom(2);
+    QCOMPARE(desk.canvas().zoom(), 250);
+    KORVA_Manners manners;
+    manners.trueZooms = true;
+    desk.editor->setManners(manners);
     desk.editor->selectZoom(1);
     QCOMPARE(desk.canvas().zoom(), 200);
 }
