@@ -11,9 +11,9 @@ struct Row
 };
 
 constexpr Row rows[] = {
-    {"joined-eraser", &KORVA_Manners::joinedEraser}, {"true-zooms", &KORVA_Manners::trueZooms},
-    {"pixel-grid", &KORVA_Manners::pixelGrid},       {"wheel-zooms", &KORVA_Manners::wheelZooms},
-    {"magnifier", &KORVA_Manners::magnifier},
+    {"joined-eraser", &KORVA_Manners::joinedEraser}, {"own-sizes", &KORVA_Manners::ownSizes},
+    {"true-zooms", &KORVA_Manners::trueZooms},       {"pixel-grid", &KORVA_Manners::pixelGrid},
+    {"wheel-zooms", &KORVA_Manners::wheelZooms},     {"magnifier", &KORVA_Manners::magnifier},
 };
 
 } // namespace

@@ -14,6 +14,8 @@ struct KORVA_EXPORT KORVA_Manners
     /// it clears in the picture. Classic: one square for each move, none for the press.
     bool joinedEraser = false;
 
+    /// Each tool remembers its own size. Classic: small, medium and large are one choice for all tools.
+    bool ownSizes = false;
     /// The zooms of 150 and 200 % mean themselves for every picture. Classic: 100 % for one of 640 × 480
     /// pixels or more.
     bool trueZooms = false;

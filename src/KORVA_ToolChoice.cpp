@@ -177,7 +177,9 @@ int KORVA_ToolChoice::Remembered::*KORVA_ToolChoice::memory(tables::Option optio
 
 bool KORVA_ToolChoice::sharesMemory(int tool) const
 {
-    return tables::toolRow(tool) && !m_tools.hasOwnOptions(tool);
+    const tables::ToolRow* const row = tables::toolRow(tool);
+    const bool isApart = row && row->option == tables::Option::Size && m_editor.manners().ownSizes;
+    return row && !isApart && !m_tools.hasOwnOptions(tool);
 }
 
 /// Of the options that are offered; of all if there is nothing to choose from.

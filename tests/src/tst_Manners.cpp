@@ -49,6 +49,7 @@ private slots:
     void joinedEraserIsOneStep();
     void joinedEraserNeedsAPress();
     void joinedEraserBringsPaperBack();
+    void everyToolRemembersItsSize();
 };
 
 void tst_Manners::classicAtFirst()
@@ -141,6 +142,28 @@ void tst_Manners::joinedEraserBringsPaperBack()
     const QRect way(10, 10, 25, 5);
     QVERIFY(sameImage(desk.picture(), support::overlaid(support::sheet(size, Qt::blue), way.topLeft(),
                                                         support::mosaic(size).copy(way))));
+}
+
+void tst_Manners::everyToolRemembersItsSize()
+{
+    MannersDesk desk(&KORVA_Manners::ownSizes);
+    const QMap<int, int> sizes{{KORVA_TOOL_PENCIL, 0}, {KORVA_TOOL_ERASER, 2}, {KORVA_TOOL_LINE, 1}};
+    for (auto each = sizes.begin(); each != sizes.end(); ++each) {
+        desk.editor->selectTool(each.key());
+        desk.editor->selectOption(each.value());
+    }
+    for (auto each = sizes.begin(); each != sizes.end(); ++each) {
+        desk.editor->selectTool(each.key());
+        QCOMPARE(desk.editor->option(), each.value());
+        QCOMPARE(desk.manager().currentTool()->leftPen().width(), 2 * each.value() + 1);
+    }
+    desk.editor->selectTool(KORVA_TOOL_RECTANGLE);
+    desk.editor->selectOption(KORVA_OPTION_FILLED);
+    desk.editor->selectTool(KORVA_TOOL_ELLIPSE); // what is filled stays one choice
+    QCOMPARE(desk.editor->option(), int(KORVA_OPTION_FILLED));
+    desk.editor->setManners({});
+    desk.editor->selectTool(KORVA_TOOL_LINE);
+    QCOMPARE(desk.editor->option(), 0); // the choice that all share was not touched
 }
 
 int main(int argc, char** argv)
