@@ -16,7 +16,7 @@ constexpr QRect firstKey(648, 8, 144, 72); // the other keys follow below
 constexpr int keyStep = firstKey.height() + 8;
 constexpr int undoSteps = 50;
 constexpr int mostBytes = 30'000;
-constexpr int bannerSeconds = 3;
+constexpr int bannerSeconds = 2;
 
 constexpr Word undoWord{"Undo", "Zurück"}, redoWord{"Redo", "Vor"}, clearWord{"Clear", "Leeren"},
     doneWord{"Done", "Fertig"};

@@ -201,7 +201,7 @@ void tst_Kiosk::beginsAnewWhenTheVisitorHasGone_data()
 void tst_Kiosk::beginsAnewWhenTheVisitorHasGone()
 {
     QFETCH(const QPoint, tap);
-    Example kiosk(screen, {"--idle", "5", "--warning", "2"}, {}, screen);
+    Example kiosk(screen, {"--idle", "4", "--warning", "1"}, {}, screen);
     Slot slot(kiosk);
     QVERIFY(kiosk.shows(onCanvas, Qt::white));
     const QImage empty = kiosk.shot();
@@ -248,7 +248,7 @@ void tst_Kiosk::aTouchTakesTheWarningAway()
     QFETCH(const QPoint, tap);
     constexpr QPoint onCard(200, 160); // beside its words
     constexpr QRect seconds(380, 190, 40, 100);
-    Example kiosk(screen, {"--idle", "126", "--warning", "120"}, {}, screen);
+    Example kiosk(screen, {"--idle", "124", "--warning", "120"}, {}, screen);
     Slot slot(kiosk);
     QVERIFY(kiosk.shows(onCanvas, Qt::white));
     draw(kiosk);
