@@ -99,6 +99,8 @@ void Commands::addEntries()
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Picture", "menu"), "", Needs::Nothing, nullptr,
          0, Page::Picture},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&New from picture ...", "menu"),
+         "Ctrl+T", Needs::Nothing, [](C& c, int) { c.m_documents.newFromPicture(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I",
          Needs::Nothing, [](C& c, int) { c.m_documents.stamp(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,

@@ -2,6 +2,7 @@
 
 #include "Platform.h"
 
+#include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 
 namespace pad {
@@ -16,8 +17,35 @@ bool mayReplaceDrawing(KORVA_EditCanvas& editor, Platform& platform)
 
 void newCanvas(KORVA_EditCanvas& editor, int type, QSize size)
 {
+    KORVA_Canvas& canvas = *editor.canvas();
+    canvas.beginStep();
+    editor.setPaper({});
     editor.chooseCanvas(KORVA_CANVASTYPE(type), size.width(), size.height());
+    canvas.endStep();
     editor.clearModified(); // a canvas of another size counts as changed until its host says otherwise
+}
+
+void changePaper(KORVA_EditCanvas& editor, const QImage& paper)
+{
+    KORVA_Canvas& canvas = *editor.canvas();
+    QPixmap drawing = *canvas.pixmap();
+    const bool isModified = editor.isModified();
+    canvas.beginStep();
+    editor.setPaper(paper);
+    // Where it looked like the paper before, it shows the other one now.
+    if (canvas.pixmap()->cacheKey() != drawing.cacheKey()) {
+        canvas.setPixmap(&drawing);
+        canvas.setUndoFlag(0);
+        if (!isModified)
+            editor.clearModified();
+    }
+    canvas.endStep();
+}
+
+void drawOnOpened(KORVA_EditCanvas& editor)
+{
+    changePaper(editor, editor.snapshot());
+    editor.setFileName(QString());
 }
 
 } // namespace pad

@@ -35,7 +35,10 @@ public:
     /// Keeps the folder and the order of the folder dialogs in the settings, for the next start.
     void rememberFolders() { m_folder.remember(); }
 
+    /// On white paper, as an opened picture is.
     void newDrawing();
+    /// Lets the person pick a picture. It becomes the paper of a new drawing without a name.
+    void newFromPicture();
     /// Lets the person pick a picture and opens it.
     void open();
     /// Opens a picture by its name, after asking about changes.
@@ -93,11 +96,13 @@ private:
 
     /// Lets the person pick a picture file; empty if none was picked.
     [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
-    bool openFile(const QString& fileName);
+    [[nodiscard]] bool takeIn(const QString& fileName);
+    void openFile(const QString& fileName);
     [[nodiscard]] QString whatReplacingLoses() const;
     bool askAndSave(const QString& loss);
     bool saveUnder(const QString& fileName);
     [[nodiscard]] int askCanvasType();
+    void begin(const Command& how);
     void beginDocument();
     void settle();
     void tell(const WriteError& error);

@@ -120,6 +120,7 @@ void Player::perform(const Command& command)
         {Verb::Key, [](Player& p, const Command& c) { p.pressKey(c.key, textOf(c.key)); }},
         {Verb::Canvas, [](Player& p, const Command& c) { p.canvas(c.number, c.size); }},
         {Verb::Open, [](Player& p, const Command& c) { p.open(c.text); }},
+        {Verb::Paper, [](Player& p, const Command& c) { p.paper(c.text); }},
         {Verb::Stamp, [](Player& p, const Command& c) { p.stamp(c.text); }},
         {Verb::Save, [](Player& p, const Command& c) { p.save(c.text); }},
         {Verb::Wait, [](Player&, const Command& c) { wait(c.number); }},
@@ -188,7 +189,21 @@ void Player::open(const QString& fileName)
     m_script.fileName = fileName;
     m_editor.slotOpen();
     m_script.fileName.clear();
-    if (m_editor.fileName() != fileName)
+    if (m_editor.fileName() == fileName)
+        changePaper(m_editor, {});
+    else
+        stopAtPicture(fileName);
+}
+
+void Player::paper(const QString& fileName)
+{
+    if (!isReadable(fileName))
+        return;
+    if (!mayReplaceDrawing(m_editor, m_platform))
+        stop(tr("the drawing could not be saved", "replay"));
+    else if (m_editor.openNewFilePrivate(OpenPicture, fileName))
+        drawOnOpened(m_editor);
+    else
         stopAtPicture(fileName);
 }
 

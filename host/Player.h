@@ -34,6 +34,7 @@ private:
     void pressKey(QKeyCombination key, const QString& text);
     void canvas(int type, QSize size);
     void open(const QString& fileName);
+    void paper(const QString& fileName);
     void stamp(const QString& fileName);
     void save(const QString& fileName);
     static void wait(int milliseconds);

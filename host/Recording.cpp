@@ -247,6 +247,7 @@ constexpr Rule grammar[] = {
     {"delete", Verb::Delete},
     {"canvas", Verb::Canvas, {&canvasType, &width, &height}},
     {"open", Verb::Open, {&fileName}},
+    {"paper", Verb::Paper, {&fileName}},
     {"stamp", Verb::Stamp, {&fileName}},
     {"save", Verb::Save, {&fileName}},
     {"wait", Verb::Wait, {&number}},

@@ -36,6 +36,7 @@ enum class Verb {
     Delete, ///< the floating piece
     Canvas,
     Open,
+    Paper, ///< begins a new drawing on a picture file
     Stamp, ///< lays a picture file over the drawing
     Save,
     Wait,
@@ -56,7 +57,8 @@ struct Command
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);
-    QString text = {}; ///< Type: what is typed; Open, Stamp, Save: a file's name; Manners: their words
+    QString text =
+        {}; ///< Type: what is typed; Open, Paper, Stamp, Save: a file's name; Manners: their words
 
     bool operator==(const Command& other) const = default;
 };

@@ -240,6 +240,8 @@ void KORVA_Canvas::clearCanvas(const QColor& color)
 
 void KORVA_Canvas::setPaper(const QImage& paper)
 {
+    if (paper.isNull() && !m_picture->hasPaper())
+        return;
     saveOldPix();
     const bool isOther = m_picture->setPaper(QPixmap::fromImage(paper));
     updateZoomed();

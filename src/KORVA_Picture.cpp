@@ -58,7 +58,10 @@ void KORVA_Picture::fill(const QColor& color)
 
 void KORVA_Picture::scale(QSize size)
 {
+    const bool isEmpty = hasPaper() && m_picture.toImage() == paper().toImage();
     m_picture = scaled(*pixmap(), size);
+    if (isEmpty && !m_picture.isNull())
+        clear(); // not the paper scaled twice
 }
 
 QPixmap KORVA_Picture::piece(const QRect& rect) const

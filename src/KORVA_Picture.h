@@ -42,7 +42,8 @@ public:
     void clear();
     /// Begins a new drawing: only the paper in this size, unmodified, with nothing to undo.
     void reset(QSize size);
-    /// Scales the picture to a size. If a side is not positive the picture becomes empty.
+    /// Scales the picture to a size; if it shows only the paper, that is scaled instead. If a side is not
+    /// positive the picture becomes empty.
     void scale(QSize size);
     /// A copy of a rectangle; its parts outside the picture are white.
     [[nodiscard]] QPixmap piece(const QRect& rect) const;

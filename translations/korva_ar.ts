@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>التقاط لون(&amp;K)</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>جديد من صورة(&amp;F) ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1221,6 +1226,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>ألوان %1 أكثر من ألوان الرسم ذي %2 بكسل: الاستبدال يُفقد هذه الألوان.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>جديد من صورة</translation>
     </message>
 </context>
 <context>

@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>&amp;Pipette</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Nouveau sur image ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1217,6 +1222,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1 a plus de couleurs que le dessin de %2 pixels&#xa0;: le remplacer les ferait perdre.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>Nouveau sur image</translation>
     </message>
 </context>
 <context>

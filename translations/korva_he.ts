@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>&amp;דגימת צבע</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>ח&amp;דש מתמונה ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1217,6 +1222,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>בקובץ %1 יש יותר צבעים מאשר בציור בגודל %2 פיקסלים: החלפה תאבד אותם.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>חדש מתמונה</translation>
     </message>
 </context>
 <context>

@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>रंग उठाएँ(&amp;K)</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>चित्र से नया(&amp;F) ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1217,6 +1222,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1 में %2 पिक्सेल की ड्रॉइंग से ज़्यादा रंग हैं: इसके ऊपर सहेजने पर वे खो जाएँगे।</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>चित्र से नया</translation>
     </message>
 </context>
 <context>

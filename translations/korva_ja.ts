@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>スポイト(&amp;K)</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>画像から新規(&amp;F) ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1216,6 +1221,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1 は %2 ピクセルの絵より色数が多く、置き換えるとその色が失われます。</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>画像から新規作成</translation>
     </message>
 </context>
 <context>

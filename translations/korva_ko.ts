@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>색 추출(&amp;K)</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>이미지로 새로(&amp;F) ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1216,6 +1221,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1에는 %2 픽셀 그림보다 색이 더 많습니다. 바꾸면 그 색이 사라집니다.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>이미지로 새로 만들기</translation>
     </message>
 </context>
 <context>

@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>P&amp;ipet</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Nieuw van beeld ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1217,6 +1222,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1 heeft meer kleuren dan de tekening van %2 pixels: bij vervangen gaan die verloren.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>Nieuw van afbeelding</translation>
     </message>
 </context>
 <context>

@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>П&amp;ипетка</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Новый на картинке ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1218,6 +1223,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>В %1 больше цветов, чем в рисунке %2 пикселей: при замене они пропадут.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>Новый на картинке</translation>
     </message>
 </context>
 <context>

@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>P&amp;ipett</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Ny från bild ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1217,6 +1222,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1 har fler färger än teckningen på %2 pixlar: de går förlorade om den ersätts.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>Ny från bild</translation>
     </message>
 </context>
 <context>

@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>ดูดสี(&amp;K)</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>ใหม่จากรูปภาพ(&amp;F) ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1216,6 +1221,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1 มีสีมากกว่าภาพวาดขนาด %2 พิกเซล หากแทนที่ สีเหล่านั้นจะหายไป</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>ใหม่จากรูปภาพ</translation>
     </message>
 </context>
 <context>

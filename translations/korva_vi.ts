@@ -1039,6 +1039,11 @@
         <comment>menu</comment>
         <translation>&amp;Lấy màu</translation>
     </message>
+    <message>
+        <source>&amp;New from picture ...</source>
+        <comment>menu</comment>
+        <translation>Tạo &amp;mới từ ảnh ...</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1216,6 +1221,11 @@
         <source>%1 has more colors than the drawing of %2 pixels: replacing it would lose them.</source>
         <comment>saving; %1: a file, %2: &apos;300 × 200&apos;</comment>
         <translation>%1 có nhiều màu hơn bức vẽ %2 điểm ảnh: nếu thay thế thì sẽ mất các màu đó.</translation>
+    </message>
+    <message>
+        <source>New from picture</source>
+        <comment>pick dialog</comment>
+        <translation>Tạo mới từ ảnh</translation>
     </message>
 </context>
 <context>

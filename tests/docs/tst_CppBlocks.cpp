@@ -72,6 +72,9 @@ private slots:
     void buttonsOfItsOwnChoose();
     void aHostOffersLess();
     void aKioskServesTheNext();
+    void aKioskHasItsOwnKeysAndBoxes();
+    void aKioskTakesBytesIn();
+    void aKioskBeginsAnewWhenNobodyIsThere();
     void aToolIsWritten();
     void aNewDrawing_data();
     void aNewDrawing();
@@ -223,6 +226,92 @@ void tst_CppBlocks::aKioskServesTheNext()
     QVERIFY(editor.snapshot() != form.convertToFormat(editor.snapshot().format()));
     QTRY_VERIFY(!idle.isActive());
     QVERIFY(support::sameImage(editor.snapshot(), form));
+}
+
+void tst_CppBlocks::aKioskHasItsOwnKeysAndBoxes()
+{
+    UTIL_Platform::install(std::make_unique<kiosk::LargeBoxes>());
+    QWidget window;
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT, &window);
+    QPushButton* const undo = kiosk::addUndo(&window, &editor);
+    QVERIFY(!undo->isEnabled());
+    drawOn(&editor);
+    QVERIFY(undo->isEnabled());
+    undo->click();
+    QCOMPARE(support::inkCount(editor.snapshot()), 0);
+
+    const auto ask = [&editor] {
+        return UTIL_Platform::instance()->question(&editor, {}, "?", {"Yes", "No"});
+    };
+    support::whenOpen([](QDialog& asked) { support::button(asked, "Yes")->click(); });
+    QCOMPARE(ask(), 0);
+    support::whenOpen([](QDialog& asked) { support::button(asked, "No")->click(); });
+    QCOMPARE(ask(), 1);
+    support::whenOpen([&editor](QDialog&) { editor.cancelDialogs(); });
+    QCOMPARE(ask(), 1);
+
+    QCOMPARE(kiosk::word("Undo", "Zurück"), "Undo");
+    QVERIFY(KORVA_Translations::load(QLocale(QLocale::German)));
+    QCOMPARE(kiosk::word("Undo", "Zurück"), "Zurück");
+    KORVA_Translations::unload();
+}
+
+void tst_CppBlocks::aKioskTakesBytesIn()
+{
+    UTIL_Platform::install(std::make_unique<kiosk::LargeBoxes>());
+    const QImage page = support::mosaic({600, 420});
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QVERIFY(page.save(&buffer, "PNG"));
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    QVERIFY(!kiosk::layPage(&editor, "no picture"));
+    QCOMPARE(support::inkCount(editor.snapshot()), 0);
+    QVERIFY(kiosk::layPage(&editor, bytes));
+    kiosk::beginVisit(&editor, page.size());
+    QVERIFY(support::sameImage(editor.snapshot(), page));
+    QVERIFY(kiosk::drawingOf(&editor).isEmpty());
+    drawOn(&editor);
+    const QByteArray drawing = kiosk::drawingOf(&editor);
+    QVERIFY(drawing.size() <= 30'000);
+    QVERIFY(!QImage::fromData(drawing, "JPEG").isNull());
+    editor.undo();
+    editor.undo(); // there was only one step
+    QVERIFY(support::sameImage(editor.snapshot(), page));
+}
+
+void tst_CppBlocks::aKioskBeginsAnewWhenNobodyIsThere()
+{
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    editor.show();
+    QLabel warning;
+    QTimer second;
+    second.setInterval(20);
+    QList<QByteArray> sent;
+    QStringList warnings;
+    kiosk::watch(&editor, &warning, &second, [&](const QByteArray& drawing) { sent << drawing; });
+    connect(&second, &QTimer::timeout, this, [&] {
+        if (warning.isVisible())
+            warnings << warning.text();
+    });
+    drawOn(&editor);
+    QVERIFY(!second.isActive()); // what a program sends is not a person's
+    const auto touch = [&editor] {
+        QTest::mouseClick(editor.windowHandle(), Qt::LeftButton, {}, QPoint(230, 220));
+    };
+    touch();
+    QTRY_VERIFY(warning.isVisible());
+    touch();
+    QVERIFY(warning.isHidden());
+    warnings.clear();
+    support::whenOpen([](const QDialog& picker) { QVERIFY(picker.isVisible()); }); // and leaves it open
+    editor.slotColor();
+    QCOMPARE(warnings, QString("10 9 8 7 6 5 4 3 2 1").split(' '));
+    QVERIFY(warning.isHidden());
+    QCOMPARE(sent.size(), 1);
+    QVERIFY(support::inkCount(QImage::fromData(sent.first(), "JPEG")) >= 40);
+    QCOMPARE(editor.snapshot().size(), QSize(600, 420));
+    QCOMPARE(support::inkCount(editor.snapshot()), 0);
+    QVERIFY(!second.isActive());
 }
 
 void tst_CppBlocks::aToolIsWritten()

@@ -10,7 +10,8 @@ public:
     static constexpr int patience = 20'000; // ms
 
     explicit Example(QSize window, const QStringList& arguments = {},
-                     const QMap<QString, QString>& variables = {}, QSize screen = QSize(800, 600))
+                     const QMap<QString, QString>& variables = {}, QSize screen = QSize(800, 600),
+                     const QByteArray& input = {})
         : m_screen(screen)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -21,6 +22,8 @@ public:
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start(KORVA_EXAMPLE, arguments);
+        m_process.write(input);
+        m_process.closeWriteChannel();
         m_place = m_screen.waitForWindow(window);
     }
     ~Example()
@@ -32,6 +35,12 @@ public:
     Example& operator=(const Example&) = delete;
 
     [[nodiscard]] bool isRunning() const { return m_process.state() == QProcess::Running; }
+    /// What it has written since the last call.
+    [[nodiscard]] QByteArray output()
+    {
+        m_process.waitForReadyRead(0);
+        return m_process.readAllStandardOutput();
+    }
     [[nodiscard]] support::XServer& screen() { return m_screen; }
     /// Empty when no window came.
     [[nodiscard]] QRect place() const { return m_place; }

@@ -238,13 +238,14 @@ void tst_Menus::picturePage()
 {
     const QString name = m_pad->pictures() + "/flag.png";
     QVERIFY(support::sheet(QSize(200, 170), Qt::yellow).save(name));
-    constexpr int rows = 4;
+    constexpr int rows = 5;
     QVERIFY(start({name}));
-    QVERIFY(fromMenu(Picture, 0, rows, box("Insert stamp")));
-    QVERIFY(fromMenu(Picture, 1, rows, line("clear")));
+    QVERIFY(fromMenu(Picture, 0, rows, box("New from picture")));
+    QVERIFY(fromMenu(Picture, 1, rows, box("Insert stamp")));
+    QVERIFY(fromMenu(Picture, 2, rows, line("clear")));
     QVERIFY(m_pad->waitForColor({10, 10}, Qt::white));
-    QVERIFY(fromMenu(Picture, 2, rows, box("Earlier drawings")));
-    QVERIFY(fromMenu(Picture, 3, rows, box("Move flag.png to the trash?")));
+    QVERIFY(fromMenu(Picture, 3, rows, box("Earlier drawings")));
+    QVERIFY(fromMenu(Picture, 4, rows, box("Move flag.png to the trash?")));
 }
 
 void tst_Menus::editPage()

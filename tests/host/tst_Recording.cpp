@@ -164,6 +164,7 @@ void tst_Recording::understands_data()
     QTest::newRow("text beyond ASCII") << QByteArray("type \"Grüße 🎨\"") << withText(Verb::Type, "Grüße 🎨");
     QTest::newRow("no text") << QByteArray("type \"\"") << withText(Verb::Type, "");
     QTest::newRow("save") << QByteArray("save /tmp/a.png") << withText(Verb::Save, "/tmp/a.png");
+    QTest::newRow("paper") << QByteArray("paper a.gif") << withText(Verb::Paper, "a.gif");
     QTest::newRow("stamp") << QByteArray("stamp a.gif") << withText(Verb::Stamp, "a.gif");
     QTest::newRow("blanks all over") << QByteArray(" \t press\t 3   4  ") << at(Verb::Press, {3, 4});
     QTest::newRow("lines ended as on DOS") << QByteArray("undo\r\n") << plain(Verb::Undo);

@@ -64,7 +64,6 @@ private slots:
     void fillsAConnectedArea_data();
     void fillsAConnectedArea();
     void fillChangesNothingWithoutAnotherColor();
-    void fillIsAsFastAsTheMemory();
     void spraysAlikeEveryTime();
     void polygonClosesAtItsFirstCorner();
     void pickerTakesTheColorBelow();
@@ -172,28 +171,6 @@ void tst_OwnTools::fillChangesNothingWithoutAnotherColor()
     desk.hand().click({5, 5});
     QCOMPARE(desk.log.taken(), QStringList());
     QVERIFY(!desk.editor->isModified());
-}
-
-void tst_OwnTools::fillIsAsFastAsTheMemory()
-{
-    QImage picture(4096, 4096, QImage::Format_RGB32);
-    qint64 byRow = std::numeric_limits<qint64>::max();
-    qint64 byTool = byRow;
-    for (QRgb color = 0xff000000; color < 0xff000005; ++color) {
-        QElapsedTimer timer;
-        timer.start();
-        for (int y = 0; y < picture.height(); ++y) {
-            auto* const row = reinterpret_cast<QRgb*>(picture.scanLine(y));
-            std::fill(row, row + picture.width(), color);
-        }
-        byRow = qMin(byRow, timer.nsecsElapsed());
-        timer.start();
-        FillTool::fill(picture, {2000, 1000}, color + 100);
-        byTool = qMin(byTool, timer.nsecsElapsed());
-        QCOMPARE(picture.pixel(0, 0), color + 100);
-        QCOMPARE(picture.pixel(4095, 4095), color + 100);
-    }
-    qInfo("rows %.1f ms, the tool %.1f ms", double(byRow) / 1e6, double(byTool) / 1e6);
 }
 
 void tst_OwnTools::spraysAlikeEveryTime()

@@ -174,6 +174,11 @@ void tst_Paper::newCanvasesShowIt()
     Sheet desk;
     desk.editor->chooseCanvas(KORVA_CANVAS_16BIT, 200, 170);
     QVERIFY(sameImage(desk.picture(), mosaic(size)));
+    const QImage large = mosaic({300, 250});
+    desk.editor->setPaper(large);
+    desk.editor->clearCanvas();
+    desk.editor->chooseCanvas(KORVA_CANVAS_16BIT, 300, 250);
+    QVERIFY(sameImage(desk.picture(), large)); // and not what 200 × 170 pixels have left of it
 }
 
 void tst_Paper::openedPicturesCoverIt()
