@@ -134,6 +134,7 @@ take_all() {
     press p; tap 137 14; shot zoom; press Escape
     tap 215 14; shot colors; press Escape
     press F1; shot keys; press Escape
+    press ctrl+m; shot 'save for a message'; press Escape
     press ctrl+o; shot open; press Escape
     press ctrl+shift+s; shot 'save as'; press Escape
     press ctrl+i; shot 'insert stamp'; press Escape
@@ -148,6 +149,8 @@ take_all() {
     press Return; shot 'how many colors?'
     press Return; shot 'new drawing'
     press ctrl+e; shot 'earlier drawings'; press Escape
+    press ctrl+n; press Return; press Tab Tab Return
+    press ctrl+d; shot 'save in few colors'; press Escape
     press t; paper -40 -20; xdotool click 1; xdotool type --delay 60 Hello; pause; shot text
     press ctrl+s; shot 'save a new drawing'; press Escape
     press ctrl+o; shot 'before opening'; press Escape

@@ -34,9 +34,18 @@ struct Label
 };
 
 /// Without what only a menu shows: its letter, and that a dialog follows.
-QString keysPageText(const QAction& action)
+QString plain(const QString& label)
 {
-    return wording::withoutMnemonic(action.text()).remove(QLatin1String(" ..."));
+    return wording::withoutMnemonic(label).remove(QLatin1String(" ..."));
+}
+
+// Their texts are the titles of their dialogs, too.
+constexpr Label message = QT_TRANSLATE_NOOP3("pad::Commands", "Save for a &message ...", "menu");
+constexpr Label fewColors = QT_TRANSLATE_NOOP3("pad::Commands", "Save in &few colors ...", "menu");
+
+QString titleFrom(const Label& label)
+{
+    return plain(Commands::tr(label.text, label.comment));
 }
 
 const QString fingersPanKey = QStringLiteral("fingers/pan");
@@ -63,6 +72,7 @@ Commands::Commands(KORVA_EditCanvas& editor, Documents& documents, QWidget* wind
     : QObject(window),
       m_editor(editor),
       m_documents(documents),
+      m_copies(editor, documents, window),
       m_window(window),
       m_menu(new UTIL_PopupMenu(window))
 {
@@ -105,6 +115,10 @@ void Commands::addEntries()
          Needs::Nothing, [](C& c, int) { c.m_documents.stamp(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
          [](C& c, int) { c.m_documents.clear(); }},
+        {Page::Picture, message, "Ctrl+M", Needs::Nothing,
+         [](C& c, int) { c.m_copies.saveForMessage(titleFrom(message)); }},
+        {Page::Picture, fewColors, "Ctrl+D", Needs::FewColors,
+         [](C& c, int) { c.m_copies.saveInFewColors(titleFrom(fewColors)); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Earlier drawings ...", "menu"), "Ctrl+E",
          Needs::Recovery, [](C& c, int) { c.m_recovery->showEarlier(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Delete picture ...", "menu"), "Ctrl+Del",
@@ -232,6 +246,10 @@ void Commands::follow()
     connect(&m_documents, &Documents::changed, this, followFile);
     connect(&m_documents, &Documents::performed, this, &Commands::performed);
 
+    const auto followCanvas = [this] { setAvailable(Needs::FewColors, m_copies.hasFewColors()); };
+    followCanvas();
+    connect(&m_editor, &KORVA_EditCanvas::canvasChanged, this, followCanvas);
+
     const auto let = [this](void (KORVA_EditCanvas::*signal)(bool), Needs needs) {
         connect(&m_editor, signal, this, [this, needs](bool possible) { setAvailable(needs, possible); });
     };
@@ -282,8 +300,9 @@ void Commands::setRecovery(Recovery* recovery)
     setAvailable(Needs::Recovery, recovery != nullptr);
 }
 
-void Commands::rememberFingers()
+void Commands::rememberChoices()
 {
+    m_copies.remember();
     m_isRemembered = true;
     const QSettings settings(settingsFile(), QSettings::IniFormat);
     m_fingersPan->setChecked(settings.value(fingersPanKey).toBool());
@@ -313,7 +332,7 @@ void Commands::showKeys()
 {
     QList<KeysDialog::Row> rows;
     for (const QAction* action : m_window->actions())
-        rows.append({action->shortcut().toString(QKeySequence::NativeText), keysPageText(*action)});
+        rows.append({action->shortcut().toString(QKeySequence::NativeText), plain(action->text())});
     rows.append({QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText), tr("Menu", "keys")});
     const QString arrows = tr("Arrows", "keys");
     const QString space = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);

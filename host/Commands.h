@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Copies.h"
 #include "Recording.h"
 
 #include <QObject>
@@ -25,8 +26,9 @@ public:
 
     /// Gives access to the earlier drawings; null if there are none. Not owned.
     void setRecovery(Recovery* recovery);
-    /// Lets a finger do what was last chosen, and keeps each choice in the settings for the next start.
-    void rememberFingers();
+    /// Takes up what a finger did last and how long a message could be, and keeps both in the settings for
+    /// the next start.
+    void rememberChoices();
 
     [[nodiscard]] QMenu* menu() const { return m_menu; }
     /// The action of the right soft key: undo or, after an undo, redo.
@@ -49,6 +51,7 @@ private:
         Redo,      ///< a change that was undone
         Selection, ///< a floating piece
         Clipboard, ///< a picture on the clipboard; assumed until it is examined
+        FewColors, ///< a canvas with few colours
         Fingers,   ///< always enabled; marked while fingers pan
     };
     struct Dependent
@@ -81,6 +84,7 @@ private:
 
     KORVA_EditCanvas& m_editor;
     Documents& m_documents;
+    Copies m_copies;
     Recovery* m_recovery = nullptr;
     QWidget* m_window; // the parent
     QMenu* m_menu;

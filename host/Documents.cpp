@@ -3,6 +3,7 @@
 #include "DocumentAction.h"
 #include "EditCommand.h"
 #include "Platform.h"
+#include "Wording.h"
 
 #include <KORVA_ChooseCanvasDlg.h>
 #include <KORVA_EditCanvas.h>
@@ -63,6 +64,7 @@ void Documents::beginDocument()
 {
     m_proposal.clear();
     m_mayReplace = false;
+    m_isLess = false;
     m_version = Version::of(m_editor.fileName());
     emit changed();
 }
@@ -89,11 +91,16 @@ void Documents::settle()
         m_journal->settle();
 }
 
+bool Documents::hasChanges() const
+{
+    return m_isLess || m_editor.hasChanges();
+}
+
 // --- Asking
 
 bool Documents::mayReplace(const QString& question)
 {
-    if (!m_editor.hasChanges())
+    if (!hasChanges())
         return true;
     enum Answer : int { Yes, No };
     const int answer =
@@ -114,8 +121,7 @@ int Documents::askCanvasType()
 {
     QStringList buttons;
     for (const auto& row : canvasTypes)
-        buttons.append(row.colors == 2 ? tr("Black and white", "canvas type")
-                                       : tr("%Ln colors", "canvas type", row.colors));
+        buttons.append(wording::inColors(row.colors));
     buttons.append(tr("Cancel", "canvas type"));
     const int answer =
         m_platform.question(m_window, QString(), tr("How many colors?", "canvas type"), buttons);
@@ -159,12 +165,8 @@ void Documents::open()
         openFile(name);
 }
 
-QString Documents::pick(const std::optional<Purpose>& purpose)
+QString Documents::run(const QPointer<UTIL_PictureDialog>& dialog)
 {
-    const QPointer<UTIL_PictureDialog> dialog =
-        m_platform.createPickDialog(m_window, m_folder.path(m_platform), KORVA_EditCanvas::openPatterns());
-    if (purpose)
-        dialog->setPurpose(purpose->title, purpose->verb);
     const bool isAccepted = dialog->exec() == QDialog::Accepted;
     if (!dialog)
         return {};
@@ -173,6 +175,15 @@ QString Documents::pick(const std::optional<Purpose>& purpose)
     if (!name.isEmpty())
         m_folder.note(name);
     return name;
+}
+
+QString Documents::pick(const std::optional<Purpose>& purpose)
+{
+    UTIL_PictureDialog* dialog =
+        m_platform.createPickDialog(m_window, m_folder.path(m_platform), KORVA_EditCanvas::openPatterns());
+    if (purpose)
+        dialog->setPurpose(purpose->title, purpose->verb);
+    return run(dialog);
 }
 
 void Documents::openNamed(const QString& fileName)

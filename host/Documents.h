@@ -11,6 +11,7 @@
 #include <QPointer>
 
 class KORVA_EditCanvas;
+class UTIL_PictureDialog;
 
 namespace pad {
 
@@ -48,6 +49,10 @@ public:
     bool save();
     /// Saves under a name that the person chooses.
     bool saveAs();
+    /// Saves something that is made of the drawing under a name that the person chooses, in a format of
+    /// these patterns; the first one is proposed. The drawing stays what it is, under its name, and the
+    /// person is told the file's name and size. False when nothing is saved.
+    bool saveCopy(const Encoder& encode, const QStringList& patterns);
     /// Lays a picture that the person picks over the drawing.
     void stamp();
     /// Moves the drawing's file to the trash.
@@ -94,6 +99,18 @@ private:
         QString verb;
     };
 
+    /// Writes a file.
+    using Save = std::function<std::optional<WriteError>()>;
+
+    /// Whether the file is not all of the drawing.
+    [[nodiscard]] bool hasChanges() const;
+    /// Runs and deletes a dialog; empty if it was not accepted.
+    [[nodiscard]] QString run(const QPointer<UTIL_PictureDialog>& dialog);
+    /// Lets the person name a file, beside the drawing's own if possible; empty if none was named.
+    [[nodiscard]] QString askName(const QString& proposal, const QStringList& patterns);
+    /// Lets `save` write the file. A new one beside the drawing's own is no more public than that one.
+    /// Tells what goes wrong.
+    [[nodiscard]] std::optional<WriteError> write(const QString& fileName, const Save& save);
     /// Lets the person pick a picture file; empty if none was picked.
     [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
     [[nodiscard]] bool takeIn(const QString& fileName);
@@ -105,7 +122,8 @@ private:
     void begin(const Command& how);
     void beginDocument();
     void settle();
-    void tell(const WriteError& error);
+    /// Tells what went wrong.
+    void tell(const QString& text, const QString& button);
 
     KORVA_EditCanvas& m_editor;
     Platform& m_platform;
@@ -115,6 +133,7 @@ private:
     LastFolder m_folder;
     QString m_proposal;        ///< of a drawing without a name
     bool m_mayReplace = false; ///< the person has agreed to lose what opening left out
+    bool m_isLess = false;     ///< a copy that is less than the drawing has replaced its file
     Version m_version;
 };
 

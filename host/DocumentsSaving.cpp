@@ -26,32 +26,22 @@ constexpr auto warningIcon = "Dialog_Exclamatory_Mark.gif";
 constexpr auto binIcon = "Dialog_Empty_Trash.gif";
 
 constexpr int shortTime = 1;
+constexpr int readingTime = 4;
 constexpr int longTime = 60;
-
-/// A name shortened to fit into a sentence.
-QString fileNameOf(const QString& path)
-{
-    constexpr int most = 40;
-    constexpr int end = 12; // with the extension
-    const QString name = QFileInfo(path).fileName();
-    return name.size() <= most ? name : name.left(most - end) + QChar(0x2026) + name.right(end);
-}
 
 } // namespace
 
 // --- Saving
 
-void Documents::tell(const WriteError& error)
+void Documents::tell(const QString& text, const QString& button)
 {
-    m_platform.timedInformation(m_window, QLatin1String(errorIcon),
-                                tr("Not saved: %1", "saving").arg(error.sentence()), tr("OK", "saving"),
-                                longTime);
+    m_platform.timedInformation(m_window, QLatin1String(errorIcon), text, button, longTime);
 }
 
 QString Documents::whatReplacingLoses() const
 {
     const QString path = m_editor.fileName();
-    const QString name = fileNameOf(path);
+    const QString name = wording::shortName(path);
     const QSize size = m_editor.snapshot().size();
     const QSize source = m_editor.sourceSize();
     if (!canBeWritten(path))
@@ -78,7 +68,7 @@ bool Documents::save()
 {
     if (m_editor.fileName().isEmpty())
         return saveAs();
-    if (!m_editor.hasChanges())
+    if (!hasChanges())
         return true;
     const QString loss = whatReplacingLoses();
     return loss.isEmpty() ? saveUnder(m_editor.fileName()) : askAndSave(loss);
@@ -105,36 +95,38 @@ bool Documents::askAndSave(const QString& loss)
 
 bool Documents::saveAs()
 {
-    const QFileInfo named(name());
-    const bool isPlaced = !name().isEmpty() && QFileInfo(named.path()).isWritable();
-    const QDir place(isPlaced ? named.path() : m_folder.path(m_platform));
-    const QPointer<UTIL_PictureDialog> dialog =
-        m_platform.createSaveDialog(m_window, place.path(), KORVA_EditCanvas::savePatterns());
+    const QString name = askName(QFileInfo(this->name()).fileName(), KORVA_EditCanvas::savePatterns());
+    return !name.isEmpty() && saveUnder(name);
+}
+
+QString Documents::askName(const QString& proposal, const QStringList& patterns)
+{
+    const QString folder = QFileInfo(name()).path();
+    const bool isPlaced = !name().isEmpty() && QFileInfo(folder).isWritable();
+    const QDir place(isPlaced ? folder : m_folder.path(m_platform));
+    UTIL_PictureDialog* dialog = m_platform.createSaveDialog(m_window, place.path(), patterns);
     dialog->setTakesAnyName(true);
-    if (!name().isEmpty())
-        dialog->setFileName(freeNameBeside(place.filePath(named.fileName())));
-    const bool isAccepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
-        return false;
-    const QString chosen = isAccepted ? dialog->fileName() : QString();
-    delete dialog;
-    if (chosen.isEmpty())
-        return false;
-    m_folder.note(chosen);
-    return saveUnder(chosen);
+    if (!proposal.isEmpty())
+        dialog->setFileName(freeNameBeside(place.filePath(proposal)));
+    return run(dialog);
+}
+
+std::optional<WriteError> Documents::write(const QString& fileName, const Save& save)
+{
+    const bool isBeside = !QFileInfo::exists(fileName) &&
+                          QFileInfo(fileName).absolutePath() == QFileInfo(name()).absolutePath();
+    const auto error = save();
+    if (error && error->code != ECANCELED)
+        tell(tr("Not saved: %1", "saving").arg(error->sentence()), tr("OK", "saving"));
+    if (!error && isBeside && QFileInfo::exists(name())) // no more public than the old file
+        QFile::setPermissions(fileName, QFile::permissions(name()));
+    return error;
 }
 
 bool Documents::saveUnder(const QString& fileName)
 {
-    const bool isBeside = !QFileInfo::exists(fileName) &&
-                          QFileInfo(fileName).absolutePath() == QFileInfo(name()).absolutePath();
-    if (const auto error = saveDrawing(m_editor, fileName, m_window, m_platform, m_write)) {
-        if (error->code != ECANCELED)
-            tell(*error);
+    if (write(fileName, [&] { return saveDrawing(m_editor, fileName, m_window, m_platform, m_write); }))
         return false;
-    }
-    if (isBeside && QFileInfo::exists(name())) // the new file must be no more public than the old one
-        QFile::setPermissions(fileName, QFile::permissions(name()));
     if (fileName != m_editor.fileName())
         m_mayReplace = false;
     m_editor.setFileName(fileName);
@@ -142,10 +134,32 @@ bool Documents::saveUnder(const QString& fileName)
     settle();
     m_proposal.clear();
     m_version = Version::of(fileName);
+    m_isLess = false;
     emit changed();
     m_platform.timedMessage(m_window, QLatin1String(completeIcon),
                             KORVA_EditCanvas::tr("Saved Successfully", "2.11.2.9;DIALOG_ICON_50"),
                             shortTime);
+    return true;
+}
+
+bool Documents::saveCopy(const Encoder& encode, const QStringList& patterns)
+{
+    const QFileInfo drawing(name());
+    const QString extension = patterns.constFirst().mid(1);
+    const QString fileName =
+        askName(name().isEmpty() ? QString() : drawing.completeBaseName() + extension, patterns);
+    const auto save = [&] { return saveEncoded(encode, fileName, m_window, m_platform, m_write); };
+    if (fileName.isEmpty() || write(fileName, save))
+        return false;
+    if (!m_editor.fileName().isEmpty() && QFileInfo(fileName) == QFileInfo(m_editor.fileName())) {
+        m_isLess = true;
+        m_version = Version::of(fileName);
+    }
+    m_platform.timedMessage(
+        m_window, QLatin1String(completeIcon),
+        tr("%1 was saved: %2", "saving; %1: a file, %2: '29.6 kB'")
+            .arg(wording::shortName(fileName), wording::fileSize(QFileInfo(fileName).size())),
+        readingTime);
     return true;
 }
 
@@ -155,7 +169,7 @@ void Documents::deletePicture()
 {
     constexpr int yes = 1; // the first button is the default, and changes nothing
     const QString path = m_editor.fileName();
-    const QString name = fileNameOf(path);
+    const QString name = wording::shortName(path);
     const auto ask = [this](const QString& text, const QString& button) {
         return m_platform.question(m_window, QLatin1String(binIcon), text,
                                    {tr("Cancel", "deleting"), button});
@@ -169,9 +183,7 @@ void Documents::deletePicture()
             return;
         QFile file(path);
         if (!file.remove()) {
-            m_platform.timedInformation(m_window, QLatin1String(errorIcon),
-                                        tr("Not deleted: %1", "deleting").arg(file.errorString()),
-                                        tr("OK", "deleting"), longTime);
+            tell(tr("Not deleted: %1", "deleting").arg(file.errorString()), tr("OK", "deleting"));
             return;
         }
     }

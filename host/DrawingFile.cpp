@@ -161,6 +161,25 @@ struct Saving
     QPromise<void> promise;
 };
 
+/// Works in another thread while the person waits.
+std::optional<WriteError>
+saveWhileWaiting(const std::function<std::optional<WriteError>(const MayReplace& mayReplace)>& save,
+                 const QString& fileName, QWidget* window, UTIL_Platform& platform)
+{
+    const auto saving = std::make_shared<Saving>();
+    saving->promise.start();
+    QFuture<void> work = saving->promise.future();
+    QThreadPool::globalInstance()->start([saving, save] {
+        saving->error = save([&saving] { return saving->decide(); });
+        saving->promise.finish();
+    });
+    const QString text = QCoreApplication::translate("pad::DrawingFile", "Saving drawing", "saving");
+    if (!platform.waitFor(window, text, work) && saving->decide())
+        return systemError(ECANCELED, fileName);
+    work.waitForFinished(); // a cancel that came too late: only the last step is left
+    return saving->error;
+}
+
 } // namespace
 
 std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName)
@@ -171,18 +190,20 @@ std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QStr
 std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
                                       QWidget* window, UTIL_Platform& platform, const Writer& write)
 {
-    const auto saving = std::make_shared<Saving>();
-    saving->promise.start();
-    QFuture<void> work = saving->promise.future();
-    QThreadPool::globalInstance()->start([saving, draft = Draft(editor, fileName), write] {
-        saving->error = draft.write(write, [&saving] { return saving->decide(); });
-        saving->promise.finish();
-    });
-    const QString text = QCoreApplication::translate("pad::DrawingFile", "Saving drawing", "saving");
-    if (!platform.waitFor(window, text, work) && saving->decide())
-        return systemError(ECANCELED, fileName);
-    work.waitForFinished(); // a cancel that came too late: only the last step is left
-    return saving->error;
+    const auto save = [draft = Draft(editor, fileName), write](const MayReplace& mayReplace) {
+        return draft.write(write, mayReplace);
+    };
+    return saveWhileWaiting(save, fileName, window, platform);
+}
+
+std::optional<WriteError> saveEncoded(const Encoder& encode, const QString& fileName, QWidget* window,
+                                      UTIL_Platform& platform, const Writer& write)
+{
+    const auto save = [encode, fileName, write](const MayReplace& mayReplace) {
+        const QByteArray bytes = encode(fileName);
+        return bytes.isEmpty() ? systemError(ENOMEM, fileName) : write(bytes, fileName, mayReplace);
+    };
+    return saveWhileWaiting(save, fileName, window, platform);
 }
 
 std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName,

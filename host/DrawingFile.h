@@ -50,9 +50,16 @@ using Writer = std::function<std::optional<WriteError>(const QByteArray& bytes, 
 /// Writes the editor's snapshot in the format of the name's extension, or PNG if it names none.
 [[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor,
                                                     const QString& fileName);
+/// Makes the bytes of a file of this name, in any thread. Empty if there is no memory.
+using Encoder = std::function<QByteArray(const QString& fileName)>;
+
 /// The same in another thread while the person waits. It can be cancelled (ECANCELED) until the new file
 /// takes the old one's place.
 [[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
+                                                    QWidget* window, UTIL_Platform& platform,
+                                                    const Writer& write);
+/// The same for something else than the drawing.
+[[nodiscard]] std::optional<WriteError> saveEncoded(const Encoder& encode, const QString& fileName,
                                                     QWidget* window, UTIL_Platform& platform,
                                                     const Writer& write);
 

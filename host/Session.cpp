@@ -42,7 +42,7 @@ int Session::run()
     if (m_place) {
         m_place->restore(*m_window);
         m_window->documents().rememberFolders();
-        m_window->commands().rememberFingers();
+        m_window->commands().rememberChoices();
     } else
         m_window->setFixedSize(m_window->size());
     m_window->show();

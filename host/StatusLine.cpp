@@ -34,7 +34,7 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
     setAccessibleName(tr("Status", "status line"));
     m_tool = addField(tr("Tool", "status line"), Qt::AlignLeft);
     m_size = addField(tr("Picture size", "status line"), Qt::AlignHCenter);
-    m_zoom = addField(tr("Zoom", "status line"), Qt::AlignHCenter);
+    m_zoom = addField(wording::zoom(), Qt::AlignHCenter);
     m_position = addField(tr("Position", "status line"), Qt::AlignRight);
 
     m_timer.setSingleShot(true);
@@ -90,7 +90,7 @@ std::array<int, StatusLine::fieldCount> StatusLine::extents(int room) const
     for (int tool = KORVA_TOOL_PENCIL; tool <= KORVA_TOOL_HAND; ++tool)
         lacking =
             std::max(lacking, metrics.horizontalAdvance(KORVA_EditCanvas::toolName(tool)) - extents[0]);
-    const std::array<QString, fieldCount> longest{QString(), sizeText({240, 320}), zoomText(200),
+    const std::array<QString, fieldCount> longest{QString(), sizeText({240, 320}), wording::percent(200),
                                                   positionText({239, 319})};
     for (size_t i = fieldCount - 1; i > 0 && lacking > 0; --i) {
         const int spare = std::clamp(extents[i] - metrics.horizontalAdvance(longest[i]), 0, lacking);
@@ -118,11 +118,6 @@ QString StatusLine::sizeText(QSize size)
         .arg(wording::plainNumber(size.width()), wording::plainNumber(size.height()));
 }
 
-QString StatusLine::zoomText(int percent)
-{
-    return tr("%1 %", "zoom").arg(wording::plainNumber(percent));
-}
-
 QString StatusLine::positionText(QPoint at)
 {
     return tr("%1, %2", "position").arg(wording::plainNumber(at.x()), wording::plainNumber(at.y()));
@@ -137,7 +132,7 @@ void StatusLine::refresh()
     const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
     fill(m_tool, m_editor.nameOfTool(m_editor.canvas()->getCurrentToolID()));
     fill(m_size, sizeText(size));
-    fill(m_zoom, zoomText(zoom.percent()));
+    fill(m_zoom, wording::percent(zoom.percent()));
     fill(m_position, m_isOver || pen ? positionText(at) : QString());
 }
 

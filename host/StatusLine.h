@@ -40,7 +40,6 @@ private:
     static constexpr int fieldCount = 4;
     [[nodiscard]] std::array<int, fieldCount> extents(int room) const;
     [[nodiscard]] static QString sizeText(QSize size);
-    [[nodiscard]] static QString zoomText(int percent);
     [[nodiscard]] static QString positionText(QPoint at);
     [[nodiscard]] QSize pictureSize() const;
 

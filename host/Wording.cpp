@@ -1,17 +1,66 @@
 #include "Wording.h"
 
 #include "CommandLine.h"
+#include "Documents.h"
+#include "StatusLine.h"
 
+#include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
 
 namespace pad {
+
+namespace {
+
+/// Nothing of it goes to another line.
+QString inKilobytes(const QString& number)
+{
+    return Documents::tr("%1 kB", "size of a file")
+        .arg(number)
+        .replace(QLatin1Char(' '), QChar(QChar::Nbsp));
+}
+
+} // namespace
 
 QString wording::inPixels(QSize size)
 {
     const QLocale locale;
     return QStringLiteral("%1\u00a0×\u00a0%2")
         .arg(locale.toString(size.width()), locale.toString(size.height()));
+}
+
+QString wording::fileSize(qint64 bytes)
+{
+    return pad::inKilobytes(QLocale().toString(double(bytes) / kilobyte, 'f', 1));
+}
+
+QString wording::inKilobytes(int count)
+{
+    return pad::inKilobytes(QLocale().toString(count));
+}
+
+QString wording::inColors(int count)
+{
+    return count == 2 ? Documents::tr("Black and white", "canvas type")
+                      : Documents::tr("%Ln colors", "canvas type", count);
+}
+
+QString wording::zoom()
+{
+    return StatusLine::tr("Zoom", "status line");
+}
+
+QString wording::percent(int number)
+{
+    return StatusLine::tr("%1 %", "zoom").arg(plainNumber(number));
+}
+
+QString wording::shortName(const QString& path)
+{
+    constexpr int most = 40;
+    constexpr int end = 12; // with the extension
+    const QString name = QFileInfo(path).fileName();
+    return name.size() <= most ? name : name.left(most - end) + QChar(0x2026) + name.right(end);
 }
 
 QString wording::plainNumber(int number)

@@ -635,6 +635,19 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorsDialog</name>
+    <message>
+        <source>Plain</source>
+        <comment>few colors</comment>
+        <translation>Flächig</translation>
+    </message>
+    <message>
+        <source>Dotted</source>
+        <comment>few colors</comment>
+        <translation>Gepunktet</translation>
+    </message>
+</context>
+<context>
     <name>pad::CommandLine</name>
     <message>
         <source>--scale takes a number from 1 to %1, not &apos;%2&apos;</source>
@@ -1044,6 +1057,39 @@
         <comment>menu</comment>
         <translation>&amp;Neu aus Bild ...</translation>
     </message>
+    <message>
+        <source>Save for a &amp;message ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Kopie für Nachricht ...</translation>
+    </message>
+    <message>
+        <source>Save in &amp;few colors ...</source>
+        <comment>menu</comment>
+        <translation>Mit &amp;wenig Farben ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::CopyDialog</name>
+    <message>
+        <source>Save</source>
+        <comment>copy</comment>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>copy</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>One moment ...</source>
+        <comment>copy</comment>
+        <translation>Einen Moment ...</translation>
+    </message>
+    <message>
+        <source>The picture does not fit.</source>
+        <comment>copy</comment>
+        <translation>Das Bild passt nicht hinein.</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1227,6 +1273,16 @@
         <source>New from picture</source>
         <comment>pick dialog</comment>
         <translation>Neu aus Bild</translation>
+    </message>
+    <message>
+        <source>%1 was saved: %2</source>
+        <comment>saving; %1: a file, %2: &apos;29.6 kB&apos;</comment>
+        <translation>%1 gespeichert: %2</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <comment>size of a file</comment>
+        <translation>%1 kB</translation>
     </message>
 </context>
 <context>

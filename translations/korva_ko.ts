@@ -635,6 +635,19 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorsDialog</name>
+    <message>
+        <source>Plain</source>
+        <comment>few colors</comment>
+        <translation>단색</translation>
+    </message>
+    <message>
+        <source>Dotted</source>
+        <comment>few colors</comment>
+        <translation>점묘</translation>
+    </message>
+</context>
+<context>
     <name>pad::CommandLine</name>
     <message>
         <source>--scale takes a number from 1 to %1, not &apos;%2&apos;</source>
@@ -1044,6 +1057,39 @@
         <comment>menu</comment>
         <translation>이미지로 새로(&amp;F) ...</translation>
     </message>
+    <message>
+        <source>Save for a &amp;message ...</source>
+        <comment>menu</comment>
+        <translation>메시지용 저장(&amp;M) ...</translation>
+    </message>
+    <message>
+        <source>Save in &amp;few colors ...</source>
+        <comment>menu</comment>
+        <translation>적은 색으로 저장(&amp;C) ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::CopyDialog</name>
+    <message>
+        <source>Save</source>
+        <comment>copy</comment>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>copy</comment>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>One moment ...</source>
+        <comment>copy</comment>
+        <translation>잠시만 ...</translation>
+    </message>
+    <message>
+        <source>The picture does not fit.</source>
+        <comment>copy</comment>
+        <translation>그림이 들어가지 않습니다.</translation>
+    </message>
 </context>
 <context>
     <name>pad::Display</name>
@@ -1226,6 +1272,16 @@
         <source>New from picture</source>
         <comment>pick dialog</comment>
         <translation>이미지로 새로 만들기</translation>
+    </message>
+    <message>
+        <source>%1 was saved: %2</source>
+        <comment>saving; %1: a file, %2: &apos;29.6 kB&apos;</comment>
+        <translation>%1 저장됨: %2</translation>
+    </message>
+    <message>
+        <source>%1 kB</source>
+        <comment>size of a file</comment>
+        <translation>%1 kB</translation>
     </message>
 </context>
 <context>

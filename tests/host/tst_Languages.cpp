@@ -1,11 +1,14 @@
+#include "ColorsDialog.h"
 #include "Commands.h"
 #include "Documents.h"
 #include "EarlierDialog.h"
 #include "Language.h"
+#include "MessageDialog.h"
 #include "PadWindow.h"
 #include "Platform.h"
 #include "Theme.h"
 #include "Wording.h"
+#include "support/Images.h"
 #include "support/Languages.h"
 #include "support/Modal.h"
 #include "support/PadProcess.h"
@@ -89,6 +92,11 @@ const QList<BoxRow>& boxes()
          "deleting",
          {name},
          {{"Cancel", "deleting"}, {"Delete", "deleting"}}},
+        {"pad::Documents",
+         "%1 was saved: %2",
+         "saving; %1: a file, %2: '29.6 kB'",
+         {name, words("pad::Documents", "%1 kB", "size of a file", {"299.9"})},
+         {}},
         {"pad::Documents", "Not deleted: %1", "deleting", {"Permission denied"}, {{"OK", "deleting"}}},
         {"pad::Recovery",
          "A drawing of %1 on %2 was not saved.",
@@ -155,6 +163,9 @@ private:
     [[nodiscard]] QMenu* menu() const { return m_window->commands().menu(); }
     /// What `ask` opens can be read whole; it is left by a key or, without one, as by Escape.
     void checkDialog(const std::function<void()>& ask, const QString& key = {}) const;
+    /// The same for a dialog of copies, before and after there is one.
+    template <typename Dialog>
+    void checkCopy(const QImage& drawing, int number) const;
 
     std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<pad::PadWindow> m_window;
@@ -280,6 +291,22 @@ void tst_Languages::checkDialog(const std::function<void()>& ask, const QString&
     QCOMPARE(faults.join("; "), QString());
 }
 
+template <typename Dialog>
+void tst_Languages::checkCopy(const QImage& drawing, int number) const
+{
+    const QSize size = m_window->size();
+    Dialog dialog(m_window.get(), "Title", drawing, number);
+    dialog.show();
+    QCOMPARE(support::unreadable(support::paintedTexts(dialog)).join("; "), QString());
+    const auto description = [&dialog] { return support::labels(dialog).constLast(); };
+    const QString before = description();
+    QTRY_VERIFY_WITH_TIMEOUT(description() != before, 60'000);
+    const QList<support::PaintedText> texts = support::paintedTexts(dialog);
+    QVERIFY(texts.size() >= 7); // title, choices, description, zoom, keys
+    QCOMPARE(support::unreadable(texts).join("; "), QString());
+    QVERIFY(size.expandedTo(dialog.size()) == size);
+}
+
 void tst_Languages::dialogsAreReadable()
 {
     QFETCH(const QString, language);
@@ -300,6 +327,11 @@ void tst_Languages::dialogsAreReadable()
         entries << entry;
     }
     checkDialog([&] { pad::EarlierDialog(m_window.get(), entries).exec(); });
+    checkDialog([&] { choose(QKeySequence("Ctrl+M")); });
+    checkCopy<pad::MessageDialog>(support::sheet(QSize(1352, 1288)), 300);
+    checkCopy<pad::MessageDialog>(QImage(), 300);
+    checkCopy<pad::ColorsDialog>(support::sheet(QSize(1352, 1288)), 2);
+    checkCopy<pad::ColorsDialog>(support::mosaic({352, 288}), 256);
     checkDialog([&] { choose(QKeySequence("Ctrl+N")); });
     checkDialog([&] { choose(QKeySequence("C")); });
 }

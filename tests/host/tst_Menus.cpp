@@ -57,6 +57,7 @@ private slots:
     void cleanup();
     void mainPage();
     void picturePage();
+    void picturePageWithFewColors();
     void editPage();
     void toolPage();
     void viewPage();
@@ -238,14 +239,39 @@ void tst_Menus::picturePage()
 {
     const QString name = m_pad->pictures() + "/flag.png";
     QVERIFY(support::sheet(QSize(200, 170), Qt::yellow).save(name));
-    constexpr int rows = 5;
+    constexpr int rows = 7;
     QVERIFY(start({name}));
     QVERIFY(fromMenu(Picture, 0, rows, box("New from picture")));
     QVERIFY(fromMenu(Picture, 1, rows, box("Insert stamp")));
     QVERIFY(fromMenu(Picture, 2, rows, line("clear")));
     QVERIFY(m_pad->waitForColor({10, 10}, Qt::white));
-    QVERIFY(fromMenu(Picture, 3, rows, box("Earlier drawings")));
-    QVERIFY(fromMenu(Picture, 4, rows, box("Move flag.png to the trash?")));
+    QVERIFY(fromMenu(Picture, 3, rows, box("Save for a message")));
+    QVERIFY(fromMenu(Picture, 5, rows, box("Earlier drawings")));
+    QVERIFY(fromMenu(Picture, 6, rows, box("Move flag.png to the trash?")));
+}
+
+void tst_Menus::picturePageWithFewColors()
+{
+    constexpr int rows = 7;
+    constexpr int fewColors = 4;
+    QVERIFY(start());
+    m_pad->click(menuKey);
+    QVERIFY(waitForPopups(1) && tapRow(Picture, MainRows, "picture") && waitForPopups(2));
+    QVERIFY(tapRow(fewColors, rows, "all colors")); // which can be chosen for a canvas of few only
+    QTest::qWait(300);
+    QCOMPARE(over().size(), 2);
+    m_pad->key("Escape");
+    m_pad->key("Escape");
+    QVERIFY(waitForPopups(0));
+
+    m_pad->key("n", {"Control_L"});
+    QVERIFY(m_pad->waitForBox("Canvas Size:"));
+    m_pad->key("Return");
+    QVERIFY(m_pad->waitForBox("How many colors?"));
+    m_pad->key("Tab");
+    m_pad->key("Return"); // 256 of them
+    QVERIFY(waitForPopups(0));
+    QVERIFY(fromMenu(Picture, fewColors, rows, box("Save in few colors")));
 }
 
 void tst_Menus::editPage()
@@ -325,7 +351,7 @@ void tst_Menus::aDoubleTapChoosesNothing()
     QVERIFY2(m_pad->process().isRunning(), qPrintable(m_pad->process().errors()));
     QVERIFY(over().size() <= 1);                                    // open, or closed again
     QVERIFY(QStringList({"", "korva-pad"}).contains(m_pad->box())); // which a pop-up is called
-    QCOMPARE(lastLine(), QString("manners modern")); // its own first word
+    QCOMPARE(lastLine(), QString("manners modern"));                // its own first word
 }
 
 void tst_Menus::keysWorkAfterEveryDialog()

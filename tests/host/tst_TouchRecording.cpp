@@ -335,7 +335,7 @@ void tst_TouchRecording::whatAFingerDoesIsRemembered()
     for (const auto use :
          {KORVA_Canvas::FingerDraws, KORVA_Canvas::FingerPans, KORVA_Canvas::FingerDraws}) {
         pad::PadWindow window(pad::Platform::install());
-        window.commands().rememberFingers();
+        window.commands().rememberChoices();
         QCOMPARE(window.editor().canvas()->fingerUse(), use);
         for (QAction* action : window.actions()) {
             if (action->text().remove('&').endsWith(QStringLiteral("Finger pans"))) { // after a tick

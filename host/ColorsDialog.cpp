@@ -1,0 +1,26 @@
+#include "ColorsDialog.h"
+
+#include "Palette.h"
+#include "Wording.h"
+
+namespace pad {
+
+ColorsDialog::ColorsDialog(QWidget* parent, const QString& title, const QImage& drawing, int colors)
+    : CopyDialog(parent, title)
+{
+    for (const auto& [mixing, text] : {std::pair(palette::Mixing::None, tr("Plain", "few colors")),
+                                       std::pair(palette::Mixing::Dots, tr("Dotted", "few colors"))}) {
+        addChoice(text, [drawing, colors, how = mixing] {
+            return Copy{palette::applied(drawing, palette::of(drawing, colors), how), {}};
+        });
+    }
+    choose(0);
+}
+
+QString ColorsDialog::description(const Copy& copy) const
+{
+    return wording::inColors(copy.picture.colorCount()) + QLatin1Char('\n') +
+           wording::inPixels(copy.picture.size());
+}
+
+} // namespace pad

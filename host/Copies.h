@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+class KORVA_EditCanvas;
+class QWidget;
+
+namespace pad {
+
+class Documents;
+
+/// Saves copies of the drawing that are less than it is, after showing them. The drawing keeps its name and
+/// its changes. If a copy cannot be saved, the dialog comes back.
+class Copies
+{
+public:
+    /// All arguments outlive this object.
+    Copies(KORVA_EditCanvas& editor, Documents& documents, QWidget* window);
+
+    /// Loads the last choice from the settings, and keeps it there from now on.
+    void remember();
+
+    /// A JPEG of limited length. `title` is the dialog's.
+    void saveForMessage(const QString& title);
+    /// Whether the canvas has few colours.
+    [[nodiscard]] bool hasFewColors() const;
+    /// A PNG or BMP with as few colours as the canvas has, if it has few. A JPEG has no palette, and is not
+    /// offered.
+    void saveInFewColors(const QString& title);
+
+private:
+    KORVA_EditCanvas& m_editor;
+    Documents& m_documents;
+    QWidget* m_window;
+    int m_limit = 0; ///< in kB; 0 before the first choice
+    bool m_isRemembered = false;
+};
+
+} // namespace pad
