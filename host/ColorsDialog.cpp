@@ -10,8 +10,9 @@ ColorsDialog::ColorsDialog(QWidget* parent, const QString& title, const QImage& 
 {
     for (const auto& [mixing, text] : {std::pair(palette::Mixing::None, tr("Plain", "few colors")),
                                        std::pair(palette::Mixing::Dots, tr("Dotted", "few colors"))}) {
-        addChoice(text, [drawing, colors, how = mixing] {
-            return Copy{palette::applied(drawing, palette::of(drawing, colors), how), {}};
+        addChoice(text, [drawing, colors, how = mixing](const IsWanted& isWanted) {
+            return Copy{palette::applied(drawing, palette::of(drawing, colors, isWanted), how, isWanted),
+                        {}};
         });
     }
     choose(0);

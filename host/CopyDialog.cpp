@@ -47,6 +47,9 @@ CopyDialog::CopyDialog(QWidget* parent, const QString& title)
     m_zoomKey->setFixedWidth(zoomWidth);
     m_view->setAccessibleName(title);
     m_description->setWordWrap(true);
+    // A number and a unit have no direction of their own.
+    m_description->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                                Qt::AlignVCenter);
 
     m_choiceRow->setSpacing(Size::spacing);
     auto* facts = new QHBoxLayout;
@@ -74,6 +77,11 @@ CopyDialog::CopyDialog(QWidget* parent, const QString& title)
     connect(&m_watcher, &QFutureWatcher<Copy>::finished, this, [this] { present(m_watcher.result()); });
     showZoom();
     m_view->setFocus();
+}
+
+CopyDialog::~CopyDialog()
+{
+    m_watcher.future().cancel();
 }
 
 void CopyDialog::fit()
@@ -112,11 +120,11 @@ void CopyDialog::make(int choice)
 
     const auto promise = std::make_shared<QPromise<Copy>>();
     promise->start();
-    m_watcher.future().cancel(); // if it has not been begun, it need not be
+    m_watcher.future().cancel();
     m_watcher.setFuture(promise->future());
     QThreadPool::globalInstance()->start([promise, make = m_makers[size_t(choice)]] {
         if (!promise->isCanceled())
-            promise->addResult(make());
+            promise->addResult(make([&promise] { return !promise->isCanceled(); }));
         promise->finish();
     });
 }

@@ -42,10 +42,14 @@ public:
     void choose(int choice);
 
 protected:
-    using Maker = std::function<Copy()>;
+    /// Whether there is still somebody to see the copy; for any thread.
+    using IsWanted = std::function<bool()>;
+    using Maker = std::function<Copy(const IsWanted& isWanted)>;
 
     CopyDialog(QWidget* parent, const QString& title);
-    /// Adds a choice with its key. `make` gives its copy, in another thread.
+    ~CopyDialog() override;
+    /// Adds a choice with its key. `make` gives its copy, in another thread. It may give any as soon as
+    /// none is wanted.
     void addChoice(const QString& text, const Maker& make);
     /// One line about a copy that is not null.
     [[nodiscard]] virtual QString description(const Copy& copy) const = 0;

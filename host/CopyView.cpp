@@ -117,7 +117,7 @@ void CopyView::zoomOn()
     if (m_sheet->picture().isNull())
         return;
     const int before = m_sheet->width();
-    const QPoint middle(contentsX() + viewport()->width() / 2, contentsY() + viewport()->height() / 2);
+    const QPoint middle = viewport()->rect().center() - m_sheet->pos();
     m_zoom = (m_zoom + 1) % sizes().size();
     arrange();
     const double growth = double(m_sheet->width()) / before;

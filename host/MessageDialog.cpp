@@ -19,7 +19,7 @@ MessageDialog::MessageDialog(QWidget* parent, const QString& title, const QImage
     : CopyDialog(parent, title)
 {
     for (const int each : limits) {
-        addChoice(wording::inKilobytes(each), [drawing, each] {
+        addChoice(wording::inKilobytes(each), [drawing, each](const IsWanted&) {
             const QByteArray bytes =
                 KORVA_EditCanvas::encoded(drawing, "JPEG", qsizetype(each) * wording::kilobyte);
             return Copy{QImage::fromData(bytes, "JPEG"), bytes};

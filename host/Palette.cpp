@@ -29,10 +29,17 @@ QImage inTrueColor(const QImage& picture)
     return picture.convertToFormat(QImage::Format_RGB32);
 }
 
-std::vector<Counted> histogram(const QImage& picture)
+bool isGivenUp(const palette::IsWanted& isWanted)
+{
+    return isWanted && !isWanted();
+}
+
+std::vector<Counted> histogram(const QImage& picture, const palette::IsWanted& isWanted)
 {
     QHash<QRgb, qint64> counts;
     for (int y = 0; y < picture.height(); ++y) {
+        if (isGivenUp(isWanted))
+            return {};
         const auto* row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
         for (int x = 0, run = 1; x < picture.width(); x += run, run = 1) {
             while (x + run < picture.width() && row[x + run] == row[x])
@@ -193,11 +200,11 @@ Mix mixed(const Point& color, const Points& palette)
 
 } // namespace
 
-QList<QRgb> palette::of(const QImage& picture, int colors)
+QList<QRgb> palette::of(const QImage& picture, int colors, const IsWanted& isWanted)
 {
     if (colors == 2)
         return {qRgb(0, 0, 0), qRgb(255, 255, 255)};
-    std::vector<Counted> counted = histogram(inTrueColor(picture));
+    std::vector<Counted> counted = histogram(inTrueColor(picture), isWanted);
     QList<QRgb> found;
     if (counted.size() <= size_t(colors)) {
         for (const Counted& each : counted)
@@ -221,7 +228,8 @@ QList<QRgb> palette::of(const QImage& picture, int colors)
     return found;
 }
 
-QImage palette::applied(const QImage& picture, const QList<QRgb>& palette, Mixing mixing)
+QImage palette::applied(const QImage& picture, const QList<QRgb>& palette, Mixing mixing,
+                        const IsWanted& isWanted)
 {
     const QImage source = inTrueColor(picture);
     QImage result(source.size(), QImage::Format_Indexed8);
@@ -230,6 +238,8 @@ QImage palette::applied(const QImage& picture, const QList<QRgb>& palette, Mixin
     const auto find = mixing == Mixing::Dots ? mixed : nearest;
     QHash<QRgb, Mix> mixes;
     for (int y = 0; y < source.height(); ++y) {
+        if (palette.isEmpty() || isGivenUp(isWanted))
+            return {};
         const auto* from = reinterpret_cast<const QRgb*>(source.constScanLine(y));
         uchar* to = result.scanLine(y);
         Mix mix{};

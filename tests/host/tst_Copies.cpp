@@ -14,6 +14,7 @@
 
 #include <KORVA_EditCanvas.h>
 
+#include <atomic>
 #include <cerrno>
 
 using pad::palette::Mixing;
@@ -125,6 +126,7 @@ private slots:
     void limitIsRemembered();
     void outdatedCopyIsDropped();
     void isClosedWhileItIsMade();
+    void whatNobodyWillSeeIsGivenUp();
     void failedSaveComesBack_data();
     void failedSaveComesBack();
     void replacedDrawingIsNotLost();
@@ -325,24 +327,45 @@ void tst_Copies::limitIsRemembered()
 
 void tst_Copies::outdatedCopyIsDropped()
 {
-    open("photo.png");
-    whenOpen([](QDialog& dialog) {
-        QVERIFY(isReady(dialog));
-        click(button(dialog, "30\u00a0kB")); // which takes many attempts
-        QVERIFY(!button(dialog, "Save")->isEnabled());
-        QCOMPARE(labels(dialog).constLast(), "One moment ...");
-        click(button(dialog, "300\u00a0kB")); // which takes one
-        QVERIFY(isReady(dialog));
-        QCOMPARE(shown(dialog).size(), drawingSize);
-        const QStringList said = labels(dialog);
-        QThreadPool::globalInstance()->waitForDone();
-        QTest::qWait(50);
-        QCOMPARE(labels(dialog), said);
-        QCOMPARE(shown(dialog).size(), drawingSize);
-        dialog.reject();
-    });
-    choose("Ctrl+M");
-    QCOMPARE(files(), QStringList("photo.png"));
+    /// Its first choice takes until it is let go.
+    class UnevenDialog : public pad::CopyDialog
+    {
+    public:
+        UnevenDialog(QWidget* parent, QSemaphore& release) : CopyDialog(parent, "Title")
+        {
+            addChoice("slow", [&release](const IsWanted&) {
+                release.acquire();
+                return Copy{support::sheet(QSize(9, 9), Qt::red), {}};
+            });
+            addChoice("quick", [](const IsWanted&) {
+                return Copy{support::sheet(QSize(9, 9), Qt::blue), {}};
+            });
+        }
+
+    protected:
+        [[nodiscard]] QString description(const Copy& copy) const override
+        {
+            return copy.picture.pixelColor(0, 0).name();
+        }
+    };
+    QSemaphore release;
+    QWidget window;
+    window.resize(240, 320);
+    UnevenDialog dialog(&window, release);
+    dialog.show();
+    dialog.choose(0);
+    QTest::qWait(20);
+    QVERIFY(!button(dialog, "Save")->isEnabled());
+    QCOMPARE(labels(dialog).constLast(), "One moment ...");
+    click(button(dialog, "quick"));
+    QVERIFY(isReady(dialog));
+    QCOMPARE(labels(dialog).constLast(), "#0000ff");
+    release.release();
+    QThreadPool::globalInstance()->waitForDone();
+    QTest::qWait(20);
+    QCOMPARE(labels(dialog).constLast(), "#0000ff");
+    QCOMPARE(shown(dialog).pixelColor(0, 0), QColor(Qt::blue));
+    QCOMPARE(dialog.copy().picture.pixelColor(0, 0), QColor(Qt::blue));
 }
 
 void tst_Copies::isClosedWhileItIsMade()
@@ -362,6 +385,43 @@ void tst_Copies::isClosedWhileItIsMade()
     QThreadPool::globalInstance()->waitForDone();
     QTest::qWait(10);
     QCOMPARE(files(), QStringList());
+}
+
+void tst_Copies::whatNobodyWillSeeIsGivenUp()
+{
+    /// Makes for as long as it may.
+    class EndlessDialog : public pad::CopyDialog
+    {
+    public:
+        EndlessDialog(QWidget* parent, std::atomic_int& begun, std::atomic_int& givenUp)
+            : CopyDialog(parent, "Title")
+        {
+            for (const char* name : {"one", "two"})
+                addChoice(name, [&](const IsWanted& isWanted) {
+                    ++begun;
+                    for (int i = 0; i < slow && isWanted(); ++i)
+                        QThread::msleep(1);
+                    ++givenUp;
+                    return Copy();
+                });
+        }
+
+    protected:
+        [[nodiscard]] QString description(const Copy&) const override { return {}; }
+    };
+    std::atomic_int begun = 0;
+    std::atomic_int givenUp = 0;
+    QWidget window;
+    window.resize(240, 320);
+    auto dialog = std::make_unique<EndlessDialog>(&window, begun, givenUp);
+    dialog->show();
+    dialog->choose(0);
+    QTRY_COMPARE(int(begun), 1);
+    click(button(*dialog, "two"));
+    QTRY_COMPARE(int(givenUp), 1);
+    QTRY_COMPARE(int(begun), 2);
+    dialog.reset();
+    QTRY_COMPARE(int(givenUp), 2);
 }
 
 void tst_Copies::failedSaveComesBack_data()
@@ -665,6 +725,8 @@ void tst_Copies::isDragged()
         click(zoomKey(dialog));
         click(zoomKey(dialog));
         auto* view = dialog.findChild<pad::CopyView*>();
+        const QPoint off = view->viewport()->rect().center() - sheetOf(dialog)->geometry().center();
+        QVERIFY(off.manhattanLength() < 50); // the middle stays there, but for the scroll bars
         view->setContentsPos(100, 100);
         QTest::mousePress(sheetOf(dialog), Qt::LeftButton, {}, QPoint(300, 200));
         QMouseEvent move(QEvent::MouseMove, QPointF(), sheetOf(dialog)->mapToGlobal(QPointF(270, 180)),

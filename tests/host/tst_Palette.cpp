@@ -76,11 +76,13 @@ private slots:
     void manyColorsBecomeFew_data();
     void manyColorsBecomeFew();
     void isTheSameEveryTime();
+    void paperStaysWhite_data();
     void paperStaysWhite();
     void everyPixelGetsTheNearest();
     void dotsKeepTheBrightness_data();
     void dotsKeepTheBrightness();
     void dotsAreNearerFromAfar();
+    void isGivenUp();
     void fileHasPaletteAndDepth_data();
     void fileHasPaletteAndDepth();
 };
@@ -141,20 +143,35 @@ void tst_Palette::manyColorsBecomeFew()
 
 void tst_Palette::isTheSameEveryTime()
 {
-    const QImage picture = sunset({120, 96});
-    const QList<QRgb> palette = pad::palette::of(picture, 16);
-    QCOMPARE(pad::palette::of(picture, 16), palette);
-    QCOMPARE(pad::palette::of(picture.convertToFormat(QImage::Format_ARGB32), 16), palette);
+    QImage picture(32, 32, QImage::Format_RGB32); // of colours that are the same in two channels
+    for (int i = 0; i < 32 * 32; ++i)
+        picture.setPixel(i % 32, i / 32, qRgb(i % 7 * 36, i / 7 % 7 * 36, i / 49 * 12));
+    QHashSeed::resetRandomGlobalSeed(); // as in another run
+    const QList<QRgb> palette = pad::palette::of(picture, 19);
+    QHashSeed::setDeterministicGlobalSeed();
+    QCOMPARE(pad::palette::of(picture, 19), palette);
+    QCOMPARE(pad::palette::of(picture.convertToFormat(QImage::Format_ARGB32), 19), palette);
+}
+
+void tst_Palette::paperStaysWhite_data()
+{
+    QTest::addColumn<int>("colors");
+    for (const int colors : {3, 4, 16})
+        QTest::addRow("%d", colors) << colors;
 }
 
 void tst_Palette::paperStaysWhite()
 {
+    QFETCH(const int, colors);
     QImage drawing = support::sheet(QSize(120, 160), Qt::white);
     QPainter(&drawing).drawImage(0, 64, sunset({120, 96}));
-    drawing.setPixelColor(0, 0, QColor(254, 255, 250)); // nearly white
-    const QList<QRgb> palette = pad::palette::of(drawing, 16);
+    for (int x = 0; x < 120; x += 8) { // nearly white
+        for (int y = 0; y < 64; ++y)
+            drawing.setPixel(x, y, qRgb(255 - y / 8, 255, 255 - y % 8));
+    }
+    const QList<QRgb> palette = pad::palette::of(drawing, colors);
     QVERIFY(palette.contains(qRgb(255, 255, 255)));
-    const QRect paper(1, 0, 119, 64);
+    const QRect paper(1, 0, 7, 64); // between two lines
     for (const Mixing mixing : {Mixing::None, Mixing::Dots})
         QVERIFY(support::sameImage(inRgb(pad::palette::applied(drawing, palette, mixing).copy(paper)),
                                    inRgb(drawing.copy(paper))));
@@ -216,6 +233,18 @@ void tst_Palette::dotsAreNearerFromAfar()
     const double plain = error(Mixing::None);
     const double dotted = error(Mixing::Dots);
     QVERIFY2(dotted < plain / 2, qPrintable(QString("%1 instead of %2").arg(dotted).arg(plain)));
+}
+
+void tst_Palette::isGivenUp()
+{
+    const QImage picture = sunset({120, 96});
+    int asked = 0;
+    const auto isWanted = [&asked] { return ++asked < 10; };
+    QCOMPARE(pad::palette::of(picture, 16, isWanted), QList<QRgb>());
+    QCOMPARE(asked, 10);
+    asked = 0;
+    QVERIFY(pad::palette::applied(picture, blackAndWhite, Mixing::None, isWanted).isNull());
+    QCOMPARE(asked, 10);
 }
 
 void tst_Palette::fileHasPaletteAndDepth_data()

@@ -120,6 +120,7 @@ void tst_ScreenReader::everythingHasANameAndARole_data()
     row("keys", {"F1"}, "dialog", "Keys");
     row("color", {"C"}, "dialog", "Color");
     row("canvas size", {"Ctrl+N"}, "dialog", "Canvas Size:");
+    row("message", {"Ctrl+M"}, "dialog", "Save for a message");
     row("open", {"Ctrl+O"}, "dialog", "Open picture");
     row("save", {"Ctrl+S"}, "dialog", "Save picture as");
     row("question", {"Space", "Ctrl+O"}, "alert message", "Save changes to drawing before opening?");
