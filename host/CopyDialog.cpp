@@ -30,7 +30,7 @@ CopyDialog::CopyDialog(QWidget* parent, const QString& title)
     : UTIL_Dialog(FreeDialog, true, parent),
       m_choices(new QButtonGroup(this)),
       m_choiceRow(new QHBoxLayout),
-      m_view(new CopyView(this)),
+      m_view(new CopyView(title, this)),
       m_description(new QLabel(this)),
       m_zoomKey(new UTIL_PushButton(QString(), QString(), this)),
       m_saveKey(new UTIL_PushButton(QString(), tr("Save", "copy"), this))
@@ -45,7 +45,6 @@ CopyDialog::CopyDialog(QWidget* parent, const QString& title)
     cancelKey->setAutoDefault(false);
     m_zoomKey->setAutoDefault(false);
     m_zoomKey->setFixedWidth(zoomWidth);
-    m_view->setAccessibleName(title);
     m_description->setWordWrap(true);
     // A number and a unit have no direction of their own.
     m_description->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |

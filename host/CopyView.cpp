@@ -66,7 +66,7 @@ private:
     QPixmap m_whole;
 };
 
-CopyView::CopyView(QWidget* parent) : KORVA_ScrollView(parent), m_sheet(new Sheet)
+CopyView::CopyView(const QString& name, QWidget* parent) : KORVA_ScrollView(parent), m_sheet(new Sheet)
 {
     QPalette colors = UTIL_Skin::palette();
     colors.setColor(QPalette::WindowText, UTIL_Skin::color(UTIL_Skin::Color::Border));
@@ -75,6 +75,8 @@ CopyView::CopyView(QWidget* parent) : KORVA_ScrollView(parent), m_sheet(new Shee
     setVerticalScrollBar(new UTIL_ScrollBar(Qt::Vertical, this));
     setHorizontalScrollBar(new UTIL_ScrollBar(Qt::Horizontal, this));
     setFocusPolicy(Qt::StrongFocus);
+    for (QWidget* part : {static_cast<QWidget*>(this), viewport(), static_cast<QWidget*>(m_sheet)})
+        part->setAccessibleName(name);
     addChild(m_sheet, 0, 0);
     m_sheet->hide();
 }

@@ -15,7 +15,8 @@ class CopyView : public KORVA_ScrollView
     Q_OBJECT
 
 public:
-    explicit CopyView(QWidget* parent);
+    /// `name` is what a screen reader says.
+    CopyView(const QString& name, QWidget* parent);
 
     /// Shows another picture as large as the one before; null shows none.
     void showPicture(const QImage& picture);
