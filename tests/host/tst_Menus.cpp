@@ -416,7 +416,7 @@ void tst_Menus::optionPopups()
 
 void tst_Menus::zoomList()
 {
-    constexpr const char* zooms[] = {"50", "100", "150", "200", "fit"};
+    constexpr const char* zooms[] = {"50", "100", "150", "200", "400", "800", "fit"};
     QVERIFY(start());
     int row = 0;
     for (const char* zoom : zooms) {
