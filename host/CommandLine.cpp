@@ -193,8 +193,11 @@ QString CommandLine::languageIn(const QStringList& arguments)
     const qsizetype at = arguments.indexOf(option);
     if (at >= 0)
         return arguments.value(at + 1);
-    const QStringList joined = arguments.filter(QRegularExpression(QStringLiteral("^--language=")));
-    return joined.value(0).mid(option.size() + 1);
+    for (const QString& argument : arguments) {
+        if (argument.startsWith(option + QLatin1Char('=')))
+            return argument.mid(option.size() + 1);
+    }
+    return {};
 }
 
 QString CommandLine::helpText()

@@ -6,7 +6,6 @@
 
 #include <QFileInfo>
 #include <QLocale>
-#include <QRegularExpression>
 
 namespace pad {
 
@@ -72,8 +71,11 @@ QString wording::plainNumber(int number)
 
 QString wording::withoutMnemonic(const QString& label)
 {
-    static const QRegularExpression behind(QStringLiteral(" *\\(&\\w\\)"));
-    return QString(label).remove(behind).remove(QLatin1Char('&'));
+    constexpr qsizetype length = 4; // of "(&S)", which some languages put behind the word
+    const qsizetype at = label.indexOf(QLatin1String("(&"));
+    if (at < 0 || label.indexOf(QLatin1Char(')'), at) != at + length - 1)
+        return QString(label).remove(QLatin1Char('&'));
+    return label.left(at).trimmed() + label.mid(at + length);
 }
 
 Failure wording::unknownOption(const QString& option)

@@ -35,10 +35,20 @@ void flushFolder(const QString& folder)
     close(handle);
 }
 
+/// The files whose names fulfil a condition. Qt's own patterns would load a library at every start.
+template <typename Condition>
+QFileInfoList filesOf(const QString& folder, QDir::SortFlags order, const Condition& isMeant)
+{
+    QFileInfoList files = QDir(folder).entryInfoList(QDir::Files, order);
+    files.removeIf([&](const QFileInfo& file) { return !isMeant(file.fileName()); });
+    return files;
+}
+
 QFileInfoList filesIn(const QString& folder, const QString& prefix)
 {
-    return QDir(folder).entryInfoList({prefix + '*' + pictureSuffix}, QDir::Files,
-                                      QDir::Name | QDir::Reversed);
+    return filesOf(folder, QDir::Name | QDir::Reversed, [&](const QString& name) {
+        return name.startsWith(prefix) && name.endsWith(pictureSuffix);
+    });
 }
 
 } // namespace
@@ -153,12 +163,15 @@ void KORVA_JournalFolder::prune(int most, const QString& spared) const
 void KORVA_JournalFolder::removeLeftovers() const
 {
     const QDateTime lately = QDateTime::currentDateTime().addSecs(-leftoverAge);
-    for (const QFileInfo& file : QDir(m_path).entryInfoList({'*' + pictureSuffix + ".*"}, QDir::Files)) {
+    const auto isHalfWritten = [](const QString& name) { return name.contains(pictureSuffix + '.'); };
+    for (const QFileInfo& file : filesOf(m_path, QDir::NoSort, isHalfWritten)) {
         if (file.lastModified() < lately)
             QFile::remove(file.filePath());
     }
-    for (const QFileInfo& file :
-         QDir(m_path).entryInfoList({livingPrefix + '*' + lockSuffix}, QDir::Files)) {
+    const auto isLock = [](const QString& name) {
+        return name.startsWith(livingPrefix) && name.endsWith(lockSuffix);
+    };
+    for (const QFileInfo& file : filesOf(m_path, QDir::NoSort, isLock)) {
         if (QFile::exists(m_path + '/' + file.completeBaseName() + pictureSuffix))
             continue;
         UTIL_FileLock lock(file.filePath());

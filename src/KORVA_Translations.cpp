@@ -50,8 +50,10 @@ QStringList files()
     QStringList all;
     for (const QString& folder : folders()) {
         const QDir dir(folder);
-        for (const QString& name : dir.entryList({prefix + '*' + suffix}, QDir::Files))
-            all.append(dir.absoluteFilePath(name));
+        for (const QString& name : dir.entryList(QDir::Files)) {
+            if (name.startsWith(prefix) && name.endsWith(suffix))
+                all.append(dir.absoluteFilePath(name));
+        }
     }
     return all;
 }
