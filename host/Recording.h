@@ -57,8 +57,8 @@ struct Command
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);
-    QString text =
-        {}; ///< Type: what is typed; Open, Paper, Stamp, Save: a file's name; Manners: their words
+    QString text = {}; ///< Type: what is typed; Open, Paper, Stamp, Save: a file's name; Manners:
+                       ///< their words
 
     bool operator==(const Command& other) const = default;
 };
