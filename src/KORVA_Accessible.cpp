@@ -6,7 +6,6 @@
 #include "KORVA_PasteLabel.h"
 #include "KORVA_ScrollView.h"
 #include "KORVA_Tool.h"
-#include "KORVA_Zoom.h"
 #include "UTIL_Accessible.h"
 #include "UTIL_AccessibleContainer.h"
 #include "UTIL_MessageBox.h"
@@ -182,7 +181,7 @@ QString accessible::description(const KORVA_Canvas& canvas)
     if (const KORVA_Tool* tool = canvas.getCurrentTool(); tool && tool->takesText())
         sentences.append(spoken(QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "A text is open", "screen reader")));
     if (const KORVA_PasteLabel* piece = canvas.pasteLabel(); !piece->isHidden()) {
-        const QPoint at = KORVA_Zoom(canvas.zoom()).toPicture(piece->pos());
+        const QPoint at = canvas.piecePlace();
         const QSize extent = piece->getImage().size();
         sentences.append(
             spoken(QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "A piece of %1 by %2 pixels floats at %3, %4",

@@ -26,6 +26,9 @@ KORVA_BeforeStroke::KORVA_BeforeStroke(KORVA_Canvas& canvas, Place place)
       m_selection(canvas.m_selection),
       m_hasSelection(canvas.m_hasSelection),
       m_origin(canvas.m_origin),
+      m_beforePiece(canvas.m_beforePiece),
+      m_isPieceAlone(canvas.m_isPieceAlone),
+      m_piecePlace(canvas.piecePlace()),
       m_scrolled(scrolled(canvas.scrollView()))
 {
     const KORVA_PasteLabel& label = *canvas.m_pasteLabel;
@@ -72,5 +75,8 @@ void KORVA_BeforeStroke::putPieceBack() const
     label.m_pixmap = m_piece.atRealSize;
     label.display(m_piece.shown);
     label.move(m_piece.place);
+    m_canvas.m_placed = {m_piecePlace, m_piece.place};
+    m_canvas.m_beforePiece = m_beforePiece;
+    m_canvas.m_isPieceAlone = m_isPieceAlone;
     label.show();
 }

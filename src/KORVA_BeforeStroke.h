@@ -9,9 +9,12 @@
 #include <QRect>
 
 #include <functional>
+#include <memory>
+#include <optional>
 
 class KORVA_Canvas;
 class KORVA_Tool;
+struct KORVA_BeforePiece;
 
 /// Everything of a canvas that a stroke changes, as it was before the press, to take the stroke back.
 ///
@@ -58,6 +61,9 @@ private:
     QRect m_selection;
     bool m_hasSelection;
     int m_origin;
+    std::shared_ptr<const KORVA_BeforePiece> m_beforePiece;
+    bool m_isPieceAlone;
+    QPoint m_piecePlace;
     Piece m_piece;
     QPoint m_scrolled; ///< the hand moves the view
 };

@@ -60,6 +60,7 @@ KORVA_Canvas::KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, boo
     connect(m_pasteLabel, &KORVA_PasteLabel::signalCut, this, &KORVA_Canvas::slotCut);
     connect(m_pasteLabel, &KORVA_PasteLabel::signalCopy, this, &KORVA_Canvas::slotCopy);
     connect(m_pasteLabel, &KORVA_PasteLabel::signalPaste, this, &KORVA_Canvas::slotPaste);
+    connect(m_pasteLabel, &KORVA_PasteLabel::signalDelete, this, &KORVA_Canvas::deleteSelection);
     m_pasteLabel->setGeometry(10, 10, 100, 100);
     m_pasteLabel->hide();
 
@@ -166,12 +167,14 @@ bool KORVA_Canvas::isModified() const
 
 void KORVA_Canvas::clearModified()
 {
+    m_isPieceAlone = false;
     m_picture->clearModified();
     m_touch->settle(); // a picture saved with half a stroke in it keeps that
 }
 
 void KORVA_Canvas::markModified()
 {
+    m_isPieceAlone = false;
     m_picture->markModified();
     emit modified();
 }
@@ -199,7 +202,7 @@ void KORVA_Canvas::setPixmap(QPixmap* picture)
 {
     if (!picture)
         return;
-    m_pasteLabel->hide();
+    hidePiece();
     m_picture->settle();
     m_picture->take(*picture);
     offerSoon();
@@ -235,7 +238,7 @@ void KORVA_Canvas::clearCanvas(const QColor& color)
     refresh();
     if (auto* text = qobject_cast<KORVA_Text*>(m_tool.data()))
         text->resetBuffer();
-    m_pasteLabel->hide();
+    hidePiece();
 }
 
 void KORVA_Canvas::setPaper(const QImage& paper)
@@ -280,6 +283,7 @@ void KORVA_Canvas::resizeImage(int w, int h)
     if (QSize(w, h) != pictureSize()) {
         saveOldPix();
         m_picture->scale(QSize(w, h));
+        mergePastePixmap();
         setZoom(zoom());
         emit pixmapChanged(m_picture->pixmap());
         markModified();
@@ -311,10 +315,14 @@ void KORVA_Canvas::setZoom(int percent)
 {
     if (percent < 1)
         return;
-    mergePastePixmap();
+    mergeUnlessSteady();
+    const bool stays = isFloating();
+    const QPoint place = piecePlace();
     m_zoom = KORVA_Zoom(percent);
-    keepZoomWithinLimit(pictureSize());
+    keepZoomWithinLimit(stays ? pictureSize().expandedTo(m_pasteLabel->getImage().size()) : pictureSize());
     m_pasteLabel->setZoom(zoom(), zoom());
+    if (stays)
+        placePiece(place);
     showAnew();
 }
 

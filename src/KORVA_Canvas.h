@@ -13,6 +13,7 @@
 
 class KORVA_EditCanvas;
 class KORVA_KeyboardPen;
+struct KORVA_BeforePiece;
 class KORVA_PasteLabel;
 class KORVA_Picture;
 class KORVA_Repainter;
@@ -154,7 +155,8 @@ public:
     /// See beginStep().
     void endStep();
 
-    /// Sets the zoom in percent; 100 is real size. Merges a floating piece first, which is a modification.
+    /// Sets the zoom in percent; 100 is real size. Merges a floating piece first, which is a modification,
+    /// unless KORVA_Manners::steadyPiece leaves it floating.
     /// Rates below 1 are ignored. Emits sizeChanged() if the size on screen changes.
     ///
     /// Enlarging makes at most 16 megapixels, or twice the screen's area if that is more. If a zoom would
@@ -206,6 +208,19 @@ public:
     /// undo brings back the state just before the next change, not the one before the piece. Emits
     /// selection(false) at the end. Does nothing if nothing floats.
     void mergePastePixmap();
+    /// The same, unless KORVA_Manners::steadyPiece lets it float on.
+    void mergeUnlessSteady();
+    /// Drops the floating piece: what was lifted is back where it was, what was pasted is gone. Picture,
+    /// snapshot, history and modified flag are as before it floated; if the drawing was changed meanwhile,
+    /// that stays, and is a modification. Emits selection(false), canUndo() and canRedo() if they had told
+    /// otherwise, pieceDropped(). Does nothing if nothing floats, or floats since before
+    /// KORVA_Manners::pieceKeys was on.
+    void dropPiece();
+    /// The place of the floating piece's top left, in picture coordinates.
+    [[nodiscard]] QPoint piecePlace() const;
+    /// Moves the floating piece there. It is that very place at any zoom, also where not every pixel is
+    /// shown.
+    void placePiece(QPoint inPicture);
     /// Whether a point (widget coordinates) lies on the floating piece.
     [[nodiscard]] bool ptInPasteLabel(const QPoint& p) const;
 
@@ -223,7 +238,7 @@ public:
     [[nodiscard]] FingerUse fingerUse() const;
 
     /// How the canvas, its piece and its tools behave: see KORVA_EditCanvas::setManners().
-    void setManners(const KORVA_Manners& manners) { m_manners = manners; }
+    void setManners(const KORVA_Manners& manners);
     /// See setManners().
     [[nodiscard]] const KORVA_Manners& manners() const { return m_manners; }
 
@@ -247,6 +262,8 @@ public:
     /// - Return, Enter: press the button; the next one releases it. While a piece floats, they merge it.
     /// - Alt+arrows: make the floating piece wider, narrower, higher or lower.
     /// - `]`, Alt+PageDown: turn the floating piece clockwise; `[`, Alt+PageUp: the other way.
+    /// - Escape drops the floating piece, with KORVA_Manners::pieceKeys. With that, all keys that change a
+    ///   piece work without drawing by keyboard, too.
     ///
     /// While a text is open all keys go to the text, except Escape, which commits it as a press beside it
     /// does. The tools get the events that a mouse would send. A press of the pointer moves the pen there.
@@ -306,8 +323,11 @@ signals:
     /// From markModified(). The editor's listeners hear it before canUndo(true) and canRedo(false),
     /// listeners to the canvas itself after them, because record() is connected first.
     void modified();
-    /// True when a rectangle was lifted; false when it was forgotten and whenever a piece was merged.
+    /// True when a rectangle was lifted; false when it was forgotten and whenever a piece was merged. See
+    /// also KORVA_Manners::offeredPiece.
     void selection(bool exists);
+    /// From dropPiece(): isModified() may be false again.
+    void pieceDropped();
     /// A piece was put on the clipboard. Always true.
     void clipboard(bool filled);
     /// A finger's stroke was taken back: a second finger or a pen came, the menu opens, or the touch was
@@ -377,9 +397,12 @@ private:
         Pasted, ///< from outside: the picture below it is whole
         Lifted, ///< from the picture, which has a hole there
     };
-    void floatPiece(const QPoint& at, const QPixmap& piece, Origin origin);
-    void floatAtOrigin(const QPixmap& piece);
-    [[nodiscard]] QPoint piecePlace() const;
+    using BeforePiece = std::shared_ptr<const KORVA_BeforePiece>;
+    [[nodiscard]] BeforePiece keptDrawing(const QRect& hole = {}) const;
+    void floatPiece(const QPoint& at, const QPixmap& piece, Origin origin, const BeforePiece& before);
+    void floatPasted(const QPixmap& piece, const BeforePiece& before);
+    void hidePiece();
+    [[nodiscard]] QPoint middlePlace() const;
     [[nodiscard]] QPixmap withPiece() const;
     [[nodiscard]] bool isFloating() const;
 
@@ -399,6 +422,14 @@ private:
     bool m_hasSelection = false;
     Origin m_origin = Pasted; ///< of the piece that floats or floated last
     KORVA_PasteLabel* m_pasteLabel;
+    struct Placed
+    {
+        QPoint inPicture;
+        QPoint onScreen;
+    };
+    std::optional<Placed> m_placed; ///< of a piece that was not moved on the screen since
+    BeforePiece m_beforePiece;
+    bool m_isPieceAlone = false; ///< nothing but the piece has changed since then
     QMenu* m_menu;
     QPointer<QAction> m_cutAction;
     QPointer<QAction> m_copyAction;

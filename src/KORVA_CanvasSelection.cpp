@@ -26,8 +26,11 @@ void KORVA_Canvas::setSelection(const QRect& rect)
         lifted.setSize(lifted.size() + QSize(margin, margin));
     const QPixmap piece = m_picture->piece(lifted);
 
+    mergePastePixmap();
+    const BeforePiece before =
+        keptDrawing(m_zoom.toPictureMatrix().mapRect(QRectF(m_selection)).toAlignedRect());
     eraseSelection();
-    floatPiece(m_selection.topLeft(), piece, Lifted);
+    floatPiece(m_selection.topLeft(), piece, Lifted, before);
     updateZoomed();
     emit selection(true);
 }
@@ -54,12 +57,17 @@ void KORVA_Canvas::copy()
 
 void KORVA_Canvas::cut()
 {
-    saveOldPix();
+    const bool hasHole =
+        isFloating() && m_manners.steadyPiece; // the selection's place may be another by now
+    if (isFloating() && m_manners.offeredPiece)
+        m_picture->takeSnapshot(withPiece());
+    else
+        saveOldPix();
     copy();
     QGuiApplication::clipboard()->setPixmap(
         m_pasteLabel->getImage()); // kept: a cut has always announced itself twice
     m_pasteLabel->hide();
-    if (m_origin == Lifted)
+    if (m_origin == Lifted && !hasHole)
         eraseSelection();
     clearSelection();
     markModified();
@@ -80,6 +88,7 @@ void KORVA_Canvas::deleteSelection()
 
 void KORVA_Canvas::paste()
 {
+    const BeforePiece before = isFloating() ? nullptr : keptDrawing();
     saveOldPix();
     if (isFloating()) {
         mergePastePixmap();
@@ -88,7 +97,7 @@ void KORVA_Canvas::paste()
     }
     const QPixmap piece = QGuiApplication::clipboard()->pixmap();
     if (piece.width() != 0)
-        floatAtOrigin(piece);
+        floatPasted(piece, before ? before : keptDrawing());
 }
 
 void KORVA_Canvas::paste(int x, int y)
@@ -105,60 +114,7 @@ void KORVA_Canvas::paste(int x, int y)
 void KORVA_Canvas::insertStamp(QPixmap& stamp)
 {
     mergePastePixmap();
-    floatAtOrigin(stamp);
-}
-
-void KORVA_Canvas::floatAtOrigin(const QPixmap& piece)
-{
-    keepZoomWithinLimit(piece.size());
-    if (m_hasFallenBack)
-        showAnew();
-    m_picture->settle();
-    floatPiece(QPoint(0, 0), piece, Pasted);
-    if (KORVA_ScrollView* view = scrollView())
-        view->setContentsPos(0, 0);
-    markModified();
-    updateZoomed();
-}
-
-void KORVA_Canvas::floatPiece(const QPoint& at, const QPixmap& piece, Origin origin)
-{
-    m_origin = origin;
-    m_pasteLabel->setImage(piece);
-    m_pasteLabel->move(at);
-    m_pasteLabel->show();
-}
-
-bool KORVA_Canvas::isFloating() const
-{
-    return !m_pasteLabel->isHidden();
-}
-
-void KORVA_Canvas::mergePastePixmap()
-{
-    if (!isFloating())
-        return;
-    m_pasteLabel->hide();
-    m_picture->lay(m_pasteLabel->getImage(), piecePlace());
-    saveOldPix();
-    markModified();
-    updateZoomed();
-    emit selection(false);
-}
-
-QPoint KORVA_Canvas::piecePlace() const
-{
-    return m_zoom.toPicture(m_pasteLabel->pos());
-}
-
-QPixmap KORVA_Canvas::withPiece() const
-{
-    return m_picture->with(isFloating() ? m_pasteLabel->getImage() : QPixmap(), piecePlace());
-}
-
-bool KORVA_Canvas::ptInPasteLabel(const QPoint& p) const
-{
-    return isFloating() && m_pasteLabel->geometry().contains(p);
+    floatPasted(stamp, keptDrawing());
 }
 
 // --- The menu

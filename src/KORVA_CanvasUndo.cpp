@@ -13,6 +13,7 @@
 
 void KORVA_Canvas::saveOldPix()
 {
+    m_isPieceAlone = false;
     m_picture->takeSnapshot();
 }
 
@@ -81,6 +82,7 @@ void KORVA_Canvas::setUndoSteps(int steps, qint64 mostBytes)
 {
     m_touch->settle();
     const bool hadHistory = hasHistory();
+    m_isPieceAlone = false;
     m_picture->setUndoSteps(steps, mostBytes);
     if (hadHistory || hasHistory())
         offer();
@@ -93,6 +95,7 @@ int KORVA_Canvas::undoSteps() const
 
 void KORVA_Canvas::beginStep()
 {
+    m_isPieceAlone = false;
     m_picture->beginStep();
 }
 

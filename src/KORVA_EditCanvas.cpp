@@ -110,7 +110,7 @@ void KORVA_EditCanvas::resizeEvent(QResizeEvent* event)
     arrange();
     // Another zoom would merge a floating piece, and a text being typed would lose its place.
     const KORVA_Tool* tool = canvas()->getCurrentTool();
-    if (canvas()->pasteLabel()->isHidden() && !(tool && tool->takesText()))
+    if ((canvas()->pasteLabel()->isHidden() || manners().steadyPiece) && !(tool && tool->takesText()))
         m_zoomChoice->fitAgain();
 }
 

@@ -50,6 +50,7 @@ struct KORVA_KeyboardPen::Key
     void (Pen::*act)(QPoint way);
     QPoint way = {};
     KORVA_Canvas::PenKey use = KORVA_Canvas::AsPointer;
+    bool isModern = false; ///< only with KORVA_Manners::pieceKeys
 
     static const Key table[];
 };
@@ -78,6 +79,7 @@ const KORVA_KeyboardPen::Key KORVA_KeyboardPen::Key::table[] = {
     {Qt::Key_PageUp, Qt::AltModifier, {}, Floating, &Pen::turnPiece, {-1, 0}, OnPiece},
     {Qt::Key_Return, {}, {}, Floating, &Pen::mergePiece, {}, OnPiece},
     {Qt::Key_Enter, {}, {}, Floating, &Pen::mergePiece, {}, OnPiece},
+    {Qt::Key_Escape, {}, {}, Floating, &Pen::dropPiece, {}, OnPiece, true},
 };
 
 KORVA_KeyboardPen::KORVA_KeyboardPen(KORVA_Canvas& canvas)
@@ -113,11 +115,13 @@ const KORVA_KeyboardPen::Key* KORVA_KeyboardPen::keyOf(const QKeyEvent& event) c
                                : m_canvas.pasteLabel()->isHidden() ? Free
                                                                    : Floating;
     const Qt::KeyboardModifiers held = event.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier);
+    const bool isModern = m_canvas.manners().pieceKeys;
     const Key* found = std::ranges::find_if(Key::table, [&](const Key& key) {
         return key.key == event.key() && (key.situations & situation) &&
-               (held & ~key.allowed) == key.needed;
+               (held & ~key.allowed) == key.needed && (isModern || !key.isModern) &&
+               (m_isEnabled || (isModern && key.use == Key::OnPiece));
     });
-    return m_isEnabled && found != std::end(Key::table) ? found : nullptr;
+    return found != std::end(Key::table) ? found : nullptr;
 }
 
 KORVA_Canvas::PenKey KORVA_KeyboardPen::use(const QKeyEvent& press) const
@@ -276,6 +280,11 @@ void KORVA_KeyboardPen::turnPiece(QPoint way)
 void KORVA_KeyboardPen::mergePiece(QPoint)
 {
     m_canvas.mergePastePixmap();
+}
+
+void KORVA_KeyboardPen::dropPiece(QPoint)
+{
+    m_canvas.dropPiece();
 }
 
 // --- The button

@@ -65,6 +65,7 @@ private:
     void stretchPiece(QPoint way);
     void turnPiece(QPoint way);
     void mergePiece(QPoint);
+    void dropPiece(QPoint);
 
     void lower(State state);
     void lift();

@@ -11,9 +11,12 @@ struct Row
 };
 
 constexpr Row rows[] = {
-    {"joined-eraser", &KORVA_Manners::joinedEraser}, {"own-sizes", &KORVA_Manners::ownSizes},
-    {"true-zooms", &KORVA_Manners::trueZooms},       {"pixel-grid", &KORVA_Manners::pixelGrid},
-    {"wheel-zooms", &KORVA_Manners::wheelZooms},     {"magnifier", &KORVA_Manners::magnifier},
+    {"joined-eraser", &KORVA_Manners::joinedEraser},   {"own-sizes", &KORVA_Manners::ownSizes},
+    {"true-zooms", &KORVA_Manners::trueZooms},         {"pixel-grid", &KORVA_Manners::pixelGrid},
+    {"wheel-zooms", &KORVA_Manners::wheelZooms},       {"magnifier", &KORVA_Manners::magnifier},
+    {"steady-piece", &KORVA_Manners::steadyPiece},     {"offered-piece", &KORVA_Manners::offeredPiece},
+    {"piece-handles", &KORVA_Manners::pieceHandles},   {"piece-keys", &KORVA_Manners::pieceKeys},
+    {"centered-piece", &KORVA_Manners::centeredPiece}, {"clear-white", &KORVA_Manners::clearWhite},
 };
 
 } // namespace

@@ -26,6 +26,24 @@ struct KORVA_EXPORT KORVA_Manners
     bool wheelZooms = false;
     /// While a finger draws, the spot under it is shown beside it, three times as large.
     bool magnifier = false;
+    /// A zoom leaves a floating piece floating at its place in the picture, and every change acts on its
+    /// pixels at real size, so that none is lost at a small zoom. Classic: a zoom merges it, and each
+    /// release takes over the pixels shown.
+    bool steadyPiece = false;
+    /// Cut, copy and delete are offered while any piece floats: selection(true) follows a paste and a
+    /// stamp, and selection(false) whatever ends them. Undo brings a piece that was cut back, merged where
+    /// it lay. Classic: only for what was lifted.
+    bool offeredPiece = false;
+    /// A floating piece has handles with pictures, inside it and none on a small one, and its menu has rows
+    /// to turn, flip, scale and delete it. Classic: black squares, and Copy, Cut, Paste.
+    bool pieceHandles = false;
+    /// Escape drops a floating piece: see KORVA_Canvas::dropPiece(). The keys that change a piece work
+    /// without drawing by keyboard, too: see KORVA_Canvas::setKeyboardDrawing().
+    bool pieceKeys = false;
+    /// A pasted piece and a stamp come in the middle of what is seen. Classic: at (0, 0), with a scroll.
+    bool centeredPiece = false;
+    /// The piece's menu offers to make its white transparent: see KORVA_PasteLabel::setWhiteClear().
+    bool clearWhite = false;
 
     /// All switches on.
     [[nodiscard]] static KORVA_Manners modern();

@@ -2,6 +2,7 @@
 
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Limit.h"
+#include "KORVA_PieceHandles.h"
 #include "KORVA_Pixel.h"
 #include "UTIL_ImageReader.h"
 #include "UTIL_Platform.h"
@@ -64,6 +65,7 @@ void KORVA_PasteLabel::setImage(const QPixmap& pixmap)
 {
     m_pixmap = pixmap;
     m_pixmap.setDevicePixelRatio(1);
+    setWhiteClear(false);
     m_unseenZoom = QSize(m_zoom, m_zoom);
     catchUp();
 }
@@ -93,14 +95,12 @@ void KORVA_PasteLabel::setVisible(bool visible)
 
 void KORVA_PasteLabel::setResizeZoom(int horizontal, int vertical)
 {
-    catchUp();
-    display(m_zoomPixmap.transformed(QTransform::fromScale(horizontal / 100.0, vertical / 100.0)));
+    apply(QTransform::fromScale(horizontal / 100.0, vertical / 100.0));
 }
 
 void KORVA_PasteLabel::rotate(int degrees)
 {
-    catchUp();
-    display(m_zoomPixmap.transformed(QTransform().rotate(degrees)));
+    apply(QTransform().rotate(degrees));
 }
 
 void KORVA_PasteLabel::moveBy(QPoint way)
@@ -162,6 +162,10 @@ void KORVA_PasteLabel::mousePressEvent(QMouseEvent* event)
     if (rect().contains(event->position().toPoint()) && !rect().contains(p)) {
         event->ignore(); // rounded, and really beside the piece: this press is the canvas's
     } else if (event->button() == Qt::LeftButton) {
+        if (m_manners.pieceHandles) { // the piece may have changed below the pointer
+            hover(p);
+            update();
+        }
         m_pressed = true;
         m_pressPos = m_lastPos = p;
     } else if (event->button() == Qt::RightButton) {
@@ -185,6 +189,8 @@ void KORVA_PasteLabel::mouseReleaseEvent(QMouseEvent* event)
         return;
     m_pressed = false;
     setCursor(Qt::CrossCursor);
+    if (m_manners.pieceHandles)
+        update();
 
     if (m_zone == TopRight)
         rotate(pixel::under(*event, *this).y() > m_pressPos.y() ? 90 : -90);
@@ -199,6 +205,13 @@ KORVA_PasteLabel::Zone KORVA_PasteLabel::zoneAt(QPoint p) const
 {
     if (p.x() < 0 || p.x() > width() || p.y() < 0 || p.y() > height())
         return Outside;
+    if (m_manners.pieceHandles) {
+        static constexpr Zone zones[3][3] = {{TopLeft, TopEdge, TopRight},
+                                             {LeftEdge, Inside, RightEdge},
+                                             {BottomLeft, BottomEdge, BottomRight}};
+        const QPoint cell = handles().cellAt(p);
+        return zones[cell.y()][cell.x()];
+    }
 
     // Strict on both sides: a point exactly one handle away from an edge moves the item.
     const bool left = p.x() < handleSize;
@@ -234,10 +247,17 @@ std::optional<QPoint> KORVA_PasteLabel::gripFor(QPoint finger, int reach) const
             return 0;
         return p >= size - inwards ? std::optional(size - 1) : std::nullopt;
     };
-    const std::optional<int> x = handle(finger.x(), width());
-    const std::optional<int> y = handle(finger.y(), height());
+    if (m_manners.pieceHandles && handles().side() == 0)
+        return rect().center();
+    const QRect box = m_manners.pieceHandles ? handles().box() : rect();
+    std::optional<int> x = handle(finger.x() - box.x(), box.width());
+    std::optional<int> y = handle(finger.y() - box.y(), box.height());
+    if (x)
+        *x += box.x();
+    if (y)
+        *y += box.y();
     if (x || y)
-        return QPoint(x.value_or(width() / 2), y.value_or(height() / 2));
+        return QPoint(x.value_or(box.x() + box.width() / 2), y.value_or(box.y() + box.height() / 2));
     for (const QPoint& p : {finger, QPoint(handleSize, height() / 2), QPoint(width() / 2, handleSize)}) {
         if (zoneAt(p) == Inside)
             return p;
@@ -253,7 +273,12 @@ void KORVA_PasteLabel::hover(QPoint p)
         Qt::SizeBDiagCursor, Qt::SizeFDiagCursor,    Qt::UpArrowCursor,
     };
     m_zone = zoneAt(p);
-    setCursor(cursors[m_zone]);
+    if (m_manners.pieceHandles && m_zone == TopRight)
+        setCursor(KORVA_PieceHandles::turnCursor());
+    else if (m_manners.pieceHandles && m_zone == Inside)
+        setCursor(Qt::SizeAllCursor);
+    else
+        setCursor(cursors[m_zone]);
 }
 
 void KORVA_PasteLabel::dragTo(QPoint p)
@@ -306,20 +331,31 @@ void KORVA_PasteLabel::display(const QPixmap& zoomed)
 
 void KORVA_PasteLabel::foldBack()
 {
-    m_pixmap = m_zoomPixmap.transformed(QTransform::fromScale(100.0 / m_zoom, 100.0 / m_zoom));
+    if (!m_manners.steadyPiece)
+        m_pixmap = m_zoomPixmap.transformed(QTransform::fromScale(100.0 / m_zoom, 100.0 / m_zoom));
 }
 
 void KORVA_PasteLabel::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
+    paintFrame(event->rect());
+    if (m_manners.pieceHandles && !m_pressed) {
+        QPainter painter(this);
+        handles().paint(painter);
+    }
+}
 
+void KORVA_PasteLabel::paintFrame(const QRect& exposed)
+{
     KORVA_ClassicPainter painter(this);
-    painter.drawPixmap(0, 0, m_zoomPixmap, event->rect());
+    painter.drawPixmap(0, 0, shown(), exposed);
 
     painter.setRasterOp(KORVA_ClassicPainter::NotROP);
     painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
     painter.drawRect(0, 0, width(), height());
 
+    if (m_manners.pieceHandles)
+        return;
     painter.setRasterOp(KORVA_ClassicPainter::CopyROP);
     const int right = width() - handleSize;
     const int bottom = height() - handleSize;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KORVA_Export.h"
+#include "KORVA_Manners.h"
 
 #include <QLabel>
 #include <QPixmap>
@@ -10,6 +11,7 @@
 #include <optional>
 
 class QAction;
+class KORVA_PieceHandles;
 class QMenu;
 
 /// The floating piece: a picture that floats over the canvas until it is merged. The pointer moves it by
@@ -18,6 +20,8 @@ class QMenu;
 /// The canvas creates, fills, shows and hides it, and reads the result with getImage(). Its position and
 /// size are in widget coordinates of the canvas. Nothing here touches the undo snapshot or the modified
 /// flag.
+///
+/// KORVA_Manners::steadyPiece, pieceHandles and clearWhite change how it behaves; the canvas hands them on.
 class KORVA_EXPORT KORVA_PasteLabel : public QLabel
 {
     Q_OBJECT
@@ -52,6 +56,29 @@ public:
     void stretchBy(QPoint way);
     /// Turns the item as a drag of its top right corner does: downward by a quarter clockwise.
     void turn(bool clockwise);
+
+    /// What the menu changes with KORVA_Manners::pieceHandles; the last one with KORVA_Manners::clearWhite.
+    enum Change {
+        TurnLeft,
+        TurnRight,
+        Flip, ///< left and right
+        Double,
+        Halve,
+        ClearWhite, ///< switches setWhiteClear()
+    };
+    /// Changes the pixels at real size; the top left stays. Nothing happens while the item is hidden or the
+    /// pointer drags, and if it would become too large, as a stretch, or vanish.
+    void change(Change what);
+    /// Whether white pixels are transparent, here and in the picture when the piece is merged; not in
+    /// getImage(). Off for each picture that is set.
+    void setWhiteClear(bool clear);
+    /// See setWhiteClear().
+    [[nodiscard]] bool isWhiteClear() const { return m_isWhiteClear; }
+    /// What a merge lays into the picture: getImage(), without its white if that is clear.
+    [[nodiscard]] QPixmap imprint() const;
+
+    /// How the item behaves: see KORVA_EditCanvas::setManners(). Adds rows to the menu, or removes them.
+    void setManners(const KORVA_Manners& manners);
     /// Enables or disables the menu's Paste; disabled at first.
     void setPasteItem(bool enabled);
     /// The menu of the right button. Its actions Copy, Cut and Paste have the QAction::data() 0, 1 and 2. A
@@ -74,6 +101,8 @@ public:
     /// Moves the item while its inside is dragged; its top left stays within the parent's right and lower
     /// edges. Without a button, finds the zone under the pointer.
     void mouseMoveEvent(QMouseEvent* event) override;
+    /// Hides the item, also in the middle of a drag.
+    void drop();
     /// An item that is shown now applies the setZoom() that came while it was hidden.
     void setVisible(bool visible) override;
 
@@ -84,6 +113,10 @@ signals:
     void signalCopy();
     /// Paste was chosen in the menu.
     void signalPaste();
+    /// Delete was chosen in the menu, which has it with KORVA_Manners::pieceHandles.
+    void signalDelete();
+    /// Another row of the menu was chosen, and is done. For a host that records what is done.
+    void changeChosen(KORVA_PasteLabel::Change what);
 
 public slots:
     /// Emits signalCut().
@@ -125,6 +158,14 @@ private:
     void catchUp();
     void display(const QPixmap& zoomed);
     void foldBack();
+    void apply(const QTransform& how);
+    void adopt(const QPixmap& changed);
+    [[nodiscard]] QPixmap shown();
+    void paintFrame(const QRect& exposed);
+    void addRows();
+    void chooseChange(Change what);
+    void tickWhite();
+    [[nodiscard]] KORVA_PieceHandles handles() const;
 
     QPixmap m_pixmap;     ///< at real size
     QPixmap m_zoomPixmap; ///< as shown
@@ -136,4 +177,10 @@ private:
     QSize m_unseenZoom; ///< percentages of a setZoom() that came while the item was hidden; else invalid
     QMenu* m_menu;
     QPointer<QAction> m_pasteAction;
+    KORVA_Manners m_manners;
+    QList<QPointer<QAction>> m_rows; ///< of the modern menu
+    QPointer<QAction> m_whiteAction;
+    bool m_isWhiteClear = false;
+    QPixmap m_clearShown; ///< as shown, without white
+    qint64 m_clearOf = 0; ///< the picture of which
 };

@@ -36,6 +36,15 @@ public:
     /// From now on the stroke that is under way cannot be taken back.
     void settle();
 
+    /// What the host was last asked to offer.
+    struct Offers
+    {
+        bool undo = false;
+        bool redo = false;
+        bool selection = false;
+    };
+    [[nodiscard]] const Offers& offers() const { return m_offers; }
+
     void setFingerUse(KORVA_Canvas::FingerUse use) { m_use = use; }
     [[nodiscard]] KORVA_Canvas::FingerUse fingerUse() const { return m_use; }
 
@@ -86,13 +95,6 @@ private:
         Draw,
         Tap, ///< all of it when the finger is lifted, so that open text is not committed before
         Pan,
-    };
-    /// What the host was last asked to offer.
-    struct Offers
-    {
-        bool undo = false;
-        bool redo = false;
-        bool selection = false;
     };
 
     void enter(Input input);

@@ -90,7 +90,7 @@ int KORVA_ZoomChoice::shown() const
 
 int KORVA_ZoomChoice::rate(int row)
 {
-    m_editor.canvas()->mergePastePixmap();
+    m_editor.canvas()->mergeUnlessSteady();
     if (isFitToPage(row))
         return fittingRate();
     return row >= 0 && row < m_rows.size() && isMeant(row) ? m_rows[row] : realSize;
@@ -144,7 +144,8 @@ void KORVA_ZoomChoice::stepTowards(double percent)
 
 int KORVA_ZoomChoice::fittingRate()
 {
-    const QSize picture = m_editor.canvas()->pixmap()->size();
+    m_editor.canvas()->mergeUnlessSteady();
+    const QSize picture = m_editor.canvas()->pictureSize();
     if (picture.isEmpty())
         return realSize;
     const QSize page = layout::mainViewIn(m_editor.size(), m_editor.features().controls).size() - viewFrame;

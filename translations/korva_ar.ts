@@ -453,6 +453,41 @@
         <comment>menu of the piece</comment>
         <translation>قطعة عائمة</translation>
     </message>
+    <message>
+        <source>Turn left</source>
+        <comment>menu of the piece</comment>
+        <translation>تدوير لليسار</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <comment>menu of the piece</comment>
+        <translation>تدوير لليمين</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <comment>menu of the piece: left and right change places</comment>
+        <translation>قلب</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <comment>menu of the piece: twice as wide and high</comment>
+        <translation>مضاعفة</translation>
+    </message>
+    <message>
+        <source>Halve</source>
+        <comment>menu of the piece: half as wide and high</comment>
+        <translation>تنصيف</translation>
+    </message>
+    <message>
+        <source>White is clear</source>
+        <comment>menu of the piece: a switch</comment>
+        <translation>الأبيض شفاف</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>menu of the piece</comment>
+        <translation>حذف</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_Preview_Dialog</name>
@@ -1031,6 +1066,11 @@
         <source>Turn piece</source>
         <comment>keys</comment>
         <translation>تدوير القطعة</translation>
+    </message>
+    <message>
+        <source>Drop piece</source>
+        <comment>keys</comment>
+        <translation>إسقاط القطعة</translation>
     </message>
     <message>
         <source>End text</source>

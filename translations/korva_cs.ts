@@ -453,6 +453,41 @@
         <comment>menu of the piece</comment>
         <translation>Plovoucí výřez</translation>
     </message>
+    <message>
+        <source>Turn left</source>
+        <comment>menu of the piece</comment>
+        <translation>Otočit vlevo</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <comment>menu of the piece</comment>
+        <translation>Otočit vpravo</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <comment>menu of the piece: left and right change places</comment>
+        <translation>Převrátit</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <comment>menu of the piece: twice as wide and high</comment>
+        <translation>Zdvojnásobit</translation>
+    </message>
+    <message>
+        <source>Halve</source>
+        <comment>menu of the piece: half as wide and high</comment>
+        <translation>Zmenšit na půl</translation>
+    </message>
+    <message>
+        <source>White is clear</source>
+        <comment>menu of the piece: a switch</comment>
+        <translation>Bílá průhledná</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>menu of the piece</comment>
+        <translation>Smazat</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_Preview_Dialog</name>
@@ -1031,6 +1066,11 @@
         <source>Turn piece</source>
         <comment>keys</comment>
         <translation>Otočit výřez</translation>
+    </message>
+    <message>
+        <source>Drop piece</source>
+        <comment>keys</comment>
+        <translation>Zahodit výřez</translation>
     </message>
     <message>
         <source>End text</source>

@@ -453,6 +453,41 @@
         <comment>menu of the piece</comment>
         <translation>Svævende stykke</translation>
     </message>
+    <message>
+        <source>Turn left</source>
+        <comment>menu of the piece</comment>
+        <translation>Drej til venstre</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <comment>menu of the piece</comment>
+        <translation>Drej til højre</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <comment>menu of the piece: left and right change places</comment>
+        <translation>Spejlvend</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <comment>menu of the piece: twice as wide and high</comment>
+        <translation>Fordobl</translation>
+    </message>
+    <message>
+        <source>Halve</source>
+        <comment>menu of the piece: half as wide and high</comment>
+        <translation>Halvér</translation>
+    </message>
+    <message>
+        <source>White is clear</source>
+        <comment>menu of the piece: a switch</comment>
+        <translation>Hvidt er klart</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>menu of the piece</comment>
+        <translation>Slet</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_Preview_Dialog</name>
@@ -1031,6 +1066,11 @@
         <source>Turn piece</source>
         <comment>keys</comment>
         <translation>Drej stykke</translation>
+    </message>
+    <message>
+        <source>Drop piece</source>
+        <comment>keys</comment>
+        <translation>Kassér stykke</translation>
     </message>
     <message>
         <source>End text</source>

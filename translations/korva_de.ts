@@ -453,6 +453,41 @@
         <comment>menu of the piece</comment>
         <translation>Schwebendes Stück</translation>
     </message>
+    <message>
+        <source>Turn left</source>
+        <comment>menu of the piece</comment>
+        <translation>Links drehen</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <comment>menu of the piece</comment>
+        <translation>Rechts drehen</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <comment>menu of the piece: left and right change places</comment>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <comment>menu of the piece: twice as wide and high</comment>
+        <translation>Verdoppeln</translation>
+    </message>
+    <message>
+        <source>Halve</source>
+        <comment>menu of the piece: half as wide and high</comment>
+        <translation>Halbieren</translation>
+    </message>
+    <message>
+        <source>White is clear</source>
+        <comment>menu of the piece: a switch</comment>
+        <translation>Weiß ist klar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>menu of the piece</comment>
+        <translation>Löschen</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_Preview_Dialog</name>
@@ -1036,6 +1071,11 @@
         <source>Turn piece</source>
         <comment>keys</comment>
         <translation>Teil drehen</translation>
+    </message>
+    <message>
+        <source>Drop piece</source>
+        <comment>keys</comment>
+        <translation>Teil verwerfen</translation>
     </message>
     <message>
         <source>End text</source>

@@ -453,6 +453,41 @@
         <comment>menu of the piece</comment>
         <translation>Αιωρούμενο τμήμα</translation>
     </message>
+    <message>
+        <source>Turn left</source>
+        <comment>menu of the piece</comment>
+        <translation>Στροφή αριστερά</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <comment>menu of the piece</comment>
+        <translation>Στροφή δεξιά</translation>
+    </message>
+    <message>
+        <source>Flip</source>
+        <comment>menu of the piece: left and right change places</comment>
+        <translation>Αναστροφή</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <comment>menu of the piece: twice as wide and high</comment>
+        <translation>Διπλασιασμός</translation>
+    </message>
+    <message>
+        <source>Halve</source>
+        <comment>menu of the piece: half as wide and high</comment>
+        <translation>Υποδιπλασιασμός</translation>
+    </message>
+    <message>
+        <source>White is clear</source>
+        <comment>menu of the piece: a switch</comment>
+        <translation>Διάφανο λευκό</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>menu of the piece</comment>
+        <translation>Διαγραφή</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_Preview_Dialog</name>
@@ -1031,6 +1066,11 @@
         <source>Turn piece</source>
         <comment>keys</comment>
         <translation>Στροφή τμήματος</translation>
+    </message>
+    <message>
+        <source>Drop piece</source>
+        <comment>keys</comment>
+        <translation>Απόρριψη τμήματος</translation>
     </message>
     <message>
         <source>End text</source>
