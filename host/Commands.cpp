@@ -345,6 +345,7 @@ void Commands::showKeys()
                  {enter, tr("Put piece down", "keys")},
                  {tr("Alt+arrows", "keys"), tr("Stretch piece", "keys")},
                  {QStringLiteral("[   ]"), tr("Turn piece", "keys")},
+                 {escape, tr("Drop piece", "keys")},
                  {escape, tr("End text", "keys")}});
     KeysDialog(m_window, rows).exec();
 }

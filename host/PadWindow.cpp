@@ -49,8 +49,9 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     connect(m_commands, &Commands::contextActionChanged, this, &PadWindow::updateContextKey);
     connect(m_documents, &Documents::changed, this, &PadWindow::updateTitle);
     connect(m_editor, &KORVA_EditCanvas::modified, this, [this] { setWindowModified(true); });
-    connect(m_editor, &KORVA_EditCanvas::strokeTakenBack, this,
-            [this] { setWindowModified(m_editor->isModified()); });
+    const auto showModified = [this] { setWindowModified(m_editor->isModified()); };
+    connect(m_editor, &KORVA_EditCanvas::strokeTakenBack, this, showModified);
+    connect(m_editor->canvas(), &KORVA_Canvas::pieceDropped, this, showModified);
     updateContextKey();
     updateTitle();
 }

@@ -6,6 +6,7 @@
 
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
+#include <KORVA_PasteLabel.h>
 
 #include <QApplication>
 #include <QEventLoop>
@@ -118,6 +119,11 @@ void Player::perform(const Command& command)
         {Verb::Release, [](Player& p, const Command& c) { p.m_pointer.release(c.point, c.button); }},
         {Verb::Type, [](Player& p, const Command& c) { p.type(c.text); }},
         {Verb::Key, [](Player& p, const Command& c) { p.pressKey(c.key, textOf(c.key)); }},
+        {Verb::Piece,
+         [](Player& p, const Command& c) {
+             p.m_editor.canvas()->pasteLabel()->change(KORVA_PasteLabel::Change(c.number));
+         }},
+        {Verb::Place, [](Player& p, const Command& c) { p.m_editor.canvas()->placePiece(c.point); }},
         {Verb::Canvas, [](Player& p, const Command& c) { p.canvas(c.number, c.size); }},
         {Verb::Open, [](Player& p, const Command& c) { p.open(c.text); }},
         {Verb::Paper, [](Player& p, const Command& c) { p.paper(c.text); }},

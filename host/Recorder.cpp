@@ -58,7 +58,11 @@ void Recorder::watchMenus()
         }
     };
     watch(m_editor.canvas()->contextMenu(), {Verb::Cut, Verb::Copy, Verb::Paste});
-    watch(m_editor.canvas()->pasteLabel()->menu(), {Verb::Copy, Verb::Cut, Verb::Paste});
+    const KORVA_PasteLabel* piece = m_editor.canvas()->pasteLabel();
+    watch(piece->menu(), {Verb::Copy, Verb::Cut, Verb::Paste});
+    connect(piece, &KORVA_PasteLabel::signalDelete, this, [this] { write({.verb = Verb::Delete}); });
+    connect(piece, &KORVA_PasteLabel::changeChosen, this,
+            [this](KORVA_PasteLabel::Change what) { write({.verb = Verb::Piece, .number = what}); });
 }
 
 bool Recorder::eventFilter(QObject* watched, QEvent* event)
@@ -139,6 +143,16 @@ void Recorder::writeKey(const QKeyEvent& event)
 }
 
 void Recorder::write(const Command& command)
+{
+    keep(command);
+    // Where the view's middle is depends on the window, which another may play in.
+    const KORVA_Canvas& canvas = *m_editor.canvas();
+    const bool comes = command.verb == Verb::Paste || command.verb == Verb::Stamp;
+    if (comes && canvas.manners().centeredPiece && !canvas.pasteLabel()->isHidden())
+        keep({.verb = Verb::Place, .point = canvas.piecePlace()});
+}
+
+void Recorder::keep(const Command& command)
 {
     if (m_isHolding)
         m_held.push_back({command, false});

@@ -46,6 +46,7 @@ private:
     void writeMouse(const QWidget& receiver, const QMouseEvent& event);
     void dropStroke();
     void writeHeld();
+    void keep(const Command& command);
     void writeLine(const Command& command);
     void writeKey(const QKeyEvent& event);
     void watchMenus();

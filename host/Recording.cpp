@@ -205,6 +205,7 @@ constexpr Argument zoom{QT_TRANSLATE_NOOP3("pad::Recording", "a zoom", "recordin
 constexpr Argument canvasType{
     QT_TRANSLATE_NOOP3("pad::Recording", "a canvas type", "recording; what a command needs"),
     readName<canvasNames>, writeName<canvasNames>};
+constexpr Argument change{{"WORD", nullptr}, readName<pieceNames>, writeName<pieceNames>};
 constexpr Argument color{
     QT_TRANSLATE_NOOP3("pad::Recording", "a colour #rrggbb", "recording; what a command needs"), readColor,
     [](const Command& c) { return c.color.name(); }};
@@ -245,6 +246,8 @@ constexpr Rule grammar[] = {
     {"selectall", Verb::SelectAll},
     {"clear", Verb::Clear},
     {"delete", Verb::Delete},
+    {"piece", Verb::Piece, {&change}},
+    {"place", Verb::Place, {&x, &y}},
     {"canvas", Verb::Canvas, {&canvasType, &width, &height}},
     {"open", Verb::Open, {&fileName}},
     {"paper", Verb::Paper, {&fileName}},

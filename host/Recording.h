@@ -34,6 +34,8 @@ enum class Verb {
     SelectAll,
     Clear,
     Delete, ///< the floating piece
+    Piece,  ///< changes it, as its menu does
+    Place,  ///< moves it
     Canvas,
     Open,
     Paper, ///< begins a new drawing on a picture file
@@ -50,10 +52,11 @@ struct Command
 {
     Verb verb = Verb::Wait;
     int line = 0;      ///< in the file, from 1
-    QPoint point = {}; ///< Press, Move, Release: canvas widget coordinates
+    QPoint point = {}; ///< Press, Move, Release: canvas widget coordinates; Place: picture coordinates
     Qt::MouseButton button = Qt::LeftButton;
-    int number = 0;  ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
-                     ///< Option and Answer: an index; Wait: milliseconds; History: steps
+    int number =
+        0; ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
+           ///< Option and Answer: an index; Piece: of pieceNames; Wait: milliseconds; History: steps
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);
@@ -67,6 +70,8 @@ struct Command
 inline constexpr const char* zoomNames[] = {"50", "100", "150", "200", "400", "800", "fit"};
 /// The rows of the pad's zoom box: the rates that these words stand for.
 inline constexpr int zoomRates[] = {50, 100, 150, 200, 400, 800, KORVA_Features::fitToPage};
+inline constexpr const char* pieceNames[] = {"turn-left", "turn-right", "flip",
+                                             "double",    "halve",      "clear-white"};
 inline constexpr const char* canvasNames[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
 
 /// A drawing session as text: one command per line; "#" begins a comment. A name or text with blanks is

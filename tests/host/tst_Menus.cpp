@@ -122,7 +122,8 @@ QString tst_Menus::lastLine() const
     QFile file(m_recording);
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    lines.removeIf([](const QString& line) { return line.startsWith("place "); }); // where a paste came
     return lines.isEmpty() ? QString() : lines.constLast();
 }
 
@@ -444,14 +445,21 @@ void tst_Menus::canvasMenu()
 
 void tst_Menus::pieceMenu()
 {
-    constexpr int rows = 3;
+    constexpr int rows = 10;
+    constexpr struct
+    {
+        int row;
+        const char* word;
+    } choices[] = {{0, "copy"},       {1, "cut"},          {3, "piece turn-left"}, {4, "piece turn-right"},
+                   {5, "piece flip"}, {6, "piece double"}, {7, "piece halve"},     {8, "piece clear-white"},
+                   {9, "delete"},     {2, "paste"}};
     QVERIFY(start());
-    int row = 0;
-    for (const char* word : {"copy", "cut", "paste"}) {
-        QVERIFY(select());
+    for (const auto& [row, word] : choices) {
+        if (!lastLine().startsWith("piece")) // else it still floats there
+            QVERIFY(select());
         m_pad->server().click(onDrawing, 3);
         QVERIFY(waitForPopups(1));
-        QVERIFY(tapRow(row++, rows, word));
+        QVERIFY(tapRow(row, rows, word));
         QVERIFY(takesEffect(line(word)));
     }
 }

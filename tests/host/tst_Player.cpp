@@ -70,6 +70,7 @@ private slots:
     void aStroke();
     void undoAndRedo();
     void mannersHoldForTheRecording();
+    void piecesAreChanged();
     void historyWalksAsFarAsItSays();
     void zoomedStroke_data();
     void zoomedStroke();
@@ -138,6 +139,19 @@ void tst_Player::mannersHoldForTheRecording()
     QVERIFY(sameImage(pad.picture(), joined));
     QCOMPARE(play(pad, "manners modern\nmanners classic\n"), "");
     QVERIFY(sameImage(pad.picture(), squares));
+}
+
+void tst_Player::piecesAreChanged()
+{
+    const QByteArray dash = "manners modern\npress 10 20\nmove 19 20\nrelease 19 20\ntool select\n"
+                            "press 10 20\nmove 20 22\nrelease 20 22\n";
+    const QImage paper = sheet(newCanvas);
+    Pad pad;
+    QCOMPARE(pad.play(dash + "piece turn-right\nplace 50 60\nzoom 50\nzoom 200\ntool pencil"), "");
+    QVERIFY(sameImage(pad.picture(), filled(paper, QRect(51, 60, 1, 10), Qt::red)));
+    Pad dropped;
+    QCOMPARE(dropped.play(dash + "piece double\nplace 50 60\nkey Escape"), "");
+    QVERIFY(sameImage(dropped.picture(), filled(paper, QRect(10, 20, 10, 1), Qt::red)));
 }
 
 void tst_Player::historyWalksAsFarAsItSays()

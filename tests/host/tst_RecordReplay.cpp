@@ -84,6 +84,10 @@ private:
     void doSomething()
     {
         static constexpr const char* commands[] = {"Undo", "Redo", "Paste", "Cut", "Copy", "Select all"};
+        static constexpr const char* rows[] = {"Turn left", "Turn right", "Flip",  "Double",
+                                               "Halve",     "Delete",     "Paste", "White is clear"};
+        if (m_window.editor().manners() == KORVA_Manners::modern() && m_random.bounded(4) == 0)
+            return pick(m_canvas.pasteLabel()->menu(), rows[m_random.bounded(8)]);
         switch (m_random.bounded(12)) {
         case 0:
             return pick(&m_window, commands[m_random.bounded(6)]);
@@ -216,6 +220,7 @@ private slots:
     void theControls();
     void documents();
     void menusOfCanvasAndPiece();
+    void modernMenuOfThePiece();
 
 private:
     int m_ink = 0;
@@ -224,13 +229,17 @@ private:
 void tst_RecordReplay::givesTheSamePicture_data()
 {
     QTest::addColumn<quint32>("seed");
-    for (quint32 seed = 1; seed <= 20; ++seed)
-        QTest::addRow("drawing %u", seed) << seed;
+    QTest::addColumn<bool>("isModern");
+    for (quint32 seed = 1; seed <= 20; ++seed) {
+        QTest::addRow("drawing %u", seed) << seed << false;
+        QTest::addRow("modern drawing %u", seed) << seed << true;
+    }
 }
 
 void tst_RecordReplay::givesTheSamePicture()
 {
     QFETCH(quint32, seed);
+    QFETCH(const bool, isModern);
     const QTemporaryDir folder;
     const QString file = folder.filePath("drawing.rec");
     const QImage stamp = support::mosaic(QSize(40, 30));
@@ -244,6 +253,10 @@ void tst_RecordReplay::givesTheSamePicture()
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QVERIFY(!recorder.start(file));
+        if (isModern) {
+            window.editor().setManners(KORVA_Manners::modern());
+            recorder.write(pad::Recording::commandFor(KORVA_Manners::modern()));
+        }
         Person(window, seed).draw();
         drawn = window.editor().pixmap()->toImage();
         QVERIFY(!recorder.finish());
@@ -433,6 +446,27 @@ void tst_RecordReplay::menusOfCanvasAndPiece()
     editor.canvas()->contextMenu()->actions().at(2)->trigger();
     QVERIFY(!recorder.finish());
     QCOMPARE(linesOf(folder.filePath("menus.rec")), QStringList({"copy", "copy", "cut", "paste"}));
+}
+
+void tst_RecordReplay::modernMenuOfThePiece()
+{
+    const QTemporaryDir folder;
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    editor.setManners(KORVA_Manners::modern());
+    editor.show();
+    QGuiApplication::clipboard()->setImage(support::mosaic(QSize(40, 30)));
+    pad::Recorder recorder(editor);
+    QVERIFY(!recorder.start(folder.filePath("menus.rec")));
+    editor.canvas()->slotClipBoard(true);
+    editor.canvas()->contextMenu()->actions().at(2)->trigger();
+    const QList<QAction*> rows = editor.canvas()->pasteLabel()->menu()->actions();
+    for (qsizetype i = 3; i < rows.size(); ++i)
+        rows[i]->trigger();
+    QVERIFY(!recorder.finish());
+    QCOMPARE(
+        linesOf(folder.filePath("menus.rec")).join(", "),
+        "paste, place 80 70, piece turn-left, piece turn-right, piece flip, piece double, piece halve, "
+        "piece clear-white, delete");
 }
 
 int main(int argc, char** argv)

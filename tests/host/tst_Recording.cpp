@@ -112,6 +112,12 @@ void tst_Recording::understands_data()
         QTest::addRow("manners %s", words)
             << QByteArray("manners ") + words << Command{.verb = Verb::Manners, .line = 1, .text = words};
     }
+    const char* changes[] = {"turn-left", "turn-right", "flip", "double", "halve", "clear-white"};
+    for (int i = 0; i < 6; ++i)
+        QTest::addRow("piece %s", changes[i])
+            << QByteArray("piece ") + changes[i] << numbered(Verb::Piece, i);
+    QTest::newRow("place") << QByteArray("place -3 70")
+                           << Command{.verb = Verb::Place, .line = 1, .point = {-3, 70}};
     const char* types[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
     for (int i = 0; i < 5; ++i) {
         QTest::addRow("canvas %s", types[i])
@@ -235,6 +241,8 @@ void tst_Recording::tellsWhatIsWrongAndWhere_data()
     row("no manners", "manners", "test.rec:1: 'manners' needs WORDS");
     row("unknown manners", "manners joined-eraser,polite",
         "test.rec:1: 'manners' needs WORDS, not 'joined-eraser,polite'");
+    row("no change of a piece", "piece upside-down", "test.rec:1: 'piece' needs WORD, not 'upside-down'");
+    row("half a place", "place 3", "test.rec:1: 'place' needs Y");
     row("unknown zoom", "zoom 75", "test.rec:1: 'zoom' needs a zoom, not '75'");
     row("unknown canvas type", "canvas 2bit 1 1", "test.rec:1: 'canvas' needs a canvas type, not '2bit'");
     row("canvas without width", "canvas 1bit 0 5", "test.rec:1: 'canvas' needs W, not '0'");
