@@ -114,10 +114,12 @@ bool KORVA_Canvas::event(QEvent* event)
     if (m_keyboardPen && m_keyboardPen->handle(*event))
         return true;
     // While a text is typed the host's shortcuts wait; keys that are no text are still theirs.
-    if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText() &&
-        KORVA_Text::isTyping(*static_cast<QKeyEvent*>(event))) {
-        event->accept();
-        return true;
+    if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText()) {
+        auto* const key = static_cast<QKeyEvent*>(event);
+        if (KORVA_Text::isTyping(*key) || (manners().escapeDropsText && key->key() == Qt::Key_Escape)) {
+            event->accept();
+            return true;
+        }
     }
     return QWidget::event(event);
 }

@@ -11,9 +11,18 @@ struct Row
 };
 
 constexpr Row rows[] = {
-    {"joined-eraser", &KORVA_Manners::joinedEraser}, {"own-sizes", &KORVA_Manners::ownSizes},
-    {"true-zooms", &KORVA_Manners::trueZooms},       {"pixel-grid", &KORVA_Manners::pixelGrid},
-    {"wheel-zooms", &KORVA_Manners::wheelZooms},     {"magnifier", &KORVA_Manners::magnifier},
+    {"joined-eraser", &KORVA_Manners::joinedEraser},
+    {"own-sizes", &KORVA_Manners::ownSizes},
+    {"true-zooms", &KORVA_Manners::trueZooms},
+    {"pixel-grid", &KORVA_Manners::pixelGrid},
+    {"wheel-zooms", &KORVA_Manners::wheelZooms},
+    {"magnifier", &KORVA_Manners::magnifier},
+    {"even-shapes", &KORVA_Manners::evenShapes},
+    {"colored-text", &KORVA_Manners::coloredText},
+    {"escape-drops-text", &KORVA_Manners::escapeDropsText},
+    {"undo-types", &KORVA_Manners::undoTypes},
+    {"text-inside", &KORVA_Manners::textInside},
+    {"point-sizes", &KORVA_Manners::pointSizes},
 };
 
 } // namespace
