@@ -52,6 +52,7 @@ struct Command
     int line = 0;      ///< in the file, from 1
     QPoint point = {}; ///< Press, Move, Release: canvas widget coordinates
     Qt::MouseButton button = Qt::LeftButton;
+    bool isEven = false; ///< Move, Release: Shift was held, which keeps shapes even
     int number = 0;  ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
                      ///< Option and Answer: an index; Wait: milliseconds; History: steps
     QSize size = {}; ///< Canvas: pixels

@@ -148,12 +148,6 @@ KORVA_ScrollView* KORVA_Canvas::scrollView() const
     return qobject_cast<KORVA_ScrollView*>(viewport ? viewport->parentWidget() : nullptr);
 }
 
-void KORVA_Canvas::setDragged(QSize size)
-{
-    if (std::exchange(m_dragged, size) != size)
-        emit dragging(size);
-}
-
 void KORVA_Canvas::refresh()
 {
     refresh(rect());

@@ -13,6 +13,8 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
+#include <utility>
+
 // Which event goes to the floating piece, which to the tool, which opens a menu.
 
 namespace {
@@ -154,6 +156,12 @@ void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
         m_pasteLabel->menu()->popup(m_pasteLabel->mapToGlobal(m_pasteLabel->rect().center()));
     else
         openMenu(mapToGlobal(visibleRegion().boundingRect().center()));
+}
+
+void KORVA_Canvas::setDragged(QSize size)
+{
+    if (std::exchange(m_dragged, size) != size)
+        emit dragging(size);
 }
 
 // --- The keyboard's pen
