@@ -1,6 +1,7 @@
 #include "PadTools.h"
 
 #include "Recording.h"
+#include "Wording.h"
 
 #include "examples/tools/FillTool.h"
 #include "examples/tools/PickerTool.h"
@@ -8,7 +9,8 @@
 #include <KORVA_EditCanvas.h>
 #include <RES_ICON_Reader.h>
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QPainter>
 
 #include <memory>
 
@@ -36,6 +38,36 @@ constexpr struct
      "picker", "DaApV_Picker_Tool.gif", QT_TRANSLATE_NOOP3("pad::PadTools", "Pick color", "tool")},
 };
 
+QIcon numberIcon(int number)
+{
+    constexpr int side = 20; // of the options' icons
+    QIcon icon;
+    for (const int scale : {1, 2, 3}) { // for sharp screens
+        QPixmap picture(QSize(side, side) * scale);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        QFont font = QApplication::font();
+        font.setPixelSize(13 * scale);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(Qt::black);
+        painter.drawText(picture.rect(), Qt::AlignCenter, wording::plainNumber(number));
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
+QList<KORVA_ToolOption> textSizes()
+{
+    QList<KORVA_ToolOption> options;
+    for (const int points : {12, 16, 20, 28, 36, 48}) {
+        const QString name = QCoreApplication::translate("pad::PadTools", "%1 points", "tool option");
+        options.append({numberIcon(points), name.arg(wording::plainNumber(points)), points});
+    }
+    return options;
+}
+
 } // namespace
 
 void padtools::addTo(KORVA_EditCanvas& editor)
@@ -46,6 +78,19 @@ void padtools::addTo(KORVA_EditCanvas& editor)
     for (const auto& row : rows)
         editor.addTool(row.make(editor), RES_ICON_Reader::getIcon(QString::fromLatin1(row.icon)),
                        QCoreApplication::translate("pad::PadTools", row.name.text, row.name.comment));
+}
+
+void padtools::behave(KORVA_EditCanvas& editor, const KORVA_Manners& manners)
+{
+    editor.setManners(manners);
+    KORVA_Features features = editor.features();
+    if (features.ownOptions.contains(KORVA_TOOL_TEXT) == manners.pointSizes)
+        return;
+    if (manners.pointSizes)
+        features.ownOptions.insert(KORVA_TOOL_TEXT, textSizes());
+    else
+        features.ownOptions.remove(KORVA_TOOL_TEXT);
+    editor.setFeatures(features);
 }
 
 QString padtools::word(int tool)

@@ -1,9 +1,11 @@
 #include "PadWindow.h"
 
 #include "Accessible.h"
+#include "Colors.h"
 #include "Commands.h"
 #include "Documents.h"
 #include "PadTools.h"
+#include "Platform.h"
 #include "PopupFence.h"
 #include "StatusLine.h"
 #include "Theme.h"
@@ -31,11 +33,13 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
       m_documents(new Documents(*m_editor, platform, this)),
       m_commands(new Commands(*m_editor, *m_documents, this)),
       m_status(new StatusLine(*m_editor, this)),
+      m_colors(new Colors(*m_editor, this)),
       m_menuKey(addKey(tr("Menu", "soft key"))),
       m_contextKey(addKey(QString()))
 {
     installAccessibility();
     padtools::addTo(*m_editor);
+    platform.offerColors(m_colors);
     setMinimumSize(theme::window.size());
     resize(theme::window.size());
     arrange();
@@ -52,6 +56,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     const auto showModified = [this] { setWindowModified(m_editor->isModified()); };
     connect(m_editor, &KORVA_EditCanvas::strokeTakenBack, this, showModified);
     connect(m_editor->canvas(), &KORVA_Canvas::pieceDropped, this, showModified);
+    connect(m_editor->canvas(), &KORVA_Canvas::pendingDropped, this, showModified);
     updateContextKey();
     updateTitle();
 }

@@ -8,6 +8,7 @@ class UTIL_PushButton;
 
 namespace pad {
 
+class Colors;
 class Commands;
 class Documents;
 class Platform;
@@ -26,6 +27,7 @@ public:
 
     [[nodiscard]] KORVA_EditCanvas& editor() const { return *m_editor; }
     [[nodiscard]] Commands& commands() const { return *m_commands; }
+    [[nodiscard]] Colors& colors() const { return *m_colors; }
     [[nodiscard]] Documents& documents() const { return *m_documents; }
 
     /// The window as it is on screen, at its scale.
@@ -49,6 +51,7 @@ private:
     Documents* m_documents;
     Commands* m_commands;
     StatusLine* m_status;
+    Colors* m_colors;
     UTIL_PushButton* m_menuKey;
     UTIL_PushButton* m_contextKey;
 };

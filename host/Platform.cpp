@@ -1,5 +1,7 @@
 #include "Platform.h"
 
+#include "ColorPopup.h"
+
 #include <UTIL_PictureDialog.h>
 
 #include <QDir>
@@ -51,6 +53,14 @@ QSize Platform::workingBox() const
 int Platform::workingDepth() const
 {
     return m_workingDepth;
+}
+
+std::optional<QColor> Platform::pickColor(QWidget* parent, const QColor& present, int depth)
+{
+    constexpr int allColors = 16;
+    if (m_script || !m_colors || depth != allColors)
+        return UTIL_Platform::pickColor(parent, present, depth);
+    return ColorPopup::pick(parent, present, m_colors->recent());
 }
 
 int Platform::question(QWidget* parent, const QString& icon, const QString& text,

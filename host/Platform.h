@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Colors.h"
+
 #include <UTIL_Platform.h>
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <optional>
 #include <utility>
@@ -39,6 +42,11 @@ public:
     [[nodiscard]] QSize workingBox() const override;
     [[nodiscard]] int workingDepth() const override;
 
+    /// Lets the person pick from these colours, for as long as they exist.
+    void offerColors(const Colors* colors) { m_colors = colors; }
+    /// Of 16 bits from a pop-up of the pad, which leads on to the editor's own picker; others from that.
+    std::optional<QColor> pickColor(QWidget* parent, const QColor& present, int depth) override;
+
     int question(QWidget* parent, const QString& icon, const QString& text,
                  const QStringList& buttons) override;
     void timedInformation(QWidget* parent, const QString& icon, const QString& text, const QString& button,
@@ -57,6 +65,7 @@ private:
 
     Script* m_script = nullptr; // not owned
     std::optional<int> m_lastAnswer;
+    QPointer<const Colors> m_colors;
     QSize m_workingBox = UTIL_Platform::workingBox();
     int m_workingDepth = UTIL_Platform::workingDepth();
 };

@@ -3,6 +3,7 @@
 #include "DocumentAction.h"
 #include "DrawingFile.h"
 #include "EditCommand.h"
+#include "PadTools.h"
 
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
@@ -32,6 +33,11 @@ QString textOf(QKeyCombination key)
         return {};
     const QChar letter(char16_t(key.key()));
     return key.keyboardModifiers() & Qt::ShiftModifier ? letter : letter.toLower();
+}
+
+Qt::KeyboardModifiers keysOf(const Command& command)
+{
+    return command.isEven ? Qt::ShiftModifier : Qt::NoModifier;
 }
 
 /// Switches drawing by keyboard for a while, whatever the editor's host has chosen: a recording is the same
@@ -64,12 +70,12 @@ class ClassicManners
 public:
     explicit ClassicManners(KORVA_EditCanvas& editor) : m_editor(&editor), m_before(editor.manners())
     {
-        editor.setManners({});
+        padtools::behave(editor, {});
     }
     ~ClassicManners()
     {
         if (m_editor)
-            m_editor->setManners(m_before);
+            padtools::behave(*m_editor, m_before);
     }
     ClassicManners(const ClassicManners&) = delete;
     ClassicManners& operator=(const ClassicManners&) = delete;
@@ -115,8 +121,9 @@ void Player::perform(const Command& command)
         {Verb::Color, [](Player& p, const Command& c) { p.m_editor.setColor(c.color); }},
         {Verb::Zoom, [](Player& p, const Command& c) { p.zoom(zoomRates[c.number]); }},
         {Verb::Press, [](Player& p, const Command& c) { p.m_pointer.press(c.point, c.button); }},
-        {Verb::Move, [](Player& p, const Command& c) { p.m_pointer.move(c.point); }},
-        {Verb::Release, [](Player& p, const Command& c) { p.m_pointer.release(c.point, c.button); }},
+        {Verb::Move, [](Player& p, const Command& c) { p.m_pointer.move(c.point, keysOf(c)); }},
+        {Verb::Release,
+         [](Player& p, const Command& c) { p.m_pointer.release(c.point, c.button, keysOf(c)); }},
         {Verb::Type, [](Player& p, const Command& c) { p.type(c.text); }},
         {Verb::Key, [](Player& p, const Command& c) { p.pressKey(c.key, textOf(c.key)); }},
         {Verb::Piece,
@@ -132,7 +139,7 @@ void Player::perform(const Command& command)
         {Verb::Wait, [](Player&, const Command& c) { wait(c.number); }},
         {Verb::History, [](Player& p, const Command& c) { setHistory(p.m_editor, c.number); }},
         {Verb::Manners,
-         [](Player& p, const Command& c) { p.m_editor.setManners(Recording::mannersOf(c)); }},
+         [](Player& p, const Command& c) { padtools::behave(p.m_editor, Recording::mannersOf(c)); }},
         {Verb::Answer, [](Player& p, const Command& c) { p.m_script.answer = c.number; }},
     };
     if (performOn(m_editor, command.verb))

@@ -15,19 +15,19 @@ void Pointer::press(QPoint at, Qt::MouseButton button)
     send(QEvent::MouseButtonPress, at, button);
 }
 
-void Pointer::move(QPoint to)
+void Pointer::move(QPoint to, Qt::KeyboardModifiers held)
 {
     if (!m_held)
         m_pressed = widgetUnder(to);
-    send(QEvent::MouseMove, to, Qt::NoButton);
+    send(QEvent::MouseMove, to, Qt::NoButton, held);
 }
 
-void Pointer::release(QPoint at, Qt::MouseButton button)
+void Pointer::release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers held)
 {
     if (!m_held)
         m_pressed = widgetUnder(at);
     m_held &= ~Qt::MouseButtons(button);
-    send(QEvent::MouseButtonRelease, at, button);
+    send(QEvent::MouseButtonRelease, at, button, held);
 }
 
 QWidget* Pointer::widgetUnder(QPoint at) const
@@ -38,7 +38,7 @@ QWidget* Pointer::widgetUnder(QPoint at) const
     return child ? child : top;
 }
 
-void Pointer::send(QEvent::Type type, QPoint at, Qt::MouseButton button)
+void Pointer::send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys)
 {
     // A pop-up that opened during the press gets the following events. A widget that was hidden gets none.
     const QPointer<QWidget> receiver =
@@ -46,7 +46,7 @@ void Pointer::send(QEvent::Type type, QPoint at, Qt::MouseButton button)
     if (!receiver || !receiver->isVisible())
         return;
     const QPointF global = m_surface->mapToGlobal(QPointF(at));
-    QMouseEvent event(type, receiver->mapFromGlobal(global), global, button, m_held, Qt::NoModifier);
+    QMouseEvent event(type, receiver->mapFromGlobal(global), global, button, m_held, keys);
     QCoreApplication::sendEvent(receiver, &event);
 }
 

@@ -18,12 +18,12 @@ public:
 
     void press(QPoint at, Qt::MouseButton button);
     /// Without a button held this is a hover, which only a widget that tracks the mouse receives.
-    void move(QPoint to);
-    void release(QPoint at, Qt::MouseButton button);
+    void move(QPoint to, Qt::KeyboardModifiers held = {});
+    void release(QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers held = {});
 
 private:
     [[nodiscard]] QWidget* widgetUnder(QPoint at) const;
-    void send(QEvent::Type type, QPoint at, Qt::MouseButton button);
+    void send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::KeyboardModifiers keys = {});
 
     QWidget* m_surface; // not owned
     QPointer<QWidget> m_pressed;

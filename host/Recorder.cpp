@@ -103,6 +103,8 @@ void Recorder::writeMouse(const QWidget& receiver, const QMouseEvent& event)
     command.verb = event.type() == QEvent::MouseMove            ? Verb::Move
                    : event.type() == QEvent::MouseButtonRelease ? Verb::Release
                                                                 : Verb::Press;
+    command.isEven = m_editor.manners().evenShapes && command.verb != Verb::Press &&
+                     event.modifiers() & Qt::ShiftModifier;
     if (event.device()->type() != QInputDevice::DeviceType::TouchScreen) {
         write(command);
         return;

@@ -115,6 +115,27 @@ QString writeButton(const Command& command)
     return command.button == Qt::RightButton ? QStringLiteral("right") : QString();
 }
 
+bool readShift(const QString& word, Command& command)
+{
+    command.isEven = word == QLatin1String("shift");
+    return command.isEven;
+}
+
+QString writeShift(const Command& command)
+{
+    return command.isEven ? QStringLiteral("shift") : QString();
+}
+
+bool readRelease(const QString& word, Command& command)
+{
+    return readShift(word, command) || readButton(word, command);
+}
+
+QString writeRelease(const Command& command)
+{
+    return command.isEven ? writeShift(command) : writeButton(command);
+}
+
 bool readColor(const QString& word, Command& command)
 {
     constexpr int length = 7; // "#rrggbb"
@@ -192,6 +213,8 @@ constexpr Argument height{{"H", nullptr}, readSide<&QSize::setHeight>, [](const 
                               return QString::number(c.size.height());
                           }};
 constexpr Argument button{{"'right'", nullptr}, readButton, writeButton, true};
+constexpr Argument shift{{"'shift'", nullptr}, readShift, writeShift, true};
+constexpr Argument release{{"'right'", nullptr}, readRelease, writeRelease, true};
 constexpr Argument number{
     QT_TRANSLATE_NOOP3("pad::Recording", "a number", "recording; what a command needs"), readNumber,
     writeNumber};
@@ -234,8 +257,8 @@ constexpr Rule grammar[] = {
     {"color", Verb::Color, {&color}},
     {"zoom", Verb::Zoom, {&zoom}},
     {"press", Verb::Press, {&x, &y, &button}},
-    {"move", Verb::Move, {&x, &y}},
-    {"release", Verb::Release, {&x, &y, &button}},
+    {"move", Verb::Move, {&x, &y, &shift}},
+    {"release", Verb::Release, {&x, &y, &release}},
     {"type", Verb::Type, {&text}},
     {"key", Verb::Key, {&key}},
     {"undo", Verb::Undo},
@@ -283,6 +306,10 @@ Expected<Command> understand(QStringList words)
         if (words.isEmpty())
             return Failure{Recording::tr("'%1' needs %2", "recording").arg(word, what)};
         const QString given = words.takeFirst();
+        if (argument == &shift && !argument->read(given, command)) {
+            words.prepend(given);
+            break;
+        }
         if (!argument->read(given, command))
             return Failure{Recording::tr("'%1' needs %2, not '%3'", "recording").arg(word, what, given)};
     }

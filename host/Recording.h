@@ -54,9 +54,10 @@ struct Command
     int line = 0;      ///< in the file, from 1
     QPoint point = {}; ///< Press, Move, Release: canvas widget coordinates; Place: picture coordinates
     Qt::MouseButton button = Qt::LeftButton;
-    int number =
-        0; ///< Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE;
-           ///< Option and Answer: an index; Piece: of pieceNames; Wait: milliseconds; History: steps
+    bool isEven = false; ///< Move, Release: Shift was held, which keeps shapes even
+    /// Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE; Option and Answer:
+    /// an index; Piece: of pieceNames; Wait: milliseconds; History: steps
+    int number = 0;
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
     QKeyCombination key = QKeyCombination(Qt::Key_unknown);

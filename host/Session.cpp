@@ -1,9 +1,11 @@
 #include "Session.h"
 
+#include "Colors.h"
 #include "Commands.h"
 #include "Documents.h"
 #include "DrawingFile.h"
 #include "EditCommand.h"
+#include "PadTools.h"
 #include "Player.h"
 #include "Recovery.h"
 
@@ -91,7 +93,7 @@ void Session::startDrawing()
         setHistory(editor, m_line.undoSteps);
         record({.verb = Verb::History, .number = m_line.undoSteps});
     }
-    editor.setManners(KORVA_Manners::modern());
+    padtools::behave(editor, KORVA_Manners::modern());
     record(Recording::commandFor(editor.manners()));
 }
 
@@ -115,6 +117,7 @@ std::optional<Failure> Session::startRecorder()
 {
     m_recorder = std::make_unique<Recorder>(m_window->editor());
     connect(&m_window->commands(), &Commands::performed, m_recorder.get(), &Recorder::write);
+    connect(&m_window->colors(), &Colors::performed, m_recorder.get(), &Recorder::write);
     if (auto failure = m_recorder->start(m_line.record))
         return failure;
     if (!m_line.picture.isEmpty())

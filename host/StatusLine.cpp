@@ -46,6 +46,10 @@ StatusLine::StatusLine(const KORVA_EditCanvas& editor, QWidget* parent)
         m_picture = picture->size();
         refreshSoon();
     });
+    connect(editor.canvas(), &KORVA_Canvas::dragging, this, [this](QSize size) {
+        m_dragged = size;
+        refreshSoon();
+    });
     connect(editor.canvas(), &KORVA_Canvas::keyboardPenChanged, this, &StatusLine::refreshSoon);
     // Only the application sees a hover over the canvas: the canvas itself gets moves only while a button
     // is held.
@@ -131,7 +135,9 @@ void StatusLine::refresh()
     const std::optional<QPoint> pen = m_editor.canvas()->keyboardPen();
     const QPoint at = pen.value_or(zoom.toPicture(m_pointer));
     fill(m_tool, m_editor.nameOfTool(m_editor.canvas()->getCurrentToolID()));
-    fill(m_size, sizeText(size));
+    m_size->setToolTip(m_dragged.isValid() ? tr("Size", "status line; of what is dragged")
+                                           : tr("Picture size", "status line"));
+    fill(m_size, sizeText(m_dragged.isValid() ? m_dragged : size));
     fill(m_zoom, wording::percent(zoom.percent()));
     fill(m_position, m_isOver || pen ? positionText(at) : QString());
 }

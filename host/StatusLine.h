@@ -13,8 +13,8 @@ class QLabel;
 
 namespace pad {
 
-/// The line below the editor: tool, size of the picture, zoom, and the position of the pointer or of the
-/// keyboard's pen in the picture.
+/// The line below the editor: tool, size of the picture or of what is dragged, zoom, and the position of
+/// the pointer or of the keyboard's pen in the picture.
 ///
 /// It follows the pointer only a few times a second, so that it costs a stroke nothing.
 class StatusLine : public QWidget
@@ -49,6 +49,7 @@ private:
     QLabel* m_zoom;
     QLabel* m_position;
     QSize m_picture;  ///< as last announced
+    QSize m_dragged;  ///< of the shape that is being dragged; invalid for none
     QPoint m_pointer; ///< canvas widget coordinates
     bool m_isOver = false;
     QTimer m_timer;

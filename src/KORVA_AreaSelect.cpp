@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_EvenShape.h"
 #include "KORVA_Pixel.h"
 
 #include <QAbstractEventDispatcher>
@@ -18,6 +19,9 @@ void KORVA_AreaSelect::deactivating()
 {
     if (m_state == Dragging)
         anchor(); // a drag that a change of tools ends must leave no frame behind
+    canvas()->setDragged({});
+    if (!canvas())
+        return;
     disableSelection();
     canvas()->clearSelection();
 }
@@ -54,25 +58,43 @@ void KORVA_AreaSelect::mousePressEvent(QMouseEvent* event)
 
 void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint to = pixel::at(event->position());
-    if (!canvas() || m_state != Dragging || to == m_end)
+    if (!canvas() || m_state != Dragging)
+        return;
+    const QPoint to = pointOf(*event);
+    if (to == m_end)
         return;
     const QRect touched = toggleFrame(m_end) | toggleFrame(to);
     m_end = to;
     canvas()->refresh(touched);
+    const QPoint span = limited(to) - m_start;
+    canvas()->setDragged(QSize(zoom().toPicture(qAbs(span.x())), zoom().toPicture(qAbs(span.y()))));
 }
 
 void KORVA_AreaSelect::mouseReleaseEvent(QMouseEvent* event)
 {
     if (!canvas() || m_state != Dragging || event->button() != Qt::LeftButton)
         return;
-    const QPoint corner = limited(pixel::at(event->position()));
+    const QPoint corner = limited(pointOf(*event));
+    canvas()->setDragged({});
+    if (!canvas() || m_state != Dragging)
+        return;
     if (corner == m_start) {
         anchor();
         return;
     }
     toggleFrame(m_end);
     select(corner);
+}
+
+QPoint KORVA_AreaSelect::pointOf(const QMouseEvent& event) const
+{
+    const QPoint at = pixel::at(event.position());
+    if (!canvas()->manners().evenShapes || !(event.modifiers() & Qt::ShiftModifier))
+        return at;
+    const QPoint span = even::square(m_start, at) - m_start;
+    const QPoint room = limited(m_start + span) - m_start;
+    const QPoint way(span.x() < 0 ? -1 : 1, span.y() < 0 ? -1 : 1);
+    return m_start + way * qMax(0, qMin(room.x() * way.x(), room.y() * way.y()));
 }
 
 void KORVA_AreaSelect::anchor()

@@ -8,7 +8,8 @@
 /// The area select tool: marks a rectangle with a dashed frame and hands it to the canvas, which lifts it
 /// into a floating piece. It reacts to the left button only and works in widget coordinates. The pixel of
 /// the release does not belong to the rectangle. After a tap, the next drag starts from the tapped point.
-/// Leaving the tool drops the selection.
+/// Leaving the tool drops the selection. With KORVA_Manners::evenShapes, Shift makes the frame a square
+/// that lies on the canvas.
 class KORVA_EXPORT KORVA_AreaSelect : public KORVA_Tool
 {
     Q_OBJECT
@@ -49,6 +50,7 @@ private:
     QRect toggleFrame(QPoint to);
     void select(QPoint corner);
     [[nodiscard]] QPoint limited(QPoint p) const;
+    [[nodiscard]] QPoint pointOf(const QMouseEvent& event) const;
 
     QPoint m_start; ///< the anchor; widget coordinates
     QPoint m_end;   ///< the opposite corner of the frame on screen

@@ -91,6 +91,7 @@ void KORVA_Canvas::connectSignals(KORVA_EditCanvas* editor)
         connect(this, &KORVA_Canvas::canRedo, editor, &KORVA_EditCanvas::canRedo);
     }
     connect(this, &KORVA_Canvas::modified, this, &KORVA_Canvas::record);
+    connect(this, &KORVA_Canvas::strokeTakenBack, this, [this] { setDragged({}); });
     connect(this, qOverload<bool>(&KORVA_Canvas::selection), this, &KORVA_Canvas::slotSelection);
     connect(this, &KORVA_Canvas::clipboard, this, &KORVA_Canvas::slotClipBoard);
 }
@@ -357,9 +358,23 @@ void KORVA_Canvas::rebuildZoomed()
     paintZoomed();
 }
 
+void KORVA_Canvas::showWith(const std::function<void(QPixmap* copy)>& paint)
+{
+    QPixmap copy = *m_picture->pixmap();
+    paint(&copy);
+    paintZoomed(copy);
+    refresh();
+}
+
 void KORVA_Canvas::paintZoomed()
 {
-    const QPixmap& picture = *m_picture->pixmap();
+    paintZoomed(*m_picture->pixmap());
+    if (m_tool)
+        m_tool->zoomedRebuilt();
+}
+
+void KORVA_Canvas::paintZoomed(const QPixmap& picture)
+{
     if (zoom() == 100) {
         m_zoomed = picture; // one picture in memory until either is painted on
     } else {                // the picture covers it and is opaque
@@ -367,8 +382,6 @@ void KORVA_Canvas::paintZoomed()
         painter.setWorldMatrix(m_zoom.toWidgetMatrix());
         painter.drawPixmap(0, 0, picture);
     }
-    if (m_tool)
-        m_tool->zoomedRebuilt();
 }
 
 void KORVA_Canvas::fitToZoomed()

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -134,6 +135,13 @@ public:
     /// Takes the undo snapshot, which undo() brings back. It replaces the previous one. Undo becomes
     /// possible with markModified().
     void saveOldPix();
+    /// For a tool whose KORVA_Tool::pendingSteps() have changed: tells the host what to offer.
+    void offerPending();
+    /// For a tool that begins something it may drop: what brings the modified flag and what is offered back
+    /// to the present, and emits pendingDropped(). It lives no longer than the canvas.
+    [[nodiscard]] std::function<void()> keepFlags();
+    /// Tells dragging() if it is another size than before.
+    void setDragged(QSize size);
     /// Tells the host what to offer: 0 for neither, 1 for redo, 2 for undo: the opposite numbers of
     /// undoFlag(). Emits canRedo(), then canUndo(); other numbers are kept and emit nothing.
     void setUndoFlag(int flag);
@@ -167,6 +175,9 @@ public:
     [[nodiscard]] int zoom() const { return m_zoom.percent(); }
     /// Draws the zoomed picture again from the picture, and shows it.
     void updateZoomed();
+    /// The same from a copy of the picture on which `paint` has painted, as feedback of a tool that shows
+    /// what it will commit. updateZoomed() takes it off the screen.
+    void showWith(const std::function<void(QPixmap* copy)>& paint);
     /// Scales the picture kept for pasting by the zoom; two calls scale it twice. Does nothing if none is
     /// kept. paste() takes the system clipboard's.
     void updateZoomedClipboard();
@@ -266,7 +277,8 @@ public:
     ///   piece work without drawing by keyboard, too.
     ///
     /// While a text is open all keys go to the text, except Escape, which commits it as a press beside it
-    /// does. The tools get the events that a mouse would send. A press of the pointer moves the pen there.
+    /// does, unless KORVA_Manners::escapeDropsText is on. The tools get the events that a mouse would send.
+    /// A press of the pointer moves the pen there.
     void setKeyboardDrawing(bool on);
     /// See setKeyboardDrawing().
     [[nodiscard]] bool isKeyboardDrawing() const;
@@ -334,6 +346,12 @@ signals:
     /// cancelled. Picture, snapshot, modified flag, piece, selection and tool are as before its press. If
     /// selection(), canUndo() or canRedo() had told otherwise since, they were emitted again before this.
     void strokeTakenBack();
+    /// A tool dropped what it had not yet committed: isModified() may be false again. canUndo() and
+    /// canRedo() came before.
+    void pendingDropped();
+    /// A shape or a selection is being dragged: its size in picture pixels. Invalid when the drag has
+    /// ended.
+    void dragging(QSize size);
     /// Whether undo is to be offered.
     void canUndo(bool possible);
     /// Whether redo is to be offered.
@@ -383,6 +401,8 @@ private:
     void connectSignals(KORVA_EditCanvas* editor);
 
     void paintZoomed();
+    void paintZoomed(const QPixmap& picture);
+    bool stepPending(bool back);
     void rebuildZoomed();
     void fitToZoomed();
     void showAnew();
@@ -413,6 +433,7 @@ private:
     QPixmap m_zoomed;
     int m_undoFlag = 0; ///< what the host was last asked to offer
     bool m_isOfferDue = false;
+    QSize m_dragged;    ///< as last told
     int m_wheelWay = 0; ///< in eighths of a degree, since the last zoom
     QPixmap m_clipboard;
     int m_toldZoom = 100;         ///< the zoom last announced by a signal

@@ -13,6 +13,8 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
+#include <utility>
+
 // Which event goes to the floating piece, which to the tool, which opens a menu.
 
 namespace {
@@ -114,10 +116,12 @@ bool KORVA_Canvas::event(QEvent* event)
     if (m_keyboardPen && m_keyboardPen->handle(*event))
         return true;
     // While a text is typed the host's shortcuts wait; keys that are no text are still theirs.
-    if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText() &&
-        KORVA_Text::isTyping(*static_cast<QKeyEvent*>(event))) {
-        event->accept();
-        return true;
+    if (event->type() == QEvent::ShortcutOverride && m_tool && m_tool->takesText()) {
+        auto* const key = static_cast<QKeyEvent*>(event);
+        if (KORVA_Text::isTyping(*key) || (manners().escapeDropsText && key->key() == Qt::Key_Escape)) {
+            event->accept();
+            return true;
+        }
     }
     return QWidget::event(event);
 }
@@ -152,6 +156,12 @@ void KORVA_Canvas::contextMenuEvent(QContextMenuEvent* event)
         m_pasteLabel->menu()->popup(m_pasteLabel->mapToGlobal(m_pasteLabel->rect().center()));
     else
         openMenu(mapToGlobal(visibleRegion().boundingRect().center()));
+}
+
+void KORVA_Canvas::setDragged(QSize size)
+{
+    if (std::exchange(m_dragged, size) != size)
+        emit dragging(size);
 }
 
 // --- The keyboard's pen

@@ -27,6 +27,8 @@ void KORVA_Canvas::record()
 
 void KORVA_Canvas::undo()
 {
+    if (stepPending(true))
+        return;
     step(&KORVA_Picture::undo);
     if (hasHistory())
         return offer();
@@ -37,6 +39,8 @@ void KORVA_Canvas::undo()
 
 void KORVA_Canvas::redo()
 {
+    if (stepPending(false))
+        return;
     step(&KORVA_Picture::redo);
     if (hasHistory())
         return offer();
@@ -59,6 +63,44 @@ void KORVA_Canvas::step(void (KORVA_Picture::*direction)())
     } else { // back over a resize: the screen follows
         showAnew();
     }
+}
+
+bool KORVA_Canvas::stepPending(bool back)
+{
+    m_touch->settle();
+    const auto steps = m_tool ? m_tool->pendingSteps() : std::nullopt;
+    if (steps && (back ? steps->back : steps->forth))
+        m_tool->stepPending(back);
+    return steps.has_value();
+}
+
+void KORVA_Canvas::offerPending()
+{
+    const auto steps = m_tool ? m_tool->pendingSteps() : std::nullopt;
+    if (!steps)
+        return;
+    emit canUndo(steps->back);
+    emit canRedo(steps->forth);
+}
+
+// What else has painted on the picture meanwhile still counts.
+std::function<void()> KORVA_Canvas::keepFlags()
+{
+    return [this, wasModified = isModified(), flag = m_undoFlag, offers = m_touch->offers(),
+            key = m_picture->pixmap()->cacheKey()] {
+        const bool isUnpainted = m_picture->pixmap()->cacheKey() == key;
+        if (isUnpainted && !wasModified)
+            m_picture->clearModified();
+        if (hasHistory()) {
+            offer();
+        } else {
+            if (isUnpainted)
+                m_undoFlag = flag;
+            emit canUndo(isUnpainted ? offers.undo : m_undoFlag == 1);
+            emit canRedo(isUnpainted ? offers.redo : m_undoFlag == 2);
+        }
+        emit pendingDropped();
+    };
 }
 
 void KORVA_Canvas::setUndoFlag(int flag)
@@ -107,6 +149,8 @@ void KORVA_Canvas::endStep()
 void KORVA_Canvas::offer()
 {
     m_isOfferDue = false;
+    if (m_tool && m_tool->pendingSteps())
+        return offerPending();
     const bool isBackPossible = m_picture->canUndo();
     m_undoFlag = isBackPossible ? 1 : m_picture->canRedo() ? 2 : 0;
     emit canUndo(isBackPossible);

@@ -111,6 +111,8 @@ public:
     [[nodiscard]] QColor color() const { return m_color; }
     /// What the colour button's picker offers: from the constructor, then from chooseCanvas().
     [[nodiscard]] KORVA_COLORTYPE colorType() const { return m_colorType; }
+    /// A colour as a person reads or hears it, in the language in force: "#ff0000, red".
+    [[nodiscard]] static QString colorName(const QColor& color);
     /// The name of a tool for the user, in the language in force; empty if there is no such tool.
     [[nodiscard]] static QString toolName(int tool);
     /// The name of a tool in recordings, such as "pencil"; empty if there is no such tool.

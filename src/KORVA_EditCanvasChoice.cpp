@@ -2,8 +2,10 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_ColorName.h"
 #include "KORVA_ColorPicker.h"
 #include "KORVA_Manager.h"
+#include "KORVA_Text.h"
 #include "KORVA_Tool.h"
 #include "KORVA_ToolBar.h"
 #include "KORVA_ToolChoice.h"
@@ -129,6 +131,8 @@ void KORVA_EditCanvas::setColor(const QColor& color)
     const bool isOther = std::exchange(m_color, color) != color;
     fillColorButton(m_color);
     m_manager->setLMBColor(m_color);
+    if (KORVA_Text* text = currentText())
+        text->colorChanged();
     if (isOther)
         emit colorChanged(m_color);
 }
@@ -136,6 +140,11 @@ void KORVA_EditCanvas::setColor(const QColor& color)
 void KORVA_EditCanvas::fillColorButton(const QColor& color)
 {
     m_toolBar->showColor(color);
+}
+
+QString KORVA_EditCanvas::colorName(const QColor& color)
+{
+    return colorname::spoken(color);
 }
 
 int KORVA_EditCanvas::zoomIndex() const

@@ -85,6 +85,7 @@ const KORVA_KeyboardPen::Key KORVA_KeyboardPen::Key::table[] = {
 KORVA_KeyboardPen::KORVA_KeyboardPen(KORVA_Canvas& canvas)
     : m_canvas(canvas), m_mark(new KORVA_PenMark(&canvas))
 {
+    connect(&canvas, &KORVA_Canvas::pendingDropped, this, &KORVA_KeyboardPen::update);
 }
 
 void KORVA_KeyboardPen::setEnabled(bool on)
@@ -114,6 +115,8 @@ const KORVA_KeyboardPen::Key* KORVA_KeyboardPen::keyOf(const QKeyEvent& event) c
                                : m_state != Lifted                 ? Pressed
                                : m_canvas.pasteLabel()->isHidden() ? Free
                                                                    : Floating;
+    if (situation == Typing && m_canvas.manners().escapeDropsText)
+        return nullptr;
     const Qt::KeyboardModifiers held = event.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier);
     const bool isModern = m_canvas.manners().pieceKeys;
     const Key* found = std::ranges::find_if(Key::table, [&](const Key& key) {

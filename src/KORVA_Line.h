@@ -14,5 +14,6 @@ public:
 
 protected:
     void drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const override;
+    [[nodiscard]] QPoint evenPoint(QPoint from, QPoint to) const override;
     [[nodiscard]] QPoint commitPoint(QPoint lastMove, QPoint release) const override;
 };

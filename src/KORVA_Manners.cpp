@@ -11,12 +11,24 @@ struct Row
 };
 
 constexpr Row rows[] = {
-    {"joined-eraser", &KORVA_Manners::joinedEraser},   {"own-sizes", &KORVA_Manners::ownSizes},
-    {"true-zooms", &KORVA_Manners::trueZooms},         {"pixel-grid", &KORVA_Manners::pixelGrid},
-    {"wheel-zooms", &KORVA_Manners::wheelZooms},       {"magnifier", &KORVA_Manners::magnifier},
-    {"steady-piece", &KORVA_Manners::steadyPiece},     {"offered-piece", &KORVA_Manners::offeredPiece},
-    {"piece-handles", &KORVA_Manners::pieceHandles},   {"piece-keys", &KORVA_Manners::pieceKeys},
-    {"centered-piece", &KORVA_Manners::centeredPiece}, {"clear-white", &KORVA_Manners::clearWhite},
+    {"joined-eraser", &KORVA_Manners::joinedEraser},
+    {"own-sizes", &KORVA_Manners::ownSizes},
+    {"true-zooms", &KORVA_Manners::trueZooms},
+    {"pixel-grid", &KORVA_Manners::pixelGrid},
+    {"wheel-zooms", &KORVA_Manners::wheelZooms},
+    {"magnifier", &KORVA_Manners::magnifier},
+    {"steady-piece", &KORVA_Manners::steadyPiece},
+    {"offered-piece", &KORVA_Manners::offeredPiece},
+    {"piece-handles", &KORVA_Manners::pieceHandles},
+    {"piece-keys", &KORVA_Manners::pieceKeys},
+    {"centered-piece", &KORVA_Manners::centeredPiece},
+    {"clear-white", &KORVA_Manners::clearWhite},
+    {"even-shapes", &KORVA_Manners::evenShapes},
+    {"colored-text", &KORVA_Manners::coloredText},
+    {"escape-drops-text", &KORVA_Manners::escapeDropsText},
+    {"undo-types", &KORVA_Manners::undoTypes},
+    {"text-inside", &KORVA_Manners::textInside},
+    {"point-sizes", &KORVA_Manners::pointSizes},
 };
 
 } // namespace

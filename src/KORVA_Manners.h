@@ -44,6 +44,25 @@ struct KORVA_EXPORT KORVA_Manners
     bool centeredPiece = false;
     /// The piece's menu offers to make its white transparent: see KORVA_PasteLabel::setWhiteClear().
     bool clearWhite = false;
+    /// Shift keeps what is dragged even: squares, circles, square selections, and lines at multiples of 15
+    /// degrees, in the picture. Classic: Shift means nothing.
+    bool evenShapes = false;
+    /// Typed text is shown as it will be committed: in its colour, and as large as the zoom makes it. The
+    /// I-beam is as high as the letters. Classic: inverted, and never zoomed.
+    bool coloredText = false;
+    /// Escape drops the text being typed, and a text without letters leaves no trace, either: picture, undo
+    /// and modified flag are as before its tap. KORVA_Canvas::pendingDropped() tells it. Classic: both
+    /// count as modifications, and Escape is the host's or the keyboard pen's.
+    bool escapeDropsText = false;
+    /// While a text is open, undo() takes back what was typed, one word or run of deletions after the
+    /// other, and redo() brings it back. At the text's beginning undo() drops it. Classic: they wait for
+    /// the commit.
+    bool undoTypes = false;
+    /// A word that would leave the picture on the right goes to the next line, and a text opened at an edge
+    /// has room for a letter. Classic: letters are cut off.
+    bool textInside = false;
+    /// A left pen of 6 pixels or more writes text of as many points. Classic: 12 points.
+    bool pointSizes = false;
 
     /// All switches on.
     [[nodiscard]] static KORVA_Manners modern();

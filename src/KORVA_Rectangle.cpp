@@ -14,3 +14,8 @@ QPoint KORVA_Rectangle::commitPoint(QPoint, QPoint release) const
 {
     return release;
 }
+
+QSize KORVA_Rectangle::shapeSize(QPoint from, QPoint to) const
+{
+    return {qAbs(to.x() - from.x()), qAbs(to.y() - from.y())};
+}

@@ -16,5 +16,6 @@ public:
 
 protected:
     void drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const override;
+    [[nodiscard]] QSize shapeSize(QPoint from, QPoint to) const override;
     [[nodiscard]] QPoint commitPoint(QPoint lastMove, QPoint release) const override;
 };

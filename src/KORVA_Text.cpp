@@ -87,20 +87,56 @@ void KORVA_Text::open(QPoint at)
     m_state = Open;
     showText({});
     setText({});
-    m_start = m_cursor = at;
-    m_margin = at.x();
+    m_manners = canvas()->manners();
+    m_start = m_cursor = inside(at);
+    m_margin = m_start.x();
     m_stops.clear();
+    forgetSteps();
+    m_restore = canvas()->keepFlags();
     toggleCursor();
     m_blink.start(blinkTime, this);
+    canvas()->offerPending();
 }
 
 // The text is open until every listener has heard of its commit.
 void KORVA_Text::close()
 {
     QGuiApplication::inputMethod()->reset();
+    if (isQuiet() && m_text.isEmpty()) {
+        drop();
+        return;
+    }
     paintBuffer();
     m_state = Closed;
     m_keys.clear();
+}
+
+void KORVA_Text::drop()
+{
+    m_blink.stop();
+    hideCursor();
+    setText({});
+    if (canvas())
+        showText({});
+    m_state = Closed;
+    m_keys.clear();
+    m_stops.clear();
+    forgetSteps();
+    setTextKey(false);
+    tellInputMethod(Qt::ImQueryAll);
+    if (canvas())
+        m_restore();
+}
+
+const KORVA_Manners& KORVA_Text::manners() const
+{
+    return m_state == Open || !canvas() ? m_manners : canvas()->manners();
+}
+
+/// Whether only a commit of letters counts as a modification.
+bool KORVA_Text::isQuiet() const
+{
+    return manners().escapeDropsText;
 }
 
 void KORVA_Text::deactivating()
@@ -143,6 +179,7 @@ void KORVA_Text::resetBuffer()
     }
     m_keys.clear();
     m_stops.clear();
+    forgetSteps();
     setTextKey(false);
     tellInputMethod(Qt::ImQueryInput);
 }
@@ -152,6 +189,10 @@ void KORVA_Text::paintBuffer()
     setTextKey(false);
     if (!canvas() || m_isCommitting) // a slot may ask for the picture
         return;
+    if (isQuiet() && (m_state != Open || m_text.isEmpty())) {
+        hideCursor();
+        return;
+    }
     canvas()->saveOldPix();
     QPixmap* const picture = canvas()->pixmap();
     if (!canvas()) // a slot that hears of a merge may leave the tool, which commits
@@ -168,7 +209,7 @@ void KORVA_Text::paintPending(QPixmap* picture) const
     if (m_state != Open)
         return;
     KORVA_ClassicPainter painter(picture);
-    drawText(painter, zoom().toPicture(m_start), zoom().toPicture(QPoint(m_margin, 0)).x(), m_text);
+    drawText(painter, zoom().toPicture(m_start), zoom().toPicture(m_margin), wrapped(m_text));
 }
 
 void KORVA_Text::paintProportionBuffer()
@@ -178,13 +219,25 @@ void KORVA_Text::paintProportionBuffer()
     setText({});
     m_keys.clear();
     m_stops.clear();
-    m_start = m_cursor;
+    forgetSteps();
+    m_start = m_cursor = caret();
+    if (m_state == Open && canvas())
+        m_restore = canvas()->keepFlags();
     m_proportionPainted = true;
     tellInputMethod(Qt::ImQueryInput);
 }
 
 void KORVA_Text::penChanged()
 {
+    if (isLaidOut()) {
+        if (!canvas() || m_state != Open)
+            return;
+        m_shown.clear();
+        canvas()->updateZoomed();
+        placeCursor();
+        showText(m_text);
+        return;
+    }
     setText({});
     paintBuffer();
     m_cursor = m_start;
@@ -199,6 +252,11 @@ void KORVA_Text::penChanged()
 
 void KORVA_Text::keyPressEvent(QKeyEvent* event)
 {
+    if (canvas() && m_state == Open && manners().escapeDropsText && event->key() == Qt::Key_Escape) {
+        QGuiApplication::inputMethod()->reset();
+        drop();
+        return;
+    }
     if (!canvas() || m_state != Open || !isTyping(*event)) {
         event->ignore();
         return;
@@ -228,6 +286,7 @@ void KORVA_Text::typeKeys(const std::vector<QKeyEvent*>& keys)
     hideCursor();
     int letters = 0;
     for (const QKeyEvent* key : keys) {
+        const QString before = m_text;
         switch (key->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -243,13 +302,18 @@ void KORVA_Text::typeKeys(const std::vector<QKeyEvent*>& keys)
             insert(key->text());
             ++letters;
         }
+        noteEdit(*key, before);
     }
+    if (isLaidOut())
+        placeCursor();
     showText(m_text);
     if (isCursorShown)
         toggleCursor();
     tellInputMethod(Qt::ImQueryInput);
     for (; letters > 0 && canvas(); --letters)
         canvas()->markModified();
+    if (canvas())
+        canvas()->offerPending();
 }
 
 void KORVA_Text::breakLine()

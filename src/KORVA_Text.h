@@ -1,11 +1,14 @@
 #pragma once
 
+#include "KORVA_Manners.h"
 #include "KORVA_Tool.h"
 
 #include <QBasicTimer>
+#include <QColor>
 #include <QFont>
 #include <QPoint>
 #include <QStack>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -18,8 +21,11 @@ class KORVA_ClassicPainter;
 ///
 /// While no text is open (before a tap, or after leaving the tool) keys are left to the host.
 ///
-/// The left pen gives the colour and, by its width, the size: 1, 3 and 5 mean 12, 16 and 20 points.
-/// Positions are widget coordinates; y is the baseline.
+/// The left pen gives the colour and, by its width, the size: 1, 3 and 5 mean 12, 16 and 20 points, any
+/// other 12 or what KORVA_Manners::pointSizes says. Positions are widget coordinates; y is the baseline.
+///
+/// KORVA_Manners has switches for the preview, for dropping the text, for undo and redo while it is open,
+/// and for what happens at the picture's edge. A text keeps those of its tap.
 class KORVA_EXPORT KORVA_Text : public KORVA_Tool
 {
     Q_OBJECT
@@ -46,8 +52,10 @@ public:
     /// Takes the I-beam off the screen; it comes back with its next blink.
     void clearOldCursor();
     /// Shows the typed text again in the font of the pen that is now set. Takes a snapshot and counts as a
-    /// modification, though the picture stays.
+    /// modification, though the picture stays; not with one of the switches for text.
     void penChanged();
+    /// Shows the typed text in the colour of the pen that is now set, if it is previewed in colour.
+    void colorChanged();
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -62,6 +70,9 @@ public:
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void zoomedRebuilt() override;
     void paintPending(QPixmap* picture) const override;
+    [[nodiscard]] std::optional<PendingSteps> pendingSteps() const override;
+    /// Back from the beginning, it drops the text.
+    void stepPending(bool back) override;
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -75,8 +86,23 @@ private:
         Open,    ///< keys go into the text; only now are there letters on screen, and a blink
     };
 
+    /// What one key does to the text.
+    enum Edit { None, Word, Gap, Deletion };
+
     void open(QPoint at);
     void close();
+    void drop();
+    [[nodiscard]] const KORVA_Manners& manners() const;
+    [[nodiscard]] bool isQuiet() const;
+    [[nodiscard]] bool isLaidOut() const;
+    [[nodiscard]] QPoint inside(QPoint at) const;
+    [[nodiscard]] QPoint caret() const;
+    [[nodiscard]] int lineWidth(const QString& line) const;
+    [[nodiscard]] QString wrapped(const QString& text) const;
+    void placeCursor();
+    void noteEdit(const QKeyEvent& key, const QString& before);
+    void forgetSteps();
+    void showColored();
     [[nodiscard]] QFont textFont() const;
     [[nodiscard]] int advance(const QString& character) const;
     void record(const QKeyEvent& event);
@@ -98,11 +124,17 @@ private:
     QPoint m_cursor;                         ///< while pressed: the press
     Qt::MouseButton m_button = Qt::NoButton; ///< while pressed: the button
     bool m_cursorShown = false;              ///< what is inverted on screen now: the I-beam,
-    QString m_shown;                         ///< and the letters, with what the input method is composing
-    bool m_proportionPainted = false;        ///< in any state; a letter ends it, not the text's end
-    bool m_isCommitting = false;             ///< in any state: until every listener has heard of the commit
-    QString m_text;                          ///< once closed, the last one; null until a tap or a commit
-    QStack<int> m_stops;                     ///< the cursor's x before each line break and tab of the text
+    QString m_shown;                  ///< and the lines of letters, with what the input method is composing
+    bool m_proportionPainted = false; ///< in any state; a letter ends it, not the text's end
+    bool m_isCommitting = false;      ///< in any state: until every listener has heard of the commit
+    QString m_text;                   ///< once closed, the last one; null until a tap or a commit
+    QStack<int> m_stops;              ///< the cursor's x before each line break and tab of the text
     std::vector<std::unique_ptr<QKeyEvent>> m_keys;
     QBasicTimer m_blink;
+    KORVA_Manners m_manners;         ///< while open: those of the tap
+    std::function<void()> m_restore; ///< while open: see KORVA_Canvas::keepFlags()
+    Edit m_edit = None;              ///< the last one, if it may go on
+    QStringList m_back;              ///< earlier texts, for undo
+    QStringList m_forth;             ///< undone ones, for redo
+    QColor m_shownColor;             ///< of a coloured preview
 };

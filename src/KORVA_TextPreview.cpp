@@ -5,20 +5,23 @@
 
 #include <QApplication>
 
+#include <utility>
+
 // How a text looks before it is committed: letters and I-beam, inverted in the zoomed picture.
 
 namespace {
 
 // The labels of the options say 7, 9 and 11; the pens 1, 3 and 5 that they set have always meant these.
-int pointSize(int penWidth)
+int pointSize(int penWidth, bool isInPoints)
 {
+    constexpr int leastPoints = 6;
     switch (penWidth) {
     case 3:
         return 16;
     case 5:
         return 20;
     default:
-        return 12;
+        return isInPoints && penWidth >= leastPoints ? penWidth : 12;
     }
 }
 
@@ -26,7 +29,8 @@ int pointSize(int penWidth)
 
 QFont KORVA_Text::textFont() const
 {
-    QFont font(QApplication::font().family() + "_ns", pointSize(leftPen().width()), QFont::Normal);
+    QFont font(QApplication::font().family() + "_ns", pointSize(leftPen().width(), manners().pointSizes),
+               QFont::Normal);
     // So that a line is laid out as its letters one by one, and an inverted letter has the pixels of a
     // painted one.
     font.setStyleStrategy(QFont::NoAntialias);
@@ -62,15 +66,40 @@ void KORVA_Text::drawText(KORVA_ClassicPainter& painter, QPoint start, int margi
 // with a letter of another font is higher.
 void KORVA_Text::showText(const QString& text)
 {
-    if (text == m_shown)
+    const QString lines = wrapped(text);
+    if (lines == m_shown)
         return;
+    if (m_manners.coloredText) {
+        m_shown = lines;
+        showColored();
+        return;
+    }
     {
         KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
         drawText(painter, m_start, m_margin, m_shown);
-        drawText(painter, m_start, m_margin, text);
+        drawText(painter, m_start, m_margin, lines);
     }
-    m_shown = text;
+    m_shown = lines;
     canvas()->refresh();
+}
+
+// By way of a copy of the picture, so that the letters have the pixels of committed ones at any zoom.
+void KORVA_Text::showColored()
+{
+    const bool isCursorShown = std::exchange(m_cursorShown, false);
+    m_shownColor = leftPen().color();
+    canvas()->showWith([this](QPixmap* copy) {
+        KORVA_ClassicPainter painter(copy);
+        drawText(painter, zoom().toPicture(m_start), zoom().toPicture(m_margin), m_shown);
+    });
+    if (isCursorShown)
+        toggleCursor();
+}
+
+void KORVA_Text::colorChanged()
+{
+    if (canvas() && m_state == Open && m_manners.coloredText && leftPen().color() != m_shownColor)
+        showColored();
 }
 
 // --- The I-beam
@@ -86,12 +115,14 @@ void KORVA_Text::hideCursor()
         toggleCursor();
 }
 
-// The size follows the canvas's own font, not the text's.
+// The size follows the canvas's own font, not the text's, unless the text is shown as it will be.
 QRect KORVA_Text::cursorRect() const
 {
-    const int height = canvas()->fontMetrics().ascent() / 2 + 1;
-    const int width = height / 2 + 1;
-    return {QPoint(m_cursor.x() - width / 2, m_cursor.y() - height), QSize(width, height + 1)};
+    const QPoint at = caret();
+    const int classic = canvas()->fontMetrics().ascent() / 2 + 1;
+    const int height = m_manners.coloredText ? zoom().toWidget(QFontMetrics(textFont()).ascent()) : classic;
+    const int width = classic / 2 + 1;
+    return {QPoint(at.x() - width / 2, at.y() - height), QSize(width, height + 1)};
 }
 
 void KORVA_Text::toggleCursor()
@@ -106,7 +137,8 @@ void KORVA_Text::toggleCursor()
         painter.setPen(pen);
         painter.drawLine(beam.left(), beam.top(), beam.right(), beam.top());
         painter.drawLine(beam.left(), beam.bottom(), beam.right(), beam.bottom());
-        painter.drawLine(m_cursor.x(), beam.top(), m_cursor.x(), beam.bottom());
+        const int middle = beam.left() + beam.width() / 2;
+        painter.drawLine(middle, beam.top(), middle, beam.bottom());
     }
     m_cursorShown = !m_cursorShown;
     canvas()->refresh();
@@ -115,5 +147,8 @@ void KORVA_Text::toggleCursor()
 void KORVA_Text::zoomedRebuilt()
 {
     m_cursorShown = false;
-    m_shown.clear();
+    if (m_state == Open && m_manners.coloredText && !m_isCommitting && !m_shown.isEmpty())
+        showColored();
+    else
+        m_shown.clear();
 }

@@ -64,6 +64,13 @@ std::function<void()> KORVA_Tool::keepState()
     return nullptr;
 }
 
+std::optional<KORVA_Tool::PendingSteps> KORVA_Tool::pendingSteps() const
+{
+    return {};
+}
+
+void KORVA_Tool::stepPending(bool) {}
+
 void KORVA_Tool::paintPending(QPixmap*) const {}
 
 void KORVA_Tool::inputMethodEvent(QInputMethodEvent* event)

@@ -10,6 +10,7 @@
 #include <QVariant>
 
 #include <functional>
+#include <optional>
 
 class KORVA_Canvas;
 class QInputMethodEvent;
@@ -116,6 +117,17 @@ public:
     /// back to the state that it is in now. The canvas brings back the pictures. The base class keeps
     /// nothing: for tools whose press depends on nothing before it.
     [[nodiscard]] virtual std::function<void()> keepState();
+    /// Which steps there are in what the tool has not yet committed.
+    struct PendingSteps
+    {
+        bool back = false;  ///< for undo
+        bool forth = false; ///< for redo
+    };
+    /// Whether undo and redo walk through what the tool has not yet committed. Nothing, as in the base
+    /// class, leaves them to the picture.
+    [[nodiscard]] virtual std::optional<PendingSteps> pendingSteps() const;
+    /// Goes one of these steps, which exists.
+    virtual void stepPending(bool back);
 
 signals:
     /// For a host's own tools; the library neither emits it nor connects to it.

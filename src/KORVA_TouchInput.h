@@ -27,6 +27,13 @@ class KORVA_TouchInput : public QObject
     Q_OBJECT
 
 public:
+    /// What the host was last asked to offer.
+    struct Offers
+    {
+        bool undo = false;
+        bool redo = false;
+        bool selection = false;
+    };
     /// Watches the canvas, which owns it, and listens to the editor's signals or, without one, the
     /// canvas's.
     KORVA_TouchInput(KORVA_Canvas& canvas, KORVA_EditCanvas* editor);
@@ -50,6 +57,9 @@ public:
 
     /// Keeps from the floating piece the mouse events that takes() keeps from the canvas.
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// What the host was last asked to offer.
+    [[nodiscard]] const Offers& offers() const { return m_offers; }
 
 signals:
     /// A pinch asks for the zoom, in percent, that keeps the picture between the fingers.

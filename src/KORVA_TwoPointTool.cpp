@@ -2,6 +2,7 @@
 
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_EvenShape.h"
 #include "KORVA_Pixel.h"
 
 #include <QMouseEvent>
@@ -20,6 +21,7 @@ void KORVA_TwoPointTool::deactivating()
     if (m_state == Dragging)
         togglePreview();
     canvas()->refresh();
+    canvas()->setDragged({});
 }
 
 void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
@@ -28,14 +30,18 @@ void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
         return;
     m_state = Dragging;
     m_start = m_end = pixel::at(event->position());
+    m_isEven = false;
     setButton(event->button());
     m_shownPen = screenPen();
 }
 
 void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint to = pixel::at(event->position());
-    if (!canvas() || m_state == Idle || to == m_end)
+    if (!canvas() || m_state == Idle)
+        return;
+    const QPoint to = pointOf(*event);
+    m_isEven = isEven(*event);
+    if (to == m_end)
         return;
     QRect touched;
     {
@@ -47,6 +53,7 @@ void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
     }
     m_end = to;
     canvas()->refresh(touched);
+    canvas()->setDragged(shapeSize(zoom().toPicture(m_start), inPicture(to, m_isEven)));
 }
 
 void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
@@ -60,10 +67,43 @@ void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
         return;
     togglePreview();
 
-    const QPoint to = commitPoint(m_end, pixel::at(event->position()));
+    const QPoint to = commitPoint(m_end, pointOf(*event));
+    const bool isEvenEnd = to == m_end ? m_isEven : isEven(*event);
     paintShape(canvas()->zoomedPixmap(), screenPen(), m_start, to);
-    paintShape(paper, picturePen(), zoom().toPicture(m_start), zoom().toPicture(to));
+    paintShape(paper, picturePen(), zoom().toPicture(m_start), inPicture(to, isEvenEnd));
     canvas()->refresh();
+    canvas()->setDragged({});
+}
+
+// --- Even shapes
+
+bool KORVA_TwoPointTool::isEven(const QMouseEvent& event) const
+{
+    return canvas()->manners().evenShapes && event.modifiers() & Qt::ShiftModifier;
+}
+
+QPoint KORVA_TwoPointTool::pointOf(const QMouseEvent& event) const
+{
+    const QPoint at = pixel::at(event.position());
+    return isEven(event) ? zoom().toWidget(evenPoint(zoom().toPicture(m_start), zoom().toPicture(at))) : at;
+}
+
+// Below 100 % not every pixel of the picture has one on the screen.
+QPoint KORVA_TwoPointTool::inPicture(QPoint to, bool isEven) const
+{
+    const QPoint there = zoom().toPicture(to);
+    constexpr int realSize = 100;
+    return isEven && zoom().percent() < realSize ? evenPoint(zoom().toPicture(m_start), there) : there;
+}
+
+QPoint KORVA_TwoPointTool::evenPoint(QPoint from, QPoint to) const
+{
+    return even::square(from, to);
+}
+
+QSize KORVA_TwoPointTool::shapeSize(QPoint from, QPoint to) const
+{
+    return {qAbs(to.x() - from.x()) + 1, qAbs(to.y() - from.y()) + 1};
 }
 
 void KORVA_TwoPointTool::zoomedRebuilt()
@@ -99,8 +139,9 @@ void KORVA_TwoPointTool::paintShape(QPixmap* target, const QPen& pen, QPoint fro
 
 std::function<void()> KORVA_TwoPointTool::keepState()
 {
-    return [this, state = m_state, start = m_start, end = m_end, pen = m_shownPen] {
+    return [this, state = m_state, start = m_start, end = m_end, isEven = m_isEven, pen = m_shownPen] {
         m_state = state;
+        m_isEven = isEven;
         m_start = start;
         m_end = end;
         m_shownPen = pen;

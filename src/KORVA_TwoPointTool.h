@@ -3,6 +3,7 @@
 #include "KORVA_DrawingTool.h"
 
 #include <QPoint>
+#include <QSize>
 
 class KORVA_ClassicPainter;
 
@@ -10,6 +11,8 @@ class KORVA_ClassicPainter;
 /// shape is shown inverted, in the zoomed picture only. The release of the same button removes it, takes
 /// the undo snapshot and paints the shape into both pictures. Meanwhile other buttons and further presses
 /// are ignored.
+///
+/// With KORVA_Manners::evenShapes a move or release with Shift means the evenPoint() of where it is.
 class KORVA_EXPORT KORVA_TwoPointTool : public KORVA_DrawingTool
 {
     Q_OBJECT
@@ -33,6 +36,11 @@ protected:
     virtual void drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const = 0;
     /// Removes the preview that a move leaves behind. The base class calls drawShape().
     virtual void drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const;
+    /// The second point of the even shape next to this one, in picture coordinates. The base class makes a
+    /// square.
+    [[nodiscard]] virtual QPoint evenPoint(QPoint from, QPoint to) const;
+    /// The size of a shape for the user. The base class counts both points.
+    [[nodiscard]] virtual QSize shapeSize(QPoint from, QPoint to) const;
     /// The final second point of the shape. It and both arguments are in widget coordinates.
     [[nodiscard]] virtual QPoint commitPoint(QPoint lastMove, QPoint release) const = 0;
 
@@ -42,11 +50,15 @@ private:
         Dragging, ///< the shape from m_start to m_end is on screen, inverted
     };
 
+    [[nodiscard]] bool isEven(const QMouseEvent& event) const;
+    [[nodiscard]] QPoint pointOf(const QMouseEvent& event) const;
+    [[nodiscard]] QPoint inPicture(QPoint to, bool isEven) const;
     void togglePreview();
     void paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to);
 
     State m_state = Idle;
-    QPoint m_start;  ///< widget coordinates
-    QPoint m_end;    ///< the last move, widget coordinates
-    QPen m_shownPen; ///< the preview's pen: the tool's may change before the preview is removed
+    QPoint m_start;        ///< widget coordinates
+    QPoint m_end;          ///< the last move, widget coordinates
+    bool m_isEven = false; ///< that move was with Shift
+    QPen m_shownPen;       ///< the preview's pen: the tool's may change before the preview is removed
 };

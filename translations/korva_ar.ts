@@ -670,6 +670,29 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorPopup</name>
+    <message>
+        <source>Colors</source>
+        <comment>color pop-up</comment>
+        <translation>الألوان</translation>
+    </message>
+    <message>
+        <source>Value of the color</source>
+        <comment>color pop-up</comment>
+        <translation>قيمة اللون</translation>
+    </message>
+    <message>
+        <source>#rrggbb, or red, green and blue from 0 to 255</source>
+        <comment>color pop-up</comment>
+        <translation>‎#rrggbb أو الأحمر والأخضر والأزرق من 0 إلى 255</translation>
+    </message>
+    <message>
+        <source>More ...</source>
+        <comment>color pop-up; opens a dialog</comment>
+        <translation>المزيد ...</translation>
+    </message>
+</context>
+<context>
     <name>pad::ColorsDialog</name>
     <message>
         <source>Plain</source>
@@ -1445,6 +1468,11 @@
         <comment>tool</comment>
         <translation>التقاط لون</translation>
     </message>
+    <message>
+        <source>%1 points</source>
+        <comment>tool option</comment>
+        <translation>%1 نقطة</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadWindow</name>
@@ -1697,6 +1725,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>%1: %2</source>
         <comment>status line, spoken</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <comment>status line; of what is dragged</comment>
+        <translation>الحجم</translation>
     </message>
 </context>
 </TS>

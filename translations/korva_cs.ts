@@ -670,6 +670,29 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorPopup</name>
+    <message>
+        <source>Colors</source>
+        <comment>color pop-up</comment>
+        <translation>Barvy</translation>
+    </message>
+    <message>
+        <source>Value of the color</source>
+        <comment>color pop-up</comment>
+        <translation>Hodnota barvy</translation>
+    </message>
+    <message>
+        <source>#rrggbb, or red, green and blue from 0 to 255</source>
+        <comment>color pop-up</comment>
+        <translation>#rrggbb, nebo červená, zelená a modrá od 0 do 255</translation>
+    </message>
+    <message>
+        <source>More ...</source>
+        <comment>color pop-up; opens a dialog</comment>
+        <translation>Další ...</translation>
+    </message>
+</context>
+<context>
     <name>pad::ColorsDialog</name>
     <message>
         <source>Plain</source>
@@ -1442,6 +1465,11 @@
         <comment>tool</comment>
         <translation>Kapátko</translation>
     </message>
+    <message>
+        <source>%1 points</source>
+        <comment>tool option</comment>
+        <translation>%1 bodů</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadWindow</name>
@@ -1694,6 +1722,11 @@ po zrušení vypíše 902 a skončí s kódem 1.</translation>
         <source>%1: %2</source>
         <comment>status line, spoken</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <comment>status line; of what is dragged</comment>
+        <translation>Velikost</translation>
     </message>
 </context>
 </TS>

@@ -670,6 +670,29 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorPopup</name>
+    <message>
+        <source>Colors</source>
+        <comment>color pop-up</comment>
+        <translation>Χρώματα</translation>
+    </message>
+    <message>
+        <source>Value of the color</source>
+        <comment>color pop-up</comment>
+        <translation>Τιμή του χρώματος</translation>
+    </message>
+    <message>
+        <source>#rrggbb, or red, green and blue from 0 to 255</source>
+        <comment>color pop-up</comment>
+        <translation>#rrggbb ή κόκκινο, πράσινο και μπλε από 0 έως 255</translation>
+    </message>
+    <message>
+        <source>More ...</source>
+        <comment>color pop-up; opens a dialog</comment>
+        <translation>Άλλα ...</translation>
+    </message>
+</context>
+<context>
     <name>pad::ColorsDialog</name>
     <message>
         <source>Plain</source>
@@ -1441,6 +1464,11 @@
         <comment>tool</comment>
         <translation>Σταγονόμετρο</translation>
     </message>
+    <message>
+        <source>%1 points</source>
+        <comment>tool option</comment>
+        <translation>%1 στιγμές</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadWindow</name>
@@ -1693,6 +1721,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>%1: %2</source>
         <comment>status line, spoken</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <comment>status line; of what is dragged</comment>
+        <translation>Μέγεθος</translation>
     </message>
 </context>
 </TS>

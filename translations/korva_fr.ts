@@ -670,6 +670,29 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorPopup</name>
+    <message>
+        <source>Colors</source>
+        <comment>color pop-up</comment>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Value of the color</source>
+        <comment>color pop-up</comment>
+        <translation>Valeur de la couleur</translation>
+    </message>
+    <message>
+        <source>#rrggbb, or red, green and blue from 0 to 255</source>
+        <comment>color pop-up</comment>
+        <translation>#rrggbb, ou rouge, vert et bleu de 0 à 255</translation>
+    </message>
+    <message>
+        <source>More ...</source>
+        <comment>color pop-up; opens a dialog</comment>
+        <translation>Plus ...</translation>
+    </message>
+</context>
+<context>
     <name>pad::ColorsDialog</name>
     <message>
         <source>Plain</source>
@@ -1441,6 +1464,11 @@
         <comment>tool</comment>
         <translation>Pipette</translation>
     </message>
+    <message>
+        <source>%1 points</source>
+        <comment>tool option</comment>
+        <translation>%1 points</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadWindow</name>
@@ -1693,6 +1721,11 @@ confirmée, affiche 902 et se termine avec 1 si elle est annulée.</translation>
         <source>%1: %2</source>
         <comment>status line, spoken</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <comment>status line; of what is dragged</comment>
+        <translation>Taille</translation>
     </message>
 </context>
 </TS>

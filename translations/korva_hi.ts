@@ -670,6 +670,29 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorPopup</name>
+    <message>
+        <source>Colors</source>
+        <comment>color pop-up</comment>
+        <translation>रंग</translation>
+    </message>
+    <message>
+        <source>Value of the color</source>
+        <comment>color pop-up</comment>
+        <translation>रंग का मान</translation>
+    </message>
+    <message>
+        <source>#rrggbb, or red, green and blue from 0 to 255</source>
+        <comment>color pop-up</comment>
+        <translation>#rrggbb, या 0 से 255 तक लाल, हरा और नीला</translation>
+    </message>
+    <message>
+        <source>More ...</source>
+        <comment>color pop-up; opens a dialog</comment>
+        <translation>और ...</translation>
+    </message>
+</context>
+<context>
     <name>pad::ColorsDialog</name>
     <message>
         <source>Plain</source>
@@ -1441,6 +1464,11 @@
         <comment>tool</comment>
         <translation>रंग उठाएँ</translation>
     </message>
+    <message>
+        <source>%1 points</source>
+        <comment>tool option</comment>
+        <translation>%1 पॉइंट</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadWindow</name>
@@ -1693,6 +1721,11 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>%1: %2</source>
         <comment>status line, spoken</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <comment>status line; of what is dragged</comment>
+        <translation>आकार</translation>
     </message>
 </context>
 </TS>

@@ -670,6 +670,29 @@
     </message>
 </context>
 <context>
+    <name>pad::ColorPopup</name>
+    <message>
+        <source>Colors</source>
+        <comment>color pop-up</comment>
+        <translation>Színek</translation>
+    </message>
+    <message>
+        <source>Value of the color</source>
+        <comment>color pop-up</comment>
+        <translation>A szín értéke</translation>
+    </message>
+    <message>
+        <source>#rrggbb, or red, green and blue from 0 to 255</source>
+        <comment>color pop-up</comment>
+        <translation>#rrggbb, vagy vörös, zöld és kék 0 és 255 között</translation>
+    </message>
+    <message>
+        <source>More ...</source>
+        <comment>color pop-up; opens a dialog</comment>
+        <translation>Több ...</translation>
+    </message>
+</context>
+<context>
     <name>pad::ColorsDialog</name>
     <message>
         <source>Plain</source>
@@ -1440,6 +1463,11 @@
         <comment>tool</comment>
         <translation>Pipetta</translation>
     </message>
+    <message>
+        <source>%1 points</source>
+        <comment>tool option</comment>
+        <translation>%1 pont</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadWindow</name>
@@ -1692,6 +1720,11 @@ elvetéskor 902-t ír ki és 1-gyel lép ki.</translation>
         <source>%1: %2</source>
         <comment>status line, spoken</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <comment>status line; of what is dragged</comment>
+        <translation>Méret</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,7 @@
 #include "support/PaintedTexts.h"
 #include "support/TestCase.h"
 
+#include <KORVA_ColorPicker.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_Translations.h>
 
@@ -333,7 +334,19 @@ void tst_Languages::dialogsAreReadable()
     checkCopy<pad::ColorsDialog>(support::sheet(QSize(1352, 1288)), 2);
     checkCopy<pad::ColorsDialog>(support::mosaic({352, 288}), 256);
     checkDialog([&] { choose(QKeySequence("Ctrl+N")); });
-    checkDialog([&] { choose(QKeySequence("C")); });
+    checkDialog(
+        [&] { (void)KORVA_ColorPicker::getColor(KORVA_COLOR_16BIT, Qt::red, &m_window->editor()); });
+    QStringList faults{"nothing opened"};
+    QTimer::singleShot(0, m_window.get(), [&] {
+        QWidget* popup = QApplication::activePopupWidget();
+        const QList<support::PaintedText> texts = support::paintedTexts(*popup);
+        faults = support::unreadable(texts);
+        if (texts.size() < 2) // the value, and what leads to the dialog
+            faults << "hardly a text";
+        popup->close();
+    });
+    choose(QKeySequence("C"));
+    QCOMPARE(faults.join("; "), QString());
 }
 
 void tst_Languages::boxIsReadable_data()

@@ -161,11 +161,18 @@ private:
 
     void color()
     {
-        QTimer::singleShot(0, [this] {
+        const auto mix = [this] {
             auto* picker = QApplication::activeModalWidget();
+            if (!picker)
+                return;
             for (auto* slider : picker->findChildren<QAbstractSlider*>())
                 slider->setValue(m_random.bounded(slider->maximum() + 1));
             QTest::keyClick(picker, Qt::Key_Return);
+        };
+        QTimer::singleShot(0, [this, mix] {
+            const auto buttons = QApplication::activePopupWidget()->findChildren<QAbstractButton*>();
+            QTimer::singleShot(0, mix); // if it is the one that leads to the picker
+            buttons.at(m_random.bounded(int(buttons.size())))->click();
         });
         QTest::mouseClick(m_window.findChild<QPushButton*>("colorButton"), Qt::LeftButton);
     }

@@ -118,6 +118,12 @@ void tst_Recording::understands_data()
             << QByteArray("piece ") + changes[i] << numbered(Verb::Piece, i);
     QTest::newRow("place") << QByteArray("place -3 70")
                            << Command{.verb = Verb::Place, .line = 1, .point = {-3, 70}};
+    QTest::newRow("move with Shift") << QByteArray("move 3 4 shift")
+                                     << Command{
+                                            .verb = Verb::Move, .line = 1, .point = {3, 4}, .isEven = true};
+    QTest::newRow("release with Shift")
+        << QByteArray("release 3 4 shift")
+        << Command{.verb = Verb::Release, .line = 1, .point = {3, 4}, .isEven = true};
     const char* types[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
     for (int i = 0; i < 5; ++i) {
         QTest::addRow("canvas %s", types[i])
@@ -232,6 +238,8 @@ void tst_Recording::tellsWhatIsWrongAndWhere_data()
     row("coordinate without end", "move 1 99999999999", "test.rec:1: 'move' needs Y, not '99999999999'");
     row("coordinate far away", "move 100001 1", "test.rec:1: 'move' needs X, not '100001'");
     row("third word of a move", "move 1 2 right", "test.rec:1: 'right' is too much for 'move'");
+    row("fourth word of a move", "move 1 2 shift shift", "test.rec:1: 'shift' is too much for 'move'");
+    row("Shift at a press", "press 1 2 shift", "test.rec:1: 'press' needs 'right', not 'shift'");
     row("unknown button", "press 1 2 left", "test.rec:1: 'press' needs 'right', not 'left'");
     row("word after the button", "press 1 2 right 3", "test.rec:1: '3' is too much for 'press'");
     row("unknown tool", "# tools\ntool brush", "test.rec:2: 'tool' needs a tool, not 'brush'");

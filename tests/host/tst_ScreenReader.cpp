@@ -118,7 +118,7 @@ void tst_ScreenReader::everythingHasANameAndARole_data()
     row("window", {}, "frame", "Drawing - Korva");
     row("menu", {"F10"}, "popup menu", "Menu");
     row("keys", {"F1"}, "dialog", "Keys");
-    row("color", {"C"}, "dialog", "Color");
+    row("color", {"C"}, "dialog", "Colors");
     row("canvas size", {"Ctrl+N"}, "dialog", "Canvas Size:");
     row("message", {"Ctrl+M"}, "dialog", "Save for a message");
     row("open", {"Ctrl+O"}, "dialog", "Open picture");

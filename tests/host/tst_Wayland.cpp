@@ -13,6 +13,8 @@ constexpr QPoint menuKey(60, 285);
 constexpr QPoint toolButton(18, 14);
 constexpr QPoint zoomBox(130, 14);
 constexpr QPoint colorButton(215, 14);
+constexpr QPoint orange(90, 76);       // in the pop-up of that button
+constexpr QPoint moreColors(175, 212); // while only one color was used
 constexpr QPoint onCanvas(60, 80);
 constexpr int patience = 20'000; // ms
 
@@ -53,6 +55,7 @@ private:
     [[nodiscard]] QImage shot() const { return m_server->screenshot().copy(m_place); }
     // The compositor paints the pointer into what one sees: it goes out of the way.
     void click(QPoint inWindow) { drag(inWindow, inWindow); }
+    void openPicker(const QImage& before);
     void drag(QPoint from, QPoint to)
     {
         m_server->moveTo(m_place.topLeft() + from);
@@ -189,14 +192,21 @@ void tst_Wayland::whatOpensStaysInsideTheWindow()
     QTRY_VERIFY_WITH_TIMEOUT(shot().copy(middle) == before.copy(m_place).copy(middle), patience);
 }
 
+void tst_Wayland::openPicker(const QImage& before)
+{
+    click(colorButton);
+    QTRY_COMPARE_WITH_TIMEOUT(colorAt(orange), QColor(255, 128, 0), patience);
+    click(moreColors);
+    QTRY_VERIFY_WITH_TIMEOUT(shot().copy(0, 300, 240, 20) != before.copy(0, 300, 240, 20), patience);
+}
+
 void tst_Wayland::aDialogHasAllInput()
 {
     QVERIFY(start());
     click(onCanvas);
     QTRY_COMPARE_WITH_TIMEOUT(colorAt(onCanvas), QColor(Qt::red), patience);
     const QImage before = shot();
-    click(colorButton);
-    QTRY_VERIFY_WITH_TIMEOUT(shot() != before, patience);
+    openPicker(before);
     const QImage open = shot();
     m_server->key("z", true); // would undo
     m_server->key("q", true); // would quit
@@ -213,8 +223,7 @@ void tst_Wayland::aDialogHasAllInput()
     QTRY_COMPARE_WITH_TIMEOUT(colorAt(onCanvas), QColor(Qt::white), patience);
 
     // Return is the first key: the new colour is taken.
-    click(colorButton);
-    QTRY_VERIFY_WITH_TIMEOUT(shot().copy(0, 300, 240, 20) != before.copy(0, 300, 240, 20), patience);
+    openPicker(shot());
     m_server->key("Return");
     QTRY_VERIFY_WITH_TIMEOUT(shot().copy(0, 300, 240, 20) == before.copy(0, 300, 240, 20), patience);
 }
