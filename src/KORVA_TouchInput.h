@@ -43,15 +43,6 @@ public:
     /// From now on the stroke that is under way cannot be taken back.
     void settle();
 
-    /// What the host was last asked to offer.
-    struct Offers
-    {
-        bool undo = false;
-        bool redo = false;
-        bool selection = false;
-    };
-    [[nodiscard]] const Offers& offers() const { return m_offers; }
-
     void setFingerUse(KORVA_Canvas::FingerUse use) { m_use = use; }
     [[nodiscard]] KORVA_Canvas::FingerUse fingerUse() const { return m_use; }
 
