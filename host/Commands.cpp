@@ -109,8 +109,8 @@ void Commands::addEntries()
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Picture", "menu"), "", Needs::Nothing, nullptr,
          0, Page::Picture},
-        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&New from picture ...", "menu"),
-         "Ctrl+T", Needs::Nothing, [](C& c, int) { c.m_documents.newFromPicture(); }},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&New from picture ...", "menu"), "Ctrl+T",
+         Needs::Nothing, [](C& c, int) { c.m_documents.newFromPicture(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I",
          Needs::Nothing, [](C& c, int) { c.m_documents.stamp(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
@@ -140,6 +140,8 @@ void Commands::addEntries()
          [](C& c, int) { c.removeSelection(); }},
         {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "Select &all", "menu"), "Ctrl+A", Needs::Nothing,
          doing, int(Verb::SelectAll)},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "Cop&y drawing", "menu"), "Ctrl+Shift+C",
+         Needs::Nothing, [](C& c, int) { c.m_copies.toClipboard(); }},
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Tool", "menu"), "", Needs::Nothing, nullptr, 0,
          Page::Tool},

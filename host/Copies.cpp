@@ -8,6 +8,8 @@
 
 #include <KORVA_EditCanvas.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QSettings>
 
 namespace pad {
@@ -42,6 +44,13 @@ void Copies::remember()
 {
     m_isRemembered = true;
     m_limit = QSettings(settingsFile(), QSettings::IniFormat).value(limitKey).toInt();
+}
+
+void Copies::toClipboard() const
+{
+    const QImage drawing = m_editor.snapshot();
+    if (!drawing.isNull()) // there was memory for it
+        QGuiApplication::clipboard()->setImage(drawing);
 }
 
 void Copies::saveForMessage(const QString& title)

@@ -9,8 +9,9 @@ namespace pad {
 
 class Documents;
 
-/// Saves copies of the drawing that are less than it is, after showing them. The drawing keeps its name and
-/// its changes. If a copy cannot be saved, the dialog comes back.
+/// Copies of the drawing, as snapshot() takes them: the drawing keeps its name and its changes. Those that
+/// are less than the drawing are shown before they are saved. If one cannot be saved, the dialog comes
+/// back.
 class Copies
 {
 public:
@@ -20,6 +21,8 @@ public:
     /// Loads the last choice from the settings, and keeps it there from now on.
     void remember();
 
+    /// The drawing as a picture on the clipboard.
+    void toClipboard() const;
     /// A JPEG of limited length. `title` is the dialog's.
     void saveForMessage(const QString& title);
     /// Whether the canvas has few colours.

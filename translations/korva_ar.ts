@@ -941,6 +941,11 @@
         <translation>تحديد الكل(&amp;A)</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>نسخ الرسم(&amp;Y)</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>الأداة(&amp;T)</translation>

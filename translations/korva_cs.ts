@@ -941,6 +941,11 @@
         <translation>Vybrat vš&amp;e</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopírovat k&amp;resbu</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Nás&amp;troj</translation>

@@ -941,6 +941,11 @@
         <translation>&amp;Markér alt</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopiér te&amp;gning</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Vær&amp;ktøj</translation>

@@ -941,6 +941,11 @@
         <translation>Alles a&amp;uswählen</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>&amp;Bild kopieren</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Werkzeug</translation>

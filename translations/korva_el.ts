@@ -941,6 +941,11 @@
         <translation>Επιλογή όλω&amp;ν</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Αντιγραφή &amp;σχεδίου</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Ε&amp;ργαλεία</translation>

@@ -941,6 +941,11 @@
         <translation>&amp;Seleccionar todo</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Copiar di&amp;bujo</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Herramienta</translation>

@@ -941,6 +941,11 @@
         <translation>&amp;Valitse kaikki</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopioi t&amp;yö</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>T&amp;yökalu</translation>

@@ -941,6 +941,11 @@
         <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Copier le &amp;dessin</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>O&amp;util</translation>

@@ -941,6 +941,11 @@
         <translation>בחירת ה&amp;כול</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>העתקת &amp;ציור</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;כלים</translation>

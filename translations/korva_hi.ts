@@ -941,6 +941,11 @@
         <translation>सब चुनें(&amp;A)</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>ड्रॉइंग कॉपी करें(&amp;Y)</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>टूल(&amp;T)</translation>

@@ -941,6 +941,11 @@
         <translation>Összes ki&amp;jelölése</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>R&amp;ajz másolása</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Eszközök</translation>

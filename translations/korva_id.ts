@@ -941,6 +941,11 @@
         <translation>Pilih s&amp;emua</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Sali&amp;n gambar</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Alat</translation>

@@ -941,6 +941,11 @@
         <translation>&amp;Seleziona tutto</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Copia &amp;disegno</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>St&amp;rumento</translation>

@@ -941,6 +941,11 @@
         <translation>すべて選択(&amp;A)</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>絵をコピー(&amp;Y)</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>ツール(&amp;T)</translation>

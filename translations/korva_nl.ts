@@ -941,6 +941,11 @@
         <translation>&amp;Alles selecteren</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>&amp;Beeld kopiëren</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Gereedschap</translation>

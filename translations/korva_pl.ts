@@ -941,6 +941,11 @@
         <translation>&amp;Zaznacz wszystko</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopiuj &amp;rysunek</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Na&amp;rzędzie</translation>

@@ -941,6 +941,11 @@
         <translation>&amp;Selecionar tudo</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Copiar dese&amp;nho</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Ferramenta</translation>

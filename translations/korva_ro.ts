@@ -941,6 +941,11 @@
         <translation>&amp;Selectează tot</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Copiază &amp;desenul</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Unealtă</translation>

@@ -941,6 +941,11 @@
         <translation>В&amp;ыделить всё</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Копия &amp;рисунка</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>И&amp;нструмент</translation>

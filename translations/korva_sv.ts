@@ -941,6 +941,11 @@
         <translation>&amp;Markera allt</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopiera te&amp;ckning</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Verktyg</translation>

@@ -941,6 +941,11 @@
         <translation>เลือกทั้งหมด(&amp;A)</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>คัดลอกภาพวาด(&amp;Y)</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>เครื่องมือ(&amp;T)</translation>

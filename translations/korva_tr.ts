@@ -941,6 +941,11 @@
         <translation>&amp;Tümünü seç</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Çi&amp;zimi kopyala</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Araç&amp;lar</translation>

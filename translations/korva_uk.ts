@@ -941,6 +941,11 @@
         <translation>Виділити вс&amp;е</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Копія &amp;малюнка</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Інструмент</translation>

@@ -941,6 +941,11 @@
         <translation>Chọn &amp;tất cả</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Sao chép &amp;bức vẽ</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Công cụ</translation>
