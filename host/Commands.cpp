@@ -41,6 +41,7 @@ QString plain(const QString& label)
 
 // Their texts are the titles of their dialogs, too.
 constexpr Label message = QT_TRANSLATE_NOOP3("pad::Commands", "Save for a &message ...", "menu");
+constexpr Label print = QT_TRANSLATE_NOOP3("pad::Commands", "&Print ...", "menu");
 constexpr Label fewColors = QT_TRANSLATE_NOOP3("pad::Commands", "Save in &few colors ...", "menu");
 
 QString titleFrom(const Label& label)
@@ -119,6 +120,8 @@ void Commands::addEntries()
          [](C& c, int) { c.m_copies.saveForMessage(titleFrom(message)); }},
         {Page::Picture, fewColors, "Ctrl+D", Needs::FewColors,
          [](C& c, int) { c.m_copies.saveInFewColors(titleFrom(fewColors)); }},
+        {Page::Picture, print, "Ctrl+P", Needs::Nothing,
+         [](C& c, int) { c.m_copies.print(titleFrom(print)); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Earlier drawings ...", "menu"), "Ctrl+E",
          Needs::Recovery, [](C& c, int) { c.m_recovery->showEarlier(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Delete picture ...", "menu"), "Ctrl+Del",

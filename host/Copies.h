@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Printer.h"
+
+#include <QCoreApplication>
 #include <QString>
 
 class KORVA_EditCanvas;
@@ -14,6 +17,8 @@ class Documents;
 /// back.
 class Copies
 {
+    Q_DECLARE_TR_FUNCTIONS(pad::Copies)
+
 public:
     /// All arguments outlive this object.
     Copies(KORVA_EditCanvas& editor, Documents& documents, QWidget* window);
@@ -23,6 +28,10 @@ public:
 
     /// The drawing as a picture on the clipboard.
     void toClipboard() const;
+    /// One sheet of paper, or of a PDF file, after showing it.
+    void print(const QString& title);
+    /// Sets where the printer comes from, so that tests can bring their own.
+    void setPrinterSource(const std::function<std::optional<Printer>()>& source) { m_findPrinter = source; }
     /// A JPEG of limited length. `title` is the dialog's.
     void saveForMessage(const QString& title);
     /// Whether the canvas has few colours.
@@ -35,6 +44,7 @@ private:
     KORVA_EditCanvas& m_editor;
     Documents& m_documents;
     QWidget* m_window;
+    std::function<std::optional<Printer>()> m_findPrinter = &Printer::usual;
     int m_limit = 0; ///< in kB; 0 before the first choice
     bool m_isRemembered = false;
 };

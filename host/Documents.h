@@ -73,6 +73,9 @@ public:
     /// proposed as its name.
     void takeBroughtBack(const QString& pictureName);
 
+    /// Tells what went wrong.
+    void tell(const QString& text, const QString& button);
+
     /// The name of the drawing's file, or the name to propose; empty if there is none.
     [[nodiscard]] QString name() const;
 
@@ -122,8 +125,6 @@ private:
     void begin(const Command& how);
     void beginDocument();
     void settle();
-    /// Tells what went wrong.
-    void tell(const QString& text, const QString& button);
 
     KORVA_EditCanvas& m_editor;
     Platform& m_platform;

@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>حفظ بألوان قليلة(&amp;C) ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>طباعة(&amp;P) ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>الطابعة لا تقبل الرسم.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1546,6 +1559,14 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>أي صورة؟ korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>الطابعة</translation>
     </message>
 </context>
 <context>

@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Kopie: &amp;málo barev ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Tisk ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Tiskárna kresbu nepřijala.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1543,6 +1556,14 @@ po zrušení vypíše 902 a skončí s kódem 1.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>který obrázek? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Tiskárna</translation>
     </message>
 </context>
 <context>

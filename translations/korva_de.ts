@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Mit &amp;wenig Farben ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Drucken ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Der Drucker nimmt es nicht an.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1542,6 +1555,14 @@ bestätigt wurde, gibt 902 aus und endet mit 1, wenn abgebrochen wurde.</transla
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>welches Bild? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Drucker</translation>
     </message>
 </context>
 <context>

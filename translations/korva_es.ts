@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Con pocos &amp;colores ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>Imp&amp;rimir ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>La impresora no lo acepta.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1542,6 +1555,14 @@ confirmó, escribe 902 y termina con 1 si se canceló.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>¿qué imagen? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Impresora</translation>
     </message>
 </context>
 <context>

@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>שמירה במעט צ&amp;בעים ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>הד&amp;פסה ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>המדפסת לא קיבלה את הציור.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1542,6 +1555,14 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>איזו תמונה? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>מדפסת</translation>
     </message>
 </context>
 <context>

@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>कम रंगों में सहेजें(&amp;C) ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>प्रिंट करें(&amp;P) ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>प्रिंटर इसे नहीं ले रहा है।</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1542,6 +1555,14 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>कौन-सा चित्र? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>प्रिंटर</translation>
     </message>
 </context>
 <context>

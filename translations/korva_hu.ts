@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Kevés &amp;színnel ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Nyomtatás ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>A nyomtató nem fogadja.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1541,6 +1554,14 @@ elvetéskor 902-t ír ki és 1-gyel lép ki.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>melyik kép? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Nyomtató</translation>
     </message>
 </context>
 <context>

@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Sedikit &amp;warna ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Cetak ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Printer tidak menerimanya.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1541,6 +1554,14 @@ jika dikonfirmasi, mencetak 902 dan keluar dengan 1 jika dibatalkan.</translatio
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>gambar yang mana? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Printer</translation>
     </message>
 </context>
 <context>

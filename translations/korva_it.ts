@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Salva in pochi co&amp;lori ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Stampa ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>La stampante non lo accetta.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1542,6 +1555,14 @@ confermata, scrive 902 ed esce con 1 se è stata annullata.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>quale immagine? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Stampante</translation>
     </message>
 </context>
 <context>

@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>W kilku &amp;kolorach ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>Druku&amp;j ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Drukarka tego nie przyjmuje.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1543,6 +1556,14 @@ z kodem 0, po anulowaniu wypisuje 902 i kończy z kodem 1.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>który obraz? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Drukarka</translation>
     </message>
 </context>
 <context>

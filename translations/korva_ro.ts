@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Cu puține c&amp;ulori ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>Tipă&amp;rire ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Imprimanta nu îl primește.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1543,6 +1556,14 @@ confirmată, scrie 902 și iese cu 1 dacă a fost anulată.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>ce imagine? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Imprimantă</translation>
     </message>
 </context>
 <context>

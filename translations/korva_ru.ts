@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Немного &amp;цветов ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>Печ&amp;ать ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Принтер не принимает задание.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1543,6 +1556,14 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>какое изображение? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Принтер</translation>
     </message>
 </context>
 <context>

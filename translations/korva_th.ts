@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>บันทึกแบบน้อยสี(&amp;C) ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>พิมพ์(&amp;P) ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>เครื่องพิมพ์ไม่รับงานพิมพ์</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1541,6 +1554,14 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>รูปภาพใด? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>เครื่องพิมพ์</translation>
     </message>
 </context>
 <context>

@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Az ren&amp;kle kaydet ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Yazdır ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Yazıcı bunu almıyor.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1541,6 +1554,14 @@ iptal edilirse 902 yazıp 1 ile çıkar.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>hangi resim? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Yazıcı</translation>
     </message>
 </context>
 <context>

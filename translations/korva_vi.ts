@@ -1135,6 +1135,19 @@
         <comment>menu</comment>
         <translation>Lưu ít mà&amp;u ...</translation>
     </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;In ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Máy in không nhận bức vẽ.</translation>
+    </message>
 </context>
 <context>
     <name>pad::CopyDialog</name>
@@ -1541,6 +1554,14 @@ in 902 và thoát với mã 1 nếu bị hủy.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>ảnh nào? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Máy in</translation>
     </message>
 </context>
 <context>

@@ -255,20 +255,21 @@ void tst_Menus::picturePage()
 {
     const QString name = m_pad->pictures() + "/flag.png";
     QVERIFY(support::sheet(drawingSize, Qt::yellow).save(name));
-    constexpr int rows = 7;
+    constexpr int rows = 8;
     QVERIFY(start({name}));
     QVERIFY(fromMenu(Picture, 0, rows, box("New from picture")));
     QVERIFY(fromMenu(Picture, 1, rows, box("Insert stamp")));
     QVERIFY(fromMenu(Picture, 2, rows, line("clear")));
     QVERIFY(m_pad->waitForColor({10, 10}, Qt::white));
     QVERIFY(fromMenu(Picture, 3, rows, box("Save for a message")));
-    QVERIFY(fromMenu(Picture, 5, rows, box("Earlier drawings")));
-    QVERIFY(fromMenu(Picture, 6, rows, box("Move flag.png to the trash?")));
+    QVERIFY(fromMenu(Picture, 5, rows, box("Print")));
+    QVERIFY(fromMenu(Picture, 6, rows, box("Earlier drawings")));
+    QVERIFY(fromMenu(Picture, 7, rows, box("Move flag.png to the trash?")));
 }
 
 void tst_Menus::picturePageWithFewColors()
 {
-    constexpr int rows = 7;
+    constexpr int rows = 8;
     constexpr int fewColors = 4;
     QVERIFY(start());
     m_pad->click(menuKey);
