@@ -55,6 +55,8 @@ public:
     bool saveCopy(const Encoder& encode, const QStringList& patterns);
     /// Lays a picture that the person picks over the drawing.
     void stamp();
+    /// Lays a picture over the drawing.
+    void stampNamed(const QString& fileName);
     /// Moves the drawing's file to the trash.
     void deletePicture();
     void clear();
