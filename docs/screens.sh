@@ -135,6 +135,7 @@ take_all() {
     tap 215 14; shot colors; press Escape
     press F1; shot keys; press Escape
     press ctrl+m; shot 'save for a message'; press Escape
+    press ctrl+p; shot print; press Escape
     press ctrl+o; shot open; press Escape
     press ctrl+shift+s; shot 'save as'; press Escape
     press ctrl+i; shot 'insert stamp'; press Escape

@@ -41,6 +41,7 @@ QString plain(const QString& label)
 
 // Their texts are the titles of their dialogs, too.
 constexpr Label message = QT_TRANSLATE_NOOP3("pad::Commands", "Save for a &message ...", "menu");
+constexpr Label print = QT_TRANSLATE_NOOP3("pad::Commands", "&Print ...", "menu");
 constexpr Label fewColors = QT_TRANSLATE_NOOP3("pad::Commands", "Save in &few colors ...", "menu");
 
 QString titleFrom(const Label& label)
@@ -109,8 +110,8 @@ void Commands::addEntries()
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Picture", "menu"), "", Needs::Nothing, nullptr,
          0, Page::Picture},
-        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&New from picture ...", "menu"),
-         "Ctrl+T", Needs::Nothing, [](C& c, int) { c.m_documents.newFromPicture(); }},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&New from picture ...", "menu"), "Ctrl+T",
+         Needs::Nothing, [](C& c, int) { c.m_documents.newFromPicture(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I",
          Needs::Nothing, [](C& c, int) { c.m_documents.stamp(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
@@ -119,6 +120,8 @@ void Commands::addEntries()
          [](C& c, int) { c.m_copies.saveForMessage(titleFrom(message)); }},
         {Page::Picture, fewColors, "Ctrl+D", Needs::FewColors,
          [](C& c, int) { c.m_copies.saveInFewColors(titleFrom(fewColors)); }},
+        {Page::Picture, print, "Ctrl+P", Needs::Nothing,
+         [](C& c, int) { c.m_copies.print(titleFrom(print)); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Earlier drawings ...", "menu"), "Ctrl+E",
          Needs::Recovery, [](C& c, int) { c.m_recovery->showEarlier(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Delete picture ...", "menu"), "Ctrl+Del",
@@ -140,6 +143,8 @@ void Commands::addEntries()
          [](C& c, int) { c.removeSelection(); }},
         {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "Select &all", "menu"), "Ctrl+A", Needs::Nothing,
          doing, int(Verb::SelectAll)},
+        {Page::Edit, QT_TRANSLATE_NOOP3("pad::Commands", "Cop&y drawing", "menu"), "Ctrl+Shift+C",
+         Needs::Nothing, [](C& c, int) { c.m_copies.toClipboard(); }},
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Tool", "menu"), "", Needs::Nothing, nullptr, 0,
          Page::Tool},

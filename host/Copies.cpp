@@ -4,10 +4,14 @@
 #include "Documents.h"
 #include "MessageDialog.h"
 #include "Palette.h"
+#include "PrintDialog.h"
+#include "PrintPage.h"
 #include "Settings.h"
 
 #include <KORVA_EditCanvas.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QSettings>
 
 namespace pad {
@@ -42,6 +46,35 @@ void Copies::remember()
 {
     m_isRemembered = true;
     m_limit = QSettings(settingsFile(), QSettings::IniFormat).value(limitKey).toInt();
+}
+
+void Copies::toClipboard() const
+{
+    const QImage drawing = m_editor.snapshot();
+    if (!drawing.isNull()) // there was memory for it
+        QGuiApplication::clipboard()->setImage(drawing);
+}
+
+void Copies::print(const QString& title)
+{
+    const QImage drawing = m_editor.snapshot();
+    if (drawing.isNull())
+        return;
+    const std::optional<Printer> printer = m_findPrinter();
+    PrintDialog dialog(m_window, title, drawing, printer);
+    bool isDone = false;
+    while (!isDone && dialog.ask()) {
+        const QPageLayout sheet = dialog.layout();
+        if (dialog.isPdf()) {
+            isDone = m_documents.saveCopy(
+                [drawing, sheet](const QString&) { return printpage::pdf(drawing, sheet); },
+                {QStringLiteral("*.pdf")});
+            continue;
+        }
+        isDone = printer->print(drawing, sheet);
+        if (!isDone)
+            m_documents.tell(tr("The printer does not take it.", "print"), Documents::tr("OK", "saving"));
+    }
 }
 
 void Copies::saveForMessage(const QString& title)

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Printer.h"
+
+#include <QCoreApplication>
 #include <QString>
 
 class KORVA_EditCanvas;
@@ -9,10 +12,13 @@ namespace pad {
 
 class Documents;
 
-/// Saves copies of the drawing that are less than it is, after showing them. The drawing keeps its name and
-/// its changes. If a copy cannot be saved, the dialog comes back.
+/// Copies of the drawing, as snapshot() takes them: the drawing keeps its name and its changes. Those that
+/// are less than the drawing are shown before they are saved. If one cannot be saved, the dialog comes
+/// back.
 class Copies
 {
+    Q_DECLARE_TR_FUNCTIONS(pad::Copies)
+
 public:
     /// All arguments outlive this object.
     Copies(KORVA_EditCanvas& editor, Documents& documents, QWidget* window);
@@ -20,6 +26,12 @@ public:
     /// Loads the last choice from the settings, and keeps it there from now on.
     void remember();
 
+    /// The drawing as a picture on the clipboard.
+    void toClipboard() const;
+    /// One sheet of paper, or of a PDF file, after showing it.
+    void print(const QString& title);
+    /// Sets where the printer comes from, so that tests can bring their own.
+    void setPrinterSource(const std::function<std::optional<Printer>()>& source) { m_findPrinter = source; }
     /// A JPEG of limited length. `title` is the dialog's.
     void saveForMessage(const QString& title);
     /// Whether the canvas has few colours.
@@ -32,6 +44,7 @@ private:
     KORVA_EditCanvas& m_editor;
     Documents& m_documents;
     QWidget* m_window;
+    std::function<std::optional<Printer>()> m_findPrinter = &Printer::usual;
     int m_limit = 0; ///< in kB; 0 before the first choice
     bool m_isRemembered = false;
 };

@@ -26,14 +26,14 @@ constexpr int zoomWidth = 64;   ///< of its key, for "400 %"
 
 } // namespace
 
-CopyDialog::CopyDialog(QWidget* parent, const QString& title)
+CopyDialog::CopyDialog(QWidget* parent, const QString& title, const QString& verb)
     : UTIL_Dialog(FreeDialog, true, parent),
       m_choices(new QButtonGroup(this)),
       m_choiceRow(new QHBoxLayout),
       m_view(new CopyView(title, this)),
       m_description(new QLabel(this)),
       m_zoomKey(new UTIL_PushButton(QString(), QString(), this)),
-      m_saveKey(new UTIL_PushButton(QString(), tr("Save", "copy"), this))
+      m_saveKey(new UTIL_PushButton(QString(), verb.isEmpty() ? tr("Save", "copy") : verb, this))
 {
     setWindowTitle(title);
     CopyDialog::fit();

@@ -17,7 +17,7 @@ namespace pad {
 
 class CopyView;
 
-/// The base of the dialogs that show a copy of the drawing before it is saved, exactly as it will be: some
+/// The base of the dialogs that show a copy of the drawing before it is taken, exactly as it will be: some
 /// choices, the copy and what it is, and two keys. A copy is made in another thread. If another choice is
 /// made meanwhile, or the dialog is closed, nobody sees it.
 class CopyDialog : public UTIL_Dialog
@@ -32,7 +32,7 @@ public:
         QByteArray bytes; ///< of its file, if they are known already
     };
 
-    /// Runs the dialog, also again after it was accepted. Whether the person wants to save copy().
+    /// Runs the dialog, also again after it was accepted. Whether the person wants copy().
     [[nodiscard]] bool ask() { return exec() == Accepted; }
     /// The copy that is shown.
     [[nodiscard]] const Copy& copy() const { return m_copy; }
@@ -46,7 +46,8 @@ protected:
     using IsWanted = std::function<bool()>;
     using Maker = std::function<Copy(const IsWanted& isWanted)>;
 
-    CopyDialog(QWidget* parent, const QString& title);
+    /// `verb` is what the key does with the copy; empty means to save it.
+    CopyDialog(QWidget* parent, const QString& title, const QString& verb = {});
     ~CopyDialog() override;
     /// Adds a choice with its key. `make` gives its copy, in another thread. It may give any as soon as
     /// none is wanted.

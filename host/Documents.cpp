@@ -224,8 +224,14 @@ void Documents::stamp()
 {
     const QString name = pick(Purpose{KORVA_EditCanvas::tr("Insert stamp", "PICK_DIALOG;TITLE"),
                                       KORVA_EditCanvas::tr("Insert", "PICK_DIALOG;SOFTKEY_2BUTTON")});
-    if (!name.isEmpty() && insertStamp(m_editor, name))
-        emit performed(Command{.verb = Verb::Stamp, .text = name});
+    if (!name.isEmpty())
+        stampNamed(name);
+}
+
+void Documents::stampNamed(const QString& fileName)
+{
+    if (insertStamp(m_editor, fileName))
+        emit performed(Command{.verb = Verb::Stamp, .text = fileName});
 }
 
 void Documents::clear()

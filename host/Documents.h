@@ -55,6 +55,8 @@ public:
     bool saveCopy(const Encoder& encode, const QStringList& patterns);
     /// Lays a picture that the person picks over the drawing.
     void stamp();
+    /// Lays a picture over the drawing.
+    void stampNamed(const QString& fileName);
     /// Moves the drawing's file to the trash.
     void deletePicture();
     void clear();
@@ -72,6 +74,9 @@ public:
     /// Tells that the drawing was brought back. `pictureName`, the picture that it was drawn on, is
     /// proposed as its name.
     void takeBroughtBack(const QString& pictureName);
+
+    /// Tells what went wrong.
+    void tell(const QString& text, const QString& button);
 
     /// The name of the drawing's file, or the name to propose; empty if there is none.
     [[nodiscard]] QString name() const;
@@ -122,8 +127,6 @@ private:
     void begin(const Command& how);
     void beginDocument();
     void settle();
-    /// Tells what went wrong.
-    void tell(const QString& text, const QString& button);
 
     KORVA_EditCanvas& m_editor;
     Platform& m_platform;

@@ -4,6 +4,7 @@
 #include "Colors.h"
 #include "Commands.h"
 #include "Documents.h"
+#include "DragOut.h"
 #include "PadTools.h"
 #include "Platform.h"
 #include "PopupFence.h"
@@ -45,6 +46,7 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     arrange();
     setAcceptDrops(true);
     new PopupFence(*this);
+    new DragOut(*m_editor, *m_documents, m_status);
     m_editor->canvas()->setKeyboardDrawing(true);
 
     m_menuKey->setShortcut(Qt::Key_F10);
@@ -133,17 +135,23 @@ QString draggedPicture(const QMimeData* data)
 
 void PadWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!draggedPicture(event->mimeData()).isEmpty() && !QApplication::activeModalWidget())
+    const bool isOwn = event->source() != nullptr; // the drawing itself
+    if (!isOwn && !draggedPicture(event->mimeData()).isEmpty() && !QApplication::activeModalWidget())
         event->acceptProposedAction();
 }
 
 void PadWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
+    const bool isStamp = event->modifiers() & Qt::ShiftModifier;
     // After the drop: there may be a question, and the program that drags waits until the drop ends.
-    QMetaObject::invokeMethod(
-        m_documents, [this, name = draggedPicture(event->mimeData())] { m_documents->openNamed(name); },
-        Qt::QueuedConnection);
+    const auto take = [this, isStamp, name = draggedPicture(event->mimeData())] {
+        if (isStamp)
+            m_documents->stampNamed(name);
+        else
+            m_documents->openNamed(name);
+    };
+    QMetaObject::invokeMethod(m_documents, take, Qt::QueuedConnection);
 }
 
 QImage PadWindow::screenshot()

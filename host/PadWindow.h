@@ -35,7 +35,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    /// Accepts picture files, which are opened when dropped.
+    /// Accepts picture files, which are opened when dropped, or with Shift laid over the drawing.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

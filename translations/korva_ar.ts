@@ -941,6 +941,11 @@
         <translation>تحديد الكل(&amp;A)</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>نسخ الرسم(&amp;Y)</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>الأداة(&amp;T)</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>حفظ بألوان قليلة(&amp;C) ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>طباعة(&amp;P) ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>الطابعة لا تقبل الرسم.</translation>
     </message>
 </context>
 <context>
@@ -1541,6 +1559,14 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>أي صورة؟ korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>الطابعة</translation>
     </message>
 </context>
 <context>

@@ -941,6 +941,11 @@
         <translation>Vybrat vš&amp;e</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopírovat k&amp;resbu</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Nás&amp;troj</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>Kopie: &amp;málo barev ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Tisk ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Tiskárna kresbu nepřijala.</translation>
     </message>
 </context>
 <context>
@@ -1538,6 +1556,14 @@ po zrušení vypíše 902 a skončí s kódem 1.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>který obrázek? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Tiskárna</translation>
     </message>
 </context>
 <context>

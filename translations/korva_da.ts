@@ -941,6 +941,11 @@
         <translation>&amp;Markér alt</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopiér te&amp;gning</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Vær&amp;ktøj</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>Gem i &amp;få farver ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Udskriv ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Printeren tager ikke imod.</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1555,14 @@ hvis det bekræftes, udskriver 902 og slutter med 1, hvis det annulleres.</trans
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>hvilket billede? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Printer</translation>
     </message>
 </context>
 <context>

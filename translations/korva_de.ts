@@ -941,6 +941,11 @@
         <translation>Alles a&amp;uswählen</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>&amp;Bild kopieren</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Werkzeug</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>Mit &amp;wenig Farben ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Drucken ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Der Drucker nimmt es nicht an.</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1555,14 @@ bestätigt wurde, gibt 902 aus und endet mit 1, wenn abgebrochen wurde.</transla
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>welches Bild? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Drucker</translation>
     </message>
 </context>
 <context>

@@ -941,6 +941,11 @@
         <translation>Επιλογή όλω&amp;ν</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Αντιγραφή &amp;σχεδίου</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Ε&amp;ργαλεία</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>Με &amp;λίγα χρώματα ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Εκτύπωση ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Ο εκτυπωτής δεν το δέχεται.</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1555,14 @@ confirmed, prints 902 and exits with 1 when it was cancelled.</source>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>ποια εικόνα; korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Εκτυπωτής</translation>
     </message>
 </context>
 <context>

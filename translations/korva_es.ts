@@ -941,6 +941,11 @@
         <translation>&amp;Seleccionar todo</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Copiar di&amp;bujo</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Herramienta</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>Con pocos &amp;colores ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>Imp&amp;rimir ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>La impresora no lo acepta.</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1555,14 @@ confirmó, escribe 902 y termina con 1 si se canceló.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>¿qué imagen? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Impresora</translation>
     </message>
 </context>
 <context>

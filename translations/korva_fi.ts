@@ -941,6 +941,11 @@
         <translation>&amp;Valitse kaikki</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopioi t&amp;yö</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>T&amp;yökalu</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>Kopio vä&amp;hin värein ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>Tul&amp;osta ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Tulostin ei ota työtä vastaan.</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1555,14 @@ kuva vahvistetaan, tulostaa 902 ja päättyy arvoon 1, kun se perutaan.</transla
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>mikä kuva? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Tulostin</translation>
     </message>
 </context>
 <context>

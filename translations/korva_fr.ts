@@ -941,6 +941,11 @@
         <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Copier le &amp;dessin</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>O&amp;util</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>En peu de &amp;couleurs ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Imprimer ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>L’imprimante ne l’accepte pas.</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1555,14 @@ confirmée, affiche 902 et se termine avec 1 si elle est annulée.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>quelle image&#xa0;? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Imprimante</translation>
     </message>
 </context>
 <context>

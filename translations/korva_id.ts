@@ -941,6 +941,11 @@
         <translation>Pilih s&amp;emua</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Sali&amp;n gambar</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>&amp;Alat</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>Sedikit &amp;warna ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>&amp;Cetak ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Printer tidak menerimanya.</translation>
     </message>
 </context>
 <context>
@@ -1536,6 +1554,14 @@ jika dikonfirmasi, mencetak 902 dan keluar dengan 1 jika dibatalkan.</translatio
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>gambar yang mana? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Printer</translation>
     </message>
 </context>
 <context>

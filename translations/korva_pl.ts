@@ -941,6 +941,11 @@
         <translation>&amp;Zaznacz wszystko</translation>
     </message>
     <message>
+        <source>Cop&amp;y drawing</source>
+        <comment>menu</comment>
+        <translation>Kopiuj &amp;rysunek</translation>
+    </message>
+    <message>
         <source>&amp;Tool</source>
         <comment>menu</comment>
         <translation>Na&amp;rzędzie</translation>
@@ -1129,6 +1134,19 @@
         <source>Save in &amp;few colors ...</source>
         <comment>menu</comment>
         <translation>W kilku &amp;kolorach ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <comment>menu</comment>
+        <translation>Druku&amp;j ...</translation>
+    </message>
+</context>
+<context>
+    <name>pad::Copies</name>
+    <message>
+        <source>The printer does not take it.</source>
+        <comment>print</comment>
+        <translation>Drukarka tego nie przyjmuje.</translation>
     </message>
 </context>
 <context>
@@ -1538,6 +1556,14 @@ z kodem 0, po anulowaniu wypisuje 902 i kończy z kodem 1.</translation>
         <source>which picture? korva-preview PICTURE</source>
         <comment>command line</comment>
         <translation>który obraz? korva-preview PICTURE</translation>
+    </message>
+</context>
+<context>
+    <name>pad::PrintDialog</name>
+    <message>
+        <source>Printer</source>
+        <comment>print</comment>
+        <translation>Drukarka</translation>
     </message>
 </context>
 <context>

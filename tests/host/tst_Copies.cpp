@@ -12,7 +12,9 @@
 #include "support/PictureFiles.h"
 #include "support/TestCase.h"
 
+#include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
+#include <KORVA_PasteLabel.h>
 
 #include <atomic>
 #include <cerrno>
@@ -109,8 +111,8 @@ void whenTold(QStringList& told)
 
 } // namespace
 
-/// Copies of a drawing for a message or in few colours: what is shown is what is written, and the drawing
-/// stays what it is.
+/// Copies of a drawing on the clipboard, for a message or in few colours: what is shown is what is taken,
+/// and the drawing stays what it is.
 class tst_Copies : public support::TestCase
 {
     Q_OBJECT
@@ -118,6 +120,10 @@ class tst_Copies : public support::TestCase
 private slots:
     void init();
     void cleanup();
+
+    void clipboardTakesWhatIsSeen_data();
+    void clipboardTakesWhatIsSeen();
+    void clipboardGivesItBack();
 
     void messageIsNoLongerThanItsLimit_data();
     void messageIsNoLongerThanItsLimit();
@@ -206,6 +212,72 @@ void tst_Copies::choose(const char* keys) const
     for (QAction* action : m_window->actions())
         if (action->shortcut() == QKeySequence(keys))
             action->trigger();
+}
+
+// --- On the clipboard
+
+void tst_Copies::clipboardTakesWhatIsSeen_data()
+{
+    QTest::addColumn<bool>("isTyping");
+    QTest::addColumn<bool>("isLifted");
+    QTest::newRow("drawing") << false << false;
+    QTest::newRow("a piece floats") << false << true;
+    QTest::newRow("text is open") << true << false;
+}
+
+void tst_Copies::clipboardTakesWhatIsSeen()
+{
+    QFETCH(const bool, isTyping);
+    QFETCH(const bool, isLifted);
+    open("photo.png", smallSize);
+    KORVA_Canvas& canvas = *editor().canvas();
+    const QImage before = editor().snapshot();
+    if (isLifted) {
+        choose("Ctrl+A");
+        QTest::keyClick(&canvas, Qt::Key_Right, Qt::ShiftModifier);
+    }
+    if (isTyping) {
+        choose("T");
+        QTest::mouseClick(&canvas, Qt::LeftButton, {}, {20, 20});
+        QTest::keyClicks(&canvas, "Wm");
+    }
+    const bool isOpen = isLifted || isTyping;
+    const QImage drawing = editor().snapshot();
+    QCOMPARE(support::sameImage(drawing, before), !isOpen);
+    QCOMPARE(!canvas.pasteLabel()->isHidden(), isLifted);
+    const auto state = [&] {
+        return std::tuple(editor().hasChanges(), editor().isModified(), m_window->isWindowModified(),
+                          canvas.undoFlag(), editor().fileName(), canvas.pasteLabel()->geometry());
+    };
+    const auto stateBefore = state();
+    const QImage onScreen = m_window->screenshot();
+    QSignalSpy modified(&editor(), &KORVA_EditCanvas::modified);
+    QSignalSpy undo(&editor(), &KORVA_EditCanvas::canUndo);
+    QSignalSpy performed(&m_window->commands(), &pad::Commands::performed);
+
+    QGuiApplication::clipboard()->clear();
+    choose("Ctrl+Shift+C");
+    const QImage copied = QGuiApplication::clipboard()->image();
+    QVERIFY(support::sameImage(inRgb(copied), inRgb(drawing)));
+    QVERIFY(state() == stateBefore);
+    QVERIFY(support::sameImage(editor().snapshot(), drawing));
+    QCOMPARE(m_window->screenshot(), onScreen);
+    QCOMPARE(modified.size() + undo.size() + performed.size(), 0);
+    QCOMPARE(files(), QStringList("photo.png"));
+    if (!isTyping)
+        return;
+    QTest::keyClicks(&canvas, "W"); // it is still open
+    QVERIFY(!support::sameImage(editor().snapshot(), drawing));
+}
+
+void tst_Copies::clipboardGivesItBack()
+{
+    open("photo.png", smallSize);
+    const QImage drawing = editor().snapshot();
+    choose("Ctrl+Shift+C");
+    editor().clearCanvas();
+    choose("Ctrl+V");
+    QVERIFY(support::sameImage(inRgb(editor().snapshot()), inRgb(drawing)));
 }
 
 // --- For a message

@@ -6,6 +6,7 @@
 #include "MessageDialog.h"
 #include "PadWindow.h"
 #include "Platform.h"
+#include "PrintDialog.h"
 #include "Theme.h"
 #include "Wording.h"
 #include "support/Images.h"
@@ -98,6 +99,7 @@ const QList<BoxRow>& boxes()
          "saving; %1: a file, %2: '29.6 kB'",
          {name, words("pad::Documents", "%1 kB", "size of a file", {"299.9"})},
          {}},
+        {"pad::Copies", "The printer does not take it.", "print", {}, {}},
         {"pad::Documents", "Not deleted: %1", "deleting", {"Permission denied"}, {{"OK", "deleting"}}},
         {"pad::Recovery",
          "A drawing of %1 on %2 was not saved.",
@@ -331,6 +333,13 @@ void tst_Languages::dialogsAreReadable()
     checkDialog([&] { choose(QKeySequence("Ctrl+M")); });
     checkCopy<pad::MessageDialog>(support::sheet(QSize(1352, 1288)), 300);
     checkCopy<pad::MessageDialog>(QImage(), 300);
+    checkDialog([&] { choose(QKeySequence("Ctrl+P")); });
+    checkDialog([&] {
+        const pad::Printer printer{"Office-Laser-2000", QPageSize(QPageSize::A4), {}};
+        pad::PrintDialog(m_window.get(), pad::Commands::tr("&Print ...", "menu").remove('&'),
+                         support::sheet({352, 288}), printer)
+            .exec();
+    });
     checkCopy<pad::ColorsDialog>(support::sheet(QSize(1352, 1288)), 2);
     checkCopy<pad::ColorsDialog>(support::mosaic({352, 288}), 256);
     checkDialog([&] { choose(QKeySequence("Ctrl+N")); });

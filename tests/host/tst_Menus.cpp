@@ -8,6 +8,7 @@ using support::PadOnScreen;
 namespace {
 
 constexpr QSize smallest(240, 320);
+constexpr QSize drawingSize(200, 170);
 constexpr QPoint menuKey(60, 285);
 constexpr QPoint toolButton(18, 14);
 constexpr QPoint optionButton(54, 14);
@@ -18,7 +19,7 @@ constexpr QPoint beside(200, 200); // still on it
 /// What a tap on a row leads to.
 struct Effect
 {
-    enum Kind { Line, Box, End, FullScreen, FingersPan } kind;
+    enum Kind { Line, Box, End, FullScreen, FingersPan, Copied } kind;
     QString text; ///< the recording's last line, or what the box says
 };
 
@@ -79,6 +80,8 @@ private:
     [[nodiscard]] QString lastLine() const;
     /// What lies over the pad's window.
     [[nodiscard]] QList<QRect> over() const;
+    /// The picture that another program finds on the clipboard; null if there is none.
+    [[nodiscard]] QImage clipboard() const;
     /// Waits until so many pop-ups are open and the top one has settled.
     [[nodiscard]] bool waitForPopups(int count) const;
     /// Taps a row of the menu on top, which has so many; it must be whole on the screen, and be seen.
@@ -139,6 +142,16 @@ QList<QRect> tst_Menus::over() const
     return places;
 }
 
+QImage tst_Menus::clipboard() const
+{
+    QProcess reader;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", m_pad->server().display());
+    reader.setProcessEnvironment(environment);
+    reader.start("xclip", {"-selection", "clipboard", "-t", "image/png", "-o"});
+    return reader.waitForFinished() ? QImage::fromData(reader.readAllStandardOutput(), "PNG") : QImage();
+}
+
 bool tst_Menus::waitForPopups(int count) const
 {
     if (!m_pad->waitFor([&] { return over().size() == count; })) {
@@ -185,6 +198,8 @@ bool tst_Menus::takesEffect(const Effect& effect)
             const QString file = m_home->filePath("XDG_CONFIG_HOME/korva/pad.conf");
             return QSettings(file, QSettings::IniFormat).value("fingers/pan").toBool();
         });
+    case Effect::Copied:
+        return m_pad->waitFor([this] { return clipboard().size() == drawingSize; });
     case Effect::Line:
         break;
     }
@@ -239,21 +254,22 @@ void tst_Menus::mainPage()
 void tst_Menus::picturePage()
 {
     const QString name = m_pad->pictures() + "/flag.png";
-    QVERIFY(support::sheet(QSize(200, 170), Qt::yellow).save(name));
-    constexpr int rows = 7;
+    QVERIFY(support::sheet(drawingSize, Qt::yellow).save(name));
+    constexpr int rows = 8;
     QVERIFY(start({name}));
     QVERIFY(fromMenu(Picture, 0, rows, box("New from picture")));
     QVERIFY(fromMenu(Picture, 1, rows, box("Insert stamp")));
     QVERIFY(fromMenu(Picture, 2, rows, line("clear")));
     QVERIFY(m_pad->waitForColor({10, 10}, Qt::white));
     QVERIFY(fromMenu(Picture, 3, rows, box("Save for a message")));
-    QVERIFY(fromMenu(Picture, 5, rows, box("Earlier drawings")));
-    QVERIFY(fromMenu(Picture, 6, rows, box("Move flag.png to the trash?")));
+    QVERIFY(fromMenu(Picture, 5, rows, box("Print")));
+    QVERIFY(fromMenu(Picture, 6, rows, box("Earlier drawings")));
+    QVERIFY(fromMenu(Picture, 7, rows, box("Move flag.png to the trash?")));
 }
 
 void tst_Menus::picturePageWithFewColors()
 {
-    constexpr int rows = 7;
+    constexpr int rows = 8;
     constexpr int fewColors = 4;
     QVERIFY(start());
     m_pad->click(menuKey);
@@ -277,7 +293,7 @@ void tst_Menus::picturePageWithFewColors()
 
 void tst_Menus::editPage()
 {
-    constexpr int rows = 7;
+    constexpr int rows = 8;
     const auto edit = [this](int row, const char* word) { return fromMenu(Edit, row, rows, line(word)); };
     QVERIFY(start());
     QVERIFY(m_pad->stroke({10, 10}, {100, 10}));
@@ -294,6 +310,10 @@ void tst_Menus::editPage()
     QVERIFY(edit(6, "selectall"));
     QVERIFY(edit(2, "cut"));
     QVERIFY(m_pad->waitForColor({100, 10}, Qt::white));
+    QVERIFY(select());
+    QVERIFY(edit(3, "copy"));
+    QVERIFY(clipboard().size() != drawingSize);
+    QVERIFY(fromMenu(Edit, 7, rows, {Effect::Copied, {}}));
 }
 
 void tst_Menus::toolPage()
