@@ -3,6 +3,7 @@
 #include <KORVA_EditCanvas.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QEventLoop>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -72,16 +73,21 @@ std::optional<QColor> ColorPopup::pick(QWidget* parent, const QColor& present, c
     const QPoint below = button ? button->mapToGlobal(button->rect().bottomRight()) : QCursor::pos();
     popup->move(below - QPoint(popup->width(), 0));
     popup->show();
+    popup->activateWindow();
+    qApp->installEventFilter(popup);
     loop.exec();
     if (!popup)
         return present;
+    qApp->removeEventFilter(popup);
     const std::optional<QColor> picked = popup->m_picked;
     popup->deleteLater();
     return picked;
 }
 
 ColorPopup::ColorPopup(QWidget* parent, const QColor& present, const QList<QColor>& recent)
-    : QDialog(parent, Qt::Popup), m_picked(present), m_value(new QLineEdit(present.name(), this))
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
+      m_picked(present),
+      m_value(new QLineEdit(present.name(), this))
 {
     setWindowTitle(tr("Colors", "color pop-up"));
     auto* const grid = new QGridLayout(this);
@@ -117,6 +123,26 @@ void ColorPopup::addSwatches(QGridLayout& grid, int row, const QList<QColor>& co
         grid.addWidget(swatch, row + int(i) / columns, int(i) % columns);
         connect(swatch, &Swatch::clicked, this, [this, color = colors[i]] { choose(color); });
     }
+}
+
+ColorPopup* ColorPopup::current()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* const popup = qobject_cast<ColorPopup*>(window); popup && popup->isVisible())
+            return popup;
+    }
+    return nullptr;
+}
+
+bool ColorPopup::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    const bool isPress = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick ||
+                         type == QEvent::TouchBegin || type == QEvent::TabletPress;
+    if (!isPress || !watched->isWidgetType() || static_cast<const QWidget*>(watched)->window() == this)
+        return false;
+    close();
+    return true;
 }
 
 void ColorPopup::choose(const std::optional<QColor>& color)

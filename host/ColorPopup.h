@@ -11,7 +11,8 @@ class QLineEdit;
 
 namespace pad {
 
-/// The pop-up of colours at hand: sixteen, the last ones, and a field for a value.
+/// The pop-up of colours at hand: sixteen, the last ones, and a field for a value. A press beside it closes
+/// it. It is a dialog, because screen readers are told nothing of Qt's pop-ups but menus.
 class ColorPopup : public QDialog
 {
     Q_OBJECT
@@ -23,6 +24,10 @@ public:
 
     /// The colour of "#rrggbb", "rrggbb" or three numbers up to 255; invalid for any other text.
     [[nodiscard]] static QColor colorOf(const QString& text);
+    /// The one that is open; null for none.
+    [[nodiscard]] static ColorPopup* current();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void closed();

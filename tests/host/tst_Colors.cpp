@@ -6,6 +6,7 @@
 #include "support/Modal.h"
 #include "support/TestCase.h"
 
+#include <KORVA_Canvas.h>
 #include <KORVA_ColorPicker.h>
 #include <KORVA_EditCanvas.h>
 
@@ -31,7 +32,7 @@ struct Pad
     {
         bool isOpen = false;
         QTimer::singleShot(0, &window, [&] {
-            QWidget* popup = QApplication::activePopupWidget();
+            QWidget* popup = pad::ColorPopup::current();
             isOpen = popup;
             if (popup)
                 work(*popup);
@@ -81,6 +82,7 @@ private slots:
     void typedValues();
     void valuesAreTypedAtOnce();
     void escapeKeepsTheColor();
+    void aPressBesideCloses();
     void moreOpensThePicker();
     void fewerBitsHaveThePicker();
     void theWindowMayGo();
@@ -96,7 +98,7 @@ void tst_Colors::aSwatchIsTwoTapsAway()
     pad.open([](QWidget& popup) { QTest::mouseClick(swatch(popup, Qt::blue), Qt::LeftButton); });
     QCOMPARE(pad.editor.color(), QColor(Qt::blue));
     QCOMPARE(pad.chosen, QList<int>{KORVA_CHOICE_COLOR}); // which a recorder writes
-    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(!pad::ColorPopup::current());
 }
 
 void tst_Colors::sixteenAndTheLastEight()
@@ -123,7 +125,7 @@ void tst_Colors::sixteenAndTheLastEight()
             QVERIFY(swatch(popup, color));
         QVERIFY(swatch(popup, QColor(5, 2, 3))->isChecked());
         QVERIFY(!swatch(popup, QColor(6, 2, 3))->isChecked());
-        QApplication::activePopupWidget()->close();
+        pad::ColorPopup::current()->close();
     });
     QCOMPARE(pad.editor.color(), QColor(5, 2, 3));
 }
@@ -206,6 +208,25 @@ void tst_Colors::escapeKeepsTheColor()
     QCOMPARE(pad.editor.color(), QColor(Qt::red));
 }
 
+void tst_Colors::aPressBesideCloses()
+{
+    Pad pad;
+    pad.editor.clearModified();
+    pad.open([&](QWidget& popup) {
+        QTest::mouseClick(pad.editor.canvas(), Qt::LeftButton, {}, QPoint(20, 20));
+        QVERIFY(!popup.isVisible());
+    });
+    QCOMPARE(pad.editor.color(), QColor(Qt::red));
+    QVERIFY(!pad.editor.isModified()); // the press was for the pop-up alone
+    pad.open([&](QWidget& popup) {
+        QTest::mouseClick(&pad.button, Qt::LeftButton);
+        QVERIFY(!popup.isVisible());
+    });
+    QVERIFY(!pad::ColorPopup::current());
+    pad.open([&](QWidget&) { pad.editor.cancelDialogs(); });
+    QVERIFY(!pad::ColorPopup::current());
+}
+
 void tst_Colors::moreOpensThePicker()
 {
     Pad pad;
@@ -242,7 +263,7 @@ void tst_Colors::theWindowMayGo()
     auto window = std::make_unique<pad::PadWindow>(platform);
     window->show();
     QTimer::singleShot(0, qApp, [&] {
-        QVERIFY(QApplication::activePopupWidget());
+        QVERIFY(pad::ColorPopup::current());
         window.reset();
     });
     const QColor before = window->editor().color();
@@ -270,7 +291,7 @@ void tst_Colors::longPressSwaps()
     QVERIFY(QTest::qWaitFor([&] { return pad.editor.color() == QColor(Qt::red); }, 3000));
     QVERIFY(!pad.button.isDown());
     QTest::mouseRelease(&pad.button, Qt::LeftButton);
-    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(!pad::ColorPopup::current());
     QCOMPARE(pad.log, QStringList{"color #ff0000"});
     pad.open([](QWidget& popup) { popup.close(); }); // a short press does what it did
     QCOMPARE(pad.editor.color(), QColor(Qt::red));

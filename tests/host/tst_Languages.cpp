@@ -1,3 +1,4 @@
+#include "ColorPopup.h"
 #include "ColorsDialog.h"
 #include "Commands.h"
 #include "Documents.h"
@@ -347,7 +348,7 @@ void tst_Languages::dialogsAreReadable()
         [&] { (void)KORVA_ColorPicker::getColor(KORVA_COLOR_16BIT, Qt::red, &m_window->editor()); });
     QStringList faults{"nothing opened"};
     QTimer::singleShot(0, m_window.get(), [&] {
-        QWidget* popup = QApplication::activePopupWidget();
+        QWidget* popup = pad::ColorPopup::current();
         const QList<support::PaintedText> texts = support::paintedTexts(*popup);
         faults = support::unreadable(texts);
         if (texts.size() < 2) // the value, and what leads to the dialog

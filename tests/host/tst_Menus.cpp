@@ -325,7 +325,7 @@ void tst_Menus::toolPage()
     int row = 0;
     for (const char* tool : tools)
         QVERIFY(fromMenu(Tool, row++, rows, line(QString("tool %1").arg(tool))));
-    QVERIFY(fromMenu(Tool, row, rows, box("Color")));
+    QVERIFY(fromMenu(Tool, row, rows, box("Colors")));
 }
 
 void tst_Menus::viewPage()
@@ -383,7 +383,7 @@ void tst_Menus::keysWorkAfterEveryDialog()
     // Without a window manager, and with the pointer where it is.
     m_pad->server().moveTo(onDrawing);
     for (int i = 0; i < 2; ++i) {
-        for (const auto& [name, title] : {std::pair("F1", "Keys"), std::pair("c", "Color")}) {
+        for (const auto& [name, title] : {std::pair("F1", "Keys"), std::pair("c", "Colors")}) {
             m_pad->server().key(name);
             QVERIFY(m_pad->waitForBox(title));
             QTest::qWait(settled);
@@ -414,7 +414,7 @@ void tst_Menus::optionPopups()
     {
         const char* key;
         int options;
-    } tools[] = {{"p", 3}, {"l", 3}, {"t", 3}, {"r", 2}, {"o", 2}, {"e", 3}};
+    } tools[] = {{"p", 3}, {"l", 3}, {"t", 6}, {"r", 2}, {"o", 2}, {"e", 3}};
     QVERIFY(start());
     for (const auto& tool : tools) {
         m_pad->key(tool.key);

@@ -1,3 +1,4 @@
+#include "ColorPopup.h"
 #include "Commands.h"
 #include "PadWindow.h"
 #include "Platform.h"
@@ -170,7 +171,7 @@ private:
             QTest::keyClick(picker, Qt::Key_Return);
         };
         QTimer::singleShot(0, [this, mix] {
-            const auto buttons = QApplication::activePopupWidget()->findChildren<QAbstractButton*>();
+            const auto buttons = pad::ColorPopup::current()->findChildren<QAbstractButton*>();
             QTimer::singleShot(0, mix); // if it is the one that leads to the picker
             buttons.at(m_random.bounded(int(buttons.size())))->click();
         });
