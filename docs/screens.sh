@@ -34,7 +34,8 @@ trap finish EXIT
 
 pause() { sleep "${KORVA_PAUSE:-0.5}"; }
 press() { xdotool key --delay 60 "$@"; pause; }
-point() { xdotool mousemove $((left + $1 * scale)) $((top + $2 * scale)); }
+# In the editor.
+point() { xdotool mousemove $((left + (beside + $1) * scale)) $((top + $2 * scale)); }
 rest() { point 238 223; }
 tap() { point "$1" "$2"; xdotool click 1; pause; rest; }
 # From the middle of the picture.
@@ -70,7 +71,9 @@ start_pad() {
     eval "$(xdotool getwindowgeometry --shell "$id" | sed 's/^/window_/')"
     left=$window_X top=$window_Y
     place=${window_WIDTH}x${window_HEIGHT}+$left+$top
-    middle_x=$((window_WIDTH / scale / 2)) middle_y=$(((window_HEIGHT / scale - 68) / 2))
+    # The panel of a large window.
+    beside=$((window_WIDTH / scale >= 640 && window_HEIGHT / scale >= 400 ? 124 : 0))
+    middle_x=$(((window_WIDTH / scale - beside) / 2)) middle_y=$(((window_HEIGHT / scale - 68) / 2))
     rest
 }
 

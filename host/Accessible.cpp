@@ -1,5 +1,6 @@
 #include "Accessible.h"
 
+#include "ChoiceGroup.h"
 #include "Commands.h"
 #include "PadWindow.h"
 #include "StatusLine.h"
@@ -42,6 +43,8 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
         return new Window(static_cast<PadWindow&>(*object));
     if (className == QLatin1String(StatusLine::staticMetaObject.className()))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::StatusBar);
+    if (className == QLatin1String(ChoiceGroup::staticMetaObject.className()))
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     return nullptr;
 }
 

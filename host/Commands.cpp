@@ -21,7 +21,9 @@
 #include <QSettings>
 #include <QWidget>
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 namespace pad {
 
@@ -109,8 +111,8 @@ void Commands::addEntries()
 
         {Page::Main, QT_TRANSLATE_NOOP3("pad::Commands", "&Picture", "menu"), "", Needs::Nothing, nullptr,
          0, Page::Picture},
-        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&New from picture ...", "menu"),
-         "Ctrl+T", Needs::Nothing, [](C& c, int) { c.m_documents.newFromPicture(); }},
+        {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&New from picture ...", "menu"), "Ctrl+T",
+         Needs::Nothing, [](C& c, int) { c.m_documents.newFromPicture(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "&Insert stamp ...", "menu"), "Ctrl+I",
          Needs::Nothing, [](C& c, int) { c.m_documents.stamp(); }},
         {Page::Picture, QT_TRANSLATE_NOOP3("pad::Commands", "C&lear", "menu"), "Ctrl+L", Needs::Nothing,
@@ -208,9 +210,13 @@ void Commands::addEntries()
         }
         QAction* action = add(entry, text, pages[entry.page]);
         m_dependents.push_back({entry.needs, action});
-        if (entry.choose == Choice(tool) || entry.choose == Choice(zoom)) {
-            action->setCheckable(true); // for screen readers: the menu shows no marks
-            m_choices.push_back({entry.choose == Choice(tool), entry.number, action});
+        for (const auto& [choose, what] :
+             {std::pair(Choice(tool), KORVA_CHOICE_TOOL), std::pair(Choice(option), KORVA_CHOICE_OPTION),
+              std::pair(Choice(zoom), KORVA_CHOICE_ZOOM)}) {
+            if (entry.choose == choose) {
+                action->setCheckable(true); // for screen readers: the menu shows no marks
+                m_choices.push_back({what, entry.number, action});
+            }
         }
         if (entry.needs == Needs::Undo)
             m_undo = action;
@@ -282,8 +288,15 @@ void Commands::setAvailable(Needs what, bool available)
 void Commands::checkAlternatives()
 {
     for (const Alternative& each : m_choices)
-        each.action->setChecked(each.isTool ? each.number == m_editor.tool()
-                                            : zoomRow(each.number) == m_editor.zoomIndex());
+        each.action->setChecked(isInForce(each));
+}
+
+bool Commands::isInForce(const Alternative& alternative) const
+{
+    return alternative.what == KORVA_CHOICE_ZOOM
+               ? zoomRow(alternative.number) == m_editor.zoomIndex()
+               : alternative.number ==
+                     (alternative.what == KORVA_CHOICE_TOOL ? m_editor.tool() : m_editor.option());
 }
 
 bool Commands::updateClipboard()
@@ -308,6 +321,14 @@ void Commands::rememberChoices()
     m_fingersPan->setChecked(settings.value(fingersPanKey).toBool());
     m_editor.canvas()->setFingerUse(m_fingersPan->isChecked() ? KORVA_Canvas::FingerPans
                                                               : KORVA_Canvas::FingerDraws);
+}
+
+QString Commands::keyFor(KORVA_CHOICETYPE what, int number) const
+{
+    const auto found = std::ranges::find_if(
+        m_choices, [=](const Alternative& each) { return each.what == what && each.number == number; });
+    return found == m_choices.end() ? QString()
+                                    : found->action->shortcut().toString(QKeySequence::NativeText);
 }
 
 QAction* Commands::contextAction() const
@@ -347,6 +368,12 @@ void Commands::showKeys()
                  {QStringLiteral("[   ]"), tr("Turn piece", "keys")},
                  {escape, tr("End text", "keys")}});
     KeysDialog(m_window, rows).exec();
+}
+
+void Commands::takeColor(const QColor& color)
+{
+    m_editor.setColor(color);
+    emit performed(Command{.verb = Verb::Color, .color = color});
 }
 
 void Commands::letFingersPan(bool pan)

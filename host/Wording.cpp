@@ -78,6 +78,11 @@ QString wording::withoutMnemonic(const QString& label)
     return label.left(at).trimmed() + label.mid(at + length);
 }
 
+QString wording::withKey(const QString& name, const QString& key)
+{
+    return key.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, key);
+}
+
 Failure wording::unknownOption(const QString& option)
 {
     return {CommandLine::tr("unknown option '%1' (--help lists them)", "command line").arg(option)};
