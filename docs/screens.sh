@@ -136,7 +136,7 @@ take_all() {
     press s; tap 54 14; shot 'options: select'; press Escape
     press p; tap 137 14; shot zoom; press Escape
     tap 215 14; shot colors; press Escape
-    press F1; shot keys; press Escape
+    press F1; shot keys; press Tab Return; shot buttons; press Escape
     press ctrl+m; shot 'save for a message'; press Escape
     press ctrl+o; shot open; press Escape
     press ctrl+shift+s; shot 'save as'; press Escape
@@ -182,7 +182,7 @@ printf '%s\n' "$screens" | while read -r screen state width columns; do
         pictures=$home/Pictures
         mkdir -p "$shots" "$home/.config/korva"
         draw_pictures
-        printf '[folders]\nlast=%s\n[window-%s]\n' "$pictures" "$screen" >"$home/.config/korva/pad.conf"
+        printf '[folders]\nlast=%s\n[start]\nbuttons=true\n[window-%s]\n' "$pictures" "$screen" >"$home/.config/korva/pad.conf"
         [ "$state" = - ] || echo "state=$state" >>"$home/.config/korva/pad.conf"
         export HOME=$home XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local XDG_STATE_HOME=$home/.state LC_ALL=C.UTF-8
         export XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_LOGGING_RULES='qt.qpa.theme.dbus=false'

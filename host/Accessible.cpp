@@ -3,6 +3,7 @@
 #include "ChoiceGroup.h"
 #include "Commands.h"
 #include "PadWindow.h"
+#include "SidePanel.h"
 #include "StatusLine.h"
 
 #include <QAccessibleWidget>
@@ -43,7 +44,8 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
         return new Window(static_cast<PadWindow&>(*object));
     if (className == QLatin1String(StatusLine::staticMetaObject.className()))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::StatusBar);
-    if (className == QLatin1String(ChoiceGroup::staticMetaObject.className()))
+    if (className == QLatin1String(ChoiceGroup::staticMetaObject.className()) ||
+        className == QLatin1String(SidePanel::staticMetaObject.className()))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     return nullptr;
 }

@@ -2,7 +2,6 @@
 
 #include "Documents.h"
 #include "EditCommand.h"
-#include "KeysDialog.h"
 #include "MenuStyle.h"
 #include "PadTools.h"
 #include "Recovery.h"
@@ -35,19 +34,13 @@ struct Label
     const char* comment;
 };
 
-/// Without what only a menu shows: its letter, and that a dialog follows.
-QString plain(const QString& label)
-{
-    return wording::withoutMnemonic(label).remove(QLatin1String(" ..."));
-}
-
 // Their texts are the titles of their dialogs, too.
 constexpr Label message = QT_TRANSLATE_NOOP3("pad::Commands", "Save for a &message ...", "menu");
 constexpr Label fewColors = QT_TRANSLATE_NOOP3("pad::Commands", "Save in &few colors ...", "menu");
 
 QString titleFrom(const Label& label)
 {
-    return plain(Commands::tr(label.text, label.comment));
+    return wording::plainLabel(Commands::tr(label.text, label.comment));
 }
 
 const QString fingersPanKey = QStringLiteral("fingers/pan");
@@ -347,27 +340,6 @@ void Commands::perform(Verb verb)
 int Commands::zoomRow(int rate) const
 {
     return int(m_editor.features().zooms.indexOf(rate));
-}
-
-void Commands::showKeys()
-{
-    QList<KeysDialog::Row> rows;
-    for (const QAction* action : m_window->actions())
-        rows.append({action->shortcut().toString(QKeySequence::NativeText), plain(action->text())});
-    rows.append({QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText), tr("Menu", "keys")});
-    const QString arrows = tr("Arrows", "keys");
-    const QString space = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);
-    const QString enter = QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText);
-    const QString escape = QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText);
-    rows.append({{arrows, tr("Move pen, piece", "keys")},
-                 {tr("Shift+arrows", "keys"), tr("... by 10 pixels", "keys")},
-                 {space, tr("Draw while held", "keys")},
-                 {enter, tr("Pen down, up", "keys")},
-                 {enter, tr("Put piece down", "keys")},
-                 {tr("Alt+arrows", "keys"), tr("Stretch piece", "keys")},
-                 {QStringLiteral("[   ]"), tr("Turn piece", "keys")},
-                 {escape, tr("End text", "keys")}});
-    KeysDialog(m_window, rows).exec();
 }
 
 void Commands::takeColor(const QColor& color)

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] QString keyFor(KORVA_CHOICETYPE what, int number) const;
     /// A person picked a drawing colour.
     void takeColor(const QColor& color);
+    /// Shows what the buttons are, once in this user's life.
+    void introduceButtons();
 
     /// The action of the right soft key: undo or, after an undo, redo.
     [[nodiscard]] QAction* contextAction() const;
@@ -88,6 +90,7 @@ private:
     void paste();
     [[nodiscard]] int zoomRow(int rate) const;
     void showKeys();
+    void showButtons();
     void letFingersPan(bool pan);
 
     KORVA_EditCanvas& m_editor;

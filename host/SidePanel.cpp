@@ -2,6 +2,7 @@
 
 #include "ChoiceGroup.h"
 #include "Commands.h"
+#include "KeysDialog.h"
 #include "Palette16.h"
 
 #include <KORVA_EditCanvas.h>
@@ -103,6 +104,7 @@ SidePanel::SidePanel(KORVA_EditCanvas& editor, const Commands& commands, QWidget
       m_palette(new Palette(editor.findChild<QPushButton*>(QStringLiteral("colorButton"))->accessibleName(),
                             colorColumns, colorCell, 0, this))
 {
+    setAccessibleName(KeysDialog::tr("Buttons", "keys; title, of the tool bar's buttons"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, top, extent - margin - colorColumns * colorCell.width(), 0);
     column->setSpacing(gap);

@@ -78,6 +78,11 @@ QString wording::withoutMnemonic(const QString& label)
     return label.left(at).trimmed() + label.mid(at + length);
 }
 
+QString wording::plainLabel(const QString& label)
+{
+    return withoutMnemonic(label).remove(QLatin1String(" ..."));
+}
+
 QString wording::withKey(const QString& name, const QString& key)
 {
     return key.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, key);

@@ -27,6 +27,8 @@ inline constexpr int kilobyte = 1000;
 [[nodiscard]] QString plainNumber(int number);
 /// A menu entry without the mark of its letter, which stands in it ("&Undo") or behind it ("元に戻す(&U)").
 [[nodiscard]] QString withoutMnemonic(const QString& label);
+/// The same, and without the sign that a dialog follows ("Open ...").
+[[nodiscard]] QString plainLabel(const QString& label);
 /// "Undo (Ctrl+Z)", or only the name without a key.
 [[nodiscard]] QString withKey(const QString& name, const QString& key);
 

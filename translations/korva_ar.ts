@@ -1392,6 +1392,11 @@
         <comment>keys</comment>
         <translation>إغلاق</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>الأزرار</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>
