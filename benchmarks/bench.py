@@ -189,6 +189,9 @@ def from_outside(built, rounds, sheet, photo, folder):
     home = folder / "home"
     home.mkdir(mode=0o700)
     environment |= {"HOME": str(home), "XDG_RUNTIME_DIR": str(home), "LANG": "C.UTF-8"}
+    settings = home / ".config/korva/pad.conf"
+    settings.parent.mkdir(parents=True, exist_ok=True)
+    settings.write_text("[start]\nbuttons=true\n")  # or a card lies over the window
     samples = {}
     with Screen() as screen:
         environment["DISPLAY"] = screen.display

@@ -34,7 +34,8 @@ trap finish EXIT
 
 pause() { sleep "${KORVA_PAUSE:-0.5}"; }
 press() { xdotool key --delay 60 "$@"; pause; }
-point() { xdotool mousemove $((left + $1 * scale)) $((top + $2 * scale)); }
+# In the editor.
+point() { xdotool mousemove $((left + (beside + $1) * scale)) $((top + $2 * scale)); }
 rest() { point 238 223; }
 tap() { point "$1" "$2"; xdotool click 1; pause; rest; }
 # From the middle of the picture.
@@ -70,7 +71,9 @@ start_pad() {
     eval "$(xdotool getwindowgeometry --shell "$id" | sed 's/^/window_/')"
     left=$window_X top=$window_Y
     place=${window_WIDTH}x${window_HEIGHT}+$left+$top
-    middle_x=$((window_WIDTH / scale / 2)) middle_y=$(((window_HEIGHT / scale - 68) / 2))
+    # The panel of a large window.
+    beside=$((window_WIDTH / scale >= 640 && window_HEIGHT / scale >= 400 ? 124 : 0))
+    middle_x=$(((window_WIDTH / scale - beside) / 2)) middle_y=$(((window_HEIGHT / scale - 68) / 2))
     rest
 }
 
@@ -133,7 +136,7 @@ take_all() {
     press s; tap 54 14; shot 'options: select'; press Escape
     press p; tap 137 14; shot zoom; press Escape
     tap 215 14; shot colors; press Escape
-    press F1; shot keys; press Escape
+    press F1; shot keys; press Tab Return; shot buttons; press Escape
     press ctrl+m; shot 'save for a message'; press Escape
     press ctrl+p; shot print; press Escape
     press ctrl+o; shot open; press Escape
@@ -180,7 +183,7 @@ printf '%s\n' "$screens" | while read -r screen state width columns; do
         pictures=$home/Pictures
         mkdir -p "$shots" "$home/.config/korva"
         draw_pictures
-        printf '[folders]\nlast=%s\n[window-%s]\n' "$pictures" "$screen" >"$home/.config/korva/pad.conf"
+        printf '[folders]\nlast=%s\n[start]\nbuttons=true\n[window-%s]\n' "$pictures" "$screen" >"$home/.config/korva/pad.conf"
         [ "$state" = - ] || echo "state=$state" >>"$home/.config/korva/pad.conf"
         export HOME=$home XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local XDG_STATE_HOME=$home/.state LC_ALL=C.UTF-8
         export XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb QT_LOGGING_RULES='qt.qpa.theme.dbus=false'

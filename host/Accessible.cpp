@@ -1,7 +1,9 @@
 #include "Accessible.h"
 
+#include "ChoiceGroup.h"
 #include "Commands.h"
 #include "PadWindow.h"
+#include "SidePanel.h"
 #include "StatusLine.h"
 
 #include <QAccessibleWidget>
@@ -42,6 +44,9 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
         return new Window(static_cast<PadWindow&>(*object));
     if (className == QLatin1String(StatusLine::staticMetaObject.className()))
         return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::StatusBar);
+    if (className == QLatin1String(ChoiceGroup::staticMetaObject.className()) ||
+        className == QLatin1String(SidePanel::staticMetaObject.className()))
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping);
     return nullptr;
 }
 

@@ -3,6 +3,8 @@
 #include "Palette.h"
 #include "Wording.h"
 
+#include <QColor>
+
 namespace pad {
 
 ColorsDialog::ColorsDialog(QWidget* parent, const QString& title, const QImage& drawing, int colors)
@@ -20,7 +22,10 @@ ColorsDialog::ColorsDialog(QWidget* parent, const QString& title, const QImage& 
 
 QString ColorsDialog::description(const Copy& copy) const
 {
-    return wording::inColors(copy.picture.colorCount()) + QLatin1Char('\n') +
+    const QList<QRgb> colors = copy.picture.colorTable();
+    const bool areBlackAndWhite = colors.size() == 2 && colors.contains(QColor(Qt::black).rgb()) &&
+                                  colors.contains(QColor(Qt::white).rgb());
+    return wording::inColors(int(colors.size()), areBlackAndWhite) + QLatin1Char('\n') +
            wording::inPixels(copy.picture.size());
 }
 

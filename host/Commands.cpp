@@ -2,7 +2,6 @@
 
 #include "Documents.h"
 #include "EditCommand.h"
-#include "KeysDialog.h"
 #include "MenuStyle.h"
 #include "PadTools.h"
 #include "Recovery.h"
@@ -21,7 +20,9 @@
 #include <QSettings>
 #include <QWidget>
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 namespace pad {
 
@@ -33,12 +34,6 @@ struct Label
     const char* comment;
 };
 
-/// Without what only a menu shows: its letter, and that a dialog follows.
-QString plain(const QString& label)
-{
-    return wording::withoutMnemonic(label).remove(QLatin1String(" ..."));
-}
-
 // Their texts are the titles of their dialogs, too.
 constexpr Label message = QT_TRANSLATE_NOOP3("pad::Commands", "Save for a &message ...", "menu");
 constexpr Label print = QT_TRANSLATE_NOOP3("pad::Commands", "&Print ...", "menu");
@@ -46,7 +41,7 @@ constexpr Label fewColors = QT_TRANSLATE_NOOP3("pad::Commands", "Save in &few co
 
 QString titleFrom(const Label& label)
 {
-    return plain(Commands::tr(label.text, label.comment));
+    return wording::plainLabel(Commands::tr(label.text, label.comment));
 }
 
 const QString fingersPanKey = QStringLiteral("fingers/pan");
@@ -213,9 +208,13 @@ void Commands::addEntries()
         }
         QAction* action = add(entry, text, pages[entry.page]);
         m_dependents.push_back({entry.needs, action});
-        if (entry.choose == Choice(tool) || entry.choose == Choice(zoom)) {
-            action->setCheckable(true); // for screen readers: the menu shows no marks
-            m_choices.push_back({entry.choose == Choice(tool), entry.number, action});
+        for (const auto& [choose, what] :
+             {std::pair(Choice(tool), KORVA_CHOICE_TOOL), std::pair(Choice(option), KORVA_CHOICE_OPTION),
+              std::pair(Choice(zoom), KORVA_CHOICE_ZOOM)}) {
+            if (entry.choose == choose) {
+                action->setCheckable(true); // for screen readers: the menu shows no marks
+                m_choices.push_back({what, entry.number, action});
+            }
         }
         if (entry.needs == Needs::Undo)
             m_undo = action;
@@ -287,8 +286,15 @@ void Commands::setAvailable(Needs what, bool available)
 void Commands::checkAlternatives()
 {
     for (const Alternative& each : m_choices)
-        each.action->setChecked(each.isTool ? each.number == m_editor.tool()
-                                            : zoomRow(each.number) == m_editor.zoomIndex());
+        each.action->setChecked(isInForce(each));
+}
+
+bool Commands::isInForce(const Alternative& alternative) const
+{
+    return alternative.what == KORVA_CHOICE_ZOOM
+               ? zoomRow(alternative.number) == m_editor.zoomIndex()
+               : alternative.number ==
+                     (alternative.what == KORVA_CHOICE_TOOL ? m_editor.tool() : m_editor.option());
 }
 
 bool Commands::updateClipboard()
@@ -315,6 +321,14 @@ void Commands::rememberChoices()
                                                               : KORVA_Canvas::FingerDraws);
 }
 
+QString Commands::keyFor(KORVA_CHOICETYPE what, int number) const
+{
+    const auto found = std::ranges::find_if(
+        m_choices, [=](const Alternative& each) { return each.what == what && each.number == number; });
+    return found == m_choices.end() ? QString()
+                                    : found->action->shortcut().toString(QKeySequence::NativeText);
+}
+
 QAction* Commands::contextAction() const
 {
     return m_redo->isEnabled() && !m_undo->isEnabled() ? m_redo : m_undo;
@@ -333,26 +347,10 @@ int Commands::zoomRow(int rate) const
     return int(m_editor.features().zooms.indexOf(rate));
 }
 
-void Commands::showKeys()
+void Commands::takeColor(const QColor& color)
 {
-    QList<KeysDialog::Row> rows;
-    for (const QAction* action : m_window->actions())
-        rows.append({action->shortcut().toString(QKeySequence::NativeText), plain(action->text())});
-    rows.append({QKeySequence(Qt::Key_F10).toString(QKeySequence::NativeText), tr("Menu", "keys")});
-    const QString arrows = tr("Arrows", "keys");
-    const QString space = QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText);
-    const QString enter = QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText);
-    const QString escape = QKeySequence(Qt::Key_Escape).toString(QKeySequence::NativeText);
-    rows.append({{arrows, tr("Move pen, piece", "keys")},
-                 {tr("Shift+arrows", "keys"), tr("... by 10 pixels", "keys")},
-                 {space, tr("Draw while held", "keys")},
-                 {enter, tr("Pen down, up", "keys")},
-                 {enter, tr("Put piece down", "keys")},
-                 {tr("Alt+arrows", "keys"), tr("Stretch piece", "keys")},
-                 {QStringLiteral("[   ]"), tr("Turn piece", "keys")},
-                 {escape, tr("Drop piece", "keys")},
-                 {escape, tr("End text", "keys")}});
-    KeysDialog(m_window, rows).exec();
+    m_editor.setColor(color);
+    emit performed(Command{.verb = Verb::Color, .color = color});
 }
 
 void Commands::letFingersPan(bool pan)

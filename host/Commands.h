@@ -3,6 +3,8 @@
 #include "Copies.h"
 #include "Recording.h"
 
+#include <KORVA_Types.h>
+
 #include <QObject>
 
 #include <vector>
@@ -31,6 +33,13 @@ public:
     void rememberChoices();
 
     [[nodiscard]] QMenu* menu() const { return m_menu; }
+    /// The key that chooses a tool, or an option by its row, as it is shown to a person; empty for none.
+    [[nodiscard]] QString keyFor(KORVA_CHOICETYPE what, int number) const;
+    /// A person picked a drawing colour.
+    void takeColor(const QColor& color);
+    /// Shows what the buttons are, once in this user's life.
+    void introduceButtons();
+
     /// The action of the right soft key: undo or, after an undo, redo.
     [[nodiscard]] QAction* contextAction() const;
 
@@ -60,16 +69,17 @@ private:
         QAction* action; // the menu's
     };
 
-    /// A tool or a zoom, checked while it is in force.
+    /// A tool, an option or a zoom, checked while it is in force.
     struct Alternative
     {
-        bool isTool;
-        int number;
+        KORVA_CHOICETYPE what;
+        int number;      ///< of a zoom: its rate
         QAction* action; // the menu's
     };
 
     void addEntries();
     void checkAlternatives();
+    [[nodiscard]] bool isInForce(const Alternative& alternative) const;
     QAction* add(const Entry& entry, const QString& text, QMenu* page);
     void follow();
     void setAvailable(Needs what, bool available);
@@ -80,6 +90,7 @@ private:
     void paste();
     [[nodiscard]] int zoomRow(int rate) const;
     void showKeys();
+    void showButtons();
     void letFingersPan(bool pan);
 
     KORVA_EditCanvas& m_editor;

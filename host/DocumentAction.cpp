@@ -1,11 +1,23 @@
 #include "DocumentAction.h"
 
+#include "EditCommand.h"
 #include "Platform.h"
 
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 
 namespace pad {
+
+namespace {
+
+/// Undo must not lead into another document: a save would write that into this one's file.
+void forgetSteps(KORVA_EditCanvas& editor)
+{
+    if (editor.undoSteps() > 1)
+        setHistory(editor, editor.undoSteps());
+}
+
+} // namespace
 
 bool mayReplaceDrawing(KORVA_EditCanvas& editor, Platform& platform)
 {
@@ -23,6 +35,7 @@ void newCanvas(KORVA_EditCanvas& editor, int type, QSize size)
     editor.chooseCanvas(KORVA_CANVASTYPE(type), size.width(), size.height());
     canvas.endStep();
     editor.clearModified(); // a canvas of another size counts as changed until its host says otherwise
+    forgetSteps(editor);
 }
 
 void changePaper(KORVA_EditCanvas& editor, const QImage& paper)
@@ -40,6 +53,7 @@ void changePaper(KORVA_EditCanvas& editor, const QImage& paper)
             editor.clearModified();
     }
     canvas.endStep();
+    forgetSteps(editor);
 }
 
 void drawOnOpened(KORVA_EditCanvas& editor)

@@ -121,7 +121,7 @@ int Documents::askCanvasType()
 {
     QStringList buttons;
     for (const auto& row : canvasTypes)
-        buttons.append(wording::inColors(row.colors));
+        buttons.append(wording::inColors(row.colors, row.colors == 2));
     buttons.append(tr("Cancel", "canvas type"));
     const int answer =
         m_platform.question(m_window, QString(), tr("How many colors?", "canvas type"), buttons);

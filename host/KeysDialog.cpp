@@ -4,6 +4,7 @@
 #include <UTIL_ScrollBar.h>
 #include <UTIL_Skin.h>
 
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScroller>
@@ -67,13 +68,22 @@ KeysDialog::KeysDialog(QWidget* parent, const QList<Row>& rows) : UTIL_Dialog(Fr
     list->setSelectionMode(QAbstractItemView::NoSelection);
     auto* close = new UTIL_PushButton(QString(), tr("Close", "keys"), this);
     close->setFlags(UTIL_PushButton::FirstSoftKey | UTIL_PushButton::Outlined);
+    auto* buttons =
+        new UTIL_PushButton(QString(), tr("Buttons", "keys; title, of the tool bar's buttons"), this);
+    buttons->setFlags(UTIL_PushButton::SecondSoftKey | UTIL_PushButton::Outlined);
+    buttons->setAutoDefault(false);
+    auto* both = new QHBoxLayout;
+    both->setSpacing(Size::spacing);
+    both->addWidget(close, 1);
+    both->addWidget(buttons, 1);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Size::spacing, Size::spacing, Size::spacing, Size::spacing);
     column->setSpacing(Size::spacing);
     column->addWidget(heading);
     column->addWidget(list, 1);
-    column->addWidget(close);
+    column->addLayout(both);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    connect(buttons, &QPushButton::clicked, this, [this] { done(Buttons); });
     list->setFocus();
 }
 

@@ -12,6 +12,9 @@ class KeysDialog : public UTIL_Dialog
     Q_OBJECT
 
 public:
+    /// What exec() returns when the person wants to see what the buttons are.
+    static constexpr int Buttons = 2;
+
     struct Row
     {
         QString key;

@@ -8,6 +8,7 @@
 #include "PadTools.h"
 #include "Platform.h"
 #include "PopupFence.h"
+#include "SidePanel.h"
 #include "StatusLine.h"
 #include "Theme.h"
 #include "Wording.h"
@@ -50,6 +51,8 @@ PadWindow::PadWindow(Platform& platform, const QString& picture)
     m_editor->canvas()->setKeyboardDrawing(true);
 
     m_menuKey->setShortcut(Qt::Key_F10);
+    m_menuKey->setToolTip(
+        wording::withKey(m_menuKey->text(), m_menuKey->shortcut().toString(QKeySequence::NativeText)));
     connect(m_menuKey, &QPushButton::clicked, this, &PadWindow::openMenu);
     connect(m_contextKey, &QPushButton::clicked, this, [this] { m_commands->contextAction()->trigger(); });
     connect(m_commands, &Commands::contextActionChanged, this, &PadWindow::updateContextKey);
@@ -67,14 +70,31 @@ void PadWindow::arrange()
 {
     const QSize more = size() - theme::window.size();
     const int half = more.width() / 2;
-    m_editor->setGeometry(theme::editor.adjusted(0, 0, more.width(), more.height()));
-    m_status->setGeometry(theme::status.translated(0, more.height()).adjusted(0, 0, more.width(), 0));
     const auto visual = [this](const QRect& place) {
         return QStyle::visualRect(layoutDirection(), rect(), place);
     };
+    const bool hasPanel = SidePanel::suits(size());
+    if (hasPanel && !m_panel)
+        addPanel();
+    const int beside = hasPanel ? SidePanel::extent : 0;
+    const QRect editor = theme::editor.adjusted(beside, 0, more.width(), more.height());
+    m_editor->setGeometry(visual(editor));
+    if (m_panel) {
+        m_panel->setGeometry(visual(QRect(0, 0, SidePanel::extent, editor.height())));
+        m_panel->setVisible(hasPanel);
+    }
+    m_status->setGeometry(theme::status.translated(0, more.height()).adjusted(0, 0, more.width(), 0));
     m_menuKey->setGeometry(visual(theme::firstKey.translated(0, more.height()).adjusted(0, 0, half, 0)));
     m_contextKey->setGeometry(
         visual(theme::secondKey.translated(0, more.height()).adjusted(half, 0, more.width(), 0)));
+}
+
+void PadWindow::addPanel()
+{
+    m_panel = new SidePanel(*m_editor, *m_commands, this);
+    connect(m_panel, &SidePanel::colorPicked, m_commands, &Commands::takeColor);
+    m_panel->goOnTo(m_menuKey);
+    setTabOrder(m_menuKey, m_contextKey);
 }
 
 void PadWindow::resizeEvent(QResizeEvent*)
@@ -102,6 +122,8 @@ void PadWindow::updateContextKey()
 {
     const QAction* action = m_commands->contextAction();
     m_contextKey->setText(wording::withoutMnemonic(action->text()));
+    m_contextKey->setToolTip(
+        wording::withKey(m_contextKey->text(), action->shortcut().toString(QKeySequence::NativeText)));
     m_contextKey->setEnabled(action->isEnabled());
 }
 

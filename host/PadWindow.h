@@ -12,10 +12,12 @@ class Colors;
 class Commands;
 class Documents;
 class Platform;
+class SidePanel;
 class StatusLine;
 
 /// The window of korva-pad: the editor, the status line and two soft keys. It may be larger than the
-/// device's 240 × 320; F11 makes it fill its screen.
+/// device's 240 × 320, and a large one has tools and colours beside the editor; F11 makes it fill its
+/// screen.
 class PadWindow : public QWidget
 {
     Q_OBJECT
@@ -43,6 +45,7 @@ protected:
 private:
     UTIL_PushButton* addKey(const QString& text);
     void arrange();
+    void addPanel();
     void openMenu();
     void updateContextKey();
     void updateTitle();
@@ -52,6 +55,7 @@ private:
     Commands* m_commands;
     StatusLine* m_status;
     Colors* m_colors;
+    SidePanel* m_panel = nullptr; ///< made when the window is first large enough
     UTIL_PushButton* m_menuKey;
     UTIL_PushButton* m_contextKey;
 };

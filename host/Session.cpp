@@ -152,13 +152,25 @@ std::optional<Failure> Session::writeResults()
 /// Only in a run that stays for a person to draw. A replay is offered no earlier drawing.
 void Session::startRecovery()
 {
-    if (m_line.noRecovery)
-        return;
-    auto* recovery = new Recovery(m_window->editor(), m_window->documents(), m_platform, m_window.get());
-    m_window->commands().setRecovery(recovery);
-    constexpr int placed = 200; // milliseconds; by then a desktop has given the window its place
+    Recovery* recovery = nullptr;
+    if (!m_line.noRecovery) {
+        recovery = new Recovery(m_window->editor(), m_window->documents(), m_platform, m_window.get());
+        m_window->commands().setRecovery(recovery);
+    }
     if (m_line.replay.isEmpty())
-        QTimer::singleShot(placed, recovery, &Recovery::offer);
+        greet(recovery);
+}
+
+/// One after the other; what can be remembered is told once.
+void Session::greet(Recovery* recovery)
+{
+    constexpr int placed = 200; // milliseconds; by then a desktop has given the window its place
+    QTimer::singleShot(placed, m_window.get(), [this, recovery] {
+        if (m_place && !m_line.noRecovery)
+            m_window->commands().introduceButtons();
+        if (recovery && m_window->isVisible())
+            recovery->offer();
+    });
 }
 
 bool Session::endsNow() const

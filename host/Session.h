@@ -13,6 +13,8 @@
 
 namespace pad {
 
+class Recovery;
+
 /// One run of the program: opens, plays, records and writes as the command line says.
 class Session : public QObject
 {
@@ -33,6 +35,7 @@ private:
     std::optional<Failure> writeResults();
     void startDrawing();
     void startRecovery();
+    void greet(Recovery* recovery);
     [[nodiscard]] bool endsNow() const;
 
     CommandLine m_line;

@@ -38,10 +38,10 @@ QString wording::inKilobytes(int count)
     return pad::inKilobytes(QLocale().toString(count));
 }
 
-QString wording::inColors(int count)
+QString wording::inColors(int count, bool areBlackAndWhite)
 {
-    return count == 2 ? Documents::tr("Black and white", "canvas type")
-                      : Documents::tr("%Ln colors", "canvas type", count);
+    return areBlackAndWhite ? Documents::tr("Black and white", "canvas type")
+                            : Documents::tr("%Ln colors", "canvas type", count);
 }
 
 QString wording::zoom()
@@ -76,6 +76,16 @@ QString wording::withoutMnemonic(const QString& label)
     if (at < 0 || label.indexOf(QLatin1Char(')'), at) != at + length - 1)
         return QString(label).remove(QLatin1Char('&'));
     return label.left(at).trimmed() + label.mid(at + length);
+}
+
+QString wording::plainLabel(const QString& label)
+{
+    return withoutMnemonic(label).remove(QLatin1String(" ..."));
+}
+
+QString wording::withKey(const QString& name, const QString& key)
+{
+    return key.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, key);
 }
 
 Failure wording::unknownOption(const QString& option)

@@ -16,7 +16,7 @@ namespace pad::wording {
 /// The bytes of a kB.
 inline constexpr int kilobyte = 1000;
 /// "16 colors", or "Black and white" for two.
-[[nodiscard]] QString inColors(int count);
+[[nodiscard]] QString inColors(int count, bool areBlackAndWhite);
 /// What percent() is of.
 [[nodiscard]] QString zoom();
 /// "150 %".
@@ -27,6 +27,10 @@ inline constexpr int kilobyte = 1000;
 [[nodiscard]] QString plainNumber(int number);
 /// A menu entry without the mark of its letter, which stands in it ("&Undo") or behind it ("元に戻す(&U)").
 [[nodiscard]] QString withoutMnemonic(const QString& label);
+/// The same, and without the sign that a dialog follows ("Open ...").
+[[nodiscard]] QString plainLabel(const QString& label);
+/// "Undo (Ctrl+Z)", or only the name without a key.
+[[nodiscard]] QString withKey(const QString& name, const QString& key);
 
 // --- Of both programs' command lines
 

@@ -19,12 +19,16 @@ public:
 
     [[nodiscard]] QAccessible::Role role() const override
     {
+        if (m_button.isCheckable())
+            return m_button.autoExclusive() ? QAccessible::RadioButton : QAccessible::CheckBox;
         return m_button.menu() ? QAccessible::ButtonMenu : QAccessible::Button;
     }
     [[nodiscard]] QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.pressed = m_button.isDown();
+        state.checkable = m_button.isCheckable();
+        state.checked = m_button.isChecked();
         state.defaultButton = m_button.isDefault();
         state.hasPopup = m_button.menu() != nullptr;
         return state;

@@ -127,7 +127,8 @@ public:
 
     // --- What is offered, and how it behaves ---
     /// Takes away from what the editor offers, or puts the host's own in its place. A tool, an option or a
-    /// zoom that is in force and no longer offered gives way to the first one that is.
+    /// zoom that is in force and no longer offered gives way to the first one that is. cancelDialogs() comes
+    /// first.
     void setFeatures(const KORVA_Features& features);
     /// See setFeatures(). Everything at first.
     [[nodiscard]] const KORVA_Features& features() const;

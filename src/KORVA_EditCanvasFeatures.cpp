@@ -11,6 +11,12 @@
 
 #include <QStyle>
 
+namespace {
+
+constexpr int mostZoom = 3200; // in percent
+
+} // namespace
+
 // What the editor offers, how it behaves, and what room its parts have.
 
 const KORVA_Features& KORVA_EditCanvas::features() const
@@ -20,10 +26,13 @@ const KORVA_Features& KORVA_EditCanvas::features() const
 
 void KORVA_EditCanvas::setFeatures(const KORVA_Features& features)
 {
-    m_tools->setFeatures(features);
+    cancelDialogs(); // one of them may show what is no longer offered
+    KORVA_Features possible = features;
+    possible.zooms.removeIf([](int percent) { return percent < 0 || percent > mostZoom; });
+    m_tools->setFeatures(possible);
     m_toolBar->offer();
     m_toolChoice->offer();
-    m_zoomChoice->offer(features.zooms);
+    m_zoomChoice->offer(possible.zooms);
     canvas()->offerEditing(features.editing, features.editing && features.pasting);
     arrange();
     m_zoomChoice->fitAgain();

@@ -1473,6 +1473,11 @@
         <comment>keys</comment>
         <translation>إغلاق</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>الأزرار</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

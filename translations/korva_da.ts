@@ -1469,6 +1469,11 @@
         <comment>keys</comment>
         <translation>Luk</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>Knapper</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

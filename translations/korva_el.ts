@@ -1469,6 +1469,11 @@
         <comment>keys</comment>
         <translation>Κλείσιμο</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>Κουμπιά</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

@@ -1468,6 +1468,11 @@
         <comment>keys</comment>
         <translation>Tutup</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>Tombol</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

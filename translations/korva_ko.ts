@@ -1468,6 +1468,11 @@
         <comment>keys</comment>
         <translation>닫기</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>단추</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

@@ -1469,6 +1469,11 @@
         <comment>keys</comment>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>Botões</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

@@ -1470,6 +1470,11 @@
         <comment>keys</comment>
         <translation>Закрыть</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>Кнопки</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

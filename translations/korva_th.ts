@@ -1468,6 +1468,11 @@
         <comment>keys</comment>
         <translation>ปิด</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>ปุ่ม</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

@@ -1468,6 +1468,11 @@
         <comment>keys</comment>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>按钮</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

@@ -1468,6 +1468,11 @@
         <comment>keys</comment>
         <translation>關閉</translation>
     </message>
+    <message>
+        <source>Buttons</source>
+        <comment>keys; title, of the tool bar&apos;s buttons</comment>
+        <translation>按鈕</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadTools</name>

@@ -1,3 +1,4 @@
+#include "ButtonsDialog.h"
 #include "ColorPopup.h"
 #include "ColorsDialog.h"
 #include "Commands.h"
@@ -322,6 +323,7 @@ void tst_Languages::dialogsAreReadable()
                 action->trigger();
     };
     checkDialog([&] { choose(QKeySequence("F1")); });
+    checkDialog([&] { pad::ButtonsDialog(m_window.get(), m_window->editor(), *menu()).exec(); });
     checkDialog([&] { pad::EarlierDialog(m_window.get(), {}).exec(); });
     QList<KORVA_Journal::Entry> entries;
     for (const int days : {0, 1, 40}) {

@@ -69,6 +69,8 @@ class tst_Player : public support::TestCase
 private slots:
     void aStroke();
     void undoAndRedo();
+    void undoStaysInTheDocument_data();
+    void undoStaysInTheDocument();
     void mannersHoldForTheRecording();
     void piecesAreChanged();
     void historyWalksAsFarAsItSays();
@@ -118,6 +120,32 @@ void tst_Player::undoAndRedo()
     QVERIFY(sameImage(pad.picture(), sheet(newCanvas)));
     QCOMPARE(pad.play("redo"), "");
     QVERIFY(sameImage(pad.picture(), filled(sheet(newCanvas), QRect(10, 20, 1, 1), Qt::red)));
+}
+
+void tst_Player::undoStaysInTheDocument_data()
+{
+    QTest::addColumn<QByteArray>("begin");
+    QTest::newRow("opened") << QByteArray("open ");
+    QTest::newRow("new") << QByteArray("canvas 16bit 40 30\n");
+    QTest::newRow("on a picture") << QByteArray("paper ");
+}
+
+void tst_Player::undoStaysInTheDocument()
+{
+    QFETCH(QByteArray, begin);
+    QTemporaryDir folder;
+    const QString name = folder.filePath("blue.png");
+    QVERIFY(sheet(QSize(40, 30), Qt::blue).save(name));
+    if (begin.endsWith(' '))
+        begin += name.toUtf8() + '\n';
+    Pad pad;
+    QCOMPARE(pad.play("history 5\npress 10 20\nrelease 10 20\nanswer 1\n" + begin), "");
+    const QImage begun = pad.picture();
+    QCOMPARE(begun.size(), QSize(40, 30));
+    QCOMPARE(pad.play("undo\nundo"), ""); // not into the drawing before, whose file is another one
+    QVERIFY(sameImage(pad.picture(), begun));
+    QCOMPARE(pad.play("press 5 5\nrelease 5 5\nundo\nundo"), "");
+    QVERIFY(sameImage(pad.picture(), begun));
 }
 
 void tst_Player::mannersHoldForTheRecording()

@@ -67,6 +67,7 @@ private slots:
     void whatIsChosenIsTold();
     void messagesAreTold();
     void aDrawingInWords();
+    void whatStandsBesideTheEditor();
 
 private:
     [[nodiscard]] Node pad() const { return m_reader.program("korva-pad"); }
@@ -230,6 +231,27 @@ void tst_ScreenReader::aDrawingInWords()
             QVERIFY(!news.contains(description));
         before = description;
     }
+}
+
+void tst_ScreenReader::whatStandsBesideTheEditor()
+{
+    m_screen.process().kill();
+    QSettings(m_home.filePath("XDG_CONFIG_HOME/korva/pad.conf"), QSettings::IniFormat)
+        .setValue("window-800x600/size", QSize(700, 500));
+    QVERIFY(m_screen.start({"--no-recovery"}));
+    QVERIFY(waitFor([this] { return pad().find("panel", "Tool").isShowing(); }));
+    const auto said = [this](const char* group) {
+        QStringList names;
+        for (const Node& key : pad().find("panel", group).children)
+            names << key.role + ' ' + key.name + (key.isChecked() ? " (checked)" : "");
+        return names.join(", ");
+    };
+    QCOMPARE(said("Tool"), "radio button Select, radio button Eraser, radio button Line, "
+                           "radio button Pencil (checked), radio button Text, radio button Rectangle, "
+                           "radio button Ellipse, radio button Fill, radio button Pick color");
+    QCOMPARE(said("Tool option"), "radio button Small (checked), radio button Medium, radio button Large");
+    QVERIFY(said("Color").contains("radio button #ff0000, red (checked), radio button #ff8000, orange"));
+    QCOMPARE(report(pad().all(isNameless)), "");
 }
 
 int main(int argc, char** argv)

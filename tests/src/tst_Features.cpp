@@ -88,6 +88,8 @@ private slots:
     void readOnlyEndsWhatIsOpen();
     void nothingChangesWhenTheSameIsSet();
     void resetKeepsWhatIsOffered();
+    void impossibleZoomsAreLeftOut();
+    void whatIsOpenCloses();
 };
 
 void tst_Features::everythingIsThereAtFirst()
@@ -658,6 +660,29 @@ void tst_Features::resetKeepsWhatIsOffered()
     QCOMPARE(desk.canvas().zoom(), 50);
     QVERIFY(sameImage(desk.picture(), support::sheet(QSize(80, 60))));
     QCOMPARE(desk.tools().size(), 6);
+}
+
+void tst_Features::impossibleZoomsAreLeftOut()
+{
+    FeaturesDesk desk;
+    desk.set([](KORVA_Features& f) { f.zooms = {-100, 100, 100'000, 3200}; });
+    QCOMPARE(desk.editor->features().zooms, (QList<int>{100, 3200}));
+    QCOMPARE(desk.zoomBox().count(), 2);
+}
+
+void tst_Features::whatIsOpenCloses()
+{
+    FeaturesDesk desk;
+    const QColor before = desk.editor->color();
+    QTimer::singleShot(0, desk.editor.get(), [&desk] {
+        QVERIFY(QApplication::activeModalWidget());
+        KORVA_Features without = desk.editor->features();
+        without.colors = false;
+        desk.editor->setFeatures(without);
+    });
+    desk.editor->slotColor(); // returns, because the picker is closed
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(desk.editor->color(), before);
 }
 
 int main(int argc, char** argv)

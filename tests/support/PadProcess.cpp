@@ -1,10 +1,28 @@
 #include "PadProcess.h"
 
+#include "CommandLine.h"
+
 namespace support {
 
 namespace {
 
 constexpr int patience = 20'000; // ms; the sanitizers are slow to start
+
+/// A scripted run leaves no settings behind, and tests look whether that is so.
+bool isScripted(const QStringList& arguments)
+{
+    const auto parsed = pad::CommandLine::parse(arguments);
+    const auto* line = std::get_if<pad::CommandLine>(&parsed);
+    return !line || line->isScripted();
+}
+
+void rememberStart(const QString& folder)
+{
+    const QString key = "start/buttons";
+    QSettings settings(folder + "/korva/pad.conf", QSettings::IniFormat);
+    if (!settings.contains(key))
+        settings.setValue(key, true);
+}
 
 } // namespace
 
@@ -19,6 +37,8 @@ PadProcess::PadProcess(const QStringList& arguments, const QString& display, con
     const QString user = home.isEmpty() ? m_ownHome.path() : home;
     for (const char* variable : {"XDG_STATE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
         environment.insert(variable, user + '/' + variable);
+    if (!isScripted(arguments))
+        rememberStart(user + "/XDG_CONFIG_HOME");
     m_process.setProcessEnvironment(environment);
     m_process.setWorkingDirectory(folder);
     const QStringList command = through + QStringList{KORVA_PAD} + arguments;

@@ -11,7 +11,8 @@ class PadProcess
 {
 public:
     /// Starts it in the folder given. Without a display it works off screen. What it remembers goes below
-    /// `home`, the user's folder; without one it remembers nothing of others. A program in front with its
+    /// `home`, the user's folder; without one it remembers nothing of others. The user has seen what the
+    /// buttons are, unless the settings say otherwise. A program in front with its
     /// arguments, `through`, becomes the pad.
     explicit PadProcess(const QStringList& arguments, const QString& display = {},
                         const QString& folder = {}, const QString& home = {},
