@@ -1,5 +1,7 @@
 #include "ColorPopup.h"
 
+#include "Palette16.h"
+
 #include <KORVA_EditCanvas.h>
 
 #include <QAbstractButton>
@@ -21,13 +23,6 @@ constexpr int columns = 4;
 constexpr QSize cell(54, 30); // for a finger; four beside each other fit the smallest window
 constexpr int spacing = 2;
 constexpr int margin = 4;
-
-constexpr QRgb sixteen[] = {
-    0x000000, 0x808080, 0xc0c0c0, 0xffffff, // black, grey, silver, white
-    0xff0000, 0xff8000, 0xffff00, 0x804000, // red, orange, yellow, brown
-    0x008000, 0x80e000, 0x00c0c0, 0x0000ff, // green, lime, turquoise, blue
-    0x000080, 0x8000c0, 0xff00ff, 0xffb0c0, // navy, violet, magenta, pink
-};
 
 /// A button in its colour; the one in force is framed.
 class Swatch : public QAbstractButton
@@ -94,10 +89,10 @@ ColorPopup::ColorPopup(QWidget* parent, const QColor& present, const QList<QColo
     grid->setContentsMargins(margin, margin, margin, margin);
     grid->setSpacing(spacing);
     QList<QColor> palette;
-    for (const QRgb color : sixteen)
-        palette.append(QColor(color));
+    for (const PaletteColor& color : palette16)
+        palette.append(QColor(color.rgb));
     addSwatches(*grid, 0, palette);
-    const int recentRow = int(std::size(sixteen)) / columns + 1;
+    const int recentRow = int(std::size(palette16)) / columns + 1;
     grid->setRowMinimumHeight(recentRow - 1, 2 * spacing);
     addSwatches(*grid, recentRow, recent);
 

@@ -36,7 +36,7 @@ inline constexpr PaletteColor palette16[] = {
     {0xff007020, QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "green", "color")},
     {0xff30c030, QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "green", "color")},
     {0xff40a0ff, QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "blue", "color")},
-    {0xff0030d0, QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "blue", "color")},
+    {0xff0000ff, QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "blue", "color")},
 };
 
 } // namespace pad

@@ -1,5 +1,5 @@
 #include "ColoringPage.h"
-#include "Kiosk.h"
+#include "KioskWindow.h"
 
 #include <KORVA_Translations.h>
 
@@ -46,8 +46,8 @@ int main(int argc, char** argv)
     times.seconds = line.value("idle").toInt();
     times.warning = line.value("warning").toInt();
 
-    Kiosk kiosk(pageNamed(line.positionalArguments().value(0)), times);
-    QObject::connect(&kiosk, &Kiosk::handedOut, &send);
+    KioskWindow kiosk(pageNamed(line.positionalArguments().value(0)), times);
+    QObject::connect(&kiosk, &KioskWindow::handedOut, &send);
     kiosk.showFullScreen();
     return QApplication::exec();
 }

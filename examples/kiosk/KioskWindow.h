@@ -12,13 +12,13 @@ struct Word;
 
 /// A screen of 800 × 480 on which one visitor after the other draws. Bytes of a picture come in, bytes of
 /// drawings go out; it knows no file.
-class Kiosk : public QWidget
+class KioskWindow : public QWidget
 {
     Q_OBJECT
 
 public:
     /// `page` is a picture to draw on; empty for white.
-    Kiosk(const QByteArray& page, Idle::Times times);
+    KioskWindow(const QByteArray& page, Idle::Times times);
 
 signals:
     /// A visitor has finished, or has gone: the drawing as a JPEG of at most 30,000 bytes.

@@ -1,4 +1,4 @@
-#include "Kiosk.h"
+#include "KioskWindow.h"
 
 #include "Words.h"
 
@@ -35,7 +35,7 @@ UTIL_PushButton* addKey(QWidget* window, int row, const Word& word)
 
 } // namespace
 
-Kiosk::Kiosk(const QByteArray& page, Idle::Times times)
+KioskWindow::KioskWindow(const QByteArray& page, Idle::Times times)
     : m_editor(KORVA_COLOR_16BIT, this),
       m_keyboard(this),
       m_warning(this),
@@ -55,27 +55,27 @@ Kiosk::Kiosk(const QByteArray& page, Idle::Times times)
     beginVisit();
 }
 
-void Kiosk::wire()
+void KioskWindow::wire()
 {
     using Editor = KORVA_EditCanvas;
     connect(m_undo, &QPushButton::clicked, &m_editor, &Editor::undo);
     connect(m_redo, &QPushButton::clicked, &m_editor, &Editor::redo);
     connect(m_clear, &QPushButton::clicked, &m_editor, &Editor::clearCanvas);
-    connect(m_done, &QPushButton::clicked, this, &Kiosk::finish);
+    connect(m_done, &QPushButton::clicked, this, &KioskWindow::finish);
     connect(&m_editor, &Editor::canUndo, m_undo, &QWidget::setEnabled);
     connect(&m_editor, &Editor::canRedo, m_redo, &QWidget::setEnabled);
     connect(&m_editor, &Editor::modified, m_done, [this] { m_done->setEnabled(true); });
-    connect(&m_editor, &Editor::signalTextTool, this, &Kiosk::showKeyboard);
-    connect(&m_editor, &Editor::TextToolClicked, this, &Kiosk::followCaret);
-    connect(&m_keyboard, &Keyboard::typed, this, &Kiosk::followCaret);
+    connect(&m_editor, &Editor::signalTextTool, this, &KioskWindow::showKeyboard);
+    connect(&m_editor, &Editor::TextToolClicked, this, &KioskWindow::followCaret);
+    connect(&m_keyboard, &Keyboard::typed, this, &KioskWindow::followCaret);
     connect(&m_idle, &Idle::warned, &m_warning, &Warning::count);
     connect(&m_idle, &Idle::returned, &m_warning, &QWidget::hide);
-    connect(&m_idle, &Idle::gone, this, &Kiosk::end);
+    connect(&m_idle, &Idle::gone, this, &KioskWindow::end);
 }
 
 // --- One visit after the other
 
-void Kiosk::layPage(const QByteArray& page)
+void KioskWindow::layPage(const QByteArray& page)
 {
     if (page.isEmpty())
         return;
@@ -86,7 +86,7 @@ void Kiosk::layPage(const QByteArray& page)
 }
 
 /// Gives the next visitor an empty page and the pencil, with no way back to the previous drawing.
-void Kiosk::beginVisit()
+void KioskWindow::beginVisit()
 {
     m_editor.reset(); // also closes its dialogs and pop-ups; the paper stays
     m_editor.chooseCanvas(KORVA_CANVAS_16BIT, m_page.width(), m_page.height());
@@ -96,7 +96,7 @@ void Kiosk::beginVisit()
         key->setEnabled(false);
 }
 
-void Kiosk::handOut()
+void KioskWindow::handOut()
 {
     const QByteArray picture = m_editor.encoded("JPEG", mostBytes);
     emit handedOut(picture);
@@ -104,7 +104,7 @@ void Kiosk::handOut()
 }
 
 /// The visitor says so.
-void Kiosk::finish()
+void KioskWindow::finish()
 {
     const int answer = UTIL_Platform::instance()->question(&m_editor, {}, askWord.text(),
                                                            {sendWord.text(), drawOnWord.text()});
@@ -115,7 +115,7 @@ void Kiosk::finish()
 }
 
 /// The visitor has gone, whatever is open.
-void Kiosk::end()
+void KioskWindow::end()
 {
     m_warning.hide();
     if (m_editor.hasChanges())
@@ -126,14 +126,14 @@ void Kiosk::end()
 // --- The keyboard
 
 /// Makes room for the keyboard, or takes it back.
-void Kiosk::showKeyboard(bool isShown)
+void KioskWindow::showKeyboard(bool isShown)
 {
     m_keyboard.setVisible(isShown);
     m_editor.setGeometry(isShown ? editorPlace.adjusted(0, 0, 0, -Keyboard::size.height()) : editorPlace);
 }
 
 /// Scrolls to the line that is being typed.
-void Kiosk::followCaret()
+void KioskWindow::followCaret()
 {
     KORVA_ScrollView& view = *m_editor.mainView()->scrollView();
     const QRect caret = m_editor.canvas()->inputMethodQuery(Qt::ImCursorRectangle).toRect();
@@ -144,7 +144,7 @@ void Kiosk::followCaret()
         view.setContentsPos(view.contentsX(), caret.top());
 }
 
-void Kiosk::tell(const Word& word, const QString& argument)
+void KioskWindow::tell(const Word& word, const QString& argument)
 {
     const QString text = argument.isEmpty() ? word.text() : word.text().arg(argument);
     UTIL_Platform::instance()->timedMessage(this, {}, text, bannerSeconds);
