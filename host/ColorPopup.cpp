@@ -19,6 +19,12 @@ namespace pad {
 
 namespace {
 
+/// A dialog, because screen readers do not hear of a pop-up. On Wayland a dialog would be a window beside.
+Qt::WindowFlags kind()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland")) ? Qt::Popup : Qt::Dialog;
+}
+
 constexpr int columns = 4;
 constexpr QSize cell(54, 30); // for a finger; four beside each other fit the smallest window
 constexpr int spacing = 2;
@@ -80,7 +86,7 @@ std::optional<QColor> ColorPopup::pick(QWidget* parent, const QColor& present, c
 }
 
 ColorPopup::ColorPopup(QWidget* parent, const QColor& present, const QList<QColor>& recent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
+    : QDialog(parent, kind() | Qt::FramelessWindowHint),
       m_picked(present),
       m_value(new QLineEdit(present.name(), this))
 {

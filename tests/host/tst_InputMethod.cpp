@@ -174,12 +174,12 @@ void tst_InputMethod::composedTextArrives()
     type({"x"});
     QVERIFY(m_pad->waitFor([this] { return isComposing(); }));
     type({"l", "p"});
-    const QRect belowTheCaret(m_canvas + tap + QPoint(2, 0), QSize(16, 8));
+    const QRect belowTheCaret(m_canvas + tap + QPoint(2, 0), QSize(16 * zoom / 100, 8));
     QVERIFY2(m_pad->waitFor([&] { return belowTheCaret.contains(list().topLeft()); }),
              qPrintable(QDebug::toString(list())));
     type({"space", "y"});
     const QRect ink = support::inkBounds(expected);
-    const int end = ink.left() + ink.width() * 100 / zoom - 2; // typed text is not enlarged
+    const int end = ink.left() + ink.width() - 2;
     QVERIFY(m_pad->waitFor([&] { return list().isEmpty() && support::inkBounds(text()).right() >= end; }));
 
     // A drag ends the text; then the keys are no longer the input method's.

@@ -258,7 +258,7 @@ void tst_RealWindow::everyPointOfAFloodIsDrawn()
 
 void tst_RealWindow::theClipboardBothWays()
 {
-    const QImage sent = support::mosaic(QSize(30, 20));
+    const QImage sent = support::mosaic(QSize(60, 40));
     sent.save(m_folder->filePath("sent.png"));
     QProcess in;
     in.setProcessEnvironment([this] {
@@ -271,18 +271,18 @@ void tst_RealWindow::theClipboardBothWays()
     QVERIFY(in.waitForStarted());
 
     QVERIFY(start());
-    m_server->moveTo(onPicture({80, 100}));
+    m_server->moveTo(onPicture({20, 100}));
     m_server->key("v", {"Control_L"});
-    m_server->moveTo(onPicture({80, 110}));
-    m_server->click(onPicture({100, 100})); // merges the piece where it lies
-    const QRect place(m_picture.topLeft(), sent.size());
+    m_server->moveTo(onPicture({20, 110}));
+    m_server->click(onPicture({20, 20})); // merges the piece where it lies: in the middle of the canvas
+    const QRect place(onPicture({70, 65}), sent.size());
     QTRY_VERIFY(m_server->screenshot().copy(place).convertToFormat(QImage::Format_RGB32) ==
                 sent.convertToFormat(QImage::Format_RGB32));
 
     m_server->key("v", {"Control_L"});
     QTRY_VERIFY(m_server->screenshot().copy(place).convertToFormat(QImage::Format_RGB32) !=
                 sent.convertToFormat(QImage::Format_RGB32)); // the frame and its handles
-    m_server->click(onPicture({15, 10}), 3);
+    m_server->click(onPicture({100, 85}), 3);
     QTest::qWait(200);
     m_server->key("Down");
     m_server->key("Return");               // Copy

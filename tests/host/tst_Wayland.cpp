@@ -13,7 +13,7 @@ constexpr QPoint menuKey(60, 285);
 constexpr QPoint toolButton(18, 14);
 constexpr QPoint zoomBox(130, 14);
 constexpr QPoint colorButton(215, 14);
-constexpr QPoint orange(90, 76);       // in the pop-up of that button
+constexpr QPoint orange(146, 108);     // in the pop-up of that button
 constexpr QPoint moreColors(175, 212); // while only one color was used
 constexpr QPoint onCanvas(60, 80);
 constexpr int patience = 20'000; // ms
