@@ -275,14 +275,15 @@ void tst_RealWindow::theClipboardBothWays()
     m_server->key("v", {"Control_L"});
     m_server->moveTo(onPicture({20, 110}));
     m_server->click(onPicture({20, 20})); // merges the piece where it lies: in the middle of the canvas
-    const QRect place(onPicture({70, 65}), sent.size());
+    const QSize margin = (m_picture.size() - sent.size()) / 2;
+    const QRect place(onPicture({margin.width(), margin.height()}), sent.size());
     QTRY_VERIFY(m_server->screenshot().copy(place).convertToFormat(QImage::Format_RGB32) ==
                 sent.convertToFormat(QImage::Format_RGB32));
 
     m_server->key("v", {"Control_L"});
     QTRY_VERIFY(m_server->screenshot().copy(place).convertToFormat(QImage::Format_RGB32) !=
                 sent.convertToFormat(QImage::Format_RGB32)); // the frame and its handles
-    m_server->click(onPicture({100, 85}), 3);
+    m_server->click(place.center(), 3);
     QTest::qWait(200);
     m_server->key("Down");
     m_server->key("Return");               // Copy
