@@ -23,3 +23,20 @@ check(ON "Skipped:
   lacks: Unable to find required file: /missing
   absent: Unable to find executable: /missing
 ")
+
+# Which tests may run once more: those that failed, unless one crashed or a sanitizer spoke.
+function(check_failed expected)
+    execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${work}/ON -D LEAVE_OUT=ON ${ARGN}
+        OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND ${ctest} --test-dir ${work}/ON --output-junit report.xml OUTPUT_QUIET ERROR_QUIET)
+    execute_process(COMMAND ${CMAKE_CURRENT_LIST_DIR}/../list-failed ${work}/ON/report.xml
+        RESULT_VARIABLE result OUTPUT_VARIABLE told)
+    if(NOT "${result} ${told}" STREQUAL expected)
+        message(FATAL_ERROR "of the failed ones is told\n${result} ${told}\nexpected was\n${expected}")
+    endif()
+endfunction()
+
+check_failed("0   fails
+")
+check_failed("1 " -D CRASH=ON)
+check_failed("1 " -D CRASH=OFF -D "REPORT=ERROR: AddressSanitizer: heap-use-after-free")

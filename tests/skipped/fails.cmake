@@ -1,2 +1,5 @@
+message("${REPORT}")
 message("SKIP   : tst_B::e() before it failed")
-message(FATAL_ERROR "FAIL!  : tst_B::f()")
+message("FAIL!  : tst_B::f()")
+message("Totals: 0 passed, 1 failed, 1 skipped")
+message(FATAL_ERROR "")
