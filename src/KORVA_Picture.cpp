@@ -78,7 +78,9 @@ void KORVA_Picture::erase(const QRect& rect, const QTransform& toPicture)
         painter.setWorldMatrix(toPicture);
         painter.fillRect(rect, Qt::white);
     } else if (toPicture.isIdentity()) {
-        classic::bitBlt(pixmap(), rect.x(), rect.y(), paper().copy(rect));
+        const QRect inside = rect & QRect(QPoint(), size()); // of what lies outside, copy() gives all
+        if (!inside.isEmpty())
+            classic::bitBlt(pixmap(), inside.x(), inside.y(), paper().copy(inside));
     } else {
         // The pixels that white would cover.
         QPixmap hole(size());

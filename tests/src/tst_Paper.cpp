@@ -37,6 +37,7 @@ private slots:
     void clearingBringsItBack();
     void eraserBringsItBack_data();
     void eraserBringsItBack();
+    void erasingBeyondTheEdgesChangesNothingElse();
     void holesShowIt_data();
     void holesShowIt();
     void newCanvasesShowIt();
@@ -125,6 +126,23 @@ void tst_Paper::eraserBringsItBack()
     expected = support::overlaid(expected, erased.topLeft(), mosaic(size).copy(erased));
     QVERIFY(sameImage(desk.editor->snapshot(), expected));
     QVERIFY(sameImage(*desk.canvas().zoomedPixmap(), support::scaled(expected, desk.canvas().zoom())));
+}
+
+void tst_Paper::erasingBeyondTheEdgesChangesNothingElse()
+{
+    Sheet desk;
+    desk.editor->setManners(KORVA_Manners::modern());
+    desk.editor->selectTool(KORVA_TOOL_ERASER);
+    desk.editor->selectOption(KORVA_OPTION_LARGE);
+    const QImage before = desk.editor->snapshot();
+    support::Gestures hand(desk.canvas());
+    hand.drag({{60, -30}, {-30, -2}, {-2, 50}, {-30, 190}, {100, 190}, {230, 60}, {60, -30}}); // around
+    QVERIFY(sameImage(desk.editor->snapshot(), before));
+    hand.drag({{-2, 30}, {-2, 50}}); // 3 of its 5 columns are inside
+    QVERIFY(sameImage(desk.editor->snapshot(), before));
+    hand.drag({{48, 30}, {48, 50}});
+    QVERIFY(sameImage(desk.editor->snapshot(),
+                      support::overlaid(before, {50, 40}, mosaic(size).copy(50, 40, 3, 15))));
 }
 
 void tst_Paper::holesShowIt_data()
