@@ -268,15 +268,7 @@ void KORVA_Canvas::erase(const QRegion& inPicture)
 {
     for (const QRect& rect : inPicture)
         m_picture->erase(rect);
-    const QRect changed = inPicture.boundingRect().adjusted(-1, -1, 2, 2); // pixels that share one's edge
-    const QRect shown(m_zoom.toWidget(changed.topLeft()), m_zoom.toWidget(changed.bottomRight()));
-    {
-        KORVA_ClassicPainter painter(&m_zoomed);
-        painter.setClip(shown);
-        painter.setWorldMatrix(m_zoom.toWidgetMatrix());
-        painter.drawPixmap(0, 0, *m_picture->pixmap());
-    }
-    refresh(shown);
+    showPicture(inPicture.boundingRect());
 }
 
 void KORVA_Canvas::resizeImage(int w, int h)
@@ -348,6 +340,19 @@ void KORVA_Canvas::updateZoomed()
 {
     paintZoomed();
     refresh();
+}
+
+void KORVA_Canvas::showPicture(const QRect& changed)
+{
+    const QRect wide = changed.adjusted(-1, -1, 2, 2); // pixels that share one's edge
+    const QRect shown(m_zoom.toWidget(wide.topLeft()), m_zoom.toWidget(wide.bottomRight()));
+    {
+        KORVA_ClassicPainter painter(&m_zoomed);
+        painter.setClip(shown);
+        painter.setWorldMatrix(m_zoom.toWidgetMatrix());
+        painter.drawPixmap(0, 0, *m_picture->pixmap());
+    }
+    refresh(shown);
 }
 
 void KORVA_Canvas::rebuildZoomed()

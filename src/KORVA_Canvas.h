@@ -175,6 +175,8 @@ public:
     [[nodiscard]] int zoom() const { return m_zoom.percent(); }
     /// Draws the zoomed picture again from the picture, and shows it.
     void updateZoomed();
+    /// The same for a part of the picture, in picture coordinates; a tool's preview in it goes.
+    void showPicture(const QRect& changed);
     /// The same from a copy of the picture on which `paint` has painted, as feedback of a tool that shows
     /// what it will commit. updateZoomed() takes it off the screen.
     void showWith(const std::function<void(QPixmap* copy)>& paint);
@@ -184,8 +186,9 @@ public:
 
     /// Lifts a rectangle (widget coordinates, corners in any order) out of the picture into a floating
     /// piece, and leaves white behind. Parts outside are cut off; a rectangle that is entirely outside
-    /// lifts nothing. At 150 and 200 % the piece is 2 picture pixels wider and higher. A piece that was
-    /// floating is merged. No snapshot, no modification: the change counts when the piece is merged or cut.
+    /// lifts nothing. At 150 and 200 % the piece is 2 picture pixels wider and higher; with
+    /// KORVA_Manners::steadyPiece it is made of all pixels that are seen in the rectangle, at any zoom. A
+    /// piece that was floating is merged. No snapshot, no modification: the change counts when the piece is merged or cut.
     /// Emits selection(true).
     void setSelection(const QRect& rect);
     /// The rectangle last selected, in widget coordinates; null after clearSelection().

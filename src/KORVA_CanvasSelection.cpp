@@ -21,16 +21,23 @@ void KORVA_Canvas::setSelection(const QRect& rect)
     m_selection = marked;
     m_hasSelection = true;
 
-    QRect lifted = m_zoom.toPicture(m_selection);
-    if (zoom() == 150 || zoom() == 200)
+    const QRect around = m_zoom.toPictureAround(m_selection) & QRect(QPoint(), pictureSize());
+    QRect lifted = m_manners.steadyPiece ? around : m_zoom.toPicture(m_selection);
+    if (!m_manners.steadyPiece && (zoom() == 150 || zoom() == 200))
         lifted.setSize(lifted.size() + QSize(margin, margin));
     const QPixmap piece = m_picture->piece(lifted);
 
     mergePastePixmap();
-    const BeforePiece before =
-        keptDrawing(m_zoom.toPictureMatrix().mapRect(QRectF(m_selection)).toAlignedRect());
-    eraseSelection();
+    const BeforePiece before = keptDrawing(around);
+    if (m_manners.steadyPiece) {
+        m_picture->settle();
+        m_picture->erase(lifted);
+    } else {
+        eraseSelection();
+    }
     floatPiece(m_selection.topLeft(), piece, Lifted, before);
+    if (m_manners.steadyPiece)
+        placePiece(lifted.topLeft());
     updateZoomed();
     emit selection(true);
 }

@@ -19,6 +19,12 @@ QBrush KORVA_DrawingTool::brush() const
     return m_button == Qt::LeftButton ? leftBrush() : rightBrush();
 }
 
+bool KORVA_DrawingTool::showsPixels() const
+{
+    constexpr int realSize = 100; // below it a thin line would be shown in parts
+    return canvas()->manners().truePixels && zoom().percent() >= realSize;
+}
+
 bool KORVA_DrawingTool::beginChange()
 {
     canvas()->saveOldPix();

@@ -25,6 +25,10 @@ protected:
     /// The left brush for the left button, the right one for any other.
     [[nodiscard]] QBrush brush() const;
 
+    /// Whether what is painted is shown by KORVA_Canvas::showPicture(), and not painted on the screen, too:
+    /// see KORVA_Manners::truePixels.
+    [[nodiscard]] bool showsPixels() const;
+
     /// Takes the undo snapshot and marks the picture modified. An active tool calls this before the first
     /// pixel of a gesture. False when a slot that heard of the change has deactivated the tool.
     [[nodiscard]] bool beginChange();

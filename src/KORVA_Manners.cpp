@@ -14,6 +14,7 @@ constexpr Row rows[] = {
     {"joined-eraser", &KORVA_Manners::joinedEraser},
     {"own-sizes", &KORVA_Manners::ownSizes},
     {"true-zooms", &KORVA_Manners::trueZooms},
+    {"true-pixels", &KORVA_Manners::truePixels},
     {"pixel-grid", &KORVA_Manners::pixelGrid},
     {"wheel-zooms", &KORVA_Manners::wheelZooms},
     {"magnifier", &KORVA_Manners::magnifier},

@@ -19,6 +19,9 @@ struct KORVA_EXPORT KORVA_Manners
     /// The zooms of 150 and 200 % mean themselves for every picture. Classic: 100 % for one of 640 × 480
     /// pixels or more.
     bool trueZooms = false;
+    /// From 100 % on the screen shows after each stroke and shape what the picture holds, pixel by pixel.
+    /// Classic: both are drawn, each at its own scale, and the next repaint shows the picture's pixels.
+    bool truePixels = false;
     /// From 400 % on thin lines part the pixels. They are never part of the picture.
     bool pixelGrid = false;
     /// A mouse's wheel zooms from row to row of the zoom box, and the place under the pointer stays. With

@@ -43,9 +43,14 @@ void KORVA_Pen::drawTo(QPoint to)
     if (!paper)
         return;
     drawSegment(paper, picturePen(), zoom().toPictureMatrix(), to);
-    const QRect touched = drawSegment(canvas()->zoomedPixmap(), screenPen(), {}, to);
+    if (showsPixels()) {
+        const QRect way = zoom().toPictureAround(QRect(m_last, QSize(1, 1)) | QRect(to, QSize(1, 1)));
+        const int side = picturePen().width();
+        canvas()->showPicture(way.adjusted(-side, -side, side, side));
+    } else {
+        canvas()->refresh(drawSegment(canvas()->zoomedPixmap(), screenPen(), {}, to));
+    }
     m_last = to;
-    canvas()->refresh(touched);
 }
 
 QRect KORVA_Pen::drawSegment(QPixmap* target, const QPen& pen, const QTransform& matrix, QPoint to) const

@@ -31,6 +31,7 @@ void KORVA_TwoPointTool::mousePressEvent(QMouseEvent* event)
     m_state = Dragging;
     m_start = m_end = pixel::at(event->position());
     m_isEven = false;
+    m_previewed = QRect();
     setButton(event->button());
     m_shownPen = screenPen();
 }
@@ -52,6 +53,7 @@ void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
         touched = painter.touched();
     }
     m_end = to;
+    m_previewed |= touched;
     canvas()->refresh(touched);
     canvas()->setDragged(shapeSize(zoom().toPicture(m_start), inPicture(to, m_isEven)));
 }
@@ -69,8 +71,12 @@ void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
 
     const QPoint to = commitPoint(m_end, pointOf(*event));
     const bool isEvenEnd = to == m_end ? m_isEven : isEven(*event);
-    paintShape(canvas()->zoomedPixmap(), screenPen(), m_start, to);
-    paintShape(paper, picturePen(), zoom().toPicture(m_start), inPicture(to, isEvenEnd));
+    const QRect painted =
+        paintShape(paper, picturePen(), zoom().toPicture(m_start), inPicture(to, isEvenEnd));
+    if (canvas()->manners().truePixels) // previews may have left something
+        canvas()->showPicture(painted | zoom().toPictureAround(m_previewed));
+    if (!showsPixels())
+        paintShape(canvas()->zoomedPixmap(), screenPen(), m_start, to);
     canvas()->refresh();
     canvas()->setDragged({});
 }
@@ -127,14 +133,16 @@ void KORVA_TwoPointTool::togglePreview()
     painter.setPen(m_shownPen);
     drawShape(painter, m_start, m_end);
     drawShape(painter, m_start, m_start);
+    m_previewed |= painter.touched();
 }
 
-void KORVA_TwoPointTool::paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to)
+QRect KORVA_TwoPointTool::paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to)
 {
     KORVA_ClassicPainter painter(target);
     painter.setPen(pen);
     painter.setBrush(brush());
     drawShape(painter, from, to);
+    return painter.touched();
 }
 
 std::function<void()> KORVA_TwoPointTool::keepState()

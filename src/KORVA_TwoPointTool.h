@@ -3,6 +3,7 @@
 #include "KORVA_DrawingTool.h"
 
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 
 class KORVA_ClassicPainter;
@@ -54,11 +55,12 @@ private:
     [[nodiscard]] QPoint pointOf(const QMouseEvent& event) const;
     [[nodiscard]] QPoint inPicture(QPoint to, bool isEven) const;
     void togglePreview();
-    void paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to);
+    QRect paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to);
 
     State m_state = Idle;
     QPoint m_start;        ///< widget coordinates
     QPoint m_end;          ///< the last move, widget coordinates
     bool m_isEven = false; ///< that move was with Shift
+    QRect m_previewed;     ///< what previews have touched, widget coordinates
     QPen m_shownPen;       ///< the preview's pen: the tool's may change before the preview is removed
 };

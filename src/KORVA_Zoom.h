@@ -40,6 +40,14 @@ public:
         return {toPicture(r.left()), toPicture(r.top()), toPicture(r.width()), toPicture(r.height())};
     }
 
+    /// The pixels of the picture that a widget rectangle shows, also those at its edges of which it shows a
+    /// part. It must not be empty.
+    [[nodiscard]] constexpr QRect toPictureAround(const QRect& r) const
+    {
+        const auto end = [this](int c) { return (c * 100 + m_percent - 1) / m_percent; };
+        return {toPicture(r.topLeft()), QPoint(end(r.right() + 1) - 1, end(r.bottom() + 1) - 1)};
+    }
+
     /// The size on screen, in widget pixels, of a picture of this size.
     [[nodiscard]] QSize zoomed(QSize picture) const
     {

@@ -44,6 +44,8 @@ class tst_Manners : public support::TestCase
 private slots:
     void classicAtFirst();
     void wordsThereAndBack();
+    void truePixelsAreSeenAtOnce_data();
+    void truePixelsAreSeenAtOnce();
     void joinedEraserClearsTheWay_data();
     void joinedEraserClearsTheWay();
     void joinedEraserIsOneStep();
@@ -68,6 +70,43 @@ void tst_Manners::wordsThereAndBack()
         QCOMPARE(KORVA_Manners::ofWords({word})->words(), QStringList{word});
     QCOMPARE(KORVA_Manners::ofWords({}), KORVA_Manners());
     QVERIFY(!KORVA_Manners::ofWords({all.first(), "no-such"}));
+}
+
+void tst_Manners::truePixelsAreSeenAtOnce_data()
+{
+    QTest::addColumn<int>("tool");
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<int>("width");
+    for (const int zoom : {100, 150, 200, 333, 400, 800}) {
+        for (const int width : {1, 2, 5}) {
+            for (const int tool :
+                 {KORVA_TOOL_PENCIL, KORVA_TOOL_LINE, KORVA_TOOL_RECTANGLE, KORVA_TOOL_ELLIPSE})
+                QTest::addRow("tool %d, %d %%, width %d", tool, zoom, width) << tool << zoom << width;
+        }
+    }
+}
+
+void tst_Manners::truePixelsAreSeenAtOnce()
+{
+    QFETCH(const int, tool);
+    QFETCH(const int, zoom);
+    QFETCH(const int, width);
+    MannersDesk desk(&KORVA_Manners::truePixels);
+    desk.editor->selectTool(tool);
+    desk.editor->setZoom(zoom);
+    desk.manager().setPenWidth(width);
+    const auto screenIsTrue = [&] {
+        return sameImage(*desk.canvas().zoomedPixmap(), support::scaled(desk.picture(), zoom));
+    };
+    support::Gestures stylus(desk.canvas());
+    stylus.press({31, 20});
+    for (const QPoint to : {QPoint(33, 22), QPoint(75, 64), QPoint(-9, 51)}) {
+        stylus.move(to);
+        QVERIFY(tool != KORVA_TOOL_PENCIL || screenIsTrue());
+    }
+    stylus.release({-9, 51});
+    QVERIFY(desk.picture() != support::mosaic(size).convertToFormat(desk.picture().format()));
+    QVERIFY(screenIsTrue());
 }
 
 void tst_Manners::joinedEraserClearsTheWay_data()

@@ -24,6 +24,8 @@ private slots:
     void zoomLeavesItFloating();
     void classicZoomMerges();
     void changesAtASmallZoomLoseNothing();
+    void liftedPixelsAreWhole_data();
+    void liftedPixelsAreWhole();
     void fitToPageLeavesItFloating();
     void optionAndColorLeaveItFloating();
     void anotherToolMerges();
@@ -95,6 +97,35 @@ void tst_PieceManners::changesAtASmallZoomLoseNothing()
     pointer.hover(desk.piece().rect().center());
     pointer.drag({desk.piece().rect().center(), desk.piece().rect().center() + QPoint(3, 2)});
     QCOMPARE(desk.piece().getImage().size(), pieceSize);
+}
+
+void tst_PieceManners::liftedPixelsAreWhole_data()
+{
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<QRect>("marked"); // on the screen
+    QTest::addColumn<QRect>("lifted"); // in the picture
+    QTest::newRow("50 %") << 50 << QRect(10, 5, 8, 6) << QRect(20, 10, 16, 12);
+    QTest::newRow("100 %") << 100 << QRect(10, 5, 8, 6) << QRect(10, 5, 8, 6);
+    QTest::newRow("150 %") << 150 << QRect(10, 5, 8, 6) << QRect(6, 3, 6, 5);
+    QTest::newRow("200 %") << 200 << QRect(10, 5, 8, 6) << QRect(5, 2, 4, 4);
+    QTest::newRow("800 %") << 800 << QRect(12, 8, 9, 7) << QRect(1, 1, 2, 1);
+    QTest::newRow("less than a pixel") << 800 << QRect(12, 10, 2, 3) << QRect(1, 1, 1, 1);
+    QTest::newRow("at the corner") << 400 << QRect(470, 355, 30, 30) << QRect(117, 88, 3, 2);
+}
+
+void tst_PieceManners::liftedPixelsAreWhole()
+{
+    QFETCH(const int, zoom);
+    QFETCH(const QRect, marked);
+    QFETCH(const QRect, lifted);
+    PieceDesk desk({&KORVA_Manners::steadyPiece});
+    desk.editor->setZoom(zoom);
+    desk.canvas().setSelection(marked);
+    QCOMPARE(desk.canvas().piecePlace(), lifted.topLeft());
+    QVERIFY(sameImage(desk.piece().getImage(), mosaic(size).copy(lifted)));
+    QVERIFY(sameImage(desk.whole(), mosaic(size)));
+    desk.piece().hide();
+    QVERIFY(sameImage(desk.whole(), filled(mosaic(size), lifted, Qt::white)));
 }
 
 void tst_PieceManners::fitToPageLeavesItFloating()

@@ -49,7 +49,7 @@ void Gestures::key(Qt::Key key, const QString& text)
 {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QWidget* focused = m_surface.focusWidget();
-        QKeyEvent event(type, key, Qt::NoModifier, text);
+        QKeyEvent event(type, key, m_held, text);
         QCoreApplication::sendEvent(focused ? focused : &m_surface, &event);
     }
 }
@@ -59,7 +59,7 @@ void Gestures::send(QEvent::Type type, QPoint at, Qt::MouseButton button)
     QWidget* under = m_surface.childAt(at);
     QWidget* receiver = m_grabber ? m_grabber.data() : under ? under : &m_surface;
     QMouseEvent event(type, receiver->mapFrom(&m_surface, QPointF(at)), m_surface.mapToGlobal(QPointF(at)),
-                      button, m_buttons, Qt::NoModifier);
+                      button, m_buttons, m_held);
     QCoreApplication::sendEvent(receiver, &event);
 }
 

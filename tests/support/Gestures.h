@@ -23,6 +23,8 @@ public:
     /// Press at the first point, move through the others, release at the last.
     void drag(std::initializer_list<QPoint> path, Qt::MouseButton button = Qt::LeftButton);
 
+    /// What is held on the keyboard from now on.
+    void hold(Qt::KeyboardModifiers modifiers) { m_held = modifiers; }
     /// Press and release of a key.
     void key(Qt::Key key, const QString& text = {});
 
@@ -32,6 +34,7 @@ private:
     QWidget& m_surface;
     QPointer<QWidget> m_grabber;
     Qt::MouseButtons m_buttons;
+    Qt::KeyboardModifiers m_held;
 };
 
 } // namespace support
