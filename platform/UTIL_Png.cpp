@@ -112,7 +112,7 @@ constexpr Packing packings[] = {
     {PNG_ALL_FILTERS, Z_FILTERED},
 };
 
-QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing)
+QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing, int effort)
 {
     QByteArray file;
     std::vector<png_color> palette;
@@ -129,7 +129,7 @@ QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing)
         if (!palette.empty())
             png_set_PLTE(png, session.info(), palette.data(), int(palette.size()));
         png_set_filter(png, PNG_FILTER_TYPE_BASE, packing.filters);
-        png_set_compression_level(png, Z_BEST_COMPRESSION);
+        png_set_compression_level(png, effort);
         png_set_compression_mem_level(png, MAX_MEM_LEVEL);
         png_set_compression_strategy(png, packing.strategy);
         png_write_info(png, session.info());
@@ -139,6 +139,42 @@ QByteArray written(const QSize& size, Pixels& pixels, const Packing& packing)
         png_write_end(png, session.info());
     });
     return complete ? file : QByteArray();
+}
+
+/// The shortest of all that are tried, at the compressor's greatest effort.
+QByteArray shortest(const QSize& size, QList<Pixels>& candidates)
+{
+    QByteArray best;
+    for (Pixels& pixels : candidates) {
+        for (const Packing& packing : packings) {
+            const QByteArray file = written(size, pixels, packing, Z_BEST_COMPRESSION);
+            if (best.isEmpty() || (!file.isEmpty() && file.size() < best.size()))
+                best = file;
+        }
+    }
+    return best;
+}
+
+/// A large picture in true colour: nobody waits three times twelve megapixels for a file that is one
+/// percent shorter. It is written once, in the packing that suits some of its rows best.
+QByteArray writtenOnce(const QSize& size, Pixels& pixels)
+{
+    constexpr int tried = 1 << 18;
+    const int rows = qMin(size.height(), qMax(1, tried / size.width()));
+    const qsizetype rowBytes = qsizetype(size.width()) * pixels.samples;
+    const auto from = pixels.bytes.begin() + (size.height() - rows) / 2 * rowBytes;
+    Pixels sample = {pixels.colorType, pixels.depth, pixels.samples, {}, {from, from + rows * rowBytes}};
+    const Packing* best = nullptr;
+    qsizetype least = 0;
+    for (const Packing& packing : packings) {
+        const qsizetype length =
+            written({size.width(), rows}, sample, packing, Z_DEFAULT_COMPRESSION).size();
+        if (!best || length < least) {
+            best = &packing;
+            least = length;
+        }
+    }
+    return written(size, pixels, *best, Z_DEFAULT_COMPRESSION);
 }
 
 } // namespace
@@ -157,15 +193,9 @@ QByteArray png::encoded(const QImage& image)
         candidates.append(std::move(*few));
     } else {
         candidates.append(trueColor(opaque));
+        constexpr qint64 large = 1'000'000;
+        if (qint64(opaque.width()) * opaque.height() > large)
+            return writtenOnce(opaque.size(), candidates.first());
     }
-
-    QByteArray best;
-    for (Pixels& pixels : candidates) {
-        for (const Packing& packing : packings) {
-            const QByteArray file = written(opaque.size(), pixels, packing);
-            if (best.isEmpty() || (!file.isEmpty() && file.size() < best.size()))
-                best = file;
-        }
-    }
-    return best;
+    return shortest(opaque.size(), candidates);
 }

@@ -18,7 +18,8 @@ namespace png {
 [[nodiscard]] QImage readReduced(UTIL_PictureSource& source, QSize target);
 
 /// An opaque picture as a PNG file, bit for bit. The file is made as small as is practical: few colours are
-/// packed into a palette of 1, 2, 4 or 8 bits.
+/// packed into a palette of 1, 2, 4 or 8 bits. More than a million pixels in true colour are compressed at
+/// the codec's usual effort.
 [[nodiscard]] QByteArray encoded(const QImage& image);
 
 } // namespace png

@@ -24,6 +24,8 @@ private slots:
     void staleTemporaryFileGoes();
     void roundTripIsExact_data();
     void roundTripIsExact();
+    void pngIsNoLongerThanTheCodecs_data();
+    void pngIsNoLongerThanTheCodecs();
     void jpegIsGood();
     void unknownFormatIsNotWritten();
     void pngIsNoLargerThanOthers_data();
@@ -149,6 +151,8 @@ void tst_PictureSave::roundTripIsExact_data()
             QTest::addRow("%s, %d colours", format, colors) << colorful(colors) << QByteArray(format);
         QTest::addRow("%s, every pixel another colour", format)
             << support::mosaic(QSize(61, 47)) << QByteArray(format);
+        QTest::addRow("%s, a large photograph", format)
+            << support::mosaic(QSize(1300, 1000)) << QByteArray(format);
         QTest::addRow("%s, one pixel", format) << support::sheet(QSize(1, 1)) << QByteArray(format);
     }
 }
@@ -160,6 +164,27 @@ void tst_PictureSave::roundTripIsExact()
     const QString name = path("trip." + format.toLower());
     QVERIFY(saved(name, image, format.constData()));
     QVERIFY(support::sameImage(support::converted(name), image));
+}
+
+void tst_PictureSave::pngIsNoLongerThanTheCodecs_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("small") << QSize(352, 288);
+    QTest::newRow("large") << QSize(1300, 1000);
+}
+
+void tst_PictureSave::pngIsNoLongerThanTheCodecs()
+{
+    QFETCH(QSize, size);
+    const QString name = path("plasma.png");
+    QVERIFY(support::convert({"-size", QString("%1x%2").arg(size.width()).arg(size.height()), "-seed", "1",
+                              "plasma:red-blue", "-depth", "8", name}));
+    const QImage photo = QImage(name).convertToFormat(QImage::Format_RGB32);
+    QByteArray codecs;
+    QBuffer buffer(&codecs);
+    buffer.open(QIODevice::WriteOnly);
+    QVERIFY(photo.save(&buffer, "PNG"));
+    QCOMPARE_LE(picturesave::encoded(photo, "PNG").size(), codecs.size());
 }
 
 void tst_PictureSave::jpegIsGood()
