@@ -77,4 +77,11 @@ void ChoiceGroup::mark(int index)
         m_keys[i]->setFocusPolicy(i == stop ? Qt::TabFocus : Qt::NoFocus);
 }
 
+void ChoiceGroup::markApart(int index, bool isOn)
+{
+    key(index).setAutoExclusive(false);
+    key(index).setChecked(isOn);
+    key(index).setFocusPolicy(Qt::TabFocus);
+}
+
 } // namespace pad

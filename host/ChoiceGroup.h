@@ -26,6 +26,8 @@ public:
     void describe(int index, const QString& name, const QString& shortcut = {});
     /// Marks one, or none for any other number.
     void mark(int index);
+    /// After mark(): this one is no choice among the others, but on or off by itself, and a stop of Tab.
+    void markApart(int index, bool isOn);
 
 signals:
     /// A person chose this one.

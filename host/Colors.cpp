@@ -1,11 +1,16 @@
 #include "Colors.h"
 
+#include "Settings.h"
+
+#include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
+#include <KORVA_Text.h>
 
 #include <QAbstractButton>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QMouseEvent>
+#include <QSettings>
 
 #include <utility>
 
@@ -15,6 +20,7 @@ namespace {
 
 constexpr int most = 8;
 constexpr int longPress = 600; // milliseconds
+const QString settingsKey = QStringLiteral("colors/recent");
 
 } // namespace
 
@@ -26,6 +32,19 @@ Colors::Colors(KORVA_EditCanvas& editor, QObject* parent)
 {
     connect(&editor, &KORVA_EditCanvas::colorChanged, this, &Colors::note);
     m_button->installEventFilter(this);
+    offerOutline();
+}
+
+void Colors::remember()
+{
+    m_isRemembered = true;
+    const QSettings settings(settingsFile(), QSettings::IniFormat);
+    for (const QString& name : settings.value(settingsKey).toStringList()) {
+        const QColor color(name);
+        if (color.isValid() && !m_recent.contains(color) && m_recent.size() < most)
+            m_recent.append(color);
+    }
+    offerOutline();
 }
 
 void Colors::note(const QColor& color)
@@ -33,6 +52,20 @@ void Colors::note(const QColor& color)
     m_recent.removeOne(color);
     m_recent.prepend(color);
     m_recent = m_recent.mid(0, most);
+    offerOutline();
+    if (!m_isRemembered)
+        return;
+    QStringList names;
+    for (const QColor& each : m_recent)
+        names.append(each.name());
+    QSettings(settingsFile(), QSettings::IniFormat).setValue(settingsKey, names);
+}
+
+/// Before there are two colours, one that is seen.
+void Colors::offerOutline()
+{
+    const QColor other = m_recent.constFirst() == Qt::black ? Qt::white : Qt::black;
+    m_editor.setOutlineColor(m_recent.value(1, other));
 }
 
 void Colors::swap()
@@ -74,6 +107,8 @@ void Colors::timerEvent(QTimerEvent*)
     letGo();
     m_isSwapped = true;
     swap();
+    if (const KORVA_Text* text = m_editor.currentText(); text && text->takesText())
+        m_editor.canvas()->setFocus(); // which the press has taken away
 }
 
 /// Without a click.

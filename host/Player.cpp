@@ -138,6 +138,8 @@ void Player::perform(const Command& command)
         {Verb::Save, [](Player& p, const Command& c) { p.save(c.text); }},
         {Verb::Wait, [](Player&, const Command& c) { wait(c.number); }},
         {Verb::History, [](Player& p, const Command& c) { setHistory(p.m_editor, c.number); }},
+        {Verb::Bold, [](Player& p, const Command& c) { p.m_editor.setBold(c.number == 1); }},
+        {Verb::Outline, [](Player& p, const Command& c) { p.m_editor.setOutlineColor(c.color); }},
         {Verb::Manners,
          [](Player& p, const Command& c) { padtools::behave(p.m_editor, Recording::mannersOf(c)); }},
         {Verb::Answer, [](Player& p, const Command& c) { p.m_script.answer = c.number; }},

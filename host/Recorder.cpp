@@ -86,7 +86,7 @@ bool Recorder::eventFilter(QObject* watched, QEvent* event)
 
 void Recorder::writeChoice(KORVA_CHOICETYPE what, int which)
 {
-    static constexpr Verb verbs[] = {Verb::Tool, Verb::Option, Verb::Zoom, Verb::Color};
+    static constexpr Verb verbs[] = {Verb::Tool, Verb::Option, Verb::Zoom, Verb::Color, Verb::Bold};
     if (what == KORVA_CHOICE_ZOOM) {
         const int rate = m_editor.features().zooms.value(which);
         which = int(std::find(std::begin(zoomRates), std::end(zoomRates), rate) - std::begin(zoomRates));
@@ -152,6 +152,10 @@ void Recorder::write(const Command& command)
     const bool comes = command.verb == Verb::Paste || command.verb == Verb::Stamp;
     if (comes && canvas.manners().centeredPiece && !canvas.pasteLabel()->isHidden())
         keep({.verb = Verb::Place, .point = canvas.piecePlace()});
+    // It goes by the colours of earlier runs, too, which another run does not have.
+    const bool isOutlines = command.verb == Verb::Manners || command.verb == Verb::Color;
+    if (isOutlines && canvas.manners().outlinedShapes && m_editor.outlineColor().isValid())
+        keep({.verb = Verb::Outline, .color = m_editor.outlineColor()});
 }
 
 void Recorder::keep(const Command& command)

@@ -44,6 +44,8 @@ enum class Verb {
     Wait,
     Answer,
     History, ///< how many steps can be undone
+    Bold,    ///< makes letters bold or plain
+    Outline, ///< the colour around filled shapes
     Manners, ///< which ways of the editor are modern
 };
 
@@ -56,7 +58,7 @@ struct Command
     Qt::MouseButton button = Qt::LeftButton;
     bool isEven = false; ///< Move, Release: Shift was held, which keeps shapes even
     /// Tool: its identifier; Zoom: an index of zoomNames; Canvas: its KORVA_CANVASTYPE; Option and Answer:
-    /// an index; Piece: of pieceNames; Wait: milliseconds; History: steps
+    /// an index; Piece: of pieceNames; Bold: of switchNames; Wait: milliseconds; History: steps
     int number = 0;
     QSize size = {}; ///< Canvas: pixels
     QColor color = {};
@@ -73,6 +75,7 @@ inline constexpr const char* zoomNames[] = {"50", "100", "150", "200", "400", "8
 inline constexpr int zoomRates[] = {50, 100, 150, 200, 400, 800, KORVA_Features::fitToPage};
 inline constexpr const char* pieceNames[] = {"turn-left", "turn-right", "flip",
                                              "double",    "halve",      "clear-white"};
+inline constexpr const char* switchNames[] = {"off", "on"};
 inline constexpr const char* canvasNames[] = {"16bit", "1bit", "4bit", "8bit", "4bitb"};
 
 /// A drawing session as text: one command per line; "#" begins a comment. A name or text with blanks is

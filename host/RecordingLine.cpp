@@ -52,7 +52,8 @@ private:
     /// A colour is the only word that begins with the sign of a comment.
     [[nodiscard]] bool beginsComment() const
     {
-        const bool colorExpected = m_words == QStringList{QStringLiteral("color")};
+        const bool colorExpected = m_words == QStringList{QStringLiteral("color")} ||
+                                   m_words == QStringList{QStringLiteral("outline")};
         return peek() == QLatin1Char('#') && !colorExpected;
     }
 

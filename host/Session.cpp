@@ -45,6 +45,8 @@ int Session::run()
         m_place->restore(*m_window);
         m_window->documents().rememberFolders();
         m_window->commands().rememberChoices();
+        if (!m_line.noRecovery && m_line.record.isEmpty())
+            m_window->colors().remember();
     } else
         m_window->setFixedSize(m_window->size());
     m_window->show();

@@ -10,6 +10,7 @@
 #include <UTIL_Skin.h>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QMenu>
@@ -171,14 +172,21 @@ void SidePanel::refresh()
         const QList<QAction*> rows = menu.actions();
         group.setCount(int(rows.size()));
         int checked = -1;
+        int apart = -1;
         for (int i = 0; i < group.count(); ++i) {
             const QAction& row = *rows.at(i);
+            const bool isApart = row.actionGroup(); // no choice among the others, but on or off
+            const QString& name = isApart ? row.toolTip() : row.text();
             group.key(i).setIcon(row.icon());
-            group.describe(i, row.text(), keyOf(i, row.text()));
-            if (row.isChecked())
+            group.describe(i, name, keyOf(i, name));
+            if (isApart)
+                apart = i;
+            else if (row.isChecked())
                 checked = i;
         }
         group.mark(checked);
+        if (apart >= 0)
+            group.markApart(apart, rows.at(apart)->isChecked());
     };
     show(*m_tools, *m_toolMenu, [this](int, const QString& name) { return keyOfTool(name); });
     show(*m_options, *m_optionMenu,

@@ -140,6 +140,8 @@ public:
     /// For a tool that begins something it may drop: what brings the modified flag and what is offered back
     /// to the present, and emits pendingDropped(). It lives no longer than the canvas.
     [[nodiscard]] std::function<void()> keepFlags();
+    /// For a tool that can no longer bring back what it dropped: tells the host what to offer.
+    void offerWithoutDropped();
     /// Tells dragging() if it is another size than before.
     void setDragged(QSize size);
     /// Tells the host what to offer: 0 for neither, 1 for redo, 2 for undo: the opposite numbers of
@@ -412,6 +414,7 @@ private:
     void keepZoomWithinLimit(QSize enlarged);
     void step(void (KORVA_Picture::*direction)());
     [[nodiscard]] bool hasHistory() const { return undoSteps() > 1; }
+    [[nodiscard]] bool canBringBack() const;
     void offer();
     void offerSoon();
     void eraseSelection();

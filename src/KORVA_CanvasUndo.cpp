@@ -41,6 +41,8 @@ void KORVA_Canvas::redo()
 {
     if (stepPending(false))
         return;
+    if (canBringBack())
+        return m_tool->bringBack();
     step(&KORVA_Picture::redo);
     if (hasHistory())
         return offer();
@@ -83,10 +85,26 @@ void KORVA_Canvas::offerPending()
     emit canRedo(steps->forth);
 }
 
+bool KORVA_Canvas::canBringBack() const
+{
+    return m_tool && m_tool->canBringBack();
+}
+
+void KORVA_Canvas::offerWithoutDropped()
+{
+    if (hasHistory())
+        offer();
+    else
+        emit canRedo(m_undoFlag == 2);
+}
+
 // What else has painted on the picture meanwhile still counts.
 std::function<void()> KORVA_Canvas::keepFlags()
 {
-    return [this, wasModified = isModified(), flag = m_undoFlag, offers = m_touch->offers(),
+    KORVA_TouchInput::Offers offers = m_touch->offers();
+    if (canBringBack()) // which what begins now makes impossible
+        offers.redo = m_undoFlag == 2;
+    return [this, wasModified = isModified(), flag = m_undoFlag, offers,
             key = m_picture->pixmap()->cacheKey()] {
         const bool isUnpainted = m_picture->pixmap()->cacheKey() == key;
         if (isUnpainted && !wasModified)
@@ -97,7 +115,7 @@ std::function<void()> KORVA_Canvas::keepFlags()
             if (isUnpainted)
                 m_undoFlag = flag;
             emit canUndo(isUnpainted ? offers.undo : m_undoFlag == 1);
-            emit canRedo(isUnpainted ? offers.redo : m_undoFlag == 2);
+            emit canRedo((isUnpainted ? offers.redo : m_undoFlag == 2) || canBringBack());
         }
         emit pendingDropped();
     };
@@ -154,7 +172,7 @@ void KORVA_Canvas::offer()
     const bool isBackPossible = m_picture->canUndo();
     m_undoFlag = isBackPossible ? 1 : m_picture->canRedo() ? 2 : 0;
     emit canUndo(isBackPossible);
-    emit canRedo(m_picture->canRedo());
+    emit canRedo(m_picture->canRedo() || canBringBack());
 }
 
 // A change is announced before its first pixel; whether there is one is known only afterwards.

@@ -109,6 +109,15 @@ public:
     [[nodiscard]] int zoomIndex() const;
     /// The drawing colour.
     [[nodiscard]] QColor color() const { return m_color; }
+    /// Sets the colour of the outline that KORVA_Manners::outlinedShapes draws around filled shapes.
+    /// Invalid, as at first, is the drawing colour. Nothing is painted again.
+    void setOutlineColor(const QColor& color);
+    /// See setOutlineColor().
+    [[nodiscard]] QColor outlineColor() const { return m_outlineColor; }
+    /// Makes the letters of the open text and of every later one bold, or plain again.
+    void setBold(bool bold);
+    /// See setBold(). Plain at first.
+    [[nodiscard]] bool isBold() const;
     /// What the colour button's picker offers: from the constructor, then from chooseCanvas().
     [[nodiscard]] KORVA_COLORTYPE colorType() const { return m_colorType; }
     /// A colour as a person reads or hears it, in the language in force: "#ff0000, red".
@@ -127,8 +136,8 @@ public:
 
     // --- What is offered, and how it behaves ---
     /// Takes away from what the editor offers, or puts the host's own in its place. A tool, an option or a
-    /// zoom that is in force and no longer offered gives way to the first one that is. cancelDialogs() comes
-    /// first.
+    /// zoom that is in force and no longer offered gives way to the first one that is. cancelDialogs()
+    /// comes first.
     void setFeatures(const KORVA_Features& features);
     /// See setFeatures(). Everything at first.
     [[nodiscard]] const KORVA_Features& features() const;
@@ -371,6 +380,7 @@ private:
     std::unique_ptr<KORVA_Manager> m_manager;
     QWidget* m_ownerWindow;
     QColor m_color{255, 0, 0};
+    QColor m_outlineColor;
     size_t m_saved = 0; ///< a hash of the drawing that counts as saved
     KORVA_COLORTYPE m_colorType;
     KORVA_COLORTYPE m_firstColorType;

@@ -137,6 +137,25 @@ void KORVA_EditCanvas::setColor(const QColor& color)
         emit colorChanged(m_color);
 }
 
+void KORVA_EditCanvas::setOutlineColor(const QColor& color)
+{
+    m_outlineColor = color;
+    m_toolChoice->updateEdge();
+}
+
+void KORVA_EditCanvas::setBold(bool bold)
+{
+    if (auto* const text = qobject_cast<KORVA_Text*>(m_manager->tool(KORVA_TOOL_TEXT)))
+        text->setBold(bold);
+    m_toolBar->showBold();
+}
+
+bool KORVA_EditCanvas::isBold() const
+{
+    const auto* const text = qobject_cast<KORVA_Text*>(m_manager->tool(KORVA_TOOL_TEXT));
+    return text && text->isBold();
+}
+
 void KORVA_EditCanvas::fillColorButton(const QColor& color)
 {
     m_toolBar->showColor(color);

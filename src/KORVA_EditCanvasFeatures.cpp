@@ -46,6 +46,8 @@ const KORVA_Manners& KORVA_EditCanvas::manners() const
 void KORVA_EditCanvas::setManners(const KORVA_Manners& manners)
 {
     canvas()->setManners(manners);
+    if (m_tools->setManners(manners))
+        m_toolChoice->offer();
 }
 
 QPixmap KORVA_EditCanvas::fitted(const QPixmap& picture) const

@@ -6,6 +6,7 @@
 #include "KORVA_MainView.h"
 #include "KORVA_Manager.h"
 #include "KORVA_ScrollView.h"
+#include "KORVA_ToolBar.h"
 #include "KORVA_ToolChoice.h"
 #include "KORVA_ZoomChoice.h"
 
@@ -57,6 +58,7 @@ void KORVA_EditCanvas::reset()
     m_manager->reset();
     m_toolChoice->reset();
     setColor(Qt::red);
+    m_toolBar->showBold();
     m_zoomChoice->reset();
     canvas()->reset(features().resizing ? layout::firstCanvas : canvas()->pictureSize());
     m_mainView->updateLayout();

@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 
 #include <span>
+#include <utility>
 
 KORVA_Manager::KORVA_Manager(KORVA_Canvas* c)
 {
@@ -63,6 +64,7 @@ void KORVA_Manager::reset()
     m_brush = QBrush();
     m_pen = QPen();
     m_leftColor = m_rightColor = QColor(255, 0, 0);
+    m_edgeColor = QColor();
     currentTool()->activate(m_canvas);
     updateProperties();
     m_canvas->activate(currentTool());
@@ -113,7 +115,8 @@ void KORVA_Manager::updateProperties()
 
 void KORVA_Manager::handOver()
 {
-    m_pen.setColor(m_leftColor);
+    const bool isShape = m_current == KORVA_ToolTable::Rectangle || m_current == KORVA_ToolTable::Ellipse;
+    m_pen.setColor(isShape && m_edgeColor.isValid() ? m_edgeColor : m_leftColor);
     m_brush.setColor(m_leftColor);
     currentTool()->setLeftPen(m_pen);
     currentTool()->setLeftBrush(m_brush);
@@ -145,6 +148,12 @@ void KORVA_Manager::setLMBColor(const QColor& color)
 {
     m_leftColor = color;
     updateProperties();
+}
+
+void KORVA_Manager::setEdgeColor(const QColor& color)
+{
+    if (std::exchange(m_edgeColor, color) != color)
+        updateProperties();
 }
 
 void KORVA_Manager::setRMBColor(const QColor& color)

@@ -61,6 +61,9 @@ public slots:
     void setBrush(QBrush brush);
     /// Sets the colour of the left mouse button's pen and brush.
     void setLMBColor(const QColor& color);
+    /// Sets the colour of the left button's pen for rectangle and ellipse, which outlines what the brush
+    /// fills. Invalid, as at first, is the colour of all that the left button draws.
+    void setEdgeColor(const QColor& color);
     /// Sets the colour of the right mouse button's pen and brush.
     void setRMBColor(const QColor& color);
 
@@ -84,5 +87,6 @@ private:
     QBrush m_brush;
     QColor m_leftColor;
     QColor m_rightColor;
+    QColor m_edgeColor;
     int m_penWidth = 1;
 };

@@ -25,11 +25,14 @@ constexpr Row rows[] = {
     {"centered-piece", &KORVA_Manners::centeredPiece},
     {"clear-white", &KORVA_Manners::clearWhite},
     {"even-shapes", &KORVA_Manners::evenShapes},
+    {"outlined-shapes", &KORVA_Manners::outlinedShapes},
     {"colored-text", &KORVA_Manners::coloredText},
     {"escape-drops-text", &KORVA_Manners::escapeDropsText},
     {"undo-types", &KORVA_Manners::undoTypes},
     {"text-inside", &KORVA_Manners::textInside},
     {"point-sizes", &KORVA_Manners::pointSizes},
+    {"movable-text", &KORVA_Manners::movableText},
+    {"bold-text", &KORVA_Manners::boldText},
 };
 
 } // namespace

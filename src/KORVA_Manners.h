@@ -48,8 +48,12 @@ struct KORVA_EXPORT KORVA_Manners
     /// The piece's menu offers to make its white transparent: see KORVA_PasteLabel::setWhiteClear().
     bool clearWhite = false;
     /// Shift keeps what is dragged even: squares, circles, square selections, and lines at multiples of 15
-    /// degrees, in the picture. Classic: Shift means nothing.
+    /// degrees, in the picture. While a finger drags, the tap of a second one does so, or no longer does.
+    /// Classic: Shift means nothing.
     bool evenShapes = false;
+    /// Rectangle and ellipse have two options more, filled with an outline of 1 or 3 pixels in
+    /// KORVA_EditCanvas::outlineColor(). Classic: outlined or filled.
+    bool outlinedShapes = false;
     /// Typed text is shown as it will be committed: in its colour, and as large as the zoom makes it. The
     /// I-beam is as high as the letters. Classic: inverted, and never zoomed.
     bool coloredText = false;
@@ -58,14 +62,20 @@ struct KORVA_EXPORT KORVA_Manners
     /// count as modifications, and Escape is the host's or the keyboard pen's.
     bool escapeDropsText = false;
     /// While a text is open, undo() takes back what was typed, one word or run of deletions after the
-    /// other, and redo() brings it back. At the text's beginning undo() drops it. Classic: they wait for
-    /// the commit.
+    /// other, and redo() brings it back. At the text's beginning undo() drops it; redo() opens it again,
+    /// unless the drawing has changed since. Classic: they wait for the commit.
     bool undoTypes = false;
     /// A word that would leave the picture on the right goes to the next line, and a text opened at an edge
-    /// has room for a letter. Classic: letters are cut off.
+    /// has room for a letter. At the lower edge the text moves up until its last line is whole, as far as
+    /// its first one stays so. Classic: letters are cut off.
     bool textInside = false;
     /// A left pen of 6 pixels or more writes text of as many points. Classic: 12 points.
     bool pointSizes = false;
+    /// A drag that begins on the open text moves it. Classic: every press ends the text.
+    bool movableText = false;
+    /// The options of the text tool have one more row, which makes letters bold or plain: see
+    /// KORVA_EditCanvas::setBold(). Classic: letters are plain.
+    bool boldText = false;
 
     /// All switches on.
     [[nodiscard]] static KORVA_Manners modern();

@@ -26,6 +26,7 @@ void KORVA_Stroke::begin(QWidget* receiver, const QPointF& at, const QPointingDe
     m_receiver = receiver;
     m_device = device;
     m_at = at;
+    m_keys = Qt::NoModifier;
     if (receiver != &m_canvas)
         send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
     send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
@@ -36,6 +37,15 @@ void KORVA_Stroke::move(const QPointF& to)
     if (!isDown() || to == m_at)
         return;
     m_at = to;
+    send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
+}
+
+void KORVA_Stroke::toggleShift(const QPointF& to)
+{
+    if (!isDown())
+        return;
+    m_at = to;
+    m_keys ^= Qt::ShiftModifier;
     send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
 }
 
@@ -55,10 +65,9 @@ void KORVA_Stroke::send(int type, Qt::MouseButton button, Qt::MouseButtons butto
     const QScopedValueRollback isHanding(m_isHanding, true);
     const QWidget* surface = m_receiver->nativeParentWidget();
     const QPointF local = m_receiver->mapFrom(&m_canvas, m_at + m_shift);
-    QMouseEvent event(QEvent::Type(type), local,
-                      m_receiver->mapTo(surface ? surface : m_receiver->window(), local),
-                      m_receiver->mapToGlobal(local), button, buttons, Qt::NoModifier,
-                      Qt::MouseEventSynthesizedByApplication,
-                      m_device ? m_device.data() : QPointingDevice::primaryPointingDevice()); // unplugged
+    QMouseEvent event(
+        QEvent::Type(type), local, m_receiver->mapTo(surface ? surface : m_receiver->window(), local),
+        m_receiver->mapToGlobal(local), button, buttons, m_keys, Qt::MouseEventSynthesizedByApplication,
+        m_device ? m_device.data() : QPointingDevice::primaryPointingDevice()); // unplugged
     QCoreApplication::sendEvent(m_receiver, &event);
 }

@@ -23,6 +23,8 @@ public:
     /// is; the whole stroke is moved over there.
     void pressPiece(const QPointF& at, QPoint grip, const QPointingDevice* device);
     void move(const QPointF& to);
+    /// Moves there with Shift held from now on or, if it was, no longer.
+    void toggleShift(const QPointF& to);
     /// Ends the stroke. Without a press before, it does nothing, as move() does.
     void release(const QPointF& at);
     /// Ends the stroke without a release.
@@ -43,5 +45,6 @@ private:
     QPointer<const QPointingDevice> m_device;
     QPointF m_at;
     QPointF m_shift;
+    Qt::KeyboardModifiers m_keys;
     bool m_isHanding = false;
 };

@@ -3,7 +3,6 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_Characters.h"
 #include "KORVA_ClassicPainter.h"
-#include "KORVA_Pixel.h"
 #include "UTIL_Platform.h"
 
 #include <QApplication>
@@ -11,10 +10,11 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace {
 
 constexpr int blinkTime = 500; // milliseconds
-constexpr int tapRadius = 3;   // pixels; a release as far away as this is a drag
 constexpr int tabWidth = 8;    // letters x
 
 bool isControl(QChar c)
@@ -53,33 +53,7 @@ bool KORVA_Text::isTyping(const QKeyEvent& event)
 
 void KORVA_Text::activating()
 {
-    canvas()->setCursor(Qt::BlankCursor);
-}
-
-void KORVA_Text::mousePressEvent(QMouseEvent* event)
-{
-    m_blink.stop();
-    hideCursor();
-    if (m_state == Open)
-        close();
-    m_cursor = pixel::at(event->position());
-    m_button = event->button();
-    m_state = Pressed;
-}
-
-void KORVA_Text::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (m_state != Pressed || event->button() != m_button)
-        return; // the canvas hands on no other press, but every release
-    m_state = Closed;
-    const QPoint p = pixel::at(event->position());
-    const QPoint moved = p - m_cursor;
-    if (canvas() && qAbs(moved.x()) < tapRadius && qAbs(moved.y()) < tapRadius)
-        open(p);
-    tellInputMethod(Qt::ImQueryAll); // only now: a tap elsewhere is no reason to put a keyboard away
-    if (m_state == Open)
-        QGuiApplication::inputMethod()->show();
-    emit TextToolClicked();
+    canvas()->setCursor(pointer());
 }
 
 void KORVA_Text::open(QPoint at)
@@ -88,11 +62,17 @@ void KORVA_Text::open(QPoint at)
     showText({});
     setText({});
     m_manners = canvas()->manners();
-    m_start = m_cursor = inside(at);
-    m_margin = m_start.x();
+    m_home = at;
+    m_isContinued = false;
+    m_hold = Loose;
+    placeStart();
+    m_cursor = m_start;
     m_stops.clear();
     forgetSteps();
     m_restore = canvas()->keepFlags();
+    m_dropped.reset();
+    if (m_manners.movableText) // which may be new
+        canvas()->setCursor(pointer());
     toggleCursor();
     m_blink.start(blinkTime, this);
     canvas()->offerPending();
@@ -108,11 +88,13 @@ void KORVA_Text::close()
     }
     paintBuffer();
     m_state = Closed;
+    m_hold = Loose;
     m_keys.clear();
 }
 
 void KORVA_Text::drop()
 {
+    m_hold = Loose;
     m_blink.stop();
     hideCursor();
     setText({});
@@ -147,6 +129,8 @@ void KORVA_Text::deactivating()
     else
         paintBuffer(); // kept: leaving the tool has always counted
     hideCursor();
+    if (std::exchange(m_dropped, {}))
+        canvas()->offerWithoutDropped();
     tellInputMethod(Qt::ImQueryAll);
 }
 
@@ -206,7 +190,7 @@ void KORVA_Text::paintBuffer()
 
 void KORVA_Text::paintPending(QPixmap* picture) const
 {
-    if (m_state != Open)
+    if (m_state != Open || m_text.isEmpty())
         return;
     KORVA_ClassicPainter painter(picture);
     drawText(painter, zoom().toPicture(m_start), zoom().toPicture(m_margin), wrapped(m_text));
@@ -216,15 +200,23 @@ void KORVA_Text::paintProportionBuffer()
 {
     m_blink.stop();
     paintBuffer();
+    m_isContinued = m_isContinued || !m_text.isEmpty();
+    m_hold = Loose;
     setText({});
     m_keys.clear();
     m_stops.clear();
     forgetSteps();
-    m_start = m_cursor = caret();
+    m_home = m_start = m_cursor = caret();
     if (m_state == Open && canvas())
         m_restore = canvas()->keepFlags();
     m_proportionPainted = true;
     tellInputMethod(Qt::ImQueryInput);
+}
+
+void KORVA_Text::setBold(bool bold)
+{
+    if (std::exchange(m_isBold, bold) != bold && m_state == Open && !m_proportionPainted)
+        penChanged();
 }
 
 void KORVA_Text::penChanged()
@@ -232,7 +224,7 @@ void KORVA_Text::penChanged()
     if (isLaidOut()) {
         if (!canvas() || m_state != Open)
             return;
-        m_shown.clear();
+        m_shown = {};
         canvas()->updateZoomed();
         placeCursor();
         showText(m_text);

@@ -5,6 +5,7 @@
 
 #include <QBasicTimer>
 #include <QColor>
+#include <QCursor>
 #include <QFont>
 #include <QPoint>
 #include <QStack>
@@ -24,8 +25,8 @@ class KORVA_ClassicPainter;
 /// The left pen gives the colour and, by its width, the size: 1, 3 and 5 mean 12, 16 and 20 points, any
 /// other 12 or what KORVA_Manners::pointSizes says. Positions are widget coordinates; y is the baseline.
 ///
-/// KORVA_Manners has switches for the preview, for dropping the text, for undo and redo while it is open,
-/// and for what happens at the picture's edge. A text keeps those of its tap.
+/// KORVA_Manners has switches for the preview, for dropping and moving the text, for undo and redo while it
+/// is open, and for what happens at the picture's edge. A text keeps those of its tap.
 class KORVA_EXPORT KORVA_Text : public KORVA_Tool
 {
     Q_OBJECT
@@ -56,8 +57,17 @@ public:
     void penChanged();
     /// Shows the typed text in the colour of the pen that is now set, if it is previewed in colour.
     void colorChanged();
+    /// Makes the letters of the open text and of every later one bold, or plain again, as penChanged()
+    /// does.
+    void setBold(bool bold);
+    /// See setBold(). Plain at first.
+    [[nodiscard]] bool isBold() const { return m_isBold; }
+    /// Whether a press there would take hold of the open text, to move it: on its lines or its I-beam, or a
+    /// few pixels beside them.
+    [[nodiscard]] bool isOnText(QPoint at) const;
 
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     /// Types a recorded key again. It is not recorded again, and committed text stays committed.
@@ -73,6 +83,10 @@ public:
     [[nodiscard]] std::optional<PendingSteps> pendingSteps() const override;
     /// Back from the beginning, it drops the text.
     void stepPending(bool back) override;
+    [[nodiscard]] bool canBringBack() const override;
+    void bringBack() override;
+    /// Of a text that is held.
+    [[nodiscard]] std::function<void()> keepState() override;
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -86,17 +100,47 @@ private:
         Open,    ///< keys go into the text; only now are there letters on screen, and a blink
     };
 
+    /// What a pointer that went down on the open text does to it.
+    enum Hold {
+        Loose,  ///< nothing: none has, or it was lifted
+        Held,   ///< nothing yet: lifted here, it was a tap
+        Moving, ///< the text follows it
+    };
+
     /// What one key does to the text.
     enum Edit { None, Word, Gap, Deletion };
 
+    /// Lines as they are on screen, and where.
+    struct Shown
+    {
+        QString lines;
+        QPoint start;
+        int margin = 0;
+    };
+
+    /// A text that undo has dropped.
+    struct Dropped
+    {
+        QPoint home;
+        QStringList forth;
+        qint64 picture = 0; ///< the cache key of the drawing
+    };
+
+    [[nodiscard]] static bool isTap(QPoint press, QPoint release);
+    void beginTap(QPoint at);
+    void follow(QPoint to);
+    [[nodiscard]] QCursor pointer() const;
     void open(QPoint at);
     void close();
     void drop();
     [[nodiscard]] const KORVA_Manners& manners() const;
     [[nodiscard]] bool isQuiet() const;
     [[nodiscard]] bool isLaidOut() const;
-    [[nodiscard]] QPoint inside(QPoint at) const;
+    [[nodiscard]] QPoint inside(QPoint at, int lines) const;
+    void placeStart();
+    [[nodiscard]] QRect box() const;
     [[nodiscard]] QPoint caret() const;
+    [[nodiscard]] int lineStep() const;
     [[nodiscard]] int lineWidth(const QString& line) const;
     [[nodiscard]] QString wrapped(const QString& text) const;
     void placeCursor();
@@ -121,20 +165,27 @@ private:
     State m_state = Closed;
     QPoint m_start; ///< where the typed text begins; after a commit within a line, where that line goes on
     int m_margin = 0;                        ///< the x of new lines: that of the tap
+    QPoint m_home;                           ///< where the text was to begin, had it room there
+    bool m_isContinued = false;              ///< its line begins with letters that were committed
     QPoint m_cursor;                         ///< while pressed: the press
-    Qt::MouseButton m_button = Qt::NoButton; ///< while pressed: the button
+    Qt::MouseButton m_button = Qt::NoButton; ///< while pressed or held: the button
+    Hold m_hold = Loose;                     ///< while open
+    QPoint m_pressed;                        ///< while held: the press
+    QPoint m_grip;                           ///< while held: from the pointer to the home
     bool m_cursorShown = false;              ///< what is inverted on screen now: the I-beam,
-    QString m_shown;                  ///< and the lines of letters, with what the input method is composing
+    Shown m_shown;                    ///< and the lines of letters, with what the input method is composing
     bool m_proportionPainted = false; ///< in any state; a letter ends it, not the text's end
     bool m_isCommitting = false;      ///< in any state: until every listener has heard of the commit
     QString m_text;                   ///< once closed, the last one; null until a tap or a commit
     QStack<int> m_stops;              ///< the cursor's x before each line break and tab of the text
     std::vector<std::unique_ptr<QKeyEvent>> m_keys;
     QBasicTimer m_blink;
-    KORVA_Manners m_manners;         ///< while open: those of the tap
-    std::function<void()> m_restore; ///< while open: see KORVA_Canvas::keepFlags()
-    Edit m_edit = None;              ///< the last one, if it may go on
-    QStringList m_back;              ///< earlier texts, for undo
-    QStringList m_forth;             ///< undone ones, for redo
-    QColor m_shownColor;             ///< of a coloured preview
+    KORVA_Manners m_manners;          ///< while open: those of the tap
+    std::function<void()> m_restore;  ///< while open: see KORVA_Canvas::keepFlags()
+    Edit m_edit = None;               ///< the last one, if it may go on
+    QStringList m_back;               ///< earlier texts, for undo
+    QStringList m_forth;              ///< undone ones, for redo
+    std::optional<Dropped> m_dropped; ///< while closed: what redo brings back
+    QColor m_shownColor;              ///< of a coloured preview
+    bool m_isBold = false;
 };

@@ -30,7 +30,8 @@ bool isGap(const QString& character)
 bool KORVA_Text::isLaidOut() const
 {
     const KORVA_Manners& switches = manners();
-    return switches.coloredText || switches.undoTypes || switches.textInside || switches.escapeDropsText;
+    return switches.coloredText || switches.undoTypes || switches.textInside || switches.escapeDropsText ||
+           switches.movableText;
 }
 
 /// A tab reaches the next multiple of its width from the line's beginning.
@@ -45,6 +46,14 @@ int KORVA_Text::lineWidth(const QString& line) const
             width = (width / tab + 1) * tab;
     }
     return width;
+}
+
+/// From line to line as they are painted, where QFontMetrics::lineSpacing() may be a pixel less.
+int KORVA_Text::lineStep() const
+{
+    const QFontMetrics metrics(textFont());
+    const auto height = [&](const QString& lines) { return metrics.size(0, lines).height(); };
+    return height(QStringLiteral("x\nx")) - height(QStringLiteral("x"));
 }
 
 /// With the breaks that keep it inside the picture. Gaps may hang over the edge.
@@ -88,27 +97,61 @@ QString KORVA_Text::wrapped(const QString& text) const
     return done + line;
 }
 
-/// Nearest to a tap, such that a letter has room.
-QPoint KORVA_Text::inside(QPoint at) const
+/// Nearest to a place, such that a letter has room beside it and so many lines below.
+QPoint KORVA_Text::inside(QPoint at, int lines) const
 {
     if (!manners().textInside)
         return at;
     const QFontMetrics metrics(textFont());
     const QSize picture = canvas()->pictureSize();
-    const QPoint tapped = zoom().toPicture(at);
-    const QPoint moved(
-        std::max(0, std::min(tapped.x(), picture.width() - rim - advance("W"))),
-        std::max(metrics.ascent(), std::min(tapped.y(), picture.height() - metrics.descent())));
-    return moved == tapped ? at : zoom().toWidget(moved);
+    const int below = metrics.descent() + (lines - 1) * lineStep();
+    const auto between = [this](int c, int least, int most) {
+        const int wanted = zoom().toPicture(c);
+        const int moved = std::max(least, std::min(wanted, most));
+        if (moved == wanted)
+            return c;
+        const int shown = zoom().toWidget(moved); // may mean a farther pixel, where not each is shown
+        return zoom().toPicture(shown) > moved ? shown - 1 : shown;
+    };
+    return {between(at.x(), 0, picture.width() - rim - advance("W")),
+            between(at.y(), metrics.ascent(), picture.height() - below)};
+}
+
+/// The lines depend on where they begin, and how far up that is depends on how many there are.
+void KORVA_Text::placeStart()
+{
+    if (m_isContinued || !canvas())
+        return;
+    m_start = inside(m_home, 1);
+    m_margin = m_start.x();
+    m_start.setY(inside(m_home, 1 + int(wrapped(m_text).count('\n'))).y());
+}
+
+/// All lines and the I-beam, on the screen.
+QRect KORVA_Text::box() const
+{
+    const QFontMetrics metrics(textFont());
+    const auto onScreen = [this](int c) { return m_manners.coloredText ? zoom().toWidget(c) : c; };
+    QRect all = cursorRect();
+    int line = 0;
+    for (const QString& each : wrapped(m_text).split('\n')) {
+        const int left = line == 0 ? m_start.x() : m_margin;
+        const int top = line * lineStep() - metrics.ascent();
+        if (!each.isEmpty())
+            all |= QRect(left, m_start.y() + onScreen(top), onScreen(lineWidth(each)),
+                         onScreen(metrics.height()));
+        ++line;
+    }
+    return all;
 }
 
 void KORVA_Text::placeCursor()
 {
+    placeStart();
     const QString lines = wrapped(m_text);
     const int breaks = int(lines.count('\n'));
     const int begin = breaks > 0 ? m_margin : m_start.x();
-    m_cursor = QPoint(begin + lineWidth(lines.section('\n', -1)),
-                      m_start.y() + breaks * QFontMetrics(textFont()).lineSpacing());
+    m_cursor = QPoint(begin + lineWidth(lines.section('\n', -1)), m_start.y() + breaks * lineStep());
 }
 
 /// The cursor on the screen. A text in its own colour is as large as the zoom makes it.
@@ -156,6 +199,8 @@ void KORVA_Text::stepPending(bool back)
     if (!canvas() || m_state != Open)
         return;
     if (back && m_back.isEmpty()) {
+        if (!m_forth.isEmpty())
+            m_dropped = {m_home, m_forth, canvas()->snapshot().cacheKey()};
         drop();
         return;
     }
@@ -177,4 +222,19 @@ void KORVA_Text::stepPending(bool back)
     canvas()->markModified();
     if (canvas())
         canvas()->offerPending();
+}
+
+bool KORVA_Text::canBringBack() const
+{
+    return m_dropped && canvas() && canvas()->snapshot().cacheKey() == m_dropped->picture;
+}
+
+void KORVA_Text::bringBack()
+{
+    const Dropped dropped = *m_dropped;
+    open(dropped.home);
+    m_forth = dropped.forth;
+    tellInputMethod(Qt::ImQueryAll);
+    QGuiApplication::inputMethod()->show();
+    canvas()->offerPending();
 }

@@ -30,7 +30,7 @@ int pointSize(int penWidth, bool isInPoints)
 QFont KORVA_Text::textFont() const
 {
     QFont font(QApplication::font().family() + "_ns", pointSize(leftPen().width(), manners().pointSizes),
-               QFont::Normal);
+               m_isBold ? QFont::Bold : QFont::Normal);
     // So that a line is laid out as its letters one by one, and an inverted letter has the pixels of a
     // painted one.
     font.setStyleStrategy(QFont::NoAntialias);
@@ -67,19 +67,19 @@ void KORVA_Text::drawText(KORVA_ClassicPainter& painter, QPoint start, int margi
 void KORVA_Text::showText(const QString& text)
 {
     const QString lines = wrapped(text);
-    if (lines == m_shown)
+    const bool isInPlace = lines.isEmpty() || (m_start == m_shown.start && m_margin == m_shown.margin);
+    if (lines == m_shown.lines && isInPlace)
         return;
+    const Shown before = std::exchange(m_shown, {lines, m_start, m_margin});
     if (m_manners.coloredText) {
-        m_shown = lines;
         showColored();
         return;
     }
     {
         KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
-        drawText(painter, m_start, m_margin, m_shown);
+        drawText(painter, before.start, before.margin, before.lines);
         drawText(painter, m_start, m_margin, lines);
     }
-    m_shown = lines;
     canvas()->refresh();
 }
 
@@ -90,7 +90,7 @@ void KORVA_Text::showColored()
     m_shownColor = leftPen().color();
     canvas()->showWith([this](QPixmap* copy) {
         KORVA_ClassicPainter painter(copy);
-        drawText(painter, zoom().toPicture(m_start), zoom().toPicture(m_margin), m_shown);
+        drawText(painter, zoom().toPicture(m_start), zoom().toPicture(m_margin), m_shown.lines);
     });
     if (isCursorShown)
         toggleCursor();
@@ -147,8 +147,8 @@ void KORVA_Text::toggleCursor()
 void KORVA_Text::zoomedRebuilt()
 {
     m_cursorShown = false;
-    if (m_state == Open && m_manners.coloredText && !m_isCommitting && !m_shown.isEmpty())
+    if (m_state == Open && m_manners.coloredText && !m_isCommitting && !m_shown.lines.isEmpty())
         showColored();
     else
-        m_shown.clear();
+        m_shown = {};
 }

@@ -71,6 +71,13 @@ std::optional<KORVA_Tool::PendingSteps> KORVA_Tool::pendingSteps() const
 
 void KORVA_Tool::stepPending(bool) {}
 
+bool KORVA_Tool::canBringBack() const
+{
+    return false;
+}
+
+void KORVA_Tool::bringBack() {}
+
 void KORVA_Tool::paintPending(QPixmap*) const {}
 
 void KORVA_Tool::inputMethodEvent(QInputMethodEvent* event)

@@ -128,6 +128,10 @@ public:
     [[nodiscard]] virtual std::optional<PendingSteps> pendingSteps() const;
     /// Goes one of these steps, which exists.
     virtual void stepPending(bool back);
+    /// Whether redo brings back what the last step back has dropped; the drawing must be as it was then.
+    [[nodiscard]] virtual bool canBringBack() const;
+    /// Brings it back.
+    virtual void bringBack();
 
 signals:
     /// For a host's own tools; the library neither emits it nor connects to it.

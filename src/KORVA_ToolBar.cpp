@@ -1,15 +1,20 @@
 #include "KORVA_ToolBar.h"
 
+#include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_ColorName.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_EditorLayout.h"
+#include "KORVA_Text.h"
 #include "KORVA_ToolSet.h"
+#include "KORVA_ToolTable.h"
+#include "RES_ICON_Reader.h"
 #include "UTIL_ComboBox.h"
 #include "UTIL_PopupMenu.h"
 #include "UTIL_PushButton.h"
 
 #include <QAbstractItemView>
+#include <QActionGroup>
 #include <QMenu>
 #include <QStyle>
 
@@ -34,19 +39,22 @@ void showIcon(QPushButton* button, const QPixmap& icon)
     button->setIconSize(icon.deviceIndependentSize().toSize());
 }
 
-void addEntry(QMenu* menu, int id, const QPixmap& icon, const QString& name)
+QAction* addEntry(QMenu* menu, int id, const QPixmap& icon, const QString& name)
 {
     QAction* action = menu->addAction(icon, name);
     action->setToolTip(name);
     action->setData(id);
     action->setCheckable(true); // for screen readers: the menu shows no marks
+    return action;
 }
 
 /// What a control has chosen: for the eyes its icon, for a screen reader its row and its description.
 void showChoice(QPushButton* button, int id, const QString& name)
 {
-    for (QAction* action : button->menu()->actions())
-        action->setChecked(action->data().toInt() == id);
+    for (QAction* action : button->menu()->actions()) {
+        if (!action->actionGroup()) // which parts what is not among the choices
+            action->setChecked(action->data().toInt() == id);
+    }
     button->setAccessibleDescription(name);
 }
 
@@ -82,6 +90,20 @@ KORVA_ToolBar::KORVA_ToolBar(KORVA_EditCanvas& editor, const KORVA_ToolSet& tool
     });
     QObject::connect(m_zoomBox, &QComboBox::activated, &editor, &KORVA_EditCanvas::slotSelZoomRate);
     QObject::connect(m_colorButton, &QPushButton::clicked, &editor, &KORVA_EditCanvas::slotColor);
+
+    const auto giveKeyboard = [this] { giveKeyboardToText(); };
+    for (const QMenu* menu : {static_cast<QMenu*>(toolMenu), m_optionMenu})
+        QObject::connect(menu, &QMenu::aboutToHide, &editor, giveKeyboard);
+    QObject::connect(m_zoomBox, &QComboBox::activated, &editor, giveKeyboard);
+    QObject::connect(m_colorButton, &QPushButton::clicked, &editor, giveKeyboard);
+}
+
+/// A control that was pressed has taken it.
+void KORVA_ToolBar::giveKeyboardToText() const
+{
+    const KORVA_Text* const text = m_editor.currentText();
+    if (text && text->takesText())
+        m_editor.canvas()->setFocus();
 }
 
 void KORVA_ToolBar::offer()
@@ -153,5 +175,25 @@ void KORVA_ToolBar::loadOptions(int tool)
         if (m_tools.isOptionOffered(tool, row))
             addEntry(m_optionMenu, m_tools.firstOptionEntry(tool) + row, m_tools.optionIcon(tool, row),
                      m_tools.optionName(tool, row));
+    }
+    if (m_tools.offersBold(tool)) {
+        QAction* const bold = addEntry(m_optionMenu, KORVA_ToolTable::boldEntry,
+                                       RES_ICON_Reader::getIcon("DaApV_Text_Tool_Opt_Bold.gif"), {});
+        auto* const apart = new QActionGroup(bold);
+        apart->setExclusionPolicy(QActionGroup::ExclusionPolicy::None);
+        apart->addAction(bold);
+        showBold();
+    }
+}
+
+void KORVA_ToolBar::showBold()
+{
+    for (QAction* action : m_optionMenu->actions()) {
+        if (action->data().toInt() != KORVA_ToolTable::boldEntry)
+            continue;
+        const QString name = KORVA_EditCanvas::tr("Bold", "tool option");
+        action->setText(m_editor.isBold() ? QStringLiteral("\u2713 ") + name : name); // menus draw no marks
+        action->setToolTip(name);
+        action->setChecked(m_editor.isBold());
     }
 }

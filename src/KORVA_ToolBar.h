@@ -27,11 +27,15 @@ public:
     /// Shows an option of the tool that the pop-up has; any other number shows none.
     void showOption(int entry);
     void showColor(const QColor& color);
+    /// Shows whether letters are bold, where that can be chosen.
+    void showBold();
 
     /// Fills the option pop-up with the options of a tool that are offered; empty for tools without.
     void loadOptions(int tool);
 
 private:
+    void giveKeyboardToText() const;
+
     KORVA_EditCanvas& m_editor;
     const KORVA_ToolSet& m_tools;
     QPushButton* m_toolButton;

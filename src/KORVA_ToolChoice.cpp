@@ -90,6 +90,11 @@ void KORVA_ToolChoice::selectOptionEntry(int menuId)
 {
     if (!m_tools.inOrder().contains(optionTool()))
         return;
+    if (menuId == tables::boldEntry && m_tools.offersBold(m_tool)) {
+        m_editor.setBold(!m_editor.isBold());
+        emit m_editor.chosen(KORVA_CHOICE_BOLD, m_editor.isBold() ? 1 : 0);
+        return;
+    }
     applyOption(menuId);
     tellChoice(KORVA_CHOICE_OPTION);
 }
@@ -230,6 +235,7 @@ void KORVA_ToolChoice::applyOption(int menuId)
     }
     if (tool == tables::Rectangle || tool == tables::Ellipse)
         manager->setBrush(value == 0 ? Qt::NoBrush : Qt::SolidPattern);
+    updateEdge();
     if (tool == tables::Eraser)
         manager->setLMBColor(Qt::white);
     if (KORVA_Text* text = m_editor.currentText();
@@ -240,6 +246,12 @@ void KORVA_ToolChoice::applyOption(int menuId)
     updateRubberCursor();
     if (choice == m_choices)
         m_bar.showOption(value);
+}
+
+void KORVA_ToolChoice::updateEdge()
+{
+    m_editor.manager()->setEdgeColor(m_tools.isEdged(m_tool, option()) ? m_editor.outlineColor()
+                                                                       : QColor());
 }
 
 void KORVA_ToolChoice::lendEraser()

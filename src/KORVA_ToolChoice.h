@@ -31,6 +31,8 @@ public:
     void select(int tool);
     /// Chooses an option by its row. Does nothing if there is no such row.
     void selectOption(int row);
+    /// Takes another colour for the outlines of filled shapes.
+    void updateEdge();
     /// Makes the select tool current, to frame an area and not to move the view. Does not emit chosen().
     void selectAreaTool();
     /// Returns to the constructor's choice, as far as it is offered. The manager has been reset before.

@@ -4,6 +4,8 @@
 #include "KORVA_ToolTable.h"
 #include "RES_ICON_Reader.h"
 
+#include <utility>
+
 namespace tables = KORVA_ToolTable;
 
 namespace {
@@ -26,7 +28,9 @@ QPixmap pictureOf(const QIcon& icon)
 
 const tables::OptionRow& optionRow(int tool, int row)
 {
-    return tables::toolRow(tool)->options[std::size_t(row)];
+    const tables::ToolRow& all = *tables::toolRow(tool);
+    const auto index = std::size_t(row);
+    return index < all.options.size() ? all.options[index] : all.edges[index - all.options.size()];
 }
 
 int builtIn()
@@ -94,7 +98,25 @@ int KORVA_ToolSet::optionCount(int tool) const
     if (const QList<KORVA_ToolOption>* const options = ownOptions(tool))
         return int(options->size());
     const tables::ToolRow* const row = tables::toolRow(tool);
-    return row ? int(row->options.size()) : 0;
+    return row ? int(row->options.size() + (m_hasEdges ? row->edges.size() : 0)) : 0;
+}
+
+bool KORVA_ToolSet::isEdged(int tool, int row) const
+{
+    const tables::ToolRow* const all = tables::toolRow(tool);
+    return all && row >= int(all->options.size()) && row < optionCount(tool) && !ownOptions(tool);
+}
+
+bool KORVA_ToolSet::offersBold(int tool) const
+{
+    return m_hasBold && tool == tables::Text && isOffered(tool);
+}
+
+bool KORVA_ToolSet::setManners(const KORVA_Manners& manners)
+{
+    const bool hadEdges = std::exchange(m_hasEdges, manners.outlinedShapes);
+    const bool hadBold = std::exchange(m_hasBold, manners.boldText);
+    return hadEdges != m_hasEdges || hadBold != m_hasBold;
 }
 
 QPixmap KORVA_ToolSet::optionIcon(int tool, int row) const

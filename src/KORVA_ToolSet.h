@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KORVA_Features.h"
+#include "KORVA_Manners.h"
 
 #include <QIcon>
 #include <QList>
@@ -20,6 +21,8 @@ public:
     /// Takes what is offered. The editor then shows it.
     void setFeatures(const KORVA_Features& features) { m_features = features; }
     [[nodiscard]] const KORVA_Features& features() const { return m_features; }
+    /// Follows the switches that offer more options. Returns whether one of them has changed.
+    bool setManners(const KORVA_Manners& manners);
 
     /// Whether a person can choose the tool. The hand is offered as an option of select.
     [[nodiscard]] bool isOffered(int tool) const;
@@ -36,6 +39,10 @@ public:
     [[nodiscard]] QString optionName(int tool, int row) const;
     /// 0 leaves the width alone.
     [[nodiscard]] int penWidth(int tool, int row) const;
+    /// Whether the option fills a shape and outlines it in a colour of its own.
+    [[nodiscard]] bool isEdged(int tool, int row) const;
+    /// Whether the tool's options have a row for bold letters.
+    [[nodiscard]] bool offersBold(int tool) const;
 
     // What the entries of the pop-ups carry.
     [[nodiscard]] int toolEntry(int tool) const;
@@ -62,4 +69,6 @@ private:
 
     std::vector<Own> m_own;
     KORVA_Features m_features;
+    bool m_hasEdges = false;
+    bool m_hasBold = false;
 };

@@ -56,6 +56,20 @@ constexpr OptionRow ellipseFills[] = {
      QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Filled", "tool option")},
 };
 
+// Behind those of both shapes.
+constexpr OptionRow rectangleEdges[] = {
+    {"DaApV_Rectangle_Tool_Opt_Thin.gif", 1,
+     QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Thin edge", "tool option; around what is filled")},
+    {"DaApV_Rectangle_Tool_Opt_Thick.gif", 3,
+     QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Thick edge", "tool option; around what is filled")},
+};
+constexpr OptionRow ellipseEdges[] = {
+    {"DaApV_Ellipse_Tool_Opt_Thin.gif", 1,
+     QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Thin edge", "tool option; around what is filled")},
+    {"DaApV_Ellipse_Tool_Opt_Thick.gif", 3,
+     QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Thick edge", "tool option; around what is filled")},
+};
+
 constexpr ToolRow rows[] = {
     // The row's number is the tool's identifier.
     {make<KORVA_Pen>, "Pencil", "pencil", QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Pencil", "tool"), 3,
@@ -69,9 +83,9 @@ constexpr ToolRow rows[] = {
      "DaApV_Text_Tool.gif", Option::Size, textSizes},
     {make<KORVA_Rectangle>, "Rectangle", "rectangle",
      QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Rectangle", "tool"), 5, "DaApV_Rectangle_Tool.gif",
-     Option::Fill, rectangleFills},
+     Option::Fill, rectangleFills, rectangleEdges},
     {make<KORVA_Ellipse>, "Ellipse", "ellipse", QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Ellipse", "tool"),
-     6, "DaApV_Ellipse_Tool.gif", Option::Fill, ellipseFills},
+     6, "DaApV_Ellipse_Tool.gif", Option::Fill, ellipseFills, ellipseEdges},
     {make<KORVA_Rubber>, "Rubber", "eraser", QT_TRANSLATE_NOOP3("KORVA_EditCanvas", "Eraser", "tool"), 1,
      "DaApV_Eraser_Tool.gif", Option::Size, eraserSizes},
     {make<KORVA_Drag>,

@@ -37,7 +37,8 @@ struct ToolRow
     int place; ///< in the tool pop-up; noPlace for the hand, which is an option of select
     const char* icon;
     Option option;
-    std::span<const OptionRow> options; ///< in the order of the option pop-up
+    std::span<const OptionRow> options;    ///< in the order of the option pop-up
+    std::span<const OptionRow> edges = {}; ///< behind them with KORVA_Manners::outlinedShapes
 };
 
 constexpr int noPlace = -1;
@@ -50,6 +51,8 @@ constexpr int noPlace = -1;
 // The identifiers of the pop-ups' entries start here, so that none is 0, -1 or a tool's number.
 constexpr int toolMenuBase = 100;
 constexpr int optionMenuBase = 200;
+/// The entry that makes letters bold or plain.
+constexpr int boldEntry = 99;
 
 /// The tool at a place of the tool pop-up; -1 for none.
 [[nodiscard]] int toolAt(int place);

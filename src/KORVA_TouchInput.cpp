@@ -1,16 +1,15 @@
 #include "KORVA_TouchInput.h"
 
+#include "KORVA_AreaSelect.h"
 #include "KORVA_EditCanvas.h"
-#include "KORVA_Magnifier.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Pixel.h"
 #include "KORVA_Text.h"
+#include "KORVA_TwoPointTool.h"
 
 #include <QApplication>
 #include <QLineF>
-#include <QMenu>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QStyleHints>
 #include <QTabletEvent>
 #include <QTimerEvent>
@@ -21,21 +20,9 @@
 namespace {
 
 constexpr int secondFinger = 60; // milliseconds in which it may follow the first one
+constexpr int longestTap = 250;  // milliseconds
 constexpr double jitter = 3;     // pixels; a waiting finger that moves farther draws
 constexpr int echoTime = 500;    // milliseconds in which mouse events may follow
-
-constexpr double reachOfFinger = 9; // millimetres
-constexpr double millimetresPerInch = 25.4;
-constexpr double fewestDots = 40; // per inch; some screens report impossible sizes
-constexpr double mostDots = 400;
-
-int fingerReach(const QWidget& widget)
-{
-    const QScreen* screen = widget.screen();
-    const double dots =
-        std::clamp(screen ? double(screen->physicalDotsPerInch()) : fewestDots, fewestDots, mostDots);
-    return qRound(reachOfFinger / millimetresPerInch * dots);
-}
 
 } // namespace
 
@@ -65,9 +52,18 @@ const KORVA_TouchInput::Transition KORVA_TouchInput::Transition::table[] = {
     {Drawing, Moved, Drawing, &KORVA_TouchInput::drawOn},
     {Drawing, Lifted, Idle, &KORVA_TouchInput::release},
     {Drawing, Joined, Panning, &KORVA_TouchInput::takeBackAndHold},
+    {Drawing, Doubted, Doubting, &KORVA_TouchInput::doubt},
     {Drawing, Held, Ignoring, &KORVA_TouchInput::takeBackForMenu},
     {Drawing, Cancelled, Idle, &KORVA_TouchInput::takeBack},
     {Drawing, PenCame, Ignoring, &KORVA_TouchInput::takeBack},
+
+    {Doubting, Tapped, Drawing, &KORVA_TouchInput::toggleEven},
+    {Doubting, Stayed, Panning, &KORVA_TouchInput::takeBack},
+    {Doubting, Dragged, Panning, &KORVA_TouchInput::takeBackAndPan},
+    {Doubting, Joined, Panning, &KORVA_TouchInput::takeBackAndHold},
+    {Doubting, Left, Panning, &KORVA_TouchInput::takeBackAndHold},
+    {Doubting, Cancelled, Idle, &KORVA_TouchInput::takeBack},
+    {Doubting, PenCame, Ignoring, &KORVA_TouchInput::takeBack},
 
     {Panning, Moved, Panning, &KORVA_TouchInput::pan},
     {Panning, Joined, Panning, &KORVA_TouchInput::hold},
@@ -102,6 +98,7 @@ KORVA_TouchInput::KORVA_TouchInput(KORVA_Canvas& canvas, KORVA_EditCanvas* edito
         connect(&canvas, changed, this, &KORVA_TouchInput::noteOtherChange);
     connect(&canvas, &KORVA_Canvas::pixmapChanged, this, &KORVA_TouchInput::noteOtherChange);
     connect(&canvas, qOverload<bool>(&KORVA_Canvas::selection), this, &KORVA_TouchInput::noteOtherChange);
+    connect(&canvas, &KORVA_Canvas::pendingDropped, this, &KORVA_TouchInput::noteOtherChange);
 }
 
 void KORVA_TouchInput::enter(Input input)
@@ -112,7 +109,7 @@ void KORVA_TouchInput::enter(Input input)
     if (row == std::end(Transition::table))
         return;
     m_state = row->to;
-    if (m_state != Waiting)
+    if (m_state != Waiting && m_state != Doubting)
         m_staying.stop();
     if (m_state != Waiting && m_state != Drawing)
         m_holding.stop();
@@ -139,6 +136,11 @@ bool KORVA_TouchInput::takes(QEvent* event)
             return false;
         m_echoes.setRemainingTime(echoTime);
         return true;
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+        if (holdsText())
+            settle();
+        return false;
     default:
         return isEcho(*event);
     }
@@ -194,7 +196,7 @@ void KORVA_TouchInput::follow(const QTouchEvent& event)
             *known = finger;
         } else if (point.state() == QEventPoint::Pressed) {
             m_fingers.append(finger);
-            enter(m_fingers.size() > 1 ? Joined : counts() ? Touched : Palm);
+            enter(comingDown());
         }
     }
     if (hasMoved)
@@ -204,10 +206,22 @@ void KORVA_TouchInput::follow(const QTouchEvent& event)
             continue;
         if (m_fingers.size() == 1 && m_fingers.first().id == point.id())
             enter(Lifted);
+        const bool isTap = m_state == Doubting && m_fingers.first().id != point.id();
         m_fingers.removeIf([&](const Finger& each) { return each.id == point.id(); });
         if (!m_fingers.isEmpty())
-            enter(Left);
+            enter(isTap ? Tapped : Left);
     }
+}
+
+KORVA_TouchInput::Input KORVA_TouchInput::comingDown() const
+{
+    if (m_fingers.size() == 1)
+        return counts() ? Touched : Palm;
+    const KORVA_Tool* const tool = m_canvas.getCurrentTool();
+    const bool keepsEven =
+        qobject_cast<const KORVA_TwoPointTool*>(tool) || qobject_cast<const KORVA_AreaSelect*>(tool);
+    const bool isDoubtful = m_state == Drawing && keepsEven && !m_grip && m_canvas.manners().evenShapes;
+    return isDoubtful ? Doubted : Joined;
 }
 
 /// While a mouse button is held the mouse has the tool.
@@ -218,6 +232,13 @@ bool KORVA_TouchInput::counts() const
 
 void KORVA_TouchInput::fingerMoved()
 {
+    if (m_state == Doubting) {
+        for (qsizetype i = 0; i < qMin(m_fingers.size(), m_doubtedAt.size()); ++i) {
+            if (QLineF(m_doubtedAt[i], m_fingers[i].onScreen).length() > QApplication::startDragDistance())
+                return enter(Dragged);
+        }
+        return;
+    }
     if (m_state != Waiting) {
         if (m_state == Drawing &&
             QLineF(m_pressedAt, m_fingers.first().onScreen).length() > QApplication::startDragDistance())
@@ -239,11 +260,22 @@ void KORVA_TouchInput::wait()
     m_path = {finger.at};
     m_pressedAt = finger.onScreen;
     m_grip = grip();
-    const bool isText = qobject_cast<KORVA_Text*>(m_canvas.getCurrentTool());
-    m_task = m_grip ? Draw : m_use == KORVA_Canvas::FingerPans ? Pan : isText ? Tap : Draw;
+    const auto* const text = qobject_cast<KORVA_Text*>(m_canvas.getCurrentTool());
+    const bool isTap = text && !text->isOnText(pixel::at(finger.at));
+    m_task = m_grip ? Draw : m_use == KORVA_Canvas::FingerPans ? Pan : isTap ? Tap : Draw;
     if (m_task == Draw)
         m_staying.start(secondFinger, Qt::PreciseTimer, this);
     m_holding.start(QGuiApplication::styleHints()->mousePressAndHoldInterval(), this);
+}
+
+/// Fingers from now on are one too many, unless this one is a tap.
+void KORVA_TouchInput::doubt()
+{
+    hold();
+    m_doubtedAt.clear();
+    for (const Finger& finger : m_fingers)
+        m_doubtedAt.append(finger.onScreen);
+    m_staying.start(longestTap, Qt::PreciseTimer, this);
 }
 
 void KORVA_TouchInput::timerEvent(QTimerEvent* event)
@@ -257,121 +289,19 @@ void KORVA_TouchInput::timerEvent(QTimerEvent* event)
     }
 }
 
-std::optional<QPoint> KORVA_TouchInput::grip() const
-{
-    const KORVA_PasteLabel& piece = *m_canvas.pasteLabel();
-    if (piece.isHidden())
-        return {};
-    return piece.gripFor(pixel::at(m_fingers.first().at) - piece.pos(), fingerReach(m_canvas));
-}
-
-// --- One finger's stroke
-
-void KORVA_TouchInput::draw()
-{
-    m_offersBefore = m_offers;
-    m_before.emplace(m_canvas, m_grip ? KORVA_BeforeStroke::OnPiece : KORVA_BeforeStroke::OnPicture);
-    if (m_grip)
-        m_stroke.pressPiece(m_path.first(), *m_grip, m_device);
-    else
-        m_stroke.press(m_path.first(), m_device);
-    for (const QPointF& at : m_path)
-        m_stroke.move(at);
-    magnify();
-}
-
-void KORVA_TouchInput::drawOn()
-{
-    m_stroke.move(m_fingers.first().at);
-    magnify();
-}
-
-void KORVA_TouchInput::magnify()
-{
-    if (m_grip || !m_canvas.manners().magnifier)
-        return;
-    if (!m_magnifier)
-        m_magnifier = new KORVA_Magnifier(m_canvas);
-    m_magnifier->follow(m_fingers.first().at);
-}
-
-void KORVA_TouchInput::endMagnifying()
-{
-    if (m_magnifier)
-        m_magnifier->hide();
-}
-
-void KORVA_TouchInput::release()
-{
-    endMagnifying();
-    m_before.reset();
-    m_stroke.release(m_fingers.first().at);
-}
-
-void KORVA_TouchInput::tap()
-{
-    if (m_task == Pan)
-        return;
-    draw();
-    release();
-}
-
-/// If anything else has happened to the drawing since the press, the stroke stays as it is.
-void KORVA_TouchInput::takeBack()
-{
-    endMagnifying();
-    if (!m_before || !m_before->fits()) {
-        m_before.reset();
-        m_stroke.release(m_stroke.at());
-        return;
-    }
-    m_stroke.forget();
-    m_before->putBack();
-    m_before.reset();
-    const Offers told = m_offers;
-    if (told.selection != m_offersBefore.selection)
-        emit m_canvas.selection(m_offersBefore.selection);
-    if (told.undo != m_offersBefore.undo)
-        emit m_canvas.canUndo(m_offersBefore.undo);
-    if (told.redo != m_offersBefore.redo)
-        emit m_canvas.canRedo(m_offersBefore.redo);
-    emit m_canvas.strokeTakenBack();
-}
-
-void KORVA_TouchInput::noteOtherChange()
-{
-    if (!m_stroke.isHanding())
-        settle();
-}
-
-void KORVA_TouchInput::settle()
-{
-    m_before.reset();
-}
-
-// --- The menu
-
-void KORVA_TouchInput::openMenu()
-{
-    const QPoint at = m_pressedAt.toPoint();
-    if (m_grip)
-        m_canvas.pasteLabel()->menu()->popup(at);
-    else
-        m_canvas.openMenu(at);
-}
-
-void KORVA_TouchInput::takeBackForMenu()
-{
-    takeBack();
-    openMenu();
-}
-
 // --- The view
 
 void KORVA_TouchInput::takeBackAndHold()
 {
     takeBack();
     hold();
+}
+
+/// What hold() has seen before still counts.
+void KORVA_TouchInput::takeBackAndPan()
+{
+    takeBack();
+    pan();
 }
 
 /// The point that is now between the fingers stays there.

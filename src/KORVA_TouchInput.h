@@ -20,8 +20,9 @@ class QMouseEvent;
 class QTouchEvent;
 
 /// What fingers and pens do to a canvas. One finger's stroke becomes one of the left button; a second
-/// finger takes it back. Two fingers pan and pinch, and a long press opens the menu. A pen draws; while it
-/// is near, new fingers count as a palm. A mouse passes untouched.
+/// finger takes it back, or with KORVA_Manners::evenShapes keeps a shape even by a tap. Two fingers pan and
+/// pinch, and a long press opens the menu. A pen draws; while it is near, new fingers count as a palm. A
+/// mouse passes untouched.
 class KORVA_TouchInput : public QObject
 {
     Q_OBJECT
@@ -67,6 +68,7 @@ private:
         Idle,     ///< no finger is down
         Waiting,  ///< one is down; nothing is handed on yet, because a second one may follow
         Drawing,  ///< one finger's stroke is under way
+        Doubting, ///< and a second finger is down, which may be a tap that keeps the shape even
         Panning,  ///< fingers move the view
         Ignoring, ///< nothing counts until all fingers are lifted
     };
@@ -74,10 +76,12 @@ private:
         Touched,   ///< the first finger came down
         Palm,      ///< the same, but it counts for nothing
         Slid,      ///< the waiting finger moved and is to draw
-        Dragged,   ///< the waiting finger moved and is to move the view
-        Stayed,    ///< the waiting finger stayed, and stayed alone
+        Dragged,   ///< the waiting finger, or one of two doubtful ones, moved and is to move the view
+        Stayed,    ///< the waiting finger stayed, and stayed alone; or the doubtful one did
         Moved,     ///< fingers moved
         Joined,    ///< one more finger came down
+        Doubted,   ///< the same, beside one that drags what can be kept even
+        Tapped,    ///< the doubtful one was lifted
         Left,      ///< one was lifted, another is still down
         Lifted,    ///< the last one was lifted
         Held,      ///< the one finger stayed long enough for the menu
@@ -103,7 +107,9 @@ private:
     [[nodiscard]] bool takesTouch(QTouchEvent& event);
     void follow(const QTouchEvent& event);
     [[nodiscard]] bool counts() const;
+    [[nodiscard]] Input comingDown() const;
     void fingerMoved();
+    [[nodiscard]] bool holdsText() const;
     [[nodiscard]] bool isEcho(const QEvent& event) const;
     void noteOtherChange();
 
@@ -121,6 +127,9 @@ private:
     void hold();
     void pan();
     void takeBackAndHold();
+    void takeBackAndPan();
+    void doubt();
+    void toggleEven();
 
     [[nodiscard]] std::optional<QPoint> grip() const;
     [[nodiscard]] QPointF middle() const;
@@ -142,6 +151,7 @@ private:
     std::optional<KORVA_BeforeStroke> m_before;
     Offers m_offers;
     Offers m_offersBefore;
+    QList<QPointF> m_doubtedAt; ///< while in doubt: where the fingers were on the screen
     QBasicTimer m_staying;
     QBasicTimer m_holding;
 

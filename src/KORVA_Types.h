@@ -40,6 +40,8 @@ enum KORVA_OPTIONTYPE : int {
     KORVA_OPTION_LARGE,
     KORVA_OPTION_OUTLINE = 0, ///< rectangle and ellipse
     KORVA_OPTION_FILLED,
+    KORVA_OPTION_THIN_EDGE, ///< filled and outlined: see KORVA_Manners::outlinedShapes
+    KORVA_OPTION_THICK_EDGE,
     KORVA_OPTION_AREA = 0, ///< select
     KORVA_OPTION_HAND,
 };
@@ -68,4 +70,5 @@ enum KORVA_CHOICETYPE : int {
     KORVA_CHOICE_OPTION, ///< by its row in the option pop-up
     KORVA_CHOICE_ZOOM,   ///< by its row in the zoom box
     KORVA_CHOICE_COLOR,  ///< as KORVA_EditCanvas::color() says
+    KORVA_CHOICE_BOLD,   ///< 1 for bold letters, 0 for plain ones
 };

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>بنّي</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>عريض</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>حافة رفيعة</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>حافة سميكة</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>hnědá</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Tučné</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Tenký okraj</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Silný okraj</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>brun</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Fed</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Tynd kant</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Tyk kant</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

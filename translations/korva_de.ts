@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>Braun</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Dünner Rand</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Dicker Rand</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

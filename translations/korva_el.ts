@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>καφέ</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Έντονα</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Λεπτό πλαίσιο</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Παχύ πλαίσιο</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>marrón</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Negrita</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Borde fino</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Borde grueso</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

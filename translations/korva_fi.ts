@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>ruskea</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Lihavoitu</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Ohut reuna</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Paksu reuna</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>marron</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Gras</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Bord fin</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Bord épais</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

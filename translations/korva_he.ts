@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>חום</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>מודגש</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>שוליים דקים</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>שוליים עבים</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>भूरा</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>बोल्ड</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>पतला किनारा</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>मोटा किनारा</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>barna</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Félkövér</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Vékony szegély</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Vastag szegély</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>cokelat</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Tebal</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Tepi tipis</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Tepi tebal</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

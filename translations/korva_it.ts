@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>marrone</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Grassetto</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Bordo sottile</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Bordo spesso</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>茶色</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>太字</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>細い縁</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>太い縁</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>갈색</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>굵게</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>얇은 테두리</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>두꺼운 테두리</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

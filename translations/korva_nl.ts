@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>bruin</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Vet</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Dunne rand</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Dikke rand</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>brązowy</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Pogrubienie</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Cienki brzeg</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Gruby brzeg</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>marrom</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Negrito</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Borda fina</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Borda grossa</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

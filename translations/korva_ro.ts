@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>maro</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Aldin</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Margine subțire</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Margine groasă</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>สีน้ำตาล</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>ตัวหนา</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>ขอบบาง</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>ขอบหนา</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>kahverengi</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Kalın</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>İnce kenar</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Kalın kenar</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

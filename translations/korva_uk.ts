@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>коричневий</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>Жирний</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Тонкий край</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Товстий край</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>nâu</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>In đậm</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Viền mảnh</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>Viền dày</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>棕色</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>粗体</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>细边</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>粗边</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -397,6 +397,21 @@
         <comment>color</comment>
         <translation>棕色</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <comment>tool option</comment>
+        <translation>粗體</translation>
+    </message>
+    <message>
+        <source>Thin edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>細邊</translation>
+    </message>
+    <message>
+        <source>Thick edge</source>
+        <comment>tool option; around what is filled</comment>
+        <translation>粗邊</translation>
+    </message>
 </context>
 <context>
     <name>KORVA_ImageView_Dialog</name>

@@ -2,6 +2,7 @@
 #include "Colors.h"
 #include "PadWindow.h"
 #include "Platform.h"
+#include "Settings.h"
 
 #include "support/Modal.h"
 #include "support/TestCase.h"
@@ -9,6 +10,7 @@
 #include <KORVA_Canvas.h>
 #include <KORVA_ColorPicker.h>
 #include <KORVA_EditCanvas.h>
+#include <KORVA_Text.h>
 
 namespace {
 
@@ -90,6 +92,8 @@ private slots:
     void longPressSwaps();
     void menuKeySwaps();
     void nothingToSwap();
+    void keptForTheNextRun();
+    void swappingKeepsTheTextOpen();
 };
 
 void tst_Colors::aSwatchIsTwoTapsAway()
@@ -312,6 +316,57 @@ void tst_Colors::nothingToSwap()
     QTest::mouseClick(&pad.button, Qt::RightButton);
     QCOMPARE(pad.editor.color(), QColor(Qt::red));
     QVERIFY(pad.log.isEmpty());
+}
+
+void tst_Colors::keptForTheNextRun()
+{
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+    const auto restore = qScopeGuard([] { qunsetenv("XDG_CONFIG_HOME"); });
+    {
+        Pad passing; // somebody who does not stay
+        passing.editor.setColor(Qt::blue);
+        QVERIFY(!QFile::exists(pad::settingsFile()));
+    }
+    QList<QColor> expected{Qt::red};
+    for (int run = 0; run < 2; ++run) {
+        Pad pad;
+        pad.window.colors().remember();
+        QCOMPARE(pad.editor.color(), QColor(Qt::red)); // each run begins with it
+        expected.removeOne(QColor(Qt::red));
+        expected.prepend(Qt::red);
+        QCOMPARE(pad.window.colors().recent(), expected);
+        if (run == 1)
+            QCOMPARE(pad.editor.outlineColor(), expected[1]);
+        for (int i = 0; i < 5; ++i) {
+            const QColor color(10 * run + i, 2, 3);
+            pad.editor.setColor(color);
+            expected.prepend(color);
+        }
+        expected = expected.mid(0, 8);
+        QCOMPARE(pad.window.colors().recent(), expected);
+    }
+    QSettings(pad::settingsFile(), QSettings::IniFormat)
+        .setValue("colors/recent", QStringList{"no colour", "#010203", "#010203", ""});
+    Pad pad;
+    pad.window.colors().remember();
+    QCOMPARE(pad.window.colors().recent(), QList<QColor>({Qt::red, QColor(1, 2, 3)}));
+}
+
+void tst_Colors::swappingKeepsTheTextOpen()
+{
+    Pad pad;
+    pad.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&pad.window));
+    pad.editor.setColor(Qt::blue);
+    pad.editor.selectTool(KORVA_TOOL_TEXT);
+    QTest::mouseClick(pad.editor.canvas(), Qt::LeftButton, {}, {30, 60});
+    QTest::mousePress(&pad.button, Qt::LeftButton);
+    pad.button.setFocus(Qt::MouseFocusReason);
+    QVERIFY(QTest::qWaitFor([&] { return pad.editor.color() == QColor(Qt::red); }, 3000));
+    QTest::mouseRelease(&pad.button, Qt::LeftButton);
+    QVERIFY(pad.editor.currentText()->takesText());
+    QCOMPARE(pad.window.focusWidget(), pad.editor.canvas());
 }
 
 int main(int argc, char** argv)

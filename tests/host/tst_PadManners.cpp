@@ -1,3 +1,4 @@
+#include "Colors.h"
 #include "Commands.h"
 #include "PadTools.h"
 #include "PadWindow.h"
@@ -63,6 +64,10 @@ private slots:
     void replaysEvenShapes_data();
     void replaysEvenShapes();
     void replaysTexts();
+    void replaysAMovedText();
+    void replaysBoldText();
+    void replaysOutlines();
+    void outlineIsTheSecondColor();
     void sixSizesOfText();
     void undoAfterAnotherSize();
     void classicRecordingsKeepTheirSizes();
@@ -147,6 +152,74 @@ void tst_PadManners::replaysTexts()
         {"option 3", "undo", "key Escape", "manners modern"});
 }
 
+void tst_PadManners::replaysAMovedText()
+{
+    checkReplay(
+        [](Pad& pad) {
+            pad.editor.selectTool(KORVA_TOOL_TEXT);
+            pad.tap({20, 60});
+            QTest::keyClicks(&pad.canvas, "one two");
+            pad.drag({26, 56}, {90, 120}, {});
+            QTest::keyClicks(&pad.canvas, " three");
+            pad.editor.selectTool(KORVA_TOOL_PENCIL);
+            QVERIFY(support::inkBounds(pad.picture()).top() > 100);
+        },
+        {"press 26 56", "move 90 120", "release 90 120"});
+}
+
+void tst_PadManners::replaysBoldText()
+{
+    checkReplay(
+        [](Pad& pad) {
+            pad.editor.selectTool(KORVA_TOOL_TEXT);
+            pad.tap({20, 60});
+            QTest::keyClicks(&pad.canvas, "one");
+            QAction* bold = pad.editor.findChild<QPushButton*>("optionButton")->menu()->actions().last();
+            bold->trigger();
+            pad.tap({20, 100});
+            QTest::keyClicks(&pad.canvas, "two");
+            bold->trigger();
+            pad.tap({20, 140});
+            QTest::keyClicks(&pad.canvas, "three");
+            pad.editor.selectTool(KORVA_TOOL_PENCIL);
+        },
+        {"bold on", "bold off"});
+}
+
+void tst_PadManners::replaysOutlines()
+{
+    checkReplay(
+        [](Pad& pad) {
+            pad.editor.setColor(Qt::green); // as somebody who has drawn before: nothing has recorded it
+            pad.window.commands().takeColor(Qt::blue);
+            pad.editor.selectTool(KORVA_TOOL_RECTANGLE);
+            pad.editor.selectOption(3);
+            pad.drag({10, 10}, {60, 60}, {});
+            pad.window.commands().takeColor(Qt::yellow);
+            pad.editor.selectTool(KORVA_TOOL_ELLIPSE);
+            pad.drag({80, 20}, {150, 60}, {});
+            QCOMPARE(pad.picture().pixelColor(10, 10), QColor(Qt::green));
+        },
+        {"outline #000000", "outline #00ff00", "outline #0000ff", "option 3"});
+}
+
+void tst_PadManners::outlineIsTheSecondColor()
+{
+    Pad pad;
+    pad.behave();
+    QCOMPARE(pad.editor.outlineColor(), QColor(Qt::black)); // there is none yet
+    pad.editor.setColor(Qt::blue);
+    QCOMPARE(pad.editor.outlineColor(), QColor(Qt::red));
+    pad.window.colors().swap();
+    QCOMPARE(pad.editor.color(), QColor(Qt::red));
+    QCOMPARE(pad.editor.outlineColor(), QColor(Qt::blue));
+    pad.editor.selectTool(KORVA_TOOL_RECTANGLE);
+    pad.editor.selectOption(2);
+    pad.drag({10, 10}, {60, 60}, {});
+    QCOMPARE(pad.picture().pixelColor(10, 10), QColor(Qt::blue));
+    QCOMPARE(pad.picture().pixelColor(12, 12), QColor(Qt::red));
+}
+
 void tst_PadManners::sixSizesOfText()
 {
     Pad pad;
@@ -154,7 +227,7 @@ void tst_PadManners::sixSizesOfText()
     const auto* button = pad.editor.findChild<QPushButton*>("optionButton");
     QCOMPARE(button->menu()->actions().size(), 3);
     pad.behave();
-    QCOMPARE(button->menu()->actions().size(), 6);
+    QCOMPARE(button->menu()->actions().size(), 6 + 1); // and the row for bold letters
     QSet<QByteArray> icons;
     for (int row = 0; row < 6; ++row) {
         const QAction* action = button->menu()->actions().at(row);

@@ -112,6 +112,11 @@ void tst_Recording::understands_data()
         QTest::addRow("manners %s", words)
             << QByteArray("manners ") + words << Command{.verb = Verb::Manners, .line = 1, .text = words};
     }
+    for (const int on : {0, 1})
+        QTest::addRow("bold %d", on) << QByteArray(on == 1 ? "bold on" : "bold off")
+                                     << numbered(Verb::Bold, on);
+    QTest::newRow("outline") << QByteArray("outline #12ab56")
+                             << Command{.verb = Verb::Outline, .line = 1, .color = QColor("#12ab56")};
     const char* changes[] = {"turn-left", "turn-right", "flip", "double", "halve", "clear-white"};
     for (int i = 0; i < 6; ++i)
         QTest::addRow("piece %s", changes[i])
@@ -247,6 +252,8 @@ void tst_Recording::tellsWhatIsWrongAndWhere_data()
         "test.rec:1: 'history' needs a number of steps, not '1001'");
     row("no history", "history 0", "test.rec:1: 'history' needs a number of steps, not '0'");
     row("no manners", "manners", "test.rec:1: 'manners' needs WORDS");
+    row("bold or what", "bold maybe", "test.rec:1: 'bold' needs 'on', 'off', not 'maybe'");
+    row("an outline without a colour", "outline", "test.rec:1: 'outline' needs a colour #rrggbb");
     row("unknown manners", "manners joined-eraser,polite",
         "test.rec:1: 'manners' needs WORDS, not 'joined-eraser,polite'");
     row("no change of a piece", "piece upside-down", "test.rec:1: 'piece' needs WORD, not 'upside-down'");

@@ -1,6 +1,7 @@
 #include "ChoiceGroup.h"
 #include "Commands.h"
 #include "KeyName.h"
+#include "PadTools.h"
 #include "PadWindow.h"
 #include "Palette16.h"
 #include "Platform.h"
@@ -58,6 +59,7 @@ private slots:
 
     void everyToolInOneTap();
     void everyOptionInOneTap();
+    void boldIsOnOrOffByItself();
     void everyColorInOneTap();
     void followsWhatIsChosenElsewhere();
     void choicesAreRecorded();
@@ -279,6 +281,29 @@ void tst_SidePanel::everyOptionInOneTap()
     QCOMPARE(editor().tool(), int(KORVA_TOOL_HAND));
     QTRY_COMPARE(marked(*groups()[0]), QString("Select"));
     QCOMPARE(marked(*groups()[1]), QString("Move view"));
+}
+
+void tst_SidePanel::boldIsOnOrOffByItself()
+{
+    pad::padtools::behave(editor(), KORVA_Manners::modern());
+    editor().selectTool(KORVA_TOOL_TEXT);
+    QTRY_COMPARE(groups()[1]->count(), 7);
+    UTIL_PushButton& bold = groups()[1]->key(6);
+    QCOMPARE(bold.accessibleName(), "Bold");
+    QTest::mouseClick(&groups()[1]->key(2), Qt::LeftButton);
+    QTRY_COMPARE(marked(*groups()[1]), groups()[1]->key(2).accessibleName());
+    QTest::mouseClick(&bold, Qt::LeftButton);
+    QVERIFY(editor().isBold());
+    QTRY_COMPARE(marked(*groups()[1]), groups()[1]->key(2).accessibleName() + " and Bold");
+    QCOMPARE(bold.accessibleName(), "Bold");
+    QTest::mouseClick(&groups()[1]->key(4), Qt::LeftButton);
+    QTRY_COMPARE(marked(*groups()[1]), groups()[1]->key(4).accessibleName() + " and Bold");
+    QCOMPARE(editor().option(), 4);
+    QTest::mouseClick(&bold, Qt::LeftButton);
+    QVERIFY(!editor().isBold());
+    QTRY_COMPARE(marked(*groups()[1]), groups()[1]->key(4).accessibleName());
+    editor().selectTool(KORVA_TOOL_SELECT);
+    QTRY_COMPARE(groups()[1]->count(), 2);
 }
 
 void tst_SidePanel::everyColorInOneTap()

@@ -1,4 +1,5 @@
 #include "Commands.h"
+#include "PadTools.h"
 #include "PadWindow.h"
 #include "Platform.h"
 #include "Player.h"
@@ -194,6 +195,7 @@ private slots:
     void givesTheSamePicture();
     void aStrokeIsWrittenWhenItIsOver();
     void aStrokeTakenBackIsNotInIt();
+    void aSecondTapIsShift();
     void whatIsChosenMeanwhileIs();
     void aPinchIsAZoom();
     void theEraserEndIsAChangeOfTools();
@@ -259,6 +261,31 @@ void tst_TouchRecording::aStrokeTakenBackIsNotInIt()
     pad.fingers.release(0);
     pad.fingers.tap({70, 70});
     QCOMPARE(pad.lines(), QStringList({"press 70 70", "release 70 70"}));
+}
+
+void tst_TouchRecording::aSecondTapIsShift()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("shape.rec");
+    QImage drawn;
+    {
+        RecordedPad pad(file);
+        pad::padtools::behave(pad.editor(), KORVA_Manners::modern());
+        pad.recorder.write(pad::Recording::commandFor(pad.editor().manners()));
+        pad.editor().selectTool(KORVA_TOOL_RECTANGLE);
+        pad.fingers.press(0, {20, 20});
+        pad.fingers.move(0, {60, 30});
+        pad.fingers.press(1, {150, 120});
+        pad.fingers.release(1);
+        pad.fingers.move(0, {70, 40});
+        pad.fingers.release(0);
+        QCOMPARE(pad.lines().mid(3), QStringList({"press 20 20", "move 60 30", "move 60 30 shift",
+                                                  "move 70 40 shift", "release 70 40 shift"}));
+        QVERIFY(!pad.recorder.finish());
+        drawn = pad.editor().snapshot();
+        QCOMPARE(support::inkBounds(drawn), QRect(20, 20, 50, 50));
+    }
+    QVERIFY(sameImage(replayed(file), drawn));
 }
 
 void tst_TouchRecording::whatIsChosenMeanwhileIs()

@@ -3,6 +3,7 @@
 #include "KORVA_EditCanvas.h"
 #include "KORVA_MainView.h"
 #include "KORVA_Manager.h"
+#include "KORVA_Text.h"
 #include "KORVA_Tool.h"
 #include "UTIL_ListBox.h"
 #include "support/Images.h"
@@ -98,6 +99,8 @@ private slots:
     void canvasSize_data();
     void canvasSize();
     void aStrokeAfterKeys();
+    void keyboardComesBackToTheText_data();
+    void keyboardComesBackToTheText();
 
 private:
     [[nodiscard]] KORVA_EditCanvas& editor() const { return *m_editor; }
@@ -441,6 +444,56 @@ void tst_EditorWindow::aStrokeAfterKeys()
     QCOMPARE(support::inkBounds(editor().pixmap()->toImage()), QRect(30, 20, 40, 30));
     QTRY_COMPARE(m_x.screenshot().pixelColor(at), QColor(Qt::red)); // and a person sees it
     QCOMPARE(QApplication::focusWidget(), editor().canvas());
+}
+
+void tst_EditorWindow::keyboardComesBackToTheText_data()
+{
+    using Use = std::function<void(tst_EditorWindow&)>;
+    QTest::addColumn<Use>("use");
+    QTest::newRow("an option") << Use(
+        [](tst_EditorWindow& test) { test.pick(optionButton, "optionButton", ByPointer, 2); });
+    QTest::newRow("options that are closed") << Use([](tst_EditorWindow& test) {
+        test.openAndWork(optionButton, "optionButton", ByPointer, [&](QWidget&) { test.press("Escape"); });
+    });
+    QTest::newRow("the same tool") << Use([](tst_EditorWindow& test) { test.pickTool(4, ByPointer); });
+    QTest::newRow("a zoom") << Use([](tst_EditorWindow& test) {
+        test.openAndWork(zoomBox, "zoomBox", ByPointer, [&](QWidget&) {
+            QTest::qWait(tapInterval);
+            const auto* box = qobject_cast<QComboBox*>(test.control("zoomBox"));
+            const QRect entry = box->view()->visualRect(box->model()->index(1, 0));
+            test.m_x.click(box->view()->viewport()->mapToGlobal(entry.center()));
+        });
+    });
+    QTest::newRow("a color") << Use([](tst_EditorWindow& test) {
+        bool closed = false;
+        support::whenOpen([&](QDialog& picker) {
+            QTRY_VERIFY(picker.isAncestorOf(QApplication::focusWidget()));
+            test.press("Escape");
+            closed = QTest::qWaitFor([&picker] { return !picker.isVisible(); });
+        });
+        test.click(colorButton);
+        QTRY_VERIFY(closed);
+    });
+}
+
+/// What has been typed goes on, without a tap that would end it.
+void tst_EditorWindow::keyboardComesBackToTheText()
+{
+    QFETCH(const std::function<void(tst_EditorWindow&)>, use);
+    pickTool(4, ByPointer);
+    QVERIFY(editor().currentText());
+    use(*this);
+    QVERIFY(m_window->focusWidget() != editor().canvas()); // without a text the control keeps it
+    m_x.click(editor().canvas()->mapToGlobal(QPoint(30, 60)));
+    QTRY_VERIFY(editor().currentText()->takesText());
+    use(*this);
+    QTRY_COMPARE(m_window->focusWidget(), editor().canvas());
+    m_window->activateWindow(); // there is no window manager to do so after a dialog
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(editor().currentText()->takesText());
+    const QImage before = editor().snapshot();
+    press("a");
+    QTRY_VERIFY(editor().snapshot() != before);
 }
 
 int main(int argc, char** argv)

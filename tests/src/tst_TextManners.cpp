@@ -1,3 +1,4 @@
+#include "KORVA_EditCanvas.h"
 #include "TextFixtures.h"
 
 #include <QSignalSpy>
@@ -112,8 +113,19 @@ private slots:
     void wordsStayInside();
     void longWordsAreBroken();
     void tapsAtTheEdge();
+    void lastLineIsWhole_data();
+    void lastLineIsWhole();
+    void firstLineStaysWhole();
+    void linesBelowACommitStay();
     void sizesInPoints();
     void otherSizeOfOpenText();
+    void redoOpensADroppedText_data();
+    void redoOpensADroppedText();
+    void droppedTextIsForgotten_data();
+    void droppedTextIsForgotten();
+    void boldLetters_data();
+    void boldLetters();
+    void boldRowInTheOptions();
 };
 
 void tst_TextManners::previewIsTheCommit_data()
@@ -491,6 +503,250 @@ void tst_TextManners::otherSizeOfOpenText()
     desk.escape();
     QVERIFY(desk.isWithout(desk.base, desk.start));
     QVERIFY(!desk.canvas.isModified());
+}
+
+void tst_TextManners::lastLineIsWhole_data()
+{
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<KORVA_Manners>("manners");
+    for (const int zoom : {37, 50, 100, 200, 333}) {
+        for (const int width : {1, 3, 5}) {
+            QTest::addRow("%d %%, width %d", zoom, width)
+                << zoom << width << only(&KORVA_Manners::textInside);
+            QTest::addRow("%d %%, width %d, with the others", zoom, width) << zoom << width << allForText();
+        }
+    }
+}
+
+void tst_TextManners::lastLineIsWhole()
+{
+    QFETCH(const int, zoom);
+    QFETCH(const int, width);
+    QFETCH(const KORVA_Manners, manners);
+    ModernDesk desk(manners, support::sheet(QSize(180, 140)), zoom, width);
+    const auto linesFit = [&](const QString& text) {
+        const QImage all = painted(support::sheet(QSize(180, 400)), solidPen(Qt::blue, desk.width()),
+                                   Qt::NoBrush, fixtures::text({20, 90}, text, desk.width()));
+        return inkOf(desk.pending()) == inkOf(all);
+    };
+    // A small zoom cannot show every place, and a large one has several for each.
+    const auto lowest = [&](int lines) {
+        const int others =
+            desk.metrics().size(0, "a\nb\nc").height() - desk.metrics().size(0, "a").height();
+        return 140 - desk.metrics().descent() - (lines - 1) * others / 2;
+    };
+    desk.tap(QPoint(20, 135) * zoom / 100);
+    desk.type("Wg");
+    QVERIFY(linesFit("Wg"));
+    desk.type("\nfg");
+    QVERIFY(linesFit("Wg\nfg"));
+    desk.type("\njj");
+    QVERIFY(linesFit("Wg\nfg\njj"));
+    if (zoom == 100) {
+        QCOMPARE(desk.cursor().y(), lowest(1));
+        desk.tapped.setY(lowest(3));
+        QVERIFY(sameImage(desk.pending(), desk.written("Wg\nfg\njj")));
+    }
+    desk.type("\b\b\b"); // down again
+    QVERIFY(linesFit("Wg\nfg"));
+    if (zoom == 100) {
+        desk.tapped.setY(lowest(2));
+        QVERIFY(sameImage(desk.pending(), desk.written("Wg\nfg")));
+    }
+    desk.resize(width == 5 ? 1 : 5);
+    QVERIFY(linesFit("Wg\nfg"));
+    const QImage pending = desk.pending();
+    desk.stylus.press({1, 1});
+    QVERIFY(sameImage(desk.canvas.merged(), pending));
+}
+
+void tst_TextManners::firstLineStaysWhole()
+{
+    ModernDesk desk(allForText(), support::sheet(QSize(160, 60)));
+    desk.tap({20, 30});
+    desk.type("a\nb\nc\nd\ne\nf");
+    desk.tapped.setY(desk.metrics().ascent());
+    QVERIFY(sameImage(desk.pending(), desk.written("a\nb\nc\nd\ne\nf")));
+}
+
+/// Else the rest of a line would leave its beginning.
+void tst_TextManners::linesBelowACommitStay()
+{
+    ModernDesk desk(allForText(), support::sheet(QSize(160, 60)));
+    desk.tap({20, 50});
+    desk.type("ab");
+    desk.tool().paintProportionBuffer();
+    const QPoint rest = desk.cursor();
+    desk.type("c\nd");
+    QVERIFY(sameImage(desk.pending(),
+                      painted(painted(desk.canvas.merged(), solidPen(Qt::blue, 1), Qt::NoBrush,
+                                      fixtures::text(rest, "c", 1)),
+                              solidPen(Qt::blue, 1), Qt::NoBrush,
+                              fixtures::text({20, rest.y() + desk.metrics().lineSpacing()}, "d", 1))));
+}
+
+void tst_TextManners::redoOpensADroppedText_data()
+{
+    QTest::addColumn<KORVA_Manners>("manners");
+    QTest::addColumn<int>("steps");
+    for (const int steps : {1, 10}) {
+        QTest::addRow("alone, %d steps", steps) << only(&KORVA_Manners::undoTypes) << steps;
+        QTest::addRow("with the others, %d steps", steps) << allForText() << steps;
+    }
+}
+
+void tst_TextManners::redoOpensADroppedText()
+{
+    QFETCH(const KORVA_Manners, manners);
+    QFETCH(const int, steps);
+    ModernDesk desk(manners);
+    desk.canvas.setUndoSteps(steps, 1 << 20);
+    desk.tap({20, 40});
+    desk.type("one two");
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 0; i < 3; ++i)
+            desk.canvas.undo();
+        QVERIFY(!desk.tool().takesText());
+        QVERIFY(desk.isWithout(desk.base, desk.start));
+        QVERIFY(!desk.canvas.isModified());
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.log.taken().filter("canRedo").last(), "canRedo(true)");
+        desk.canvas.redo();
+        QVERIFY(desk.tool().takesText());
+        QVERIFY(sameImage(desk.screen(), desk.start));
+        QCOMPARE(desk.cursor(), QPoint(20, 40));
+        desk.canvas.redo();
+        QVERIFY(sameImage(desk.pending(), desk.written("one ")));
+        desk.canvas.redo();
+        QVERIFY(sameImage(desk.pending(), desk.written("one two")));
+        QCOMPARE(desk.log.taken().filter("canRedo").last(), "canRedo(false)");
+    }
+    desk.stylus.press({5, 5});
+    QVERIFY(sameImage(desk.canvas.merged(), desk.written("one two")));
+}
+
+void tst_TextManners::droppedTextIsForgotten_data()
+{
+    using Step = std::function<void(ModernDesk&)>;
+    QTest::addColumn<Step>("step");
+    QTest::addColumn<int>("steps");
+    const std::pair<const char*, Step> cases[] = {
+        {"another change", [](ModernDesk& desk) { desk.canvas.clearCanvas(Qt::green); }},
+        {"another tool", [](ModernDesk& desk) { desk.manager.setCurrentTool(fixtures::Pencil); }},
+        {"another text",
+         [](ModernDesk& desk) {
+             desk.tap({60, 60});
+             desk.escape();
+         }},
+    };
+    for (const auto& [name, step] : cases) {
+        for (const int steps : {1, 10})
+            QTest::addRow("%s, %d steps", name, steps) << step << steps;
+    }
+}
+
+void tst_TextManners::droppedTextIsForgotten()
+{
+    QFETCH(const std::function<void(ModernDesk&)>, step);
+    QFETCH(const int, steps);
+    ModernDesk desk(allForText());
+    desk.canvas.setUndoSteps(steps, 1 << 20);
+    desk.canvas.clearCanvas(Qt::yellow);
+    QCoreApplication::processEvents();
+    desk.tap({20, 40});
+    desk.type("one");
+    desk.canvas.undo();
+    desk.canvas.undo();
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.log.taken().filter("can").last(2), QStringList({"canUndo(true)", "canRedo(true)"}));
+    step(desk);
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.log.taken().filter("canRedo").last(), "canRedo(false)");
+    QVERIFY(!desk.canvas.getCurrentTool()->takesText());
+    desk.canvas.undo();
+    QVERIFY(!desk.canvas.getCurrentTool()->takesText());
+}
+
+void tst_TextManners::boldLetters_data()
+{
+    QTest::addColumn<KORVA_Manners>("manners");
+    QTest::newRow("classic") << KORVA_Manners();
+    QTest::newRow("modern") << allForText();
+}
+
+void tst_TextManners::boldLetters()
+{
+    QFETCH(const KORVA_Manners, manners);
+    const auto inWeight = [](const QImage& paper, QFont::Weight weight, const QString& text) {
+        QFont font = fixtures::textFont(3);
+        font.setWeight(weight);
+        return painted(paper, solidPen(Qt::blue, 3), Qt::NoBrush, [&](QPainter& painter) {
+            painter.setFont(font);
+            painter.drawText(QRect(20, 60 - QFontMetrics(font).ascent(), 10, 10), Qt::TextDontClip, text);
+        });
+    };
+    ModernDesk desk(manners, support::sheet(QSize(160, 100)), 100, 3);
+    desk.tap({20, 60});
+    desk.type("Wg");
+    QVERIFY(!desk.tool().isBold());
+    desk.tool().setBold(true);
+    QVERIFY(desk.tool().isBold());
+    QVERIFY(sameImage(desk.pending(), inWeight(desk.base, QFont::Bold, "Wg")));
+    QVERIFY(desk.pending() != inWeight(desk.base, QFont::Normal, "Wg"));
+    desk.type("a"); // behind the wider letters
+    QVERIFY(sameImage(desk.pending(), inWeight(desk.base, QFont::Bold, "Wga")));
+    desk.tool().setBold(false);
+    QVERIFY(sameImage(desk.pending(), inWeight(desk.base, QFont::Normal, "Wga")));
+    desk.tool().setBold(true);
+    desk.stylus.press({5, 5});
+    QVERIFY(sameImage(desk.canvas.merged(), inWeight(desk.base, QFont::Bold, "Wga")));
+    desk.stylus.release({90, 90});
+    desk.canvas.clearCanvas(Qt::white);
+    desk.tap({20, 60}); // later texts, too
+    desk.type("b");
+    QVERIFY(sameImage(desk.pending(), inWeight(support::sheet(desk.base.size()), QFont::Bold, "b")));
+}
+
+void tst_TextManners::boldRowInTheOptions()
+{
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    const auto rows = [&editor] {
+        return editor.findChild<QPushButton*>("optionButton")->menu()->actions();
+    };
+    editor.selectTool(KORVA_TOOL_TEXT);
+    editor.selectOption(KORVA_OPTION_MEDIUM);
+    QCOMPARE(rows().size(), 3);
+    editor.setManners(only(&KORVA_Manners::boldText));
+    QCOMPARE(rows().size(), 4);
+    QCOMPARE(editor.option(), int(KORVA_OPTION_MEDIUM));
+    QSignalSpy chosen(&editor, &KORVA_EditCanvas::chosen);
+    for (const bool on : {true, false}) {
+        rows().last()->trigger();
+        QCOMPARE(editor.isBold(), on);
+        QCOMPARE(rows().last()->isChecked(), on);
+        QCOMPARE(rows().last()->text(), on ? u"\u2713 Bold"_qs : u"Bold"_qs);
+        QVERIFY(rows().at(KORVA_OPTION_MEDIUM)->isChecked());
+        QCOMPARE(editor.option(), int(KORVA_OPTION_MEDIUM));
+        const QList<QVariant> told = chosen.takeFirst();
+        QCOMPARE(told[0].value<KORVA_CHOICETYPE>(), KORVA_CHOICE_BOLD);
+        QCOMPARE(told[1].toInt(), on ? 1 : 0);
+        QVERIFY(chosen.isEmpty());
+    }
+    editor.setBold(true);
+    QVERIFY(rows().last()->isChecked());
+    editor.selectOption(KORVA_OPTION_LARGE);
+    QVERIFY(rows().last()->isChecked());
+    editor.selectTool(KORVA_TOOL_LINE);
+    QCOMPARE(rows().size(), 3);
+    editor.selectTool(KORVA_TOOL_TEXT);
+    QVERIFY(rows().last()->isChecked());
+    editor.reset();
+    QVERIFY(!editor.isBold());
+    editor.selectTool(KORVA_TOOL_TEXT);
+    QVERIFY(!rows().last()->isChecked());
+    editor.setManners({});
+    QCOMPARE(rows().size(), 3);
 }
 
 int main(int argc, char** argv)
