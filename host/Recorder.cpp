@@ -152,10 +152,6 @@ void Recorder::write(const Command& command)
     const bool comes = command.verb == Verb::Paste || command.verb == Verb::Stamp;
     if (comes && canvas.manners().centeredPiece && !canvas.pasteLabel()->isHidden())
         keep({.verb = Verb::Place, .point = canvas.piecePlace()});
-    // It goes by the colours of earlier runs, too, which another run does not have.
-    const bool isOutlines = command.verb == Verb::Manners || command.verb == Verb::Color;
-    if (isOutlines && canvas.manners().outlinedShapes && m_editor.outlineColor().isValid())
-        keep({.verb = Verb::Outline, .color = m_editor.outlineColor()});
 }
 
 void Recorder::keep(const Command& command)

@@ -414,15 +414,24 @@ void tst_Menus::optionPopups()
     {
         const char* key;
         int options;
-    } tools[] = {{"p", 3}, {"l", 3}, {"t", 6}, {"r", 2}, {"o", 2}, {"e", 3}};
+        int others = 0;
+    } tools[] = {{"p", 3}, {"l", 3}, {"t", 6, 1}, {"r", 4}, {"o", 4}, {"e", 3}};
     QVERIFY(start());
     for (const auto& tool : tools) {
         m_pad->key(tool.key);
         for (int option = 0; option < tool.options; ++option) {
             m_pad->click(optionButton);
             QVERIFY(waitForPopups(1));
-            QVERIFY(tapRow(option, tool.options, QString("%1-%2").arg(tool.key).arg(option)));
+            QVERIFY(tapRow(option, tool.options + tool.others, QString("%1-%2").arg(tool.key).arg(option)));
             QVERIFY(takesEffect(line(QString("option %1").arg(option))));
+        }
+        for (const char* bold : {"on", "off"}) {
+            if (tool.others == 0)
+                continue;
+            m_pad->click(optionButton);
+            QVERIFY(waitForPopups(1));
+            QVERIFY(tapRow(tool.options, tool.options + 1, QString("bold-%1").arg(bold)));
+            QVERIFY(takesEffect(line(QString("bold %1").arg(bold))));
         }
     }
     m_pad->key("s");

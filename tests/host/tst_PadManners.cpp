@@ -90,6 +90,7 @@ void tst_PadManners::checkReplay(const Work& work, const QStringList& lines)
         pad::Recorder recorder(person.editor);
         QVERIFY(!recorder.start(file));
         connect(&person.window.commands(), &pad::Commands::performed, &recorder, &pad::Recorder::write);
+        connect(&person.window.colors(), &pad::Colors::performed, &recorder, &pad::Recorder::write);
         person.behave();
         recorder.write(pad::Recording::commandFor(person.editor.manners()));
         work(person);
@@ -190,7 +191,9 @@ void tst_PadManners::replaysOutlines()
 {
     checkReplay(
         [](Pad& pad) {
-            pad.editor.setColor(Qt::green); // as somebody who has drawn before: nothing has recorded it
+            pad.editor.selectTool(KORVA_TOOL_ELLIPSE);
+            pad.editor.selectOption(2);
+            pad.drag({10, 90}, {60, 130}, {}); // before there is a second colour
             pad.window.commands().takeColor(Qt::blue);
             pad.editor.selectTool(KORVA_TOOL_RECTANGLE);
             pad.editor.selectOption(3);
@@ -198,9 +201,18 @@ void tst_PadManners::replaysOutlines()
             pad.window.commands().takeColor(Qt::yellow);
             pad.editor.selectTool(KORVA_TOOL_ELLIPSE);
             pad.drag({80, 20}, {150, 60}, {});
-            QCOMPARE(pad.picture().pixelColor(10, 10), QColor(Qt::green));
+            QCOMPARE(pad.picture().pixelColor(10, 10), QColor(Qt::red));
+            pad.window.colors().swap();
+            pad.drag({80, 90}, {150, 130}, {});
         },
-        {"outline #000000", "outline #00ff00", "outline #0000ff", "option 3"});
+        {"option 2", "option 3", "color #ffff00"});
+    const auto recording = pad::Recording::parse("manners modern\noutline #00ff00\ntool rectangle\n"
+                                                 "option 2\npress 10 10\nrelease 60 60",
+                                                 "test.rec");
+    Pad pad;
+    QVERIFY(!pad::Player(pad.editor, pad.platform).play(std::get<pad::Recording>(recording)));
+    QCOMPARE(pad.picture().pixelColor(10, 10), QColor(Qt::green));
+    QCOMPARE(pad.picture().pixelColor(11, 11), QColor(Qt::red));
 }
 
 void tst_PadManners::outlineIsTheSecondColor()
