@@ -117,6 +117,8 @@ private slots:
     void fingersTapIsATap();
     void penMovesIt();
     void pointerIsSeen();
+    void randomHands_data();
+    void randomHands();
 };
 
 void tst_MovableText::dragMovesTheText_data()
@@ -390,6 +392,74 @@ void tst_MovableText::pointerIsSeen()
     QCOMPARE(desk.canvas.cursor().shape(), Qt::SizeAllCursor);
     desk.stylus.release({90, 90});
     QCOMPARE(desk.canvas.cursor().shape(), Qt::IBeamCursor);
+}
+
+void tst_MovableText::randomHands_data()
+{
+    QTest::addColumn<quint32>("seed");
+    QTest::addColumn<int>("zoom");
+    for (const int zoom : {50, 100, 150, 200}) {
+        for (quint32 seed = 1; seed <= 4; ++seed)
+            QTest::addRow("%d %%, seed %u", zoom, seed) << seed << zoom;
+    }
+}
+
+/// Whatever is done: what is seen is what a commit leaves, and until then the picture is as it was.
+void tst_MovableText::randomHands()
+{
+    QFETCH(const quint32, seed);
+    QFETCH(const int, zoom);
+    MovingDesk desk(true, zoom);
+    desk.canvas.setUndoSteps(50, 1 << 22);
+    QRandomGenerator random(seed * 1000 + quint32(zoom));
+    const auto anywhere = [&] {
+        return QPoint(random.bounded(desk.canvas.width()), random.bounded(desk.canvas.height()));
+    };
+    int moves = 0;
+    QImage committed = desk.base;
+    for (int i = 0; i < 150; ++i) {
+        const bool wasOpen = desk.tool().takesText();
+        const QPoint at = wasOpen && random.bounded(3) > 0 ? desk.cursor() - QPoint(1, 2) : anywhere();
+        const bool isOnText = desk.tool().isOnText(at);
+        const QImage pending = desk.pending();
+        switch (random.bounded(7)) {
+        case 0:
+        case 1:
+            desk.stylus.press(at);
+            QCOMPARE(desk.tool().takesText(), isOnText);
+            for (int steps = random.bounded(4); steps > 0; --steps)
+                desk.stylus.move(anywhere());
+            desk.stylus.release(anywhere());
+            if (!isOnText)
+                committed = pending;
+            else if (desk.tool().takesText())
+                ++moves;
+            break;
+        case 2:
+            desk.stylus.click(at);
+            committed = pending;
+            break;
+        case 3:
+            desk.canvas.undo();
+            committed = wasOpen ? committed : desk.canvas.merged();
+            break;
+        case 4:
+            desk.canvas.redo();
+            committed = wasOpen ? committed : desk.canvas.merged();
+            break;
+        case 5:
+            desk.resize(QList{1, 3, 5}[random.bounded(3)]);
+            break;
+        default:
+            for (int letters = random.bounded(1, 12); letters > 0; --letters)
+                desk.type(QStringLiteral("Wi g\b\na").at(random.bounded(7)));
+        }
+        QVERIFY(sameImage(desk.canvas.merged(), committed));
+        QVERIFY(sameImage(desk.screen(), support::scaled(desk.pending(), zoom)));
+        if (desk.tool().takesText())
+            desk.blink();
+    }
+    QVERIFY(moves > 0);
 }
 
 int main(int argc, char** argv)
