@@ -45,7 +45,7 @@ int Session::run()
         m_place->restore(*m_window);
         m_window->documents().rememberFolders();
         m_window->commands().rememberChoices();
-        if (!m_line.noRecovery && m_line.record.isEmpty())
+        if (!m_line.noRecovery)
             m_window->colors().remember();
     } else
         m_window->setFixedSize(m_window->size());

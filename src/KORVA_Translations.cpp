@@ -94,16 +94,18 @@ bool install(const QString& file)
     return QCoreApplication::installTranslator(translator.release());
 }
 
-/// The one that suits best of those that can be read; English needs none.
-bool installFor(const QLocale& locale, const QStringList& all)
+/// The one that suits best of those that can be read. English needs none but for its plural forms, and is
+/// what a locale of no language reads.
+bool installFor(const QLocale& wished, const QStringList& all)
 {
+    const QLocale locale = wished.language() == QLocale::C ? QLocale(english) : wished;
     for (int wanted = best; wanted > 0; --wanted) {
         for (const QString& file : all) {
             if (suitability(codeOf(file), locale) == wanted && install(file))
                 return true;
         }
     }
-    return locale.language() == QLocale::English || locale.language() == QLocale::C;
+    return locale.language() == QLocale::English;
 }
 
 } // namespace

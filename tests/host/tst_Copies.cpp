@@ -6,6 +6,7 @@
 #include "PadWindow.h"
 #include "Palette.h"
 #include "Platform.h"
+#include "Wording.h"
 
 #include "support/Images.h"
 #include "support/Modal.h"
@@ -15,6 +16,7 @@
 #include <KORVA_Canvas.h>
 #include <KORVA_EditCanvas.h>
 #include <KORVA_PasteLabel.h>
+#include <KORVA_Translations.h>
 
 #include <atomic>
 #include <cerrno>
@@ -121,6 +123,7 @@ private slots:
     void init();
     void cleanup();
 
+    void oneColorIsNoPlural();
     void clipboardTakesWhatIsSeen_data();
     void clipboardTakesWhatIsSeen();
     void clipboardGivesItBack();
@@ -837,6 +840,21 @@ void tst_Copies::fitsTheWindow()
         choose(keys);
     }
     QCOMPARE(found, QList<QSize>({dialog, dialog}));
+}
+
+void tst_Copies::oneColorIsNoPlural()
+{
+    const auto unload = qScopeGuard([] { KORVA_Translations::unload(); });
+    for (const char* locale : {"C", "en_US", "en_GB"}) {
+        QVERIFY(KORVA_Translations::load(QLocale(locale)));
+        QCOMPARE(pad::wording::inColors(1, false), "1 color");
+        QCOMPARE(pad::wording::inColors(4, false), "4 colors");
+    }
+    QVERIFY(KORVA_Translations::load(QLocale("pl_PL")));
+    QSet<QString> forms;
+    for (const int count : {1, 2, 5})
+        forms << pad::wording::inColors(count, false).section(' ', 1);
+    QCOMPARE(forms.size(), 3);
 }
 
 int main(int argc, char** argv)
