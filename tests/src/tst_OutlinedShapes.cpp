@@ -139,12 +139,12 @@ void tst_OutlinedShapes::otherToolsKeepTheirColor()
     Editor desk;
     desk.editor.selectTool(KORVA_TOOL_RECTANGLE);
     desk.editor.selectOption(KORVA_OPTION_THICK_EDGE);
+    desk.editor.manager()->setCurrentTool(KORVA_TOOL_PENCIL); // by a host that passes the editor by
+    QCOMPARE(desk.editor.manager()->currentTool()->leftPen().color(), QColor(Qt::yellow));
     for (const int tool : {KORVA_TOOL_PENCIL, KORVA_TOOL_LINE, KORVA_TOOL_TEXT}) {
         desk.editor.selectTool(tool);
         QCOMPARE(desk.editor.manager()->currentTool()->leftPen().color(), QColor(Qt::yellow));
     }
-    desk.editor.manager()->setCurrentTool(KORVA_TOOL_PENCIL);
-    QCOMPARE(desk.editor.manager()->currentTool()->leftPen().color(), QColor(Qt::yellow));
     desk.editor.selectTool(KORVA_TOOL_ELLIPSE); // the option is one choice for both shapes
     QCOMPARE(desk.editor.option(), int(KORVA_OPTION_THICK_EDGE));
     QCOMPARE(desk.editor.manager()->currentTool()->leftPen().color(), QColor(Qt::darkBlue));
