@@ -106,10 +106,10 @@ UTIL_FolderDialog::UTIL_FolderDialog(QWidget* parent, const QString& title, cons
     connect(cancelKey, &QPushButton::clicked, this, &UTIL_FolderDialog::reject);
     connect(m_upKey, &QPushButton::clicked, this, &UTIL_FolderDialog::goUp);
     connect(m_view, &UTIL_PictureView::left, this, &UTIL_FolderDialog::goUp);
-    connect(m_view, &UTIL_PictureView::opened, this, &UTIL_FolderDialog::open);
+    connect(m_view, &UTIL_PictureView::opened, this, &UTIL_FolderDialog::openItem);
     connect(m_view, &UTIL_PictureView::tapped, this, [this](const QModelIndex& index) {
         if (m_folder->isFolder(index))
-            open(index);
+            openItem(index);
     });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
@@ -238,7 +238,7 @@ void UTIL_FolderDialog::showPlace()
     m_place->setToolTip(m_folder->folder());
 }
 
-void UTIL_FolderDialog::open(const QModelIndex& index)
+void UTIL_FolderDialog::openItem(const QModelIndex& index)
 {
     if (m_folder->isFolder(index))
         enter(m_folder->path(index));

@@ -45,7 +45,7 @@ protected:
     void fit() override;
 
 private:
-    void open(const QModelIndex& index);
+    void openItem(const QModelIndex& index);
     void goUp();
     void createOrderMenu(UTIL_PushButton& key);
     void sortBy(Order order);

@@ -159,6 +159,14 @@ private:
     bool m_isDamaged = false;
 };
 
+/// The target itself, unless it was reckoned from a frame that goes beyond the screen.
+QSize within(QSize screen, QSize target)
+{
+    if (target.boundedTo(screen) == target)
+        return target;
+    return screen.scaled(target, Qt::KeepAspectRatio).boundedTo(screen).expandedTo(QSize(1, 1));
+}
+
 } // namespace
 
 QImage gif::read(UTIL_PictureSource& source)
@@ -180,7 +188,7 @@ QImage gif::readReduced(UTIL_PictureSource& source, QSize target, QRgb backgroun
     FirstFrame frame(source);
     if (!frame.begin())
         return {};
-    UTIL_Reducer reducer(frame.screen(), target);
+    UTIL_Reducer reducer(frame.screen(), within(frame.screen(), target));
     const bool isRead = frame.eachRow([&](int, QRgb* row) {
         std::replace(row, row + frame.screen().width(), QRgb(0), background);
         reducer.addRow(row);

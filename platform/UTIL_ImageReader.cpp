@@ -100,6 +100,7 @@ bool UTIL_ImageReader::read()
     }
     if (m_status != Ok) {
         m_image = {};
+        m_isWhole = false;
     } else if (m_parameters == "16") {
         const QImage full =
             std::exchange(m_image, m_image.convertToFormat(QImage::Format_RGB16, Qt::AvoidDither));

@@ -118,6 +118,8 @@ void probePng(Bytes& bytes, Probe& probe)
             return;
         const qint64 end = start + frame + *length;
         if (name == "IHDR") {
+            if (probe.size.isValid()) // a second one; decoders go by the first
+                return;
             const std::optional<quint32> width = bytes.number<quint32>(qFromBigEndian<quint32>);
             const std::optional<quint32> height = bytes.number<quint32>(qFromBigEndian<quint32>);
             if (!width || !height)
@@ -186,7 +188,8 @@ void probeJpeg(Bytes& bytes, Probe& probe)
             bytes.byte(); // sample precision
             const std::optional<quint16> height = bytes.number<quint16>(qFromBigEndian<quint16>);
             const std::optional<quint16> width = bytes.number<quint16>(qFromBigEndian<quint16>);
-            if (!width || !height)
+            const bool isSecond = probe.size.isValid(); // decoders go by the first
+            if (!width || !height || isSecond)
                 return;
             probe.size = validSize(*width, *height);
         }

@@ -10,7 +10,6 @@ namespace {
 
 constexpr int palettedDepth = 8;
 constexpr int deepDepth = 16;
-constexpr int mostColors = 256;
 constexpr bool isLittle = QSysInfo::ByteOrder == QSysInfo::LittleEndian;
 
 void readBytes(png_structp png, png_bytep data, size_t count)

@@ -1,5 +1,7 @@
 #include "UTIL_Reducer.h"
 
+#include "KORVA_Assert.h"
+
 #include <QPainter>
 
 // In each direction, a source pixel weighs as many units as the target has pixels. So a target pixel holds
@@ -43,6 +45,7 @@ UTIL_Reducer::UTIL_Reducer(QSize from, QSize to)
       m_rows(m_row.size()),
       m_room(from.height())
 {
+    KORVA_ASSERT(!to.isEmpty() && to.boundedTo(from) == to);
 }
 
 void UTIL_Reducer::addRow(const QRgb* row)

@@ -9,7 +9,8 @@
 class UTIL_Reducer
 {
 public:
-    /// No side of `to` is 0 or greater than the same side of `from`; `from` has at most 2^31 pixels.
+    /// No side of `to` is 0 or greater than the same side of `from`, or it aborts; `from` has at most 2^31
+    /// pixels.
     UTIL_Reducer(QSize from, QSize to);
 
     /// Adds the next row, from the top: opaque pixels, as many as `from` is wide.

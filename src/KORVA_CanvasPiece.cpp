@@ -54,8 +54,8 @@ KORVA_Canvas::BeforePiece KORVA_Canvas::keptDrawing(const QRect& hole) const
     if (!m_manners.pieceKeys)
         return nullptr;
     const auto [undo, redo, selected] = m_touch->offers();
-    return std::make_shared<const KORVA_BeforePiece>(*m_picture, hole & QRect(QPoint(), pictureSize()),
-                                                     m_undoFlag, undo, redo);
+    return std::make_shared<const KORVA_BeforePiece>(
+        KORVA_BeforePiece{*m_picture, hole & QRect(QPoint(), pictureSize()), m_undoFlag, undo, redo});
 }
 
 /// In the middle of what is seen, and all of it in the picture if it fits.

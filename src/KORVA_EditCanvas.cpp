@@ -294,7 +294,7 @@ void KORVA_EditCanvas::saveChangePic(int action)
 bool KORVA_EditCanvas::openNewFilePrivate(int flag, const QString& openDocFile)
 {
     const std::string_view path = __FILE__;
-    const char* source = __FILE__ + path.rfind('/') + 1;
+    const char* source = &__FILE__[path.rfind('/') + 1];
     const QByteArray name = openDocFile.toLatin1();
     std::fprintf(stderr,
                  "{%d} %s:%d\tKORVA_EditCanvas::openNewFilePrivate calling, flag=%d, openDocFile=%s\n\n", 1,

@@ -1,5 +1,7 @@
 #include "KORVA_History.h"
 
+#include "KORVA_Assert.h"
+
 #include <QMutex>
 #include <QThreadPool>
 
@@ -199,6 +201,7 @@ QImage KORVA_History::walked(Step& step, const QImage& now)
         step = {from.size(), {}, Pixels::of(bytesOf(from))};
         return other;
     }
+    KORVA_ASSERT(from.rect().contains(step.changed));
     QImage other = from;
     for (int y = step.changed.top(); y <= step.changed.bottom(); ++y) {
         QRgb* const to = reinterpret_cast<QRgb*>(other.scanLine(y)) + step.changed.left();

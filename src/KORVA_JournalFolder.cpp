@@ -1,6 +1,7 @@
 #include "KORVA_JournalFolder.h"
 
 #include "UTIL_FileLock.h"
+#include "UTIL_PictureProbe.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -119,8 +120,17 @@ QString KORVA_JournalFolder::systemError()
 
 KORVA_Journal::Entry KORVA_JournalFolder::entryOf(const QString& fileName)
 {
+    KORVA_Journal::Entry entry{fileName, {}, QFileInfo(fileName).lastModified(), {}};
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return entry;
+    const UTIL_PictureProbe probe = UTIL_PictureProbe::of(file);
+    if (probe.format != "PNG" || !probe.sound) // of damaged files the reader below would complain
+        return entry;
     const QImageReader reader(fileName, "png");
-    return {fileName, reader.text(nameKey), QFileInfo(fileName).lastModified(), reader.size()};
+    entry.pictureName = reader.text(nameKey);
+    entry.size = reader.size();
+    return entry;
 }
 
 QStringList KORVA_JournalFolder::livingIds() const

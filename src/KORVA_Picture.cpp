@@ -179,8 +179,12 @@ void KORVA_Picture::setUndoSteps(int steps, qint64 mostBytes)
 
 void KORVA_Picture::settle()
 {
-    if (!hasHistory() || m_openSteps > 0)
-        return;
+    if (hasHistory() && m_openSteps == 0)
+        keepStep();
+}
+
+void KORVA_Picture::keepStep()
+{
     m_history.add(m_snapshot.toImage(), m_picture.toImage());
     m_snapshot = m_picture;
 }
@@ -193,7 +197,7 @@ void KORVA_Picture::beginStep()
 
 void KORVA_Picture::endStep()
 {
-    if (--m_openSteps == 0)
+    if (m_openSteps > 0 && --m_openSteps == 0)
         settle();
 }
 
@@ -203,7 +207,7 @@ void KORVA_Picture::walk(QImage (KORVA_History::*direction)(const QImage& now))
         m_picture.swap(m_snapshot);
         return;
     }
-    settle();
+    keepStep(); // of an open step, too: each step leads from the very picture that the one before led to
     m_picture.convertFromImage((m_history.*direction)(m_picture.toImage()));
     m_snapshot = m_picture;
 }

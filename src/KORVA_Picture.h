@@ -75,7 +75,8 @@ public:
     // With one step, the functions below do nothing, and canUndo() and canRedo() are false.
     /// Makes a step of the changes since the last snapshot.
     void settle();
-    /// All changes between the two calls are one step, whatever snapshots are taken.
+    /// All changes between the two calls are one step, whatever snapshots are taken. undo() and redo() end
+    /// a step in between; another one begins with the next change.
     void beginStep();
     void endStep();
     /// Whether undo() or redo() would change anything.
@@ -83,6 +84,7 @@ public:
     [[nodiscard]] bool canRedo() const;
 
 private:
+    void keepStep();
     void walk(QImage (KORVA_History::*direction)(const QImage& now));
     [[nodiscard]] bool hasHistory() const { return undoSteps() > 1; }
     [[nodiscard]] bool isUnsettled() const;

@@ -181,17 +181,22 @@ void tst_JournalFinding::leftoversAreRemoved()
 void tst_JournalFinding::damagedFiles_data()
 {
     QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("listed"); // for what looks sound until its pixels are read
     QBuffer buffer;
     QVERIFY(numbered(1).save(&buffer, "PNG"));
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("words") << QByteArray("These are words.");
-    QTest::newRow("cut off in the header") << buffer.data().first(20);
-    QTest::newRow("cut off") << buffer.data().first(buffer.data().size() / 2);
+    QByteArray otherPixels = buffer.data();
+    otherPixels[otherPixels.size() / 2] ^= 1;
+    QTest::newRow("empty") << QByteArray() << 0;
+    QTest::newRow("words") << QByteArray("These are words.") << 0;
+    QTest::newRow("cut off in the header") << buffer.data().first(20) << 0;
+    QTest::newRow("cut off") << buffer.data().first(buffer.data().size() / 2) << 0;
+    QTest::newRow("one wrong bit") << otherPixels << 2;
 }
 
 void tst_JournalFinding::damagedFiles()
 {
     QFETCH(const QByteArray, bytes);
+    QFETCH(const int, listed);
     leave(Qt::red, 100);
     support::write(folder() + "/living-20990101-000000-000-1.png", bytes);
     support::write(folder() + "/earlier-20990101-000000-000-1.png", bytes);
@@ -200,6 +205,7 @@ void tst_JournalFinding::damagedFiles()
     QVERIFY(found); // the newest that is whole
     QVERIFY(desk.journal.bringBack(*found));
     QVERIFY(isSame(desk.editor.drawing(), support::sheet(drawingSize, Qt::red)));
+    QCOMPARE(desk.journal.earlier().size(), listed);
     for (const KORVA_Journal::Entry& entry : desk.journal.earlier()) {
         QVERIFY(!desk.journal.bringBack(entry));
         QVERIFY(isSame(desk.editor.drawing(), support::sheet(drawingSize, Qt::red)));

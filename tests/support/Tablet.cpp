@@ -7,11 +7,13 @@ namespace {
 const QPointingDevice* deviceOf(Tablet::End end)
 {
     using Device = QPointingDevice;
-    static const Device tip("tip", 1, Device::DeviceType::Stylus, Device::PointerType::Pen,
-                            Device::Capability::Position, 1, 3);
-    static const Device eraser("eraser", 2, Device::DeviceType::Stylus, Device::PointerType::Eraser,
-                               Device::Capability::Position, 1, 3);
-    return end == Tablet::Tip ? &tip : &eraser;
+    // Never deleted: the toolkit's list of devices may be gone before.
+    static const auto* const tip = new Device("tip", 1, Device::DeviceType::Stylus,
+                                              Device::PointerType::Pen, Device::Capability::Position, 1, 3);
+    static const auto* const eraser =
+        new Device("eraser", 2, Device::DeviceType::Stylus, Device::PointerType::Eraser,
+                   Device::Capability::Position, 1, 3);
+    return end == Tablet::Tip ? tip : eraser;
 }
 
 QTabletEvent make(QEvent::Type type, Tablet::End end, QPointF at, QPointF global, Qt::MouseButton button,
