@@ -16,6 +16,8 @@
 #include <cstring>
 #include <memory>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace pad {
@@ -60,6 +62,40 @@ int protectionOf(const QString& name)
 WriteError systemError(int code, const QString& fileName)
 {
     return {code, QString::fromLocal8Bit(std::strerror(code)), fileName};
+}
+
+/// Also when a signal comes in between.
+bool sync(int handle)
+{
+    int result = fsync(handle);
+    while (result != 0 && errno == EINTR)
+        result = fsync(handle);
+    return result == 0;
+}
+
+/// Brings the name of a new file to the disk, where the file system can do it.
+void syncFolder(const QString& folder)
+{
+    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    [[maybe_unused]] const bool mayFail = sync(handle);
+    close(handle);
+}
+
+/// Whether a new file has the mode of the old one, which may be private; with errno. Some disks have but
+/// one mode.
+bool takesMode(int handle, mode_t mode)
+{
+    constexpr mode_t permissions = 07777;
+    if (fchmod(handle, mode & permissions) == 0)
+        return true;
+    const int error = errno;
+    struct stat status = {};
+    const bool isSame =
+        fstat(handle, &status) == 0 && (status.st_mode & permissions) == (mode & permissions);
+    errno = error;
+    return isSame;
 }
 
 WriteError errorOf(const QSaveFile& file, const QString& fileName)
@@ -218,17 +254,27 @@ std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& file
     }
     if (QFileInfo(target).isDir())
         return systemError(EISDIR, fileName);
+    struct stat before = {};
+    const bool isNew = stat(QFile::encodeName(target).constData(), &before) != 0;
+    if (isNew && errno != ENOENT)
+        return systemError(errno, fileName);
     QSaveFile file(target);
     errno = 0;
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+    if (!file.open(QIODevice::WriteOnly))
         return errorOf(file, fileName);
-    if (fsync(file.handle()) != 0)
+    if (!isNew && !takesMode(file.handle(), before.st_mode))
+        return systemError(errno, fileName);
+    errno = 0;
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        return errorOf(file, fileName);
+    if (!sync(file.handle()))
         return systemError(errno, fileName);
     if (mayReplace && !mayReplace())
         return systemError(ECANCELED, fileName);
     errno = 0;
     if (!file.commit())
         return errorOf(file, fileName);
+    syncFolder(QFileInfo(target).path());
     return {};
 }
 

@@ -1,5 +1,7 @@
 #include "UTIL_FileLock.h"
 
+#include "UTIL_Sync.h"
+
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QThread>
@@ -53,8 +55,10 @@ UTIL_FileLock::Attempt UTIL_FileLock::attempt()
 {
     constexpr mode_t everybodyMayTry = 0644;
     constexpr int waitForNobody = O_NONBLOCK; // opening a pipe would wait for its other end
-    m_handle = open(m_fileName.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | waitForNobody,
+    m_handle = util::repeated([this] {
+        return open(m_fileName.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | waitForNobody,
                     everybodyMayTry);
+    });
     if (m_handle < 0)
         return Attempt::Failed;
     if (flock(m_handle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {

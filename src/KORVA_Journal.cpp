@@ -120,9 +120,11 @@ void KORVA_Journal::write()
     }
     if (m_state == State::Adopted)
         shelve();
-    if (m_state == State::Nothing && !begin()) {
-        finishWrite(KORVA_JournalFolder::systemError(), 0);
-        return;
+    if (m_state == State::Nothing) {
+        if (const QString error = begin(); !error.isEmpty()) {
+            finishWrite(error, 0);
+            return;
+        }
     }
     m_written = hash;
     m_sinceWrite.start();
@@ -136,18 +138,21 @@ void KORVA_Journal::write()
     });
 }
 
-bool KORVA_Journal::begin()
+QString KORVA_Journal::begin()
 {
     if (!m_folder->make())
-        return false;
+        return KORVA_JournalFolder::systemError();
     const QString id = KORVA_JournalFolder::newId();
     auto lock = std::make_unique<UTIL_FileLock>(m_folder->lockFile(id));
-    if (!lock->lock())
-        return false;
+    if (!lock->lock()) {
+        const QString error = KORVA_JournalFolder::systemError();
+        QFile::remove(m_folder->lockFile(id)); // nobody else knows this identifier
+        return error;
+    }
     m_id = id;
     m_lock = std::move(lock);
     m_state = State::Living;
-    return true;
+    return {};
 }
 
 void KORVA_Journal::finishWrite(const QString& error, int milliseconds)

@@ -107,7 +107,7 @@ private:
     [[nodiscard]] KORVA_EditCanvas* editor() const;
     void expectChange();
     void write();
-    [[nodiscard]] bool begin();
+    [[nodiscard]] QString begin();
     void end();
     void noteSettled();
     void finishWrite(const QString& error, int milliseconds);

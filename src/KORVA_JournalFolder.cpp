@@ -2,7 +2,9 @@
 
 #include "UTIL_FileLock.h"
 #include "UTIL_PictureProbe.h"
+#include "UTIL_Sync.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
@@ -14,9 +16,6 @@
 #include <cerrno>
 #include <cstring>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace {
 
 constexpr int leftoverAge = 60; // seconds; no write takes as long
@@ -26,15 +25,6 @@ const QString earlierPrefix = QStringLiteral("earlier-");
 const QString pictureSuffix = QStringLiteral(".png");
 const QString lockSuffix = QStringLiteral(".lock");
 const QString nameKey = QStringLiteral("PictureName");
-
-void flushFolder(const QString& folder)
-{
-    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    fsync(handle);
-    close(handle);
-}
 
 /// The files whose names fulfil a condition. Qt's own patterns would load a library at every start.
 template <typename Condition>
@@ -94,22 +84,26 @@ QString KORVA_JournalFolder::newEarlierFile() const
 QString KORVA_JournalFolder::store(const QImage& picture, const QString& fileName,
                                    const QString& pictureName, Size size)
 {
+    // In memory first: a writer that fails half-way through a file loses some of its own.
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "png");
+    writer.setText(nameKey, pictureName);
+    writer.setQuality(size);
+    if (!writer.write(picture))
+        return writer.errorString();
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    QImageWriter writer(&file, "png");
-    writer.setText(nameKey, pictureName);
-    writer.setQuality(size);
-    if (!writer.write(picture))
-        return file.error() == QFile::NoError ? writer.errorString() : file.errorString();
-    if (!file.flush())
+    if (file.write(bytes) != bytes.size() || !file.flush())
         return file.errorString();
-    if (fsync(file.handle()) != 0)
+    if (!util::sync(file.handle()))
         return systemError();
     if (!file.commit())
         return file.errorString();
-    flushFolder(QFileInfo(fileName).path());
+    util::syncFolder(QFileInfo(fileName).path());
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "UTIL_FileLock.h"
 #include "UTIL_Png.h"
+#include "UTIL_Sync.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -28,7 +30,7 @@ constexpr int lockTime = 5000;     // milliseconds; a save takes far less
 /// Writes everything, and flushes it to the disk: the data must be there before the move that follows.
 bool writeAll(QFile& file, const QByteArray& bytes)
 {
-    return file.write(bytes) == bytes.size() && file.flush() && fsync(file.handle()) == 0;
+    return file.write(bytes) == bytes.size() && file.flush() && util::sync(file.handle());
 }
 
 /// The file system and the mount of a file or folder. Within one, a move is a single step.
@@ -81,6 +83,7 @@ bool moveByShell(const QString& from, const QString& to)
 /// The properties that a new file takes over from the one that it replaces.
 struct Ownership
 {
+    bool isKnown = false; ///< false if the system did not say whether there is a file
     bool exists = false;
     mode_t mode = 0;
     uid_t user = 0;
@@ -90,9 +93,17 @@ struct Ownership
     {
         struct stat status = {};
         if (stat(QFile::encodeName(fileName).constData(), &status) != 0)
-            return {};
+            return {errno == ENOENT, false, 0, 0, 0};
         constexpr mode_t permissions = 07777;
-        return {true, status.st_mode & permissions, status.st_uid, status.st_gid};
+        return {true, true, status.st_mode & permissions, status.st_uid, status.st_gid};
+    }
+
+    /// The mode that a file is made with: nobody else may read it before it has its own.
+    [[nodiscard]] mode_t firstMode() const
+    {
+        constexpr mode_t anyone = 0666;
+        constexpr mode_t ownerOnly = 0600;
+        return exists ? ownerOnly : anyone;
     }
 
     /// Always sets the mode, and the owner if the system permits.
@@ -112,7 +123,7 @@ public:
     explicit NewFile(const QString& name) : m_name(name), m_path(QFile::encodeName(name)) {}
     ~NewFile()
     {
-        if (isOurs())
+        if (m_file.isOpen() && identity() != Identity::Other)
             unlink(m_path.constData());
     }
     NewFile(const NewFile&) = delete;
@@ -120,9 +131,10 @@ public:
 
     [[nodiscard]] bool write(const QByteArray& bytes, const Ownership& ownership)
     {
-        constexpr mode_t anyone = 0666;
-        const int handle =
-            open(m_path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, anyone);
+        const int handle = util::repeated([&] {
+            return open(m_path.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                        ownership.firstMode());
+        });
         if (handle < 0 ||
             !m_file.open(handle, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle))
             return false;
@@ -131,18 +143,23 @@ public:
     }
     [[nodiscard]] bool moveTo(const QString& target) const
     {
-        return isOurs() && moveByShell(m_name, target);
+        return m_file.isOpen() && identity() == Identity::Ours && moveByShell(m_name, target);
     }
 
 private:
+    enum class Identity { Ours, Other, Unknown };
+
     /// Whether the name still refers to the file that was written.
-    [[nodiscard]] bool isOurs() const
+    [[nodiscard]] Identity identity() const
     {
         struct stat named = {};
         struct stat opened = {};
-        return m_file.isOpen() && lstat(m_path.constData(), &named) == 0 &&
-               fstat(m_file.handle(), &opened) == 0 && named.st_dev == opened.st_dev &&
-               named.st_ino == opened.st_ino;
+        if (lstat(m_path.constData(), &named) != 0)
+            return errno == ENOENT ? Identity::Other : Identity::Unknown;
+        if (fstat(m_file.handle(), &opened) != 0)
+            return Identity::Unknown;
+        const bool isSame = named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
+        return isSame ? Identity::Ours : Identity::Other;
     }
 
     QString m_name;
@@ -224,9 +241,9 @@ bool isReplaceable(const QString& target)
 
 bool saveUnder(const QString& target, const QByteArray& bytes)
 {
-    if (bytes.isEmpty())
-        return false;
     const Ownership before = Ownership::of(target);
+    if (bytes.isEmpty() || !before.isKnown)
+        return false;
     NewFile temporary(picturesave::temporaryPath());
     if (!temporary.write(bytes, before))
         return false;
@@ -301,6 +318,8 @@ bool picturesave::replace(const QString& name, const std::function<QByteArray()>
         QFile::remove(temporaryPath()); // may be left by an earlier run, or planted
         const QString target = isQuotable(name) ? behindLinks(name) : QString();
         isSaved = isReplaceable(target) && saveUnder(target, encode());
+        if (isSaved)
+            util::syncFolder(QFileInfo(target).path());
     }
     lock.remove();
     return isSaved;
