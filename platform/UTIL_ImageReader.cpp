@@ -29,6 +29,14 @@ qint64 area(QSize size)
     return size.isValid() ? qint64(size.width()) * size.height() : 0;
 }
 
+/// Qt refuses what takes more than the program's limit at four bytes a pixel, and logs it.
+bool isBeyondToolkit(QSize size)
+{
+    constexpr qint64 megabyte = 1 << 20;
+    const qint64 limit = QImageReader::allocationLimit() * megabyte;
+    return limit > 0 && area(size) * 4 > limit;
+}
+
 QByteArray normalized(const char* format)
 {
     const QByteArray name = QByteArray(format).toUpper();
@@ -131,6 +139,9 @@ UTIL_ImageReader::Status UTIL_ImageReader::readFrom(QIODevice& device)
         target = isTurned ? wanted.transposed() : wanted;
     const bool isCheap = probe.format == "JPEG" && probe.passes == 1 && target;
     if (!isCheap && area(probe.size) * probe.passes > m_workLimit)
+        return TooLarge;
+    const bool isToolkits = probe.hasRuns || probe.format == "WBMP";
+    if (isToolkits && isBeyondToolkit(probe.size))
         return TooLarge;
 
     UTIL_PictureSource source(device, probe.kept, m_isCancelled);

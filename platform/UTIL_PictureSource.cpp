@@ -21,8 +21,15 @@ bool UTIL_PictureSource::seek(qint64 position)
 
 qint64 UTIL_PictureSource::readData(char* data, qint64 most)
 {
-    if (isCancelled())
+    if (isCancelled() || m_left <= 0)
         return -1;
+    const qint64 done = readParts(data, qMin(most, m_left));
+    m_left -= done;
+    return done;
+}
+
+qint64 UTIL_PictureSource::readParts(char* data, qint64 most)
+{
     qint64 done = 0;
     while (done < most && m_part < m_parts.size()) {
         const UTIL_PictureProbe::Range& part = m_parts[m_part];

@@ -176,16 +176,27 @@ public:
     /// Reads all rows once per pass, each time with more of their pixels.
     bool readRow(uchar* row)
     {
+        allowOneRow();
         return !m_source.isCancelled() &&
                m_session.attempt([this, row] { png_read_row(m_session.png(), row, nullptr); });
     }
 
     bool end()
     {
+        allowOneRow();
         return m_session.attempt([this] { png_read_end(m_session.png(), nullptr); });
     }
 
 private:
+    /// No row takes more of the file, and what is behind the last one is short. The library unpacks all of
+    /// that, though nothing of it is seen: a megabyte could hold a gigabyte.
+    void allowOneRow()
+    {
+        constexpr qint64 mostBeside = 1 << 17;
+        constexpr qint64 mostBytes = 8; // of a pixel
+        m_source.allowMore(mostBeside + mostBytes * m_header.size.width());
+    }
+
     UTIL_PictureSource& m_source;
     UTIL_PngSession m_session;
     Header m_header;

@@ -17,11 +17,27 @@
 
 #include <utility>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace {
 
 constexpr auto handedOver =
     "/tmp/korva.tmp"; // a host's picture on its way in: never the drawing's own file
 constexpr auto handedOverFile = "/tmp/korva.file";
+
+/// Everybody may put a file into /tmp. What is handed over there is a regular file of the user's own or of
+/// the system's: a link could lead to anything, and what is ours nobody else can exchange before it is
+/// read.
+bool mayBeRead(const QString& name)
+{
+    if (name != QLatin1String(handedOver) && name != QLatin1String(handedOverFile))
+        return true;
+    struct stat status = {};
+    constexpr uid_t system = 0;
+    return lstat(QFile::encodeName(name).constData(), &status) == 0 && S_ISREG(status.st_mode) &&
+           (status.st_uid == geteuid() || status.st_uid == system);
+}
 
 /// Reads a small file at once, any other in a thread for which the user waits. Nothing when the user has
 /// cancelled, or the editor is gone.
@@ -226,6 +242,11 @@ bool KORVA_Documents::isPicSizeNotOver(const QString& name, const char* format)
 std::optional<KORVA_Documents::Contents> KORVA_Documents::contentsOf(const QString& name,
                                                                      const QByteArray& format)
 {
+    if (!mayBeRead(name)) {
+        Contents refused;
+        refused.status = UTIL_ImageReader::Failed;
+        return refused;
+    }
     const KORVA_WorkingLimits limits = KORVA_WorkingLimits::ofPlatform();
     KORVA_PictureFile picture(name);
     picture.setLimits(limits);

@@ -3,6 +3,8 @@
 #include "KORVA_ScrollView.h"
 #include "support/PictureFiles.h"
 
+#include <unistd.h>
+
 using fixtures::EditorDesk;
 using fixtures::PictureFolder;
 using fixtures::RecordingPlatform;
@@ -91,6 +93,8 @@ private slots:
     void atConstruction();
     void handedOverAtConstruction_data();
     void handedOverAtConstruction();
+    void notHandedOverByOthers_data();
+    void notHandedOverByOthers();
     void troubleAtConstruction_data();
     void troubleAtConstruction();
 
@@ -311,6 +315,34 @@ void tst_Opening::handedOverAtConstruction()
     QVERIFY(desk.picture().pixelColor(20, 15).blue() > 240);
     QCOMPARE(desk.editor->fileName(), name);
     QVERIFY(!desk.editor->isModified());
+}
+
+void tst_Opening::notHandedOverByOthers_data()
+{
+    QTest::addColumn<bool>("isLink");
+    QTest::newRow("a link") << true;
+    QTest::newRow("another user's file") << false;
+}
+
+void tst_Opening::notHandedOverByOthers()
+{
+    QFETCH(const bool, isLink);
+    const PictureFolder folder;
+    const QString name = fixtures::handedOver;
+    const auto remove = qScopeGuard([&name] { QFile::remove(name); });
+    if (isLink) {
+        QVERIFY(QFile::link(folder.written("flag.png", fixtures::flag()), name));
+    } else {
+        constexpr uid_t nobody = 65534;
+        QVERIFY(fixtures::flag().save(name, "PNG"));
+        if (chown(QFile::encodeName(name).constData(), nobody, nobody) != 0)
+            QSKIP("a file cannot be given to another user here");
+    }
+    EditorDesk desk(name);
+    QCOMPARE(desk.log.taken(), QStringList(failed));
+    QCOMPARE(desk.picture().size(), normal);
+    QVERIFY(!desk.editor->openNewFilePrivate(openAction, name));
+    QCOMPARE(desk.picture().size(), normal);
 }
 
 void tst_Opening::troubleAtConstruction_data()

@@ -1,73 +1,16 @@
 #include "KORVA_Formats.h"
 #include "KORVA_PictureFile.h"
+#include "support/Peak.h"
 #include "support/PictureFiles.h"
 #include "support/TestCase.h"
-
-#ifdef __SANITIZE_ADDRESS__
-// The compiler's library has them, but no header for them.
-extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void*, size_t),
-                                                         void (*)(const volatile void*));
-extern "C" size_t __sanitizer_get_allocated_size(const volatile void*);
-#endif
 
 namespace {
 
 #ifdef __SANITIZE_ADDRESS__
-
-/// The sanitizer keeps freed memory for long, so what the process holds says nothing: its allocations are
-/// counted.
-std::atomic<qint64> held = 0;
-std::atomic<qint64> most = 0;
-
-void allocated(const volatile void*, size_t size)
-{
-    held += qint64(size);
-    most = qMax<qint64>(most, held);
-}
-
-void released(const volatile void* memory)
-{
-    if (memory)
-        held -= qint64(__sanitizer_get_allocated_size(memory));
-}
-
 /// The picture itself; less would mean that nothing was counted.
 constexpr qint64 leastBytes = 352 * 264 * 2;
-
-class Peak
-{
-public:
-    Peak()
-    {
-        static const int installed = __sanitizer_install_malloc_and_free_hooks(allocated, released);
-        Q_UNUSED(installed)
-        held = 0;
-        most = 0;
-    }
-    [[nodiscard]] qint64 bytes() const { return most; }
-};
-
 #else
-
 constexpr qint64 leastBytes = 0; // what was freed before may serve
-
-class Peak
-{
-public:
-    Peak() { support::write("/proc/self/clear_refs", "5"); } // the peak starts from what is held now
-    [[nodiscard]] qint64 bytes() const { return peak() - m_before; }
-
-private:
-    static qint64 peak()
-    {
-        const QByteArray status = support::contents("/proc/self/status");
-        const qsizetype start = status.indexOf("VmHWM:") + 6;
-        return status.sliced(start, status.indexOf("kB", start) - start).trimmed().toLongLong() * 1024;
-    }
-
-    qint64 m_before = peak();
-};
-
 #endif
 
 constexpr qint64 megabyte = 1'000'000;
@@ -119,7 +62,7 @@ void tst_PictureMemory::openingStaysSmall()
     const QString variety = file.contains(':') ? file.section(':', 0, 0) + ':' : QString();
     QVERIFY(support::convert(QStringList{path("photo.png")} + making +
                              QStringList{"-define", "png:compression-level=1", variety + name}));
-    const Peak peak;
+    const support::Peak peak;
     KORVA_PictureFile picture(name);
     QCOMPARE(picture.check(KORVA_Formats::readFormat(name)), 0);
     QPixmap opened;

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtCore>
+
+namespace support {
+
+/// The calls that this program, and those that it starts, make on the files of one folder: what they are,
+/// and what follows when one of them fails.
+class Faults
+{
+public:
+    /// A call on a file. Its names are those below the folder; of a name made up for the moment the part
+    /// that is always another one is "*".
+    struct Call
+    {
+        QString program; ///< as the system calls it: 15 letters
+        QString name;    ///< "rename" for renameat2(), too
+        QString path;
+        QString other; ///< the second name: where a rename leads to
+        int ordinal;   ///< among the calls of this name in the program, from 1
+    };
+
+    /// Makes this program start anew with the calls between it and the system: before anything else in
+    /// main().
+    static void allow(char** arguments);
+
+    /// Watches a folder for as long as it lives.
+    explicit Faults(const QString& folder);
+    ~Faults();
+    Faults(const Faults&) = delete;
+    Faults& operator=(const Faults&) = delete;
+
+    /// What has been called since the last time this or fail() was called, or since the beginning.
+    [[nodiscard]] QList<Call> taken();
+    /// Lets the call of this program, name and ordinal, counted from now, fail with an error as in errno.
+    /// 0: a write writes half of what it was given.
+    void fail(const Call& call, int error);
+    /// Nothing fails any more.
+    void letGo();
+
+private:
+    void restart();
+
+    QTemporaryDir m_own;
+    int m_serial = 0;
+};
+
+} // namespace support
