@@ -109,9 +109,12 @@ void UTIL_Dialog::setVisible(bool visible)
 
 bool UTIL_Dialog::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize && watched == owner() && isVisible() && !m_overlay) {
+    const bool isOwners = watched == owner() && isVisible() && !m_overlay;
+    if (isOwners && event->type() == QEvent::Resize) {
         fit();
         place();
+    } else if (isOwners && event->type() == QEvent::Move) {
+        place(); // a desktop gives a new window its place when it likes
     }
     return QDialog::eventFilter(watched, event);
 }
