@@ -58,14 +58,25 @@ QIcon numberIcon(int number)
     return icon;
 }
 
-QList<KORVA_ToolOption> textSizes()
+QList<KORVA_ToolOption> numberedSizes(const QString& name, std::initializer_list<int> sizes)
 {
     QList<KORVA_ToolOption> options;
-    for (const int points : {12, 16, 20, 28, 36, 48}) {
-        const QString name = QCoreApplication::translate("pad::PadTools", "%1 points", "tool option");
-        options.append({numberIcon(points), name.arg(wording::plainNumber(points)), points});
-    }
+    for (const int size : sizes)
+        options.append({numberIcon(size), name.arg(wording::plainNumber(size)), size});
     return options;
+}
+
+QList<KORVA_ToolOption> textSizes()
+{
+    return numberedSizes(QCoreApplication::translate("pad::PadTools", "%1 points", "tool option"),
+                         {12, 16, 20, 28, 36, 48});
+}
+
+/// The first three are the library's own.
+QList<KORVA_ToolOption> eraserSizes()
+{
+    return numberedSizes(QCoreApplication::translate("pad::PadTools", "%1 px", "tool option: pixels"),
+                         {1, 3, 5, 10, 20});
 }
 
 } // namespace
@@ -84,13 +95,18 @@ void padtools::behave(KORVA_EditCanvas& editor, const KORVA_Manners& manners)
 {
     editor.setManners(manners);
     KORVA_Features features = editor.features();
-    if (features.ownOptions.contains(KORVA_TOOL_TEXT) == manners.pointSizes)
-        return;
-    if (manners.pointSizes)
-        features.ownOptions.insert(KORVA_TOOL_TEXT, textSizes());
-    else
-        features.ownOptions.remove(KORVA_TOOL_TEXT);
-    editor.setFeatures(features);
+    const auto offer = [&](int tool, bool isModern, QList<KORVA_ToolOption> (*sizes)()) {
+        const bool isOther = features.ownOptions.contains(tool) != isModern;
+        if (isOther && isModern)
+            features.ownOptions.insert(tool, sizes());
+        else if (isOther)
+            features.ownOptions.remove(tool);
+        return isOther;
+    };
+    const bool hasOtherTexts = offer(KORVA_TOOL_TEXT, manners.pointSizes, textSizes);
+    const bool hasOtherErasers = offer(KORVA_TOOL_ERASER, manners.joinedEraser, eraserSizes);
+    if (hasOtherTexts || hasOtherErasers)
+        editor.setFeatures(features);
 }
 
 QString padtools::word(int tool)

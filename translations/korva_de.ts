@@ -1507,6 +1507,11 @@
         <comment>tool option</comment>
         <translation>%1 Punkt</translation>
     </message>
+    <message>
+        <source>%1 px</source>
+        <comment>tool option: pixels</comment>
+        <translation>%1 px</translation>
+    </message>
 </context>
 <context>
     <name>pad::PadWindow</name>

@@ -69,6 +69,7 @@ private slots:
     void replaysOutlines();
     void outlineIsTheSecondColor();
     void sixSizesOfText();
+    void fiveSizesOfTheEraser();
     void undoAfterAnotherSize();
     void classicRecordingsKeepTheirSizes();
     void statusTellsTheDraggedSize();
@@ -254,6 +255,29 @@ void tst_PadManners::sixSizesOfText()
     QCOMPARE(pad.editor.option(), 0);
     pad.editor.selectTool(KORVA_TOOL_TEXT);
     QCOMPARE(pad.editor.option(), 5);
+    pad::padtools::behave(pad.editor, {});
+    QCOMPARE(button->menu()->actions().size(), 3);
+}
+
+void tst_PadManners::fiveSizesOfTheEraser()
+{
+    Pad pad;
+    pad.editor.selectTool(KORVA_TOOL_ERASER);
+    const auto* button = pad.editor.findChild<QPushButton*>("optionButton");
+    QCOMPARE(button->menu()->actions().size(), 3);
+    pad.behave();
+    QCOMPARE(button->menu()->actions().size(), 5);
+    pad.editor.setColor(Qt::blue);
+    pad.editor.selectTool(KORVA_TOOL_RECTANGLE);
+    pad.editor.selectOption(1); // filled
+    pad.drag({10, 10}, {80, 80}, {});
+    pad.editor.selectTool(KORVA_TOOL_ERASER);
+    pad.editor.selectOption(4);
+    pad.drag({30, 30}, {50, 30}, {});
+    const QImage erased = pad.picture();
+    QCOMPARE(erased.copy(30, 30, 40, 20), support::sheet({40, 20}).convertToFormat(erased.format()));
+    for (const QPoint beside : {QPoint(29, 30), QPoint(30, 29), QPoint(70, 49), QPoint(69, 50)})
+        QCOMPARE(erased.pixelColor(beside), QColor(Qt::blue));
     pad::padtools::behave(pad.editor, {});
     QCOMPARE(button->menu()->actions().size(), 3);
 }
