@@ -190,8 +190,8 @@ public:
     /// piece, and leaves white behind. Parts outside are cut off; a rectangle that is entirely outside
     /// lifts nothing. At 150 and 200 % the piece is 2 picture pixels wider and higher; with
     /// KORVA_Manners::steadyPiece it is made of all pixels that are seen in the rectangle, at any zoom. A
-    /// piece that was floating is merged. No snapshot, no modification: the change counts when the piece is merged or cut.
-    /// Emits selection(true).
+    /// piece that was floating is merged. No snapshot, no modification: the change counts when the piece is
+    /// merged or cut. Emits selection(true).
     void setSelection(const QRect& rect);
     /// The rectangle last selected, in widget coordinates; null after clearSelection().
     [[nodiscard]] QRect selection() const { return m_selection; }
@@ -457,6 +457,7 @@ private:
     std::optional<Placed> m_placed; ///< of a piece that was not moved on the screen since
     BeforePiece m_beforePiece;
     bool m_isPieceAlone = false; ///< nothing but the piece has changed since then
+    QImage m_clearCopy;          ///< the piece last copied, if its white was clear
     QMenu* m_menu;
     QPointer<QAction> m_cutAction;
     QPointer<QAction> m_copyAction;

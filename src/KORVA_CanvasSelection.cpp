@@ -10,6 +10,15 @@
 #include <QGuiApplication>
 #include <QMenu>
 
+namespace {
+
+QImage plain(const QPixmap& picture)
+{
+    return picture.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace
+
 // The selection, the floating piece, the clipboard, and the menu that offers them.
 
 void KORVA_Canvas::setSelection(const QRect& rect)
@@ -59,6 +68,7 @@ void KORVA_Canvas::clearSelection()
 void KORVA_Canvas::copy()
 {
     QGuiApplication::clipboard()->setPixmap(m_pasteLabel->getImage());
+    m_clearCopy = m_pasteLabel->isWhiteClear() ? plain(m_pasteLabel->getImage()) : QImage();
     emit clipboard(true);
 }
 
@@ -105,6 +115,8 @@ void KORVA_Canvas::paste()
     const QPixmap piece = QGuiApplication::clipboard()->pixmap();
     if (piece.width() != 0)
         floatPasted(piece, before ? before : keptDrawing());
+    if (isFloating() && !m_clearCopy.isNull() && m_clearCopy == plain(piece))
+        m_pasteLabel->setWhiteClear(true);
 }
 
 void KORVA_Canvas::paste(int x, int y)

@@ -22,7 +22,7 @@ QBrush KORVA_DrawingTool::brush() const
 bool KORVA_DrawingTool::showsPixels() const
 {
     constexpr int realSize = 100; // below it a thin line would be shown in parts
-    return canvas()->manners().truePixels && zoom().percent() >= realSize;
+    return canvas()->manners().truePixels && zoom().percent() > realSize;
 }
 
 bool KORVA_DrawingTool::beginChange()

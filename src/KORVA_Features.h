@@ -24,8 +24,8 @@ struct KORVA_Features
 
     /// The row of the zoom box that fits the picture into the view.
     static constexpr int fitToPage = 0;
-    /// The rows of the zoom box, in percent, up to 3200. 150 and 200 mean 100 % for a picture of 640 × 480 pixels or
-    /// more, unless KORVA_Manners::trueZooms is on.
+    /// The rows of the zoom box, in percent, up to 3200. 150 and 200 mean 100 % for a picture of 640 × 480
+    /// pixels or more, unless KORVA_Manners::trueZooms is on.
     QList<int> zooms{50, 100, 150, 200, fitToPage};
 
     /// The formats that are opened and saved: of PNG, GIF, JPEG, BMP and WBMP.

@@ -12,11 +12,13 @@ struct Row
 
 constexpr Row rows[] = {
     {"joined-eraser", &KORVA_Manners::joinedEraser},
+    {"round-pencil", &KORVA_Manners::roundPencil},
     {"own-sizes", &KORVA_Manners::ownSizes},
     {"true-zooms", &KORVA_Manners::trueZooms},
     {"true-pixels", &KORVA_Manners::truePixels},
     {"pixel-grid", &KORVA_Manners::pixelGrid},
     {"wheel-zooms", &KORVA_Manners::wheelZooms},
+    {"steady-view", &KORVA_Manners::steadyView},
     {"magnifier", &KORVA_Manners::magnifier},
     {"steady-piece", &KORVA_Manners::steadyPiece},
     {"offered-piece", &KORVA_Manners::offeredPiece},

@@ -14,6 +14,9 @@ struct KORVA_EXPORT KORVA_Manners
     /// it clears in the picture. Classic: one square for each move, none for the press.
     bool joinedEraser = false;
 
+    /// The pencil is round: a stroke of 2 pixels or more is as wide as its pen everywhere. Classic: its
+    /// segments have square ends, which stand out like thorns where two meet.
+    bool roundPencil = false;
     /// Each tool remembers its own size. Classic: small, medium and large are one choice for all tools.
     bool ownSizes = false;
     /// The zooms of 150 and 200 % mean themselves for every picture. Classic: 100 % for one of 640 × 480
@@ -27,6 +30,9 @@ struct KORVA_EXPORT KORVA_Manners
     /// A mouse's wheel zooms from row to row of the zoom box, and the place under the pointer stays. With
     /// Shift, and on a touch pad without Ctrl, it scrolls. Classic: it scrolls.
     bool wheelZooms = false;
+    /// A zoom that is chosen leaves the middle of what is seen in the middle. Classic: the view keeps its
+    /// distance from the canvas's top left.
+    bool steadyView = false;
     /// While a finger draws, the spot under it is shown beside it, three times as large.
     bool magnifier = false;
     /// A zoom leaves a floating piece floating at its place in the picture, and every change acts on its

@@ -100,7 +100,10 @@ void KORVA_PasteLabel::setResizeZoom(int horizontal, int vertical)
 
 void KORVA_PasteLabel::rotate(int degrees)
 {
+    const QRect before = geometry();
     apply(QTransform().rotate(degrees));
+    if (m_manners.pieceHandles)
+        keepMiddle(before);
 }
 
 void KORVA_PasteLabel::moveBy(QPoint way)

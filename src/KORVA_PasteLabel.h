@@ -46,7 +46,8 @@ public:
     /// Scales what is shown by these percentages. Several calls multiply; the zoom stays. getImage()
     /// follows with the next release.
     void setResizeZoom(int horizontal, int vertical);
-    /// Turns what is shown, clockwise for a positive angle. getImage() follows with the next release.
+    /// Turns what is shown, clockwise for a positive angle: around its middle with
+    /// KORVA_Manners::pieceHandles, else the top left stays. getImage() follows with the next release.
     void rotate(int degrees);
     /// Moves the item as a drag of its inside does, by pixels of the canvas. This and the next two do
     /// nothing while the pointer drags.
@@ -66,8 +67,8 @@ public:
         Halve,
         ClearWhite, ///< switches setWhiteClear()
     };
-    /// Changes the pixels at real size; the top left stays. Nothing happens while the item is hidden or the
-    /// pointer drags, and if it would become too large, as a stretch, or vanish.
+    /// Changes the pixels at real size; the top left stays, in a turn the middle. Nothing happens while the
+    /// item is hidden or the pointer drags, and if it would become too large, as a stretch, or vanish.
     void change(Change what);
     /// Whether white pixels are transparent, here and in the picture when the piece is merged; not in
     /// getImage(). Off for each picture that is set.
@@ -160,6 +161,7 @@ private:
     void foldBack();
     void apply(const QTransform& how);
     void adopt(const QPixmap& changed);
+    void keepMiddle(const QRect& before);
     [[nodiscard]] QPixmap shown();
     void paintFrame(const QRect& exposed);
     void addRows();

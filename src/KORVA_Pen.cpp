@@ -3,6 +3,7 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_ClassicPainter.h"
 #include "KORVA_Pixel.h"
+#include "KORVA_RoundBrush.h"
 
 #include <QMouseEvent>
 
@@ -42,23 +43,31 @@ void KORVA_Pen::drawTo(QPoint to)
     QPixmap* const paper = picture();
     if (!paper)
         return;
-    drawSegment(paper, picturePen(), zoom().toPictureMatrix(), to);
+    drawSegment(paper, InPicture, to);
     if (showsPixels()) {
         const QRect way = zoom().toPictureAround(QRect(m_last, QSize(1, 1)) | QRect(to, QSize(1, 1)));
         const int side = picturePen().width();
         canvas()->showPicture(way.adjusted(-side, -side, side, side));
     } else {
-        canvas()->refresh(drawSegment(canvas()->zoomedPixmap(), screenPen(), {}, to));
+        canvas()->refresh(drawSegment(canvas()->zoomedPixmap(), OnScreen, to));
     }
     m_last = to;
 }
 
-QRect KORVA_Pen::drawSegment(QPixmap* target, const QPen& pen, const QTransform& matrix, QPoint to) const
+QRect KORVA_Pen::drawSegment(QPixmap* target, Where where, QPoint to) const
 {
+    const bool isPicture = where == InPicture;
+    const QPen pen = isPicture ? picturePen() : screenPen();
     KORVA_ClassicPainter painter(target);
-    painter.setPen(pen);
-    painter.setWorldMatrix(matrix);
-    painter.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
+    if (canvas()->manners().roundPencil && pen.width() > 1) {
+        const auto at = [&](QPoint p) { return isPicture ? zoom().toPicture(p) : p; };
+        for (const QRect& run : roundbrush::swept(at(m_last), at(to), pen.width()))
+            painter.fillRect(run, pen.color());
+    } else {
+        painter.setPen(pen);
+        painter.setWorldMatrix(isPicture ? zoom().toPictureMatrix() : QTransform());
+        painter.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
+    }
     return painter.touched();
 }
 

@@ -6,7 +6,7 @@
 #include <QRect>
 
 /// The pencil tool: a dot where the stylus goes down, and a line along every move. One press is one undo
-/// step. The release of another button does not end the stroke.
+/// step. The release of another button does not end the stroke. See KORVA_Manners::roundPencil.
 class KORVA_EXPORT KORVA_Pen : public KORVA_DrawingTool
 {
     Q_OBJECT
@@ -23,7 +23,8 @@ public:
 
 private:
     void drawTo(QPoint to);
-    QRect drawSegment(QPixmap* target, const QPen& pen, const QTransform& matrix, QPoint to) const;
+    enum Where { InPicture, OnScreen };
+    QRect drawSegment(QPixmap* target, Where where, QPoint to) const;
 
     QPoint m_last; ///< the last point drawn, in widget coordinates
     bool m_drawing = false;

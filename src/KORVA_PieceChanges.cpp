@@ -83,10 +83,12 @@ void KORVA_PasteLabel::change(Change what)
         return;
     constexpr int quarter = 90;
     constexpr double growth = 4; // of the area, when both sides double
+    const QRect before = geometry();
     switch (what) {
     case TurnLeft:
     case TurnRight:
-        return adopt(m_pixmap.transformed(QTransform().rotate(what == TurnLeft ? -quarter : quarter)));
+        adopt(m_pixmap.transformed(QTransform().rotate(what == TurnLeft ? -quarter : quarter)));
+        return keepMiddle(before);
     case Flip:
         return adopt(QPixmap::fromImage(m_pixmap.toImage().mirrored(true, false)));
     case Double:
@@ -98,6 +100,12 @@ void KORVA_PasteLabel::change(Change what)
     case ClearWhite:
         return setWhiteClear(!m_isWhiteClear && m_manners.clearWhite);
     }
+}
+
+/// After a turn: so that it is found again where it was.
+void KORVA_PasteLabel::keepMiddle(const QRect& before)
+{
+    move(before.x() + (before.width() - width()) / 2, before.y() + (before.height() - height()) / 2);
 }
 
 void KORVA_PasteLabel::drop()

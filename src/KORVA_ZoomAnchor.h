@@ -7,6 +7,14 @@
 class KORVA_ZoomAnchor
 {
 public:
+    /// The middle of what is seen of a canvas, on the screen.
+    [[nodiscard]] static QPointF middleOf(const KORVA_Canvas& canvas)
+    {
+        const QWidget* const view = canvas.parentWidget();
+        const QRect seen = view ? view->rect().translated(-canvas.pos()) & canvas.rect() : canvas.rect();
+        return canvas.mapToGlobal(QRectF(seen).center());
+    }
+
     /// Takes the point of the picture that is under this point of the screen now.
     KORVA_ZoomAnchor(const KORVA_Canvas& canvas, QPointF onScreen)
         : m_inPicture(canvas.mapFromGlobal(onScreen) * 100 / canvas.zoom())

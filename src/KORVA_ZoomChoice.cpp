@@ -3,6 +3,7 @@
 #include "KORVA_Canvas.h"
 #include "KORVA_EditCanvas.h"
 #include "KORVA_EditorLayout.h"
+#include "KORVA_ZoomAnchor.h"
 #include "UTIL_ComboBox.h"
 
 #include <algorithm>
@@ -72,7 +73,12 @@ void KORVA_ZoomChoice::select(int row)
     const int chosen = rate(row);
     m_editor.commitText();
     m_fittedRate = isFitToPage(row) ? chosen : 0;
+    const KORVA_Canvas& canvas = *m_editor.canvas();
+    const QPointF middle = KORVA_ZoomAnchor::middleOf(canvas);
+    const KORVA_ZoomAnchor anchor(canvas, middle);
     m_editor.setZoom(chosen);
+    if (m_editor.manners().steadyView)
+        anchor.bringUnder(canvas, middle);
 }
 
 bool KORVA_ZoomChoice::show(int row)

@@ -36,6 +36,7 @@ private slots:
     void comesInTheMiddle_data();
     void comesInTheMiddle();
     void whiteIsClear();
+    void copyOfAClearPieceIsClear();
     void whiteIsClearForOnePiece();
 };
 
@@ -296,6 +297,26 @@ void tst_PieceManners::whiteIsClear()
         desk.canvas().mergePastePixmap();
         QVERIFY(sameImage(desk.picture(), expected));
     }
+}
+
+void tst_PieceManners::copyOfAClearPieceIsClear()
+{
+    const PieceDesk desk({&KORVA_Manners::clearWhite});
+    fixtures::setClipboard(fixtures::dotted());
+    desk.editor->paste();
+    desk.row("White is clear")->trigger();
+    desk.editor->copy();
+    desk.editor->paste();
+    QVERIFY(desk.piece().isWhiteClear());
+    desk.row("\u2713 White is clear")->trigger();
+    desk.editor->copy();
+    desk.editor->paste();
+    QVERIFY(!desk.piece().isWhiteClear());
+    desk.row("White is clear")->trigger();
+    desk.editor->copy();
+    fixtures::setClipboard(desk.clip); // somebody else's
+    desk.editor->paste();
+    QVERIFY(!desk.piece().isWhiteClear());
 }
 
 void tst_PieceManners::whiteIsClearForOnePiece()

@@ -58,6 +58,8 @@ private slots:
     void wheelGoesFromRowToRow();
     void placeUnderThePointerStays_data();
     void placeUnderThePointerStays();
+    void middleStays_data();
+    void middleStays();
     void wheelScrolls_data();
     void wheelScrolls();
     void strokeKeepsItsZoom();
@@ -152,6 +154,34 @@ void tst_ViewManners::placeUnderThePointerStays()
         QVERIFY2((now - inPicture).manhattanLength() <= 1,
                  qPrintable(QString("%1,%2 at %3").arg(now.x()).arg(now.y()).arg(desk.canvas().zoom())));
     }
+}
+
+void tst_ViewManners::middleStays_data()
+{
+    QTest::addColumn<bool>("isOn");
+    QTest::newRow("steady") << true;
+    QTest::newRow("classic") << false;
+}
+
+void tst_ViewManners::middleStays()
+{
+    QFETCH(const bool, isOn);
+    ViewDesk desk(isOn ? with(&KORVA_Manners::steadyView) : KORVA_Manners());
+    desk.setPicture(support::sheet(QSize(300, 240)));
+    desk.editor->selectZoom(KORVA_ZOOM_200);
+    desk.view().setContentsPos(180, 150);
+    const auto middle = [&] {
+        const QPoint inView = desk.view().viewport()->rect().center();
+        const QPointF onCanvas = desk.canvas().mapFromGlobal(desk.view().viewport()->mapToGlobal(inView));
+        return onCanvas * 100 / desk.canvas().zoom();
+    };
+    const QPointF before = middle();
+    desk.editor->stepZoom(1);
+    QVERIFY(desk.canvas().zoom() > 200);
+    const bool stays = (middle() - before).manhattanLength() < 2;
+    QCOMPARE(stays, isOn);
+    desk.editor->stepZoom(-1);
+    QVERIFY((middle() - before).manhattanLength() < 2); // and back
 }
 
 void tst_ViewManners::wheelScrolls_data()
