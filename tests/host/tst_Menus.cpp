@@ -415,7 +415,7 @@ void tst_Menus::optionPopups()
         const char* key;
         int options;
         int others = 0;
-    } tools[] = {{"p", 3}, {"l", 3}, {"t", 6, 1}, {"r", 4}, {"o", 4}, {"e", 3}};
+    } tools[] = {{"p", 3}, {"l", 3}, {"t", 6, 1}, {"r", 4}, {"o", 4}, {"e", 5}};
     QVERIFY(start());
     for (const auto& tool : tools) {
         m_pad->key(tool.key);

@@ -259,7 +259,7 @@ private slots:
     void randomSequences();
 
 private:
-    static constexpr quint32 seedsARow = 20;
+    static constexpr quint32 seedsARow = 12;
 };
 
 void tst_ModernProperties::randomSequences_data()
