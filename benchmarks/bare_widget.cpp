@@ -1,57 +1,14 @@
-// The yardstick: the least that a Qt program must do to draw freehand. It shows a picture, paints each
-// segment into it and repaints the rectangle around the segment. With --only-receive it takes the events
-// and does nothing.
+#include "BareWidget.h"
 
 #include <QApplication>
-#include <QMouseEvent>
-#include <QPainter>
-#include <QPixmap>
-#include <QWidget>
 
-namespace {
-
-class BareWidget : public QWidget
-{
-public:
-    BareWidget(const QString& picture, bool paints) : m_picture(picture), m_paints(paints)
-    {
-        setAttribute(Qt::WA_OpaquePaintEvent);
-        setFixedSize(240, 320);
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override { m_last = event->position().toPoint(); }
-
-    void mouseMoveEvent(QMouseEvent* event) override
-    {
-        const QPoint to = event->position().toPoint();
-        if (m_paints) {
-            QPainter painter(&m_picture);
-            painter.setPen(Qt::red);
-            painter.drawLine(m_last, to);
-            update(QRect(m_last, to).normalized().adjusted(-1, -1, 1, 1));
-        }
-        m_last = to;
-    }
-
-    void paintEvent(QPaintEvent* event) override
-    {
-        QPainter(this).drawPixmap(event->rect(), m_picture, event->rect());
-    }
-
-private:
-    QPixmap m_picture;
-    QPoint m_last;
-    bool m_paints;
-};
-
-} // namespace
-
+// With --only-receive it paints nothing.
 int main(int argc, char** argv)
 {
     const QApplication app(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    BareWidget widget(arguments.constLast(), !arguments.contains(QStringLiteral("--only-receive")));
+    BareWidget widget(QPixmap(arguments.constLast()),
+                      !arguments.contains(QStringLiteral("--only-receive")));
     widget.show();
     return QApplication::exec();
 }

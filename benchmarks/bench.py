@@ -19,6 +19,8 @@ import time
 from dataclasses import dataclass, field
 from pathlib import Path
 
+import counts
+
 MARKER = "f0e0c0"  # a colour that no program uses in its window: it shows where the picture is
 SCREEN = "1024x768x24"
 STROKE = {"events": 1000, "rate": 500}
@@ -184,18 +186,51 @@ def measure(client, program, sheet, photo, folder):
     return found
 
 
-def from_outside(built, rounds, sheet, photo, folder):
+def counted_outside(client, program, sheet, folder):
+    @contextlib.contextmanager
+    def fresh():
+        with started(client, program, sheet, folder) as (pid, _):
+            time.sleep(IDLE_S)
+            if program.tap:
+                client("click", *program.tap)
+                time.sleep(0.3)
+            yield pid
+
+    return counts.outside(fresh, lambda pid, events: client("stroke", MARKER, pid, events, STROKE["rate"]), folder)
+
+
+@contextlib.contextmanager
+def clients(built, folder):
+    """A virtual screen, and a home without memories."""
     environment = {key: value for key, value in os.environ.items() if not key.startswith(("QT_", "WAYLAND"))}
     home = folder / "home"
-    home.mkdir(mode=0o700)
+    home.mkdir(mode=0o700, exist_ok=True)
     environment |= {"HOME": str(home), "XDG_RUNTIME_DIR": str(home), "LANG": "C.UTF-8"}
     settings = home / ".config/korva/pad.conf"
     settings.parent.mkdir(parents=True, exist_ok=True)
     settings.write_text("[start]\nbuttons=true\n")  # or a card lies over the window
-    samples = {}
     with Screen() as screen:
         environment["DISPLAY"] = screen.display
-        client = Client(built / "benchmarks/korva-bench-client", environment)
+        yield Client(built / "benchmarks/korva-bench-client", environment)
+
+
+def counted(built, sheet, folder):
+    tools = counts.available()
+    found = {"outside": {}, "inside": {}}
+    if "strace" in tools:
+        with clients(built, folder) as client:
+            for program in programs(built):
+                print(f"\rsystem calls: {program.name:24}", end="", file=sys.stderr, flush=True)
+                found["outside"][program.name] = counted_outside(client, program, sheet, folder)
+    if "valgrind" in tools:
+        print("\ninstructions ...", file=sys.stderr, flush=True)
+        found["inside"] = counts.inside(built, folder, COUNTED)
+    return found
+
+
+def from_outside(built, rounds, sheet, photo, folder):
+    samples = {}
+    with clients(built, folder) as client:
         for number in range(-1, rounds):  # the first warms the file cache and is not counted
             for program in programs(built):
                 print(f"\r{'warm-up' if number < 0 else f'round {number + 1} of {rounds}'}: {program.name:24}",
@@ -233,6 +268,9 @@ def from_inside(built, formats, folder, quick):
 
 
 # --- The report -----------------------------------------------------------------------------------------------------
+
+COUNTED = ("receive", "bare", "pencil", "pencil-200", "line", "line-200", "rectangle", "rectangle-200", "ellipse",
+           "ellipse-200", "select", "select-200", "eraser", "eraser-200")
 
 BARE = "bare Qt widget"
 PAD = "korva-pad"
@@ -296,6 +334,17 @@ def print_report(result):
         print(f"{row['what']:62}{found:>9}   {row['relation']} {row['asked']:<6g} {verdict}")
 
 
+def print_counts(found):
+    print("\nCounted, for each motion event of a paced stroke")
+    print(f"{'program':24}{'system calls':>14}  which")
+    for name, row in found["outside"].items():
+        which = ", ".join(f"{call} {number:.2f}" for call, number in list(row["by_name"].items())[:8])
+        print(f"{name:24}{row['system_calls']:14.2f}  {which}")
+    print(f"\n{'inside':24}{'instructions':>14}{'allocations':>13}{'painters':>10}")
+    for name, row in found["inside"].items():
+        print(f"{name:24}{row['instructions']:14.0f}{row['allocations']:13.2f}{row['painters']:10.2f}")
+
+
 def stripped_bytes(library, folder):
     copy = folder / "libkorva.so"
     subprocess.run(["strip", "--strip-unneeded", "-o", copy, library], check=True)
@@ -314,6 +363,7 @@ def main():
     parser.add_argument("--rounds", type=int, default=5)
     parser.add_argument("--quick", action="store_true", help="one round, short: to see that it runs")
     parser.add_argument("--json", type=Path, help="where to write the results (BUILT/results.json)")
+    parser.add_argument("--counts", action="store_true", help="only what is counted, which a busy machine allows")
     options = parser.parse_args()
     built = options.built.resolve()
 
@@ -323,6 +373,10 @@ def main():
     with tempfile.TemporaryDirectory(prefix="korva-bench-") as name:
         folder = Path(name)
         sheet, photo, formats = make_pictures(folder)
+        found = counted(built, sheet, folder)
+        if options.counts:
+            print_counts(found)
+            return
         outside = from_outside(built, 1 if options.quick else options.rounds, sheet, photo, folder)
         inside = from_inside(built, formats, folder, options.quick)
         size = stripped_bytes(built / "src/libkorva.so", folder)
@@ -330,11 +384,13 @@ def main():
         "machine": {"cpus": os.cpu_count(), "kernel": platform.release(), "load_before": load},
         "outside": outside,
         "inside": inside,
+        "counts": found,
         "must_reach": [judge(row) for row in must_reach(outside, inside, size)],
     }
     target = options.json or built / "results.json"
     target.write_text(json.dumps(result, indent=1) + "\n")
     print_report(result)
+    print_counts(found)
     print(f"\nAll of it: {target}")
 
 
