@@ -12,7 +12,7 @@ import subprocess
 import time
 
 SHORT, LONG = 200, 600  # events; these are exact
-SHORT_PACED, LONG_PACED = 500, 2500  # idle moments come and go between them
+SHORT_PACED, LONG_PACED = 400, 2000  # idle moments come and go between them
 
 ALLOCATORS = {"malloc", "calloc", "realloc", "posix_memalign", "aligned_alloc", "memalign"}
 PAINTERS = {"QPainter::begin(QPaintDevice*)"}

@@ -8,8 +8,10 @@
 
 #include <KORVA_EditCanvas.h>
 #include <RES_ICON_Reader.h>
+#include <UTIL_Skin.h>
 
 #include <QApplication>
+#include <QIconEngine>
 #include <QPainter>
 
 #include <memory>
@@ -38,31 +40,43 @@ constexpr struct
      "picker", "DaApV_Picker_Tool.gif", QT_TRANSLATE_NOOP3("pad::PadTools", "Pick color", "tool")},
 };
 
-QIcon numberIcon(int number)
+/// A number in the skin's ink, light on a dark desktop.
+class NumberIcon : public QIconEngine
 {
-    constexpr int side = 20; // of the options' icons
-    QIcon icon;
-    for (const int scale : {1, 2, 3}) { // for sharp screens
-        QPixmap picture(QSize(side, side) * scale);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
+public:
+    explicit NumberIcon(int number) : m_number(number) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
+    {
+        constexpr int side = 20; // of the options' icons
+        constexpr int letters = 13;
         QFont font = QApplication::font();
-        font.setPixelSize(13 * scale);
+        font.setPixelSize(letters * rect.height() / side);
         font.setBold(true);
-        painter.setFont(font);
-        painter.setPen(Qt::black);
-        painter.drawText(picture.rect(), Qt::AlignCenter, wording::plainNumber(number));
-        painter.end();
-        icon.addPixmap(picture);
+        painter->setFont(font);
+        const bool isQuiet = mode == QIcon::Disabled;
+        painter->setPen(UTIL_Skin::color(isQuiet ? UTIL_Skin::Color::QuietInk : UTIL_Skin::Color::Ink));
+        painter->drawText(rect, Qt::AlignCenter, wording::plainNumber(m_number));
     }
-    return icon;
-}
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new NumberIcon(m_number); }
+
+private:
+    int m_number;
+};
 
 QList<KORVA_ToolOption> numberedSizes(const QString& name, std::initializer_list<int> sizes)
 {
     QList<KORVA_ToolOption> options;
     for (const int size : sizes)
-        options.append({numberIcon(size), name.arg(wording::plainNumber(size)), size});
+        options.append({QIcon(new NumberIcon(size)), name.arg(wording::plainNumber(size)), size});
     return options;
 }
 

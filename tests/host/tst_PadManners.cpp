@@ -69,6 +69,7 @@ private slots:
     void replaysOutlines();
     void outlineIsTheSecondColor();
     void sixSizesOfText();
+    void numbersAreSeenOnADarkDesktop();
     void fiveSizesOfTheEraser();
     void undoAfterAnotherSize();
     void classicRecordingsKeepTheirSizes();
@@ -257,6 +258,31 @@ void tst_PadManners::sixSizesOfText()
     QCOMPARE(pad.editor.option(), 5);
     pad::padtools::behave(pad.editor, {});
     QCOMPARE(button->menu()->actions().size(), 3);
+}
+
+void tst_PadManners::numbersAreSeenOnADarkDesktop()
+{
+    const auto brightest = [] {
+        Pad pad;
+        pad.behave();
+        pad.editor.selectTool(KORVA_TOOL_TEXT);
+        const QMenu* const menu = pad.editor.findChild<QPushButton*>("optionButton")->menu();
+        const QImage image = menu->actions().at(0)->icon().pixmap(20, 20).toImage();
+        int level = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (const QColor pixel = image.pixelColor(x, y); pixel.alpha() > 200)
+                    level = qMax(level, pixel.lightness());
+            }
+        }
+        return level;
+    };
+    QCOMPARE_LT(brightest(), 100);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30), QColor(0x30, 0x30, 0x30)));
+    const int dark = brightest();
+    QApplication::setPalette(before);
+    QCOMPARE_GT(dark, 180);
 }
 
 void tst_PadManners::fiveSizesOfTheEraser()
