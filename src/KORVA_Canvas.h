@@ -160,7 +160,7 @@ public:
     void setUndoSteps(int steps, qint64 mostBytes);
     /// See setUndoSteps().
     [[nodiscard]] int undoSteps() const;
-    /// All changes between the two calls are one step. Does nothing if only one step is kept.
+    /// All changes up to endStep() are one step; undo() and redo() end it. Nothing if only one is kept.
     void beginStep();
     /// See beginStep().
     void endStep();
