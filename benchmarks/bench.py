@@ -270,7 +270,8 @@ def from_inside(built, formats, folder, quick):
 # --- The report -----------------------------------------------------------------------------------------------------
 
 COUNTED = ("receive", "bare", "pencil", "pencil-200", "line", "line-200", "rectangle", "rectangle-200", "ellipse",
-           "ellipse-200", "select", "select-200", "eraser", "eraser-200")
+           "ellipse-200", "select", "select-200", "eraser", "eraser-200", "pencil, modern", "pencil-200, modern", "line-200, modern",
+           "eraser, modern")
 
 BARE = "bare Qt widget"
 PAD = "korva-pad"

@@ -47,8 +47,10 @@ def read_callgrind(path):
 
 
 def callgrind(program, what, events, folder):
+    name, _, manners = what.partition(", ")
+    words = [name, str(events), *([manners] if manners else [])]
     out = folder / f"callgrind-{events}"
-    subprocess.run(["valgrind", "--tool=callgrind", f"--callgrind-out-file={out}", program, what, str(events)],
+    subprocess.run(["valgrind", "--tool=callgrind", f"--callgrind-out-file={out}", program, *words],
                    check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                    env=os.environ | {"QT_QPA_PLATFORM": "offscreen"})
     return read_callgrind(out)

@@ -8,8 +8,8 @@
 #include <map>
 #include <optional>
 
-// korva-bench-events WHAT EVENTS: one drag of so many motion events, each delivered by way of the window
-// and followed to its repaint. bench.py runs it in two lengths under an instrument that counts; the
+// korva-bench-events WHAT EVENTS [modern]: one drag of so many motion events, each delivered by way of the
+// window and followed to its repaint. bench.py runs it in two lengths under an instrument that counts; the
 // difference is what the events cost.
 
 namespace {
@@ -54,8 +54,9 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication app(argc, argv);
-    const std::string what = argc == 3 ? argv[1] : "";
-    const int events = argc == 3 ? QByteArray(argv[2]).toInt() : 0;
+    const std::string what = argc >= 3 ? argv[1] : "";
+    const int events = argc >= 3 ? QByteArray(argv[2]).toInt() : 0;
+    const bool isModern = argc == 4 && std::string(argv[3]) == "modern";
     if (what == "bare" || what == "receive") {
         BareWidget widget(QPixmap::fromImage(bench::noise({240, 320})), what == "bare");
         widget.show();
@@ -63,9 +64,11 @@ int main(int argc, char** argv)
         drag(widget, events);
     } else if (const auto subject = subjects.find(what); subject != subjects.end()) {
         bench::Editor editor({200, 170}, subject->second.zoom, subject->second.tool);
+        if (isModern)
+            editor->setManners(KORVA_Manners::modern());
         drag(editor.canvas(), events);
     } else {
-        std::fputs("usage: korva-bench-events WHAT EVENTS\n", stderr);
+        std::fputs("usage: korva-bench-events WHAT EVENTS [modern]\n", stderr);
         return 2;
     }
     return 0;
