@@ -266,8 +266,7 @@ void KORVA_Canvas::erase(const QRect& inPicture, const QRect& onScreen)
 
 void KORVA_Canvas::erase(const QRegion& inPicture)
 {
-    for (const QRect& rect : inPicture)
-        m_picture->erase(rect);
+    m_picture->eraseRegion(inPicture);
     showPicture(inPicture.boundingRect());
 }
 

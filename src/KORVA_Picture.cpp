@@ -71,6 +71,18 @@ QPixmap KORVA_Picture::piece(const QRect& rect) const
     return piece;
 }
 
+void KORVA_Picture::eraseRegion(const QRegion& region)
+{
+    if (hasPaper()) {
+        for (const QRect& rect : region)
+            erase(rect);
+        return;
+    }
+    KORVA_ClassicPainter painter(pixmap());
+    for (const QRect& rect : region)
+        painter.fillRect(rect, Qt::white);
+}
+
 void KORVA_Picture::erase(const QRect& rect, const QTransform& toPicture)
 {
     if (!hasPaper()) {

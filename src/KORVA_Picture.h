@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QRegion>
 #include <QTransform>
 
 /// A drawing without its view: the picture at real size, the undo snapshot, and the modified flag.
@@ -49,6 +50,8 @@ public:
     [[nodiscard]] QPixmap piece(const QRect& rect) const;
     /// Leaves only the paper in a rectangle. `toPicture` maps it to the picture's pixels.
     void erase(const QRect& rect, const QTransform& toPicture = {});
+    /// The same in a region of the picture's pixels.
+    void eraseRegion(const QRegion& region);
     /// Paints a piece at real size. Parts outside the picture are cut off; transparent parts leave the
     /// picture alone.
     void lay(const QPixmap& piece, QPoint at);
