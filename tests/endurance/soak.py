@@ -5,7 +5,7 @@ soak.py PROGRAM MINUTES FOLDER
 
 Once a second a sample is taken; FOLDER gets soak.csv with all of them and soak.svg with their curves. Ends with 0 if
 every curve is flat: the median of the last fifth of the time is not above that of the second fifth by more than is
-tolerated. The first fifth fills caches, the history of changes and the earlier drawings.
+tolerated. The first fifth fills caches and the history of changes.
 """
 import csv
 import random
