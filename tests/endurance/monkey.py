@@ -24,8 +24,8 @@ from pathlib import Path
 from display import Person, Screen
 from pad import Home, Pad
 
-PATIENCE = 5  # s; who has not answered by then hangs
-PASTE_PATIENCE = 12  # s; Qt waits 5 s for each picture that a dead owner of the clipboard has promised
+PATIENCE = int(os.environ.get("KORVA_PATIENCE", "5"))  # s; who has not answered by then hangs
+PASTE_PATIENCE = PATIENCE + 7  # s; Qt waits 5 s for each picture that a dead owner of the clipboard has promised
 SLOW = 0.1  # s
 END_PATIENCE = 60  # s, to end and to look for leaks
 SHOWN_GESTURES = 40  # before a finding
