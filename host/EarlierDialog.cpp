@@ -26,10 +26,14 @@ constexpr QSize thumbnailSize(Size::thumbnailWidth, Size::thumbnailHeight);
 /// A smaller one for a text that has no room otherwise: a date is long in some languages.
 QFont fontFor(const QString& text, const QFont& font, int width)
 {
-    if (QFontMetrics(font).horizontalAdvance(text) <= width)
-        return font;
+    constexpr int smallest = 8;
+    const auto fits = [&](const QFont& tried) { // not rounded, as it is elided
+        return QFontMetricsF(tried).horizontalAdvance(text) <= width;
+    };
     QFont smaller = font;
-    smaller.setPixelSize(UTIL_Skin::font(UTIL_Skin::Font::Caption).pixelSize());
+    for (int size = UTIL_Skin::font(UTIL_Skin::Font::Caption).pixelSize();
+         !fits(smaller) && size >= smallest; --size)
+        smaller.setPixelSize(size);
     return smaller;
 }
 

@@ -328,7 +328,8 @@ void tst_Languages::dialogsAreReadable()
     QList<KORVA_Journal::Entry> entries;
     for (const int days : {0, 1, 40}) {
         KORVA_Journal::Entry entry;
-        entry.time = QDateTime::currentDateTime().addDays(-days);
+        const QTime widest(0, 58); // where hours are counted to twelve
+        entry.time = QDateTime(QDate::currentDate().addDays(-days), widest);
         entry.size = QSize(200, 170);
         entries << entry;
     }
