@@ -8,6 +8,8 @@
 #include <QAbstractEventDispatcher>
 #include <QMouseEvent>
 
+#include <utility>
+
 KORVA_AreaSelect::KORVA_AreaSelect(const QString& name) : KORVA_Tool(name) {}
 
 void KORVA_AreaSelect::activating()
@@ -63,9 +65,9 @@ void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
     const QPoint to = pointOf(*event);
     if (to == m_end)
         return;
-    const QRect touched = toggleFrame(m_end) | toggleFrame(to);
-    m_end = to;
-    canvas()->refresh(touched);
+    const QPoint left = std::exchange(m_end, to);
+    m_leaving = m_leaving.value_or(left);
+    canvas()->showLater(reach(left) | reach(to));
     const QPoint span = limited(to) - m_start;
     canvas()->setDragged(QSize(zoom().toPicture(qAbs(span.x())), zoom().toPicture(qAbs(span.y()))));
 }
@@ -146,9 +148,26 @@ void KORVA_AreaSelect::drawFrame()
     m_frameShown = !m_frameShown;
 }
 
+QRect KORVA_AreaSelect::reach(QPoint to) const
+{
+    return classic::normalized(QRect(m_start, to)).adjusted(-1, -1, 1, 1);
+}
+
+void KORVA_AreaSelect::paintWaiting(QPixmap*, QPixmap* shown)
+{
+    const QPoint left = *std::exchange(m_leaving, std::nullopt);
+    toggleFrame(left, shown);
+    toggleFrame(m_end, shown);
+}
+
 QRect KORVA_AreaSelect::toggleFrame(QPoint to)
 {
-    KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
+    return toggleFrame(to, shownPicture());
+}
+
+QRect KORVA_AreaSelect::toggleFrame(QPoint to, QPixmap* shown)
+{
+    KORVA_ClassicPainter painter(shown, KORVA_ClassicPainter::NotROP);
     painter.setPen(QPen(Qt::green, 0, Qt::DashLine));
     painter.drawRect(m_start.x(), m_start.y(), to.x() - m_start.x(), to.y() - m_start.y());
     return painter.touched();

@@ -5,6 +5,8 @@
 #include <QPoint>
 #include <QRect>
 
+#include <optional>
+
 /// The area select tool: marks a rectangle with a dashed frame and hands it to the canvas, which lifts it
 /// into a floating piece. It reacts to the left button only and works in widget coordinates. The pixel of
 /// the release does not belong to the rectangle. After a tap, the next drag starts from the tapped point.
@@ -25,6 +27,7 @@ public:
     void deactivating() override;
     void zoomedRebuilt() override;
     [[nodiscard]] std::function<void()> keepState() override;
+    void paintWaiting(QPixmap* picture, QPixmap* shown) override;
 
 public slots:
     /// The canvas tells whether it has a selection; when it has none the frame goes.
@@ -48,12 +51,15 @@ private:
     void drawFrame();
     void anchor();
     QRect toggleFrame(QPoint to);
+    QRect toggleFrame(QPoint to, QPixmap* shown);
+    [[nodiscard]] QRect reach(QPoint to) const;
     void select(QPoint corner);
     [[nodiscard]] QPoint limited(QPoint p) const;
     [[nodiscard]] QPoint pointOf(const QMouseEvent& event) const;
 
     QPoint m_start; ///< the anchor; widget coordinates
-    QPoint m_end;   ///< the opposite corner of the frame on screen
+    QPoint m_end;   ///< the opposite corner of the frame on screen, or of the one that waits to be there
+    std::optional<QPoint> m_leaving; ///< while it waits: the corner of the frame on screen
     State m_state = Idle;
     bool m_frameShown = false; ///< drawFrame() has painted the frame, not a drag
 };

@@ -12,10 +12,16 @@ QPoint scrolled(const KORVA_ScrollView* view)
     return view ? QPoint(view->contentsX(), view->contentsY()) : QPoint();
 }
 
+KORVA_Canvas& paintedNow(KORVA_Canvas& canvas)
+{
+    canvas.paintNow();
+    return canvas;
+}
+
 } // namespace
 
 KORVA_BeforeStroke::KORVA_BeforeStroke(KORVA_Canvas& canvas, Place place)
-    : m_canvas(canvas),
+    : m_canvas(paintedNow(canvas)),
       m_place(place),
       m_tool(canvas.m_tool),
       m_restoreTool(m_tool ? m_tool->keepState() : nullptr),
@@ -52,6 +58,7 @@ void KORVA_BeforeStroke::putBack() const
 
 void KORVA_BeforeStroke::putPictureBack() const
 {
+    m_canvas.paintNow();
     if (m_restoreTool)
         m_restoreTool();
     *m_canvas.m_picture = m_picture;

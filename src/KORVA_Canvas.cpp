@@ -108,6 +108,7 @@ void KORVA_Canvas::activate(KORVA_Tool* tool)
 void KORVA_Canvas::deactivate()
 {
     KORVA_ASSERT(isActive());
+    paintNow();
     m_tool = nullptr;
     m_toolActive = false;
 }
@@ -126,7 +127,7 @@ int KORVA_Canvas::getCurrentToolID() const
 
 void KORVA_Canvas::paintEvent(QPaintEvent* event)
 {
-    classic::bitBlt(this, 0, 0, m_zoomed, event->rect());
+    classic::bitBlt(this, 0, 0, zoomed(), event->rect());
     if (manners().pixelGrid && zoom() >= leastGridZoom)
         paintGrid(event->rect());
 }
@@ -182,8 +183,52 @@ void KORVA_Canvas::markModified()
 
 QPixmap* KORVA_Canvas::pixmap()
 {
+    m_isWatched = true;
+    return mergedPicture();
+}
+
+QPixmap* KORVA_Canvas::zoomedPixmap()
+{
+    m_isWatched = true;
+    return shownPicture();
+}
+
+QPixmap* KORVA_Canvas::mergedPicture()
+{
     mergePastePixmap();
-    return m_picture->pixmap();
+    return drawing().pixmap();
+}
+
+QPixmap* KORVA_Canvas::shownPicture()
+{
+    paintNow();
+    return &m_zoomed;
+}
+
+const QPixmap& KORVA_Canvas::zoomed() const
+{
+    return *const_cast<KORVA_Canvas*>(this)->shownPicture();
+}
+
+// What waits is part of the drawing.
+KORVA_Picture& KORVA_Canvas::drawing() const
+{
+    const_cast<KORVA_Canvas*>(this)->paintNow();
+    return *m_picture;
+}
+
+void KORVA_Canvas::showLater(const QRect& changed)
+{
+    m_isWaiting = true;
+    if (m_isWatched)
+        paintNow();
+    refresh(changed);
+}
+
+void KORVA_Canvas::paintNow()
+{
+    if (std::exchange(m_isWaiting, false) && m_tool)
+        m_tool->paintWaiting(m_picture->pixmap(), &m_zoomed);
 }
 
 QSize KORVA_Canvas::pictureSize() const
@@ -204,10 +249,10 @@ void KORVA_Canvas::setPixmap(QPixmap* picture)
     if (!picture)
         return;
     hidePiece();
-    m_picture->settle();
-    m_picture->take(*picture);
+    drawing().settle();
+    drawing().take(*picture);
     offerSoon();
-    emit pixmapChanged(m_picture->pixmap());
+    emit pixmapChanged(drawing().pixmap());
     showAnew();
 }
 
@@ -222,7 +267,7 @@ void KORVA_Canvas::setDepth(int d)
     if (d == getDepth())
         return;
     saveOldPix();
-    QPixmap unchanged = *m_picture->pixmap(); // Qt keeps every picture at its own depth
+    QPixmap unchanged = *drawing().pixmap(); // Qt keeps every picture at its own depth
     setPixmap(&unchanged);
     markModified();
 }
@@ -231,9 +276,9 @@ void KORVA_Canvas::clearCanvas(const QColor& color)
 {
     saveOldPix();
     if (color == QColor(Qt::white))
-        m_picture->clear();
+        drawing().clear();
     else
-        m_picture->fill(color);
+        drawing().fill(color);
     paintZoomed();
     markModified();
     refresh();
@@ -247,7 +292,7 @@ void KORVA_Canvas::setPaper(const QImage& paper)
     if (paper.isNull() && !m_picture->hasPaper())
         return;
     saveOldPix();
-    const bool isOther = m_picture->setPaper(QPixmap::fromImage(paper));
+    const bool isOther = drawing().setPaper(QPixmap::fromImage(paper));
     updateZoomed();
     if (isOther)
         markModified();
@@ -255,7 +300,7 @@ void KORVA_Canvas::setPaper(const QImage& paper)
 
 void KORVA_Canvas::erase(const QRect& inPicture, const QRect& onScreen)
 {
-    m_picture->erase(inPicture);
+    drawing().erase(inPicture);
     if (m_picture->hasPaper()) {
         updateZoomed();
     } else {
@@ -266,7 +311,7 @@ void KORVA_Canvas::erase(const QRect& inPicture, const QRect& onScreen)
 
 void KORVA_Canvas::erase(const QRegion& inPicture)
 {
-    m_picture->eraseRegion(inPicture);
+    drawing().eraseRegion(inPicture);
     showPicture(inPicture.boundingRect());
 }
 
@@ -274,10 +319,10 @@ void KORVA_Canvas::resizeImage(int w, int h)
 {
     if (QSize(w, h) != pictureSize()) {
         saveOldPix();
-        m_picture->scale(QSize(w, h));
+        drawing().scale(QSize(w, h));
         mergePastePixmap();
         setZoom(zoom());
-        emit pixmapChanged(m_picture->pixmap());
+        emit pixmapChanged(drawing().pixmap());
         markModified();
     }
     refresh();
@@ -298,7 +343,7 @@ bool KORVA_Canvas::load(const QString& fileName, const char* format)
 bool KORVA_Canvas::save(const QString& fileName, const char* format)
 {
     mergePastePixmap();
-    return picturesave::write(m_picture->image(), fileName, format);
+    return picturesave::write(drawing().image(), fileName, format);
 }
 
 // --- Zoom
@@ -307,6 +352,7 @@ void KORVA_Canvas::setZoom(int percent)
 {
     if (percent < 1)
         return;
+    paintNow();
     mergeUnlessSteady();
     const bool stays = isFloating();
     const QPoint place = piecePlace();
@@ -343,19 +389,31 @@ void KORVA_Canvas::updateZoomed()
 
 void KORVA_Canvas::showPicture(const QRect& changed)
 {
+    paintShown(changed);
+    refresh(shownAround(changed));
+}
+
+QRect KORVA_Canvas::shownAround(const QRect& changed) const
+{
     const QRect wide = changed.adjusted(-1, -1, 2, 2); // pixels that share one's edge
-    const QRect shown(m_zoom.toWidget(wide.topLeft()), m_zoom.toWidget(wide.bottomRight()));
-    {
-        KORVA_ClassicPainter painter(&m_zoomed);
-        painter.setClip(shown);
-        painter.setWorldMatrix(m_zoom.toWidgetMatrix());
-        painter.drawPixmap(0, 0, *m_picture->pixmap());
-    }
-    refresh(shown);
+    return {m_zoom.toWidget(wide.topLeft()), m_zoom.toWidget(wide.bottomRight())};
+}
+
+void KORVA_Canvas::paintShown(const QRegion& changed)
+{
+    const QPixmap& picture = *drawing().pixmap();
+    QRegion shown;
+    for (const QRect& part : changed)
+        shown += shownAround(part);
+    KORVA_ClassicPainter painter(&m_zoomed);
+    painter.setClip(shown);
+    painter.setWorldMatrix(m_zoom.toWidgetMatrix());
+    painter.drawPixmap(0, 0, picture);
 }
 
 void KORVA_Canvas::rebuildZoomed()
 {
+    paintNow();
     keepZoomWithinLimit(pictureSize());
     m_zoomed = QPixmap(); // the new one may take its place in memory
     m_zoomed = QPixmap(m_zoom.zoomed(pictureSize()));
@@ -364,7 +422,7 @@ void KORVA_Canvas::rebuildZoomed()
 
 void KORVA_Canvas::showWith(const std::function<void(QPixmap* copy)>& paint)
 {
-    QPixmap copy = *m_picture->pixmap();
+    QPixmap copy = *drawing().pixmap();
     paint(&copy);
     paintZoomed(copy);
     refresh();
@@ -372,7 +430,7 @@ void KORVA_Canvas::showWith(const std::function<void(QPixmap* copy)>& paint)
 
 void KORVA_Canvas::paintZoomed()
 {
-    paintZoomed(*m_picture->pixmap());
+    paintZoomed(*drawing().pixmap());
     if (m_tool)
         m_tool->zoomedRebuilt();
 }

@@ -89,7 +89,9 @@ public:
     /// The picture on screen, for feedback, in widget coordinates; nothing is merged. refresh() shows what
     /// was painted on it. The pixmap belongs to the canvas and lives as long; its size follows the zoom and
     /// the picture's size.
-    QPixmap* zoomedPixmap() { return &m_zoomed; }
+    QPixmap* zoomedPixmap();
+    /// The same to look at for the moment.
+    [[nodiscard]] const QPixmap& zoomed() const;
     /// The size of the picture, in picture pixels.
     [[nodiscard]] QSize pictureSize() const;
     /// Copies a picture in; transparent pixels come out white. A floating piece is dropped. Not a
@@ -182,6 +184,17 @@ public:
     /// The same from a copy of the picture on which `paint` has painted, as feedback of a tool that shows
     /// what it will commit. updateZoomed() takes it off the screen.
     void showWith(const std::function<void(QPixmap* copy)>& paint);
+    /// The same for a tool that is painting what it has put off: the screen learns of it in another way.
+    void paintShown(const QRegion& changed);
+    /// What showPicture() shows anew, in widget coordinates.
+    [[nodiscard]] QRect shownAround(const QRect& changed) const;
+    /// For a tool that puts off its painting (KORVA_Tool::paintWaiting()): shows `changed`, in widget
+    /// coordinates, at the screen's pace. Whoever has ever been given pixmap() or zoomedPixmap() may look
+    /// at any time; then nothing is put off.
+    void showLater(const QRect& changed);
+    /// Lets the tool paint what it has put off. Everything of the canvas that reads or changes the pictures
+    /// does so first.
+    void paintNow();
     /// Scales the picture kept for pasting by the zoom; two calls scale it twice. Does nothing if none is
     /// kept. paste() takes the system clipboard's.
     void updateZoomedClipboard();
@@ -395,6 +408,7 @@ protected:
 private:
     friend class KORVA_BeforeStroke;
     friend class KORVA_EditCanvas; // for what fingers and pens choose in its controls
+    friend class KORVA_Tool;       // which does not keep the pictures that it is given
 
     KORVA_Canvas(KORVA_EditCanvas* editor, const QPixmap& picture, bool takeItsSize, QWidget* parent,
                  const char* name);
@@ -405,6 +419,9 @@ private:
     void handOn(QMouseEvent* event, Handler toTool, LabelHandler toLabel);
     void connectSignals(KORVA_EditCanvas* editor);
 
+    [[nodiscard]] KORVA_Picture& drawing() const;
+    QPixmap* mergedPicture();
+    QPixmap* shownPicture();
     void paintZoomed();
     void paintZoomed(const QPixmap& picture);
     bool stepPending(bool back);
@@ -437,7 +454,9 @@ private:
     QPointer<KORVA_Tool> m_tool;
     std::unique_ptr<KORVA_Picture> m_picture;
     QPixmap m_zoomed;
-    int m_undoFlag = 0; ///< what the host was last asked to offer
+    bool m_isWaiting = false; ///< the tool has put off some painting
+    bool m_isWatched = false; ///< somebody outside has been given one of the pictures
+    int m_undoFlag = 0;       ///< what the host was last asked to offer
     bool m_isOfferDue = false;
     QSize m_dragged;    ///< as last told
     int m_wheelWay = 0; ///< in eighths of a degree, since the last zoom

@@ -11,6 +11,7 @@
 
 void KORVA_Canvas::setManners(const KORVA_Manners& manners)
 {
+    paintNow();
     m_manners = manners;
     m_pasteLabel->setManners(manners);
     if (manners.pieceKeys && !m_keyboardPen)
@@ -21,10 +22,11 @@ void KORVA_Canvas::setManners(const KORVA_Manners& manners)
 
 void KORVA_Canvas::floatPasted(const QPixmap& piece, const BeforePiece& before)
 {
+    paintNow();
     keepZoomWithinLimit(piece.size());
     if (m_hasFallenBack)
         showAnew();
-    m_picture->settle();
+    drawing().settle();
     floatPiece(QPoint(0, 0), piece, Pasted, before);
     if (m_manners.centeredPiece)
         placePiece(middlePlace());
@@ -40,6 +42,7 @@ void KORVA_Canvas::floatPasted(const QPixmap& piece, const BeforePiece& before)
 void KORVA_Canvas::floatPiece(const QPoint& at, const QPixmap& piece, Origin origin,
                               const BeforePiece& before)
 {
+    paintNow();
     m_origin = origin;
     m_placed.reset();
     m_beforePiece = before;
@@ -55,7 +58,7 @@ KORVA_Canvas::BeforePiece KORVA_Canvas::keptDrawing(const QRect& hole) const
         return nullptr;
     const auto [undo, redo, selected] = m_touch->offers();
     return std::make_shared<const KORVA_BeforePiece>(
-        KORVA_BeforePiece{*m_picture, hole & QRect(QPoint(), pictureSize()), m_undoFlag, undo, redo});
+        KORVA_BeforePiece{drawing(), hole & QRect(QPoint(), pictureSize()), m_undoFlag, undo, redo});
 }
 
 /// In the middle of what is seen, and all of it in the picture if it fits.
@@ -93,7 +96,7 @@ void KORVA_Canvas::placePiece(QPoint inPicture)
 
 QPixmap KORVA_Canvas::withPiece() const
 {
-    return m_picture->with(isFloating() ? m_pasteLabel->imprint() : QPixmap(), piecePlace());
+    return drawing().with(isFloating() ? m_pasteLabel->imprint() : QPixmap(), piecePlace());
 }
 
 bool KORVA_Canvas::ptInPasteLabel(const QPoint& p) const
@@ -108,7 +111,7 @@ void KORVA_Canvas::mergePastePixmap()
     if (!isFloating())
         return;
     m_pasteLabel->hide();
-    m_picture->lay(m_pasteLabel->imprint(), piecePlace());
+    drawing().lay(m_pasteLabel->imprint(), piecePlace());
     saveOldPix();
     markModified();
     updateZoomed();
@@ -139,11 +142,11 @@ void KORVA_Canvas::dropPiece()
     m_touch->settle();
     m_pasteLabel->drop();
     if (isAlone) {
-        *m_picture = before->drawing;
+        drawing() = before->drawing;
         m_undoFlag = before->undoFlag;
     } else {
         if (!before->hole.isEmpty())
-            m_picture->lay(before->drawing.piece(before->hole), before->hole.topLeft());
+            drawing().lay(before->drawing.piece(before->hole), before->hole.topLeft());
         markModified();
     }
     updateZoomed();

@@ -34,13 +34,13 @@ void KORVA_Canvas::setSelection(const QRect& rect)
     QRect lifted = m_manners.steadyPiece ? around : m_zoom.toPicture(m_selection);
     if (!m_manners.steadyPiece && (zoom() == 150 || zoom() == 200))
         lifted.setSize(lifted.size() + QSize(margin, margin));
-    const QPixmap piece = m_picture->piece(lifted);
+    const QPixmap piece = drawing().piece(lifted);
 
     mergePastePixmap();
     const BeforePiece before = keptDrawing(around);
     if (m_manners.steadyPiece) {
-        m_picture->settle();
-        m_picture->erase(lifted);
+        drawing().settle();
+        drawing().erase(lifted);
     } else {
         eraseSelection();
     }
@@ -54,8 +54,8 @@ void KORVA_Canvas::setSelection(const QRect& rect)
 void KORVA_Canvas::eraseSelection()
 {
     mergePastePixmap();
-    m_picture->settle();
-    m_picture->erase(m_selection, m_zoom.toPictureMatrix());
+    drawing().settle();
+    drawing().erase(m_selection, m_zoom.toPictureMatrix());
 }
 
 void KORVA_Canvas::clearSelection()
@@ -77,7 +77,7 @@ void KORVA_Canvas::cut()
     const bool hasHole =
         isFloating() && m_manners.steadyPiece; // the selection's place may be another by now
     if (isFloating() && m_manners.offeredPiece)
-        m_picture->takeSnapshot(withPiece());
+        drawing().takeSnapshot(withPiece());
     else
         saveOldPix();
     copy();
@@ -96,7 +96,7 @@ void KORVA_Canvas::deleteSelection()
 {
     if (!isFloating())
         return;
-    m_picture->takeSnapshot(withPiece());
+    drawing().takeSnapshot(withPiece());
     m_pasteLabel->hide();
     clearSelection();
     markModified();
@@ -125,7 +125,7 @@ void KORVA_Canvas::paste(int x, int y)
     if (piece.width() == 0)
         return;
     saveOldPix();
-    m_picture->lay(piece, QPoint(x, y));
+    drawing().lay(piece, QPoint(x, y));
     markModified();
     updateZoomed();
 }

@@ -14,7 +14,7 @@
 void KORVA_Canvas::saveOldPix()
 {
     m_isPieceAlone = false;
-    m_picture->takeSnapshot();
+    drawing().takeSnapshot();
 }
 
 void KORVA_Canvas::record()
@@ -57,7 +57,7 @@ void KORVA_Canvas::step(void (KORVA_Picture::*direction)())
     if (m_tool && m_tool->getTextKey())
         return;
     const QSize before = pictureSize();
-    (m_picture.get()->*direction)();
+    (drawing().*direction)();
     if (hasHistory())
         m_picture->markModified();
     if (pictureSize() == before) {
@@ -105,8 +105,8 @@ std::function<void()> KORVA_Canvas::keepFlags()
     if (canBringBack()) // which what begins now makes impossible
         offers.redo = m_undoFlag == 2;
     return [this, wasModified = isModified(), flag = m_undoFlag, offers,
-            key = m_picture->pixmap()->cacheKey()] {
-        const bool isUnpainted = m_picture->pixmap()->cacheKey() == key;
+            key = drawing().pixmap()->cacheKey()] {
+        const bool isUnpainted = drawing().pixmap()->cacheKey() == key;
         if (isUnpainted && !wasModified)
             m_picture->clearModified();
         if (hasHistory()) {
@@ -143,7 +143,7 @@ void KORVA_Canvas::setUndoSteps(int steps, qint64 mostBytes)
     m_touch->settle();
     const bool hadHistory = hasHistory();
     m_isPieceAlone = false;
-    m_picture->setUndoSteps(steps, mostBytes);
+    drawing().setUndoSteps(steps, mostBytes);
     if (hadHistory || hasHistory())
         offer();
 }
@@ -156,12 +156,12 @@ int KORVA_Canvas::undoSteps() const
 void KORVA_Canvas::beginStep()
 {
     m_isPieceAlone = false;
-    m_picture->beginStep();
+    drawing().beginStep();
 }
 
 void KORVA_Canvas::endStep()
 {
-    m_picture->endStep();
+    drawing().endStep();
 }
 
 void KORVA_Canvas::offer()
@@ -169,10 +169,10 @@ void KORVA_Canvas::offer()
     m_isOfferDue = false;
     if (m_tool && m_tool->pendingSteps())
         return offerPending();
-    const bool isBackPossible = m_picture->canUndo();
-    m_undoFlag = isBackPossible ? 1 : m_picture->canRedo() ? 2 : 0;
+    const bool isBackPossible = drawing().canUndo();
+    m_undoFlag = isBackPossible ? 1 : drawing().canRedo() ? 2 : 0;
     emit canUndo(isBackPossible);
-    emit canRedo(m_picture->canRedo() || canBringBack());
+    emit canRedo(drawing().canRedo() || canBringBack());
 }
 
 // A change is announced before its first pixel; whether there is one is known only afterwards.
@@ -187,9 +187,9 @@ void KORVA_Canvas::reset(QSize size)
     m_pasteLabel->hide();
     m_pasteLabel->setImage(QPixmap());
     m_origin = Pasted;
-    m_picture->reset(size);
+    drawing().reset(size);
     clearSelection();
-    emit pixmapChanged(m_picture->pixmap());
+    emit pixmapChanged(drawing().pixmap());
     showAnew();
     setUndoFlag(0);
 }

@@ -14,6 +14,11 @@ QPen KORVA_DrawingTool::screenPen() const
     return pen;
 }
 
+int KORVA_DrawingTool::screenPenWidth() const
+{
+    return zoom().penWidth((m_button == Qt::LeftButton ? leftPen() : rightPen()).width());
+}
+
 QBrush KORVA_DrawingTool::brush() const
 {
     return m_button == Qt::LeftButton ? leftBrush() : rightBrush();
@@ -32,8 +37,9 @@ bool KORVA_DrawingTool::beginChange()
     return canvas();
 }
 
-QPixmap* KORVA_DrawingTool::picture() const
+bool KORVA_DrawingTool::mergePiece() const
 {
-    QPixmap* const merged = canvas() ? canvas()->pixmap() : nullptr;
-    return canvas() ? merged : nullptr;
+    if (canvas())
+        canvas()->mergePastePixmap();
+    return canvas();
 }

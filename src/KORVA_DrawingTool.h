@@ -22,6 +22,8 @@ protected:
     /// The same pen with its width times the zoom, truncated; a width of 0 is the thin line. Only for an
     /// active tool.
     [[nodiscard]] QPen screenPen() const;
+    /// The width of that, at least 0.
+    [[nodiscard]] int screenPenWidth() const;
     /// The left brush for the left button, the right one for any other.
     [[nodiscard]] QBrush brush() const;
 
@@ -32,10 +34,12 @@ protected:
     /// Takes the undo snapshot and marks the picture modified. An active tool calls this before the first
     /// pixel of a gesture. False when a slot that heard of the change has deactivated the tool.
     [[nodiscard]] bool beginChange();
-    /// Merges a floating piece and returns the picture to paint on. Null when the tool has no canvas, or
-    /// lost it because a slot that heard of the merge deactivated the tool. Paint on both pictures after
+    /// Merges a floating piece. False when the tool has no canvas, or lost it because a slot that heard of
+    /// the merge deactivated the tool.
+    [[nodiscard]] bool mergePiece() const;
+    /// The same, and returns the picture to paint on; null instead of false. Paint on both pictures after
     /// this call; no signal is emitted in between.
-    [[nodiscard]] QPixmap* picture() const;
+    [[nodiscard]] QPixmap* picture() const { return mergedPicture(); }
 
 private:
     Qt::MouseButton m_button = Qt::NoButton;

@@ -351,7 +351,7 @@ bool KORVA_EditCanvas::save(const QString& name, const char* format)
     if (!features().saving)
         return false;
     const bool isSaved = picturesave::replace(
-        name, [&] { return picturesave::encoded(canvas()->pixmap()->toImage(), format); });
+        name, [&] { return picturesave::encoded(canvas()->mergedPicture()->toImage(), format); });
     if (isSaved)
         m_documents->noteSaved(name);
     return isSaved;

@@ -31,6 +31,12 @@ void KORVA_Ellipse::drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QP
     drawAbove(largestNotRemoved, painter, from, to);
 }
 
+bool KORVA_Ellipse::vanishes(QPoint from, QPoint to) const
+{
+    const QPoint span = to - from;
+    return qAbs(span.x() * span.y()) != largestNotDrawn;
+}
+
 QPoint KORVA_Ellipse::commitPoint(QPoint, QPoint release) const
 {
     return release;

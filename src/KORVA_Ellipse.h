@@ -17,5 +17,6 @@ public:
 protected:
     void drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const override;
     void drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const override;
+    [[nodiscard]] bool vanishes(QPoint from, QPoint to) const override;
     [[nodiscard]] QPoint commitPoint(QPoint lastMove, QPoint release) const override;
 };

@@ -52,7 +52,7 @@ void KORVA_Magnifier::follow(QPointF at)
 void KORVA_Magnifier::paintEvent(QPaintEvent*)
 {
     constexpr int seen = side / factor;
-    const QPixmap& shown = *m_canvas.zoomedPixmap();
+    const QPixmap& shown = m_canvas.zoomed();
     const QPoint corner = m_at - QPoint(seen / 2, seen / 2);
     const QRect spot = QRect(corner, QSize(seen, seen)) & shown.rect();
     QPainter painter(this);

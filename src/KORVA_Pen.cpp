@@ -7,7 +7,24 @@
 
 #include <QMouseEvent>
 
+namespace {
+
+constexpr int mostWaiting = 64; // points of a stroke that nobody sees
+
+QRect around(QPoint from, QPoint to)
+{
+    return QRect(from, QSize(1, 1)) | QRect(to, QSize(1, 1));
+}
+
+} // namespace
+
 KORVA_Pen::KORVA_Pen(const QString& name) : KORVA_DrawingTool(name) {}
+
+KORVA_Pen::~KORVA_Pen()
+{
+    if (canvas())
+        canvas()->paintNow();
+}
 
 void KORVA_Pen::activating()
 {
@@ -34,41 +51,72 @@ void KORVA_Pen::mouseMoveEvent(QMouseEvent* event)
 
 void KORVA_Pen::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (isActive() && event->button() == button())
-        m_drawing = false;
+    if (!isActive() || event->button() != button())
+        return;
+    m_drawing = false;
+    if (canvas())
+        canvas()->paintNow();
 }
 
 void KORVA_Pen::drawTo(QPoint to)
 {
-    QPixmap* const paper = picture();
-    if (!paper)
+    if (!mergePiece())
         return;
-    drawSegment(paper, InPicture, to);
-    if (showsPixels()) {
-        const QRect way = zoom().toPictureAround(QRect(m_last, QSize(1, 1)) | QRect(to, QSize(1, 1)));
-        const int side = picturePen().width();
-        canvas()->showPicture(way.adjusted(-side, -side, side, side));
-    } else {
-        canvas()->refresh(drawSegment(canvas()->zoomedPixmap(), OnScreen, to));
-    }
+    if (m_way.isEmpty())
+        m_way.append(m_last);
+    m_way.append(to);
+    const QRect way = around(m_last, to);
     m_last = to;
+    if (showsPixels()) {
+        canvas()->showLater(canvas()->shownAround(inPicture(way)));
+    } else {
+        const int side = qMax(1, screenPenWidth());
+        canvas()->showLater(way.adjusted(-side, -side, side, side));
+    }
+    if (m_way.size() >= mostWaiting)
+        canvas()->paintNow();
 }
 
-QRect KORVA_Pen::drawSegment(QPixmap* target, Where where, QPoint to) const
+QRect KORVA_Pen::inPicture(const QRect& way) const
+{
+    const int side = picturePen().width();
+    return zoom().toPictureAround(way).adjusted(-side, -side, side, side);
+}
+
+void KORVA_Pen::paintWaiting(QPixmap* picture, QPixmap* shown)
+{
+    drawWay(picture, InPicture);
+    if (showsPixels()) {
+        QRegion way;
+        for (qsizetype i = 1; i < m_way.size(); ++i)
+            way += inPicture(around(m_way[i - 1], m_way[i]));
+        canvas()->paintShown(way);
+    } else {
+        drawWay(shown, OnScreen);
+    }
+    m_way.clear();
+}
+
+void KORVA_Pen::drawWay(QPixmap* target, Where where) const
 {
     const bool isPicture = where == InPicture;
     const QPen pen = isPicture ? picturePen() : screenPen();
+    const bool isRound = canvas()->manners().roundPencil && pen.width() > 1;
+    const auto at = [&](QPoint p) { return isPicture ? zoom().toPicture(p) : p; };
     KORVA_ClassicPainter painter(target);
-    if (canvas()->manners().roundPencil && pen.width() > 1) {
-        const auto at = [&](QPoint p) { return isPicture ? zoom().toPicture(p) : p; };
-        for (const QRect& run : roundbrush::swept(at(m_last), at(to), pen.width()))
-            painter.fillRect(run, pen.color());
-    } else {
-        painter.setPen(pen);
-        painter.setWorldMatrix(isPicture ? zoom().toPictureMatrix() : QTransform());
-        painter.drawLine(m_last.x(), m_last.y(), to.x(), to.y());
+    painter.setPen(pen);
+    if (isPicture && !isRound)
+        painter.setWorldMatrix(zoom().toPictureMatrix());
+    for (qsizetype i = 1; i < m_way.size(); ++i) {
+        const QPoint from = m_way[i - 1];
+        const QPoint to = m_way[i];
+        if (isRound) {
+            for (const QRect& run : roundbrush::swept(at(from), at(to), pen.width()))
+                painter.fillRect(run, pen.color());
+        } else {
+            painter.drawLine(from.x(), from.y(), to.x(), to.y());
+        }
     }
-    return painter.touched();
 }
 
 std::function<void()> KORVA_Pen::keepState()

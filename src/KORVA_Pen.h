@@ -2,6 +2,7 @@
 
 #include "KORVA_DrawingTool.h"
 
+#include <QList>
 #include <QPoint>
 #include <QRect>
 
@@ -14,18 +15,22 @@ class KORVA_EXPORT KORVA_Pen : public KORVA_DrawingTool
 public:
     /// `name` is KORVA_Tool::name().
     explicit KORVA_Pen(const QString& name);
+    ~KORVA_Pen() override;
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void activating() override;
     [[nodiscard]] std::function<void()> keepState() override;
+    void paintWaiting(QPixmap* picture, QPixmap* shown) override;
 
 private:
     void drawTo(QPoint to);
     enum Where { InPicture, OnScreen };
-    QRect drawSegment(QPixmap* target, Where where, QPoint to) const;
+    void drawWay(QPixmap* target, Where where) const;
+    [[nodiscard]] QRect inPicture(const QRect& way) const;
 
-    QPoint m_last; ///< the last point drawn, in widget coordinates
+    QPoint m_last;       ///< the last point drawn, in widget coordinates
+    QList<QPoint> m_way; ///< the points of the segments not yet painted, in widget coordinates
     bool m_drawing = false;
 };

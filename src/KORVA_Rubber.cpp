@@ -57,7 +57,7 @@ void KORVA_Rubber::mouseReleaseEvent(QMouseEvent* event)
 
 void KORVA_Rubber::erase(QPoint inPicture, QPoint onScreen)
 {
-    if (!picture())
+    if (!mergePiece())
         return;
     const int side = screenPen().width();
     const QSize square(side, side);
@@ -80,7 +80,7 @@ QPoint KORVA_Rubber::under(const QMouseEvent& event) const
 
 void KORVA_Rubber::eraseWay(QPoint to)
 {
-    if (!m_joined || !picture())
+    if (!m_joined || !mergePiece())
         return;
     const int side = qMax(1, picturePen().width());
     const QPoint way = to - *m_joined;

@@ -178,7 +178,7 @@ void KORVA_Text::paintBuffer()
         return;
     }
     canvas()->saveOldPix();
-    QPixmap* const picture = canvas()->pixmap();
+    QPixmap* const picture = mergedPicture();
     if (!canvas()) // a slot that hears of a merge may leave the tool, which commits
         return;
     const QScopedValueRollback isCommitting(m_isCommitting, true);

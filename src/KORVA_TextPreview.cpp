@@ -76,7 +76,7 @@ void KORVA_Text::showText(const QString& text)
         return;
     }
     {
-        KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
+        KORVA_ClassicPainter painter(shownPicture(), KORVA_ClassicPainter::NotROP);
         drawText(painter, before.start, before.margin, before.lines);
         drawText(painter, m_start, m_margin, lines);
     }
@@ -133,7 +133,7 @@ void KORVA_Text::toggleCursor()
         const QRect beam = cursorRect();
         QPen pen = leftPen();
         pen.setWidth(1);
-        KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
+        KORVA_ClassicPainter painter(shownPicture(), KORVA_ClassicPainter::NotROP);
         painter.setPen(pen);
         painter.drawLine(beam.left(), beam.top(), beam.right(), beam.top());
         painter.drawLine(beam.left(), beam.bottom(), beam.right(), beam.bottom());

@@ -39,6 +39,47 @@ void KORVA_Tool::deactivate()
     m_active = false;
 }
 
+void KORVA_Tool::paintNow()
+{
+    if (m_canvas)
+        m_canvas->paintNow();
+}
+
+QPixmap* KORVA_Tool::mergedPicture() const
+{
+    QPixmap* const merged = m_canvas ? m_canvas->mergedPicture() : nullptr;
+    return m_canvas ? merged : nullptr;
+}
+
+QPixmap* KORVA_Tool::shownPicture() const
+{
+    return m_canvas->shownPicture();
+}
+
+void KORVA_Tool::setLeftPen(const QPen& pen)
+{
+    paintNow();
+    m_leftPen = pen;
+}
+
+void KORVA_Tool::setLeftBrush(const QBrush& brush)
+{
+    paintNow();
+    m_leftBrush = brush;
+}
+
+void KORVA_Tool::setRightPen(const QPen& pen)
+{
+    paintNow();
+    m_rightPen = pen;
+}
+
+void KORVA_Tool::setRightBrush(const QBrush& brush)
+{
+    paintNow();
+    m_rightBrush = brush;
+}
+
 void KORVA_Tool::mousePressEvent(QMouseEvent*) {}
 void KORVA_Tool::mouseReleaseEvent(QMouseEvent*) {}
 void KORVA_Tool::mouseDoubleClickEvent(QMouseEvent*) {}
@@ -78,6 +119,7 @@ bool KORVA_Tool::canBringBack() const
 
 void KORVA_Tool::bringBack() {}
 
+void KORVA_Tool::paintWaiting(QPixmap*, QPixmap*) {}
 void KORVA_Tool::paintPending(QPixmap*) const {}
 
 void KORVA_Tool::inputMethodEvent(QInputMethodEvent* event)

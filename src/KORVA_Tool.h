@@ -62,13 +62,13 @@ public:
 
     /// Sets the pen of the left button, with its width in picture pixels. It is used from now on; nothing
     /// is painted again.
-    void setLeftPen(const QPen& pen) { m_leftPen = pen; }
+    void setLeftPen(const QPen& pen);
     /// Sets the brush of the left button.
-    void setLeftBrush(const QBrush& brush) { m_leftBrush = brush; }
+    void setLeftBrush(const QBrush& brush);
     /// Sets the pen of every other button.
-    void setRightPen(const QPen& pen) { m_rightPen = pen; }
+    void setRightPen(const QPen& pen);
     /// Sets the brush of every other button.
-    void setRightBrush(const QBrush& brush) { m_rightBrush = brush; }
+    void setRightBrush(const QBrush& brush);
     /// See setLeftPen().
     [[nodiscard]] QPen leftPen() const { return m_leftPen; }
     /// See setLeftBrush().
@@ -110,6 +110,10 @@ public:
     [[nodiscard]] virtual QVariant inputMethodQuery(Qt::InputMethodQuery query) const;
     /// The zoomed picture was painted anew, so feedback that the tool had painted into it is gone.
     virtual void zoomedRebuilt();
+    /// Paints what a move has put off with KORVA_Canvas::showLater(), into the canvas's two pictures. It
+    /// comes before anybody sees either, and before pens, zoom, manners or tools change: as if it had been
+    /// painted at once. The base class has put off nothing.
+    virtual void paintWaiting(QPixmap* picture, QPixmap* shown);
     /// For KORVA_Canvas::snapshot(): paints what the tool has not yet committed into a copy of the picture,
     /// as committing would. The base class does nothing.
     virtual void paintPending(QPixmap* picture) const;
@@ -142,10 +146,17 @@ signals:
 protected:
     /// Sets what getTextKey() returns.
     void setTextKey(bool on) { m_textKey = on; }
+    /// KORVA_Canvas::pixmap() for a tool: not to be kept, since a later event may put off its painting.
+    /// Null if there is no canvas, or none any more because a slot that heard of a merge has left the tool.
+    [[nodiscard]] QPixmap* mergedPicture() const;
+    /// KORVA_Canvas::zoomedPixmap() in the same way. Only while there is a canvas.
+    [[nodiscard]] QPixmap* shownPicture() const;
     /// The canvas's zoom. Only while there is a canvas.
     [[nodiscard]] KORVA_Zoom zoom() const;
 
 private:
+    void paintNow();
+
     int m_id = -1;
     bool m_active = false;
     bool m_textKey = false;

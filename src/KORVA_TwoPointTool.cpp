@@ -44,17 +44,12 @@ void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
     m_isEven = isEven(*event);
     if (to == m_end)
         return;
-    QRect touched;
-    {
-        KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
-        painter.setPen(m_shownPen);
-        drawLeftShape(painter, m_start, m_end);
-        drawShape(painter, m_start, to);
-        touched = painter.touched();
-    }
-    m_end = to;
-    m_previewed |= touched;
-    canvas()->refresh(touched);
+    if (m_leaving && !vanishes(m_start, m_end))
+        canvas()->paintNow();
+    const QPoint left = std::exchange(m_end, to);
+    m_leaving = m_leaving.value_or(left);
+    m_previewed |= reach(to);
+    canvas()->showLater(reach(left) | reach(to));
     canvas()->setDragged(shapeSize(zoom().toPicture(m_start), inPicture(to, m_isEven)));
 }
 
@@ -76,7 +71,7 @@ void KORVA_TwoPointTool::mouseReleaseEvent(QMouseEvent* event)
     if (canvas()->manners().truePixels) // previews may have left something
         canvas()->showPicture(painted | zoom().toPictureAround(m_previewed));
     if (!showsPixels())
-        paintShape(canvas()->zoomedPixmap(), screenPen(), m_start, to);
+        paintShape(shownPicture(), screenPen(), m_start, to);
     canvas()->refresh();
     canvas()->setDragged({});
 }
@@ -125,11 +120,31 @@ void KORVA_TwoPointTool::drawLeftShape(KORVA_ClassicPainter& painter, QPoint fro
     drawShape(painter, from, to);
 }
 
+bool KORVA_TwoPointTool::vanishes(QPoint, QPoint) const
+{
+    return true;
+}
+
+QRect KORVA_TwoPointTool::reach(QPoint to) const
+{
+    const int side = m_shownPen.width() + 2;
+    return classic::normalized(QRect(m_start, to)).adjusted(-side, -side, side, side);
+}
+
+void KORVA_TwoPointTool::paintWaiting(QPixmap*, QPixmap* shown)
+{
+    const QPoint left = *std::exchange(m_leaving, std::nullopt);
+    KORVA_ClassicPainter painter(shown, KORVA_ClassicPainter::NotROP);
+    painter.setPen(m_shownPen);
+    drawLeftShape(painter, m_start, left);
+    drawShape(painter, m_start, m_end);
+}
+
 // The first move removes a shape of size 0 that the press has not drawn, so every preview shows that shape
 // as well.
 void KORVA_TwoPointTool::togglePreview()
 {
-    KORVA_ClassicPainter painter(canvas()->zoomedPixmap(), KORVA_ClassicPainter::NotROP);
+    KORVA_ClassicPainter painter(shownPicture(), KORVA_ClassicPainter::NotROP);
     painter.setPen(m_shownPen);
     drawShape(painter, m_start, m_end);
     drawShape(painter, m_start, m_start);

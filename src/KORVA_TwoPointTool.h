@@ -6,6 +6,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <optional>
+
 class KORVA_ClassicPainter;
 
 /// The base of tools that draw a shape between the press and a second point. While the stylus is down, the
@@ -28,6 +30,7 @@ public:
     void mouseMoveEvent(QMouseEvent* event) override;
     void zoomedRebuilt() override;
     [[nodiscard]] std::function<void()> keepState() override;
+    void paintWaiting(QPixmap* picture, QPixmap* shown) override;
 
 protected:
     using KORVA_DrawingTool::KORVA_DrawingTool;
@@ -37,6 +40,9 @@ protected:
     virtual void drawShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const = 0;
     /// Removes the preview that a move leaves behind. The base class calls drawShape().
     virtual void drawLeftShape(KORVA_ClassicPainter& painter, QPoint from, QPoint to) const;
+    /// Whether drawLeftShape() takes away all that drawShape() shows, and no more: such a shape need not be
+    /// painted if nobody sees it. The base class says so.
+    [[nodiscard]] virtual bool vanishes(QPoint from, QPoint to) const;
     /// The second point of the even shape next to this one, in picture coordinates. The base class makes a
     /// square.
     [[nodiscard]] virtual QPoint evenPoint(QPoint from, QPoint to) const;
@@ -48,9 +54,10 @@ protected:
 private:
     enum State {
         Idle,     ///< nothing is shown; a press begins a drag
-        Dragging, ///< the shape from m_start to m_end is on screen, inverted
+        Dragging, ///< the shape from m_start to m_end is on screen, inverted, or waits to be
     };
 
+    [[nodiscard]] QRect reach(QPoint to) const;
     [[nodiscard]] bool isEven(const QMouseEvent& event) const;
     [[nodiscard]] QPoint pointOf(const QMouseEvent& event) const;
     [[nodiscard]] QPoint inPicture(QPoint to, bool isEven) const;
@@ -58,9 +65,10 @@ private:
     QRect paintShape(QPixmap* target, const QPen& pen, QPoint from, QPoint to);
 
     State m_state = Idle;
-    QPoint m_start;        ///< widget coordinates
-    QPoint m_end;          ///< the last move, widget coordinates
-    bool m_isEven = false; ///< that move was with Shift
-    QRect m_previewed;     ///< what previews have touched, widget coordinates
-    QPen m_shownPen;       ///< the preview's pen: the tool's may change before the preview is removed
+    QPoint m_start;                  ///< widget coordinates
+    QPoint m_end;                    ///< the last move, widget coordinates
+    std::optional<QPoint> m_leaving; ///< while it waits: the end of the shape on screen
+    bool m_isEven = false;           ///< that move was with Shift
+    QRect m_previewed;               ///< where previews have been, widget coordinates
+    QPen m_shownPen; ///< the preview's pen: the tool's may change before the preview is removed
 };

@@ -25,8 +25,8 @@ public:
     void setFont(const QFont& font);
     void setRasterOp(RasterOp op);
     void setWorldMatrix(const QTransform& matrix);
-    /// Lets drawPixmap() change nothing outside this rectangle, in the coordinates in force.
-    void setClip(const QRect& clip) { m_painter.setClipRect(clip); }
+    /// Lets drawPixmap() change nothing outside this region, in the coordinates in force.
+    void setClip(const QRegion& clip) { m_painter.setClipRegion(clip); }
 
     /// Paints a square of the pen's width around the pixel, or a disc if the pen's cap is round.
     void drawPoint(int x, int y);
