@@ -104,8 +104,12 @@ private:
         QString verb;
     };
 
-    /// Writes a file.
-    using Save = std::function<std::optional<WriteError>()>;
+    /// The facts of a file that was written.
+    struct Written
+    {
+        Version version;
+        bool isDrawings = false; ///< it is the drawing's own file
+    };
 
     /// Whether the file is not all of the drawing.
     [[nodiscard]] bool hasChanges() const;
@@ -114,13 +118,17 @@ private:
     /// Lets the person name a file, beside the drawing's own if possible; empty if none was named.
     [[nodiscard]] QString askName(const QString& proposal, const QStringList& patterns);
     /// Lets `save` write the file. A new one beside the drawing's own is no more public than that one.
-    /// Tells what goes wrong.
-    [[nodiscard]] std::optional<WriteError> write(const QString& fileName, const Save& save);
+    /// Tells what goes wrong; the result is nothing then, or when the person has cancelled.
+    [[nodiscard]] std::optional<Written> write(const QString& fileName, const DiskWork& save);
+    /// Asks the disk, which may take its time, in another thread. Nothing when the person will not wait.
+    template <typename Question>
+    [[nodiscard]] auto answerOfDisk(const Question& question) -> std::optional<decltype(question())>;
     /// Lets the person pick a picture file; empty if none was picked.
     [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
     [[nodiscard]] bool takeIn(const QString& fileName);
     void openFile(const QString& fileName);
-    [[nodiscard]] QString whatReplacingLoses() const;
+    /// Nothing when the person will not wait for the answer.
+    [[nodiscard]] std::optional<QString> whatReplacingLoses();
     bool askAndSave(const QString& loss);
     bool saveUnder(const QString& fileName);
     [[nodiscard]] int askCanvasType();

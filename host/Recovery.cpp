@@ -1,6 +1,7 @@
 #include "Recovery.h"
 
 #include "Documents.h"
+#include "DrawingFile.h"
 #include "EarlierDialog.h"
 #include "Folders.h"
 #include "Platform.h"
@@ -81,9 +82,11 @@ void Recovery::tellFailure(const QString& reason)
         QTimer::singleShot(later, this, [this, reason] { tellFailure(reason); });
         return;
     }
-    m_platform.timedInformation(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"),
-                                tr("No copy of the drawing can be kept: %1", "recovery").arg(reason),
-                                tr("OK", "recovery"), 10);
+    const WriteError error = WriteError::of(reason, m_journal.folder() + QLatin1String("/drawing.png"));
+    m_platform.timedInformation(
+        m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"),
+        tr("No copy of the drawing can be kept: %1", "recovery").arg(error.sentence()),
+        tr("OK", "recovery"), 10);
 }
 
 } // namespace pad
