@@ -66,8 +66,9 @@ public:
     /// Asks about changes, and saves them if the answer is yes. False when the drawing must stay. Otherwise
     /// call keep() right before it goes.
     [[nodiscard]] bool mayReplace(const QString& question);
-    /// Puts a copy of a drawing with changes where it can be found again. See KORVA_Journal::keep().
-    void keep(const KORVA_Journal::Entry& spared = {});
+    /// Puts a copy of a drawing with changes where it can be found again. See KORVA_Journal::keep(). False
+    /// when the person does not want to wait until it is written.
+    bool keep(const KORVA_Journal::Entry& spared = {});
     /// The same for a drawing that goes for good: asks if no copy can be kept. False when the drawing must
     /// stay.
     [[nodiscard]] bool mayGo();
@@ -86,6 +87,8 @@ signals:
     void performed(const pad::Command& command);
     /// The drawing became another one, or the file behind it changed.
     void changed();
+    /// No copy could be kept of a drawing that was given up; `reason` is the system's.
+    void notKept(const QString& reason);
 
 private:
     /// The state of the drawing's file when file and drawing were last the same.
@@ -125,7 +128,14 @@ private:
     [[nodiscard]] auto answerOfDisk(const Question& question) -> std::optional<decltype(question())>;
     /// Lets the person pick a picture file; empty if none was picked.
     [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
-    [[nodiscard]] bool takeIn(const QString& fileName);
+    /// Opens a picture. What writes a copy of the drawing that it replaced, to be called once the new one
+    /// is settled; null if that needs none. Nothing when the picture was not opened.
+    [[nodiscard]] std::optional<KORVA_Journal::Keeper> takeIn(const QString& fileName);
+    /// Writes a copy while the person waits. The reason if it could not be written, empty if it was;
+    /// nothing when the person did not wait.
+    [[nodiscard]] std::optional<QString> written(const KORVA_Journal::Keeper& copy);
+    /// The same, and tells when it could not. False when the person did not wait.
+    bool keepCopy(const KORVA_Journal::Keeper& copy);
     void openFile(const QString& fileName);
     /// Nothing when the person will not wait for the answer.
     [[nodiscard]] std::optional<QString> whatReplacingLoses();

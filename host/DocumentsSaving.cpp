@@ -234,7 +234,7 @@ void Documents::deletePicture()
     if (wasThere)
         keep();
     else if (m_journal) // the drawing is all that is left of the picture
-        m_journal->keep();
+        keepCopy(m_journal->keeper());
     if (KORVA_Text* text = m_editor.currentText())
         text->resetBuffer();
     m_editor.clearCanvas();

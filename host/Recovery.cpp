@@ -23,6 +23,7 @@ Recovery::Recovery(KORVA_EditCanvas& editor, Documents& documents, Platform& pla
 {
     documents.setJournal(&m_journal);
     connect(&m_journal, &KORVA_Journal::failed, this, &Recovery::tellFailure, Qt::QueuedConnection);
+    connect(&documents, &Documents::notKept, this, &Recovery::tellFailure, Qt::QueuedConnection);
     connect(new TerminationSignal(this), &TerminationSignal::received, this, [this] {
         m_isEnding = true;
         m_journal.flush();
@@ -65,8 +66,8 @@ void Recovery::showEarlier()
             tr("Save changes to drawing before bringing another one back?", "recovery")))
         return;
     const KORVA_Journal::Entry chosen = dialog.chosen();
-    m_documents.keep(chosen);
-    bringBack(chosen);
+    if (m_documents.keep(chosen))
+        bringBack(chosen);
 }
 
 void Recovery::bringBack(const KORVA_Journal::Entry& entry)

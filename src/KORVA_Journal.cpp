@@ -239,16 +239,22 @@ void KORVA_Journal::shelve()
 
 bool KORVA_Journal::keep(const Entry& spared)
 {
-    if (!m_folder->make()) {
-        finishWrite(KORVA_JournalFolder::systemError(), 0);
-        return false;
-    }
-    const QString error = KORVA_JournalFolder::store(editor()->snapshot(), m_folder->newEarlierFile(),
-                                                     pictureName(), KORVA_JournalFolder::Small);
-    m_folder->prune(mostEarlier, spared.file);
+    const QString error = keeper(spared)();
     if (!error.isEmpty())
         finishWrite(error, 0);
     return error.isEmpty();
+}
+
+KORVA_Journal::Keeper KORVA_Journal::keeper(const Entry& spared) const
+{
+    return [folder = *m_folder, picture = editor()->snapshot(), file = m_folder->newEarlierFile(),
+            name = pictureName(), spared = spared.file] {
+        if (!folder.make())
+            return KORVA_JournalFolder::systemError();
+        const QString error = KORVA_JournalFolder::store(picture, file, name, KORVA_JournalFolder::Small);
+        folder.prune(mostEarlier, spared);
+        return error;
+    };
 }
 
 bool KORVA_Journal::bringBack(const Entry& entry)
@@ -272,8 +278,10 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     m_proposal = entry.pictureName;
     if (isAdopted)
         m_written = classic::hash(editor()->snapshot());
-    else
+    else if (KORVA_PictureFile::isSmall(entry.size))
         flush();
+    else
+        write(); // which takes long, and the entry is still there
     return true;
 }
 

@@ -90,6 +90,11 @@ public:
     /// stays, however old it is: the entry that is to be brought back next. False when the copy could not
     /// be written.
     bool keep(const Entry& spared = {});
+    /// Writes a copy of a drawing; returns the system's reason if it cannot, else nothing.
+    using Keeper = std::function<QString()>;
+    /// What does the work of keep() for the drawing as it is now, in any thread: a host can let its user
+    /// wait, because a large drawing takes long to be written. It emits nothing.
+    [[nodiscard]] Keeper keeper(const Entry& spared = {}) const;
     /// Writes an unsaved drawing at once and waits until it is on the disk. For a program that is told to
     /// end. False when that failed.
     bool flush();

@@ -133,6 +133,20 @@ public:
     };
     [[nodiscard]] Seen saveWatched()
     {
+        return watched([this] { (void)m_documents->save(); });
+    }
+    /// Clears it, when a copy of it is kept in the folder.
+    [[nodiscard]] Seen clearWatched()
+    {
+        KORVA_Journal journal(&m_editor, folder());
+        m_documents->setJournal(&journal);
+        const Seen seen = watched([this] { m_documents->clear(); });
+        m_documents->setJournal(nullptr);
+        journal.settle();
+        return seen;
+    }
+    [[nodiscard]] Seen watched(const std::function<void()>& work)
+    {
         m_platform.obey(nullptr);
         Seen seen;
         QElapsedTimer since;
@@ -154,7 +168,7 @@ public:
         timer.start(10);
         since.start();
         turn.start();
-        (void)m_documents->save();
+        work();
         m_platform.obey(&m_script);
         return seen;
     }

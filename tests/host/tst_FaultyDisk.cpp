@@ -73,6 +73,7 @@ private slots:
     void nothingIsLost();
     void theWindowAsksNoDisk();
     void whatTakesItsTimeIsShown();
+    void aCopyIsWaitedFor();
 
 private:
     /// The calls of one more save.
@@ -172,6 +173,28 @@ void tst_FaultyDisk::whatTakesItsTimeIsShown()
     }
     fixtures::rewrite("slow disk", table);
     QCOMPARE(fixtures::told("slow disk"), table);
+}
+
+/// What is given up is kept among the earlier drawings first.
+void tst_FaultyDisk::aCopyIsWaitedFor()
+{
+    fixtures::PadScene scene;
+    Faults faults(scene.folder());
+    scene.change();
+    const QImage drawn = scene.drawing();
+    faults.stall({QFileInfo(QCoreApplication::applicationFilePath()).fileName(), "fsync", {}, {}, 1, false},
+                 stall);
+    const fixtures::PadScene::Seen seen = scene.clearWatched();
+    const QList<Call> calls = faults.taken();
+    QVERIFY2(seen.sign >= 0 && seen.sign < shown, qPrintable(QString::number(seen.sign)));
+    QVERIFY2(seen.pause < shown, qPrintable(QString::number(seen.pause)));
+    QVERIFY(!support::sameImage(scene.drawing(), drawn));
+    const QStringList kept = QDir(scene.folder()).entryList({"earlier-*.png"});
+    QCOMPARE(kept.size(), 1);
+    const QImage copy(scene.folder() + '/' + kept[0]);
+    QVERIFY(support::sameImage(copy.convertToFormat(QImage::Format_RGB32), drawn));
+    for (const Call& call : calls)
+        QVERIFY2(call.name != "write" || !call.isFirst, qPrintable(call.path));
 }
 
 int main(int argc, char** argv)
