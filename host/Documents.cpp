@@ -12,6 +12,8 @@
 
 #include <QFileInfo>
 
+#include <memory>
+
 namespace pad {
 
 namespace {
@@ -69,16 +71,38 @@ void Documents::beginDocument()
     emit changed();
 }
 
-void Documents::keep(const KORVA_Journal::Entry& spared)
+std::optional<QString> Documents::written(const KORVA_Journal::Keeper& copy)
 {
-    if (m_journal && m_editor.hasChanges())
-        m_journal->keep(spared);
+    const auto reason = std::make_shared<QString>();
+    const DiskWork work = [copy, reason](const MayReplace&) {
+        *reason = copy();
+        return std::optional<WriteError>();
+    };
+    if (workWhileWaiting(work, {}, m_window, m_platform))
+        return {};
+    return *reason;
+}
+
+bool Documents::keepCopy(const KORVA_Journal::Keeper& copy)
+{
+    const std::optional<QString> reason = copy ? written(copy) : QString();
+    if (reason && !reason->isEmpty())
+        emit notKept(*reason);
+    return reason.has_value();
+}
+
+bool Documents::keep(const KORVA_Journal::Entry& spared)
+{
+    return !m_journal || !m_editor.hasChanges() || keepCopy(m_journal->keeper(spared));
 }
 
 bool Documents::mayGo()
 {
-    if (!m_journal || !m_editor.hasChanges() || m_journal->keep())
+    if (!m_journal || !m_editor.hasChanges())
         return true;
+    const std::optional<QString> reason = written(m_journal->keeper());
+    if (!reason || reason->isEmpty())
+        return reason.has_value();
     constexpr int yes = 1; // the first button is the default, and loses nothing
     return m_platform.question(m_window, QLatin1String(warningIcon),
                                tr("No copy of the drawing can be kept. Give it up?", "changes"),
@@ -150,10 +174,12 @@ void Documents::newFromPicture()
     if (!mayReplace(tr("Save changes to drawing before creating?", "changes")))
         return;
     const QString name = pick(Purpose{tr("New from picture", "pick dialog"), tr("OK", "saving")});
-    if (name.isEmpty() || !takeIn(name))
+    const auto before = name.isEmpty() ? std::nullopt : takeIn(name);
+    if (!before)
         return;
     drawOnOpened(m_editor);
     begin(Command{.verb = Verb::Paper, .text = name});
+    keepCopy(*before);
 }
 
 void Documents::open()
@@ -194,30 +220,37 @@ void Documents::openNamed(const QString& fileName)
 
 void Documents::openFile(const QString& fileName)
 {
-    if (!takeIn(fileName))
+    const auto before = takeIn(fileName);
+    if (!before)
         return;
     changePaper(m_editor, {});
     begin(Command{.verb = Verb::Open, .text = fileName});
+    keepCopy(*before);
 }
 
-/// Opens a picture, and keeps a copy of the drawing that it replaces.
-bool Documents::takeIn(const QString& fileName)
+std::optional<KORVA_Journal::Keeper> Documents::takeIn(const QString& fileName)
 {
+    KORVA_Journal::Keeper copy;
     const QString before = m_editor.fileName();
     // The editor emits this right before it takes another picture in, and only then.
     const QMetaObject::Connection taking = connect(
-        &m_editor, &KORVA_EditCanvas::canUndo, this, [this] { keep(); }, Qt::SingleShotConnection);
+        &m_editor, &KORVA_EditCanvas::canUndo, this,
+        [&] {
+            if (m_journal && m_editor.hasChanges())
+                copy = m_journal->keeper();
+        },
+        Qt::SingleShotConnection);
     const bool isOpened = m_editor.openNewFilePrivate(OpenPicture, fileName);
     disconnect(taking);
     if (!isOpened) { // the editor has told why, and may have taken the new name
         if (m_editor.fileName() != before)
             m_editor.setFileName(before);
         emit changed();
-        return false;
+        return {};
     }
     if (KORVA_Text* text = m_editor.currentText())
         text->resetBuffer();
-    return true;
+    return copy;
 }
 
 void Documents::stamp()

@@ -66,8 +66,9 @@ public:
     /// Asks about changes, and saves them if the answer is yes. False when the drawing must stay. Otherwise
     /// call keep() right before it goes.
     [[nodiscard]] bool mayReplace(const QString& question);
-    /// Puts a copy of a drawing with changes where it can be found again. See KORVA_Journal::keep().
-    void keep(const KORVA_Journal::Entry& spared = {});
+    /// Puts a copy of a drawing with changes where it can be found again. See KORVA_Journal::keep(). False
+    /// when the person does not want to wait until it is written.
+    bool keep(const KORVA_Journal::Entry& spared = {});
     /// The same for a drawing that goes for good: asks if no copy can be kept. False when the drawing must
     /// stay.
     [[nodiscard]] bool mayGo();
@@ -86,6 +87,8 @@ signals:
     void performed(const pad::Command& command);
     /// The drawing became another one, or the file behind it changed.
     void changed();
+    /// No copy could be kept of a drawing that was given up; `reason` is the system's.
+    void notKept(const QString& reason);
 
 private:
     /// The state of the drawing's file when file and drawing were last the same.
@@ -104,8 +107,12 @@ private:
         QString verb;
     };
 
-    /// Writes a file.
-    using Save = std::function<std::optional<WriteError>()>;
+    /// The facts of a file that was written.
+    struct Written
+    {
+        Version version;
+        bool isDrawings = false; ///< it is the drawing's own file
+    };
 
     /// Whether the file is not all of the drawing.
     [[nodiscard]] bool hasChanges() const;
@@ -114,13 +121,24 @@ private:
     /// Lets the person name a file, beside the drawing's own if possible; empty if none was named.
     [[nodiscard]] QString askName(const QString& proposal, const QStringList& patterns);
     /// Lets `save` write the file. A new one beside the drawing's own is no more public than that one.
-    /// Tells what goes wrong.
-    [[nodiscard]] std::optional<WriteError> write(const QString& fileName, const Save& save);
+    /// Tells what goes wrong; the result is nothing then, or when the person has cancelled.
+    [[nodiscard]] std::optional<Written> write(const QString& fileName, const DiskWork& save);
+    /// Asks the disk, which may take its time, in another thread. Nothing when the person will not wait.
+    template <typename Question>
+    [[nodiscard]] auto answerOfDisk(const Question& question) -> std::optional<decltype(question())>;
     /// Lets the person pick a picture file; empty if none was picked.
     [[nodiscard]] QString pick(const std::optional<Purpose>& purpose = {});
-    [[nodiscard]] bool takeIn(const QString& fileName);
+    /// Opens a picture. What writes a copy of the drawing that it replaced, to be called once the new one
+    /// is settled; null if that needs none. Nothing when the picture was not opened.
+    [[nodiscard]] std::optional<KORVA_Journal::Keeper> takeIn(const QString& fileName);
+    /// Writes a copy while the person waits. The reason if it could not be written, empty if it was;
+    /// nothing when the person did not wait.
+    [[nodiscard]] std::optional<QString> written(const KORVA_Journal::Keeper& copy);
+    /// The same, and tells when it could not. False when the person did not wait.
+    bool keepCopy(const KORVA_Journal::Keeper& copy);
     void openFile(const QString& fileName);
-    [[nodiscard]] QString whatReplacingLoses() const;
+    /// Nothing when the person will not wait for the answer.
+    [[nodiscard]] std::optional<QString> whatReplacingLoses();
     bool askAndSave(const QString& loss);
     bool saveUnder(const QString& fileName);
     [[nodiscard]] int askCanvasType();

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <memory>
 
 // The drawing's file: written, replaced and deleted.
 
@@ -38,7 +39,20 @@ void Documents::tell(const QString& text, const QString& button)
     m_platform.timedInformation(m_window, QLatin1String(errorIcon), text, button, longTime);
 }
 
-QString Documents::whatReplacingLoses() const
+template <typename Question>
+auto Documents::answerOfDisk(const Question& question) -> std::optional<decltype(question())>
+{
+    const auto answer = std::make_shared<decltype(question())>();
+    const DiskWork ask = [question, answer](const MayReplace&) {
+        *answer = question();
+        return std::optional<WriteError>();
+    };
+    if (workWhileWaiting(ask, {}, m_window, m_platform))
+        return {};
+    return *answer;
+}
+
+std::optional<QString> Documents::whatReplacingLoses()
 {
     const QString path = m_editor.fileName();
     const QString name = wording::shortName(path);
@@ -49,7 +63,7 @@ QString Documents::whatReplacingLoses() const
                   "saving; %1: 'GIF', %2: '300 × 200'")
             .arg(QFileInfo(path).suffix().toUpper(), wording::inPixels(size));
     if (m_mayReplace)
-        return {};
+        return QString();
     if (m_editor.isReduced() && source != size)
         return tr("%1 has %2 pixels and the drawing %3: replacing it would lose the rest.",
                   "saving; %1: a file, %2 and %3: '300 × 200'")
@@ -58,10 +72,12 @@ QString Documents::whatReplacingLoses() const
         return tr("%1 has more colors than the drawing of %2 pixels: replacing it would lose them.",
                   "saving; %1: a file, %2: '300 × 200'")
             .arg(name, wording::inPixels(size));
-    const Version now = Version::of(path);
-    if (now != Version() && now != m_version)
+    const auto now = answerOfDisk([path] { return Version::of(path); });
+    if (!now)
+        return {};
+    if (*now != Version() && *now != m_version)
         return tr("%1 was changed since it was opened: replacing it would lose that.", "saving").arg(name);
-    return {};
+    return QString();
 }
 
 bool Documents::save()
@@ -70,8 +86,10 @@ bool Documents::save()
         return saveAs();
     if (!hasChanges())
         return true;
-    const QString loss = whatReplacingLoses();
-    return loss.isEmpty() ? saveUnder(m_editor.fileName()) : askAndSave(loss);
+    const std::optional<QString> loss = whatReplacingLoses();
+    if (!loss)
+        return false;
+    return loss->isEmpty() ? saveUnder(m_editor.fileName()) : askAndSave(*loss);
 }
 
 bool Documents::askAndSave(const QString& loss)
@@ -84,8 +102,18 @@ bool Documents::askAndSave(const QString& loss)
     if (answer == int(buttons.size()) - 1)
         return false;
     if (answer == 0) {
-        const QString name = freeNameBeside(m_editor.fileName());
-        return QFileInfo(QFileInfo(name).path()).isWritable() ? saveUnder(name) : saveAs();
+        struct Free
+        {
+            QString name;
+            bool isWritable = false;
+        };
+        const auto free = answerOfDisk([beside = m_editor.fileName()] {
+            const QString name = freeNameBeside(beside);
+            return Free{name, QFileInfo(QFileInfo(name).path()).isWritable()};
+        });
+        if (!free)
+            return false;
+        return free->isWritable ? saveUnder(free->name) : saveAs();
     }
     if (!saveUnder(m_editor.fileName()))
         return false;
@@ -111,21 +139,33 @@ QString Documents::askName(const QString& proposal, const QStringList& patterns)
     return run(dialog);
 }
 
-std::optional<WriteError> Documents::write(const QString& fileName, const Save& save)
+std::optional<Documents::Written> Documents::write(const QString& fileName, const DiskWork& save)
 {
-    const bool isBeside = !QFileInfo::exists(fileName) &&
-                          QFileInfo(fileName).absolutePath() == QFileInfo(name()).absolutePath();
-    const auto error = save();
-    if (error && error->code != ECANCELED)
+    const auto written = std::make_shared<Written>();
+    const DiskWork work = [save, fileName, written, own = m_editor.fileName(),
+                           model = name()](const MayReplace& mayReplace) {
+        const bool isBeside = !QFileInfo::exists(fileName) &&
+                              QFileInfo(fileName).absolutePath() == QFileInfo(model).absolutePath();
+        const std::optional<WriteError> error = save(mayReplace);
+        if (error)
+            return error;
+        if (isBeside && QFileInfo::exists(model)) // no more public than the old file
+            QFile::setPermissions(fileName, QFile::permissions(model));
+        *written = {Version::of(fileName), !own.isEmpty() && QFileInfo(fileName) == QFileInfo(own)};
+        return error;
+    };
+    const std::optional<WriteError> error = workWhileWaiting(work, fileName, m_window, m_platform);
+    if (!error)
+        return *written;
+    if (error->code != ECANCELED)
         tell(tr("Not saved: %1", "saving").arg(error->sentence()), tr("OK", "saving"));
-    if (!error && isBeside && QFileInfo::exists(name())) // no more public than the old file
-        QFile::setPermissions(fileName, QFile::permissions(name()));
-    return error;
+    return {};
 }
 
 bool Documents::saveUnder(const QString& fileName)
 {
-    if (write(fileName, [&] { return saveDrawing(m_editor, fileName, m_window, m_platform, m_write); }))
+    const auto written = write(fileName, savingDrawing(m_editor, fileName, m_write));
+    if (!written)
         return false;
     if (fileName != m_editor.fileName())
         m_mayReplace = false;
@@ -133,7 +173,7 @@ bool Documents::saveUnder(const QString& fileName)
     m_editor.clearModified();
     settle();
     m_proposal.clear();
-    m_version = Version::of(fileName);
+    m_version = written->version;
     m_isLess = false;
     emit changed();
     m_platform.timedMessage(m_window, QLatin1String(completeIcon),
@@ -148,17 +188,19 @@ bool Documents::saveCopy(const Encoder& encode, const QStringList& patterns)
     const QString extension = patterns.constFirst().mid(1);
     const QString fileName =
         askName(name().isEmpty() ? QString() : drawing.completeBaseName() + extension, patterns);
-    const auto save = [&] { return saveEncoded(encode, fileName, m_window, m_platform, m_write); };
-    if (fileName.isEmpty() || write(fileName, save))
+    if (fileName.isEmpty())
         return false;
-    if (!m_editor.fileName().isEmpty() && QFileInfo(fileName) == QFileInfo(m_editor.fileName())) {
+    const auto written = write(fileName, savingEncoded(encode, fileName, m_write));
+    if (!written)
+        return false;
+    if (written->isDrawings) {
         m_isLess = true;
-        m_version = Version::of(fileName);
+        m_version = written->version;
     }
     m_platform.timedMessage(
         m_window, QLatin1String(completeIcon),
         tr("%1 was saved: %2", "saving; %1: a file, %2: '29.6 kB'")
-            .arg(wording::shortName(fileName), wording::fileSize(QFileInfo(fileName).size())),
+            .arg(wording::shortName(fileName), wording::fileSize(written->version.size)),
         readingTime);
     return true;
 }
@@ -182,15 +224,17 @@ void Documents::deletePicture()
                 tr("Delete", "deleting")) != yes)
             return;
         QFile file(path);
+        errno = 0;
         if (!file.remove()) {
-            tell(tr("Not deleted: %1", "deleting").arg(file.errorString()), tr("OK", "deleting"));
+            const WriteError error{errno, file.errorString(), path};
+            tell(tr("Not deleted: %1", "deleting").arg(error.sentence()), tr("OK", "deleting"));
             return;
         }
     }
     if (wasThere)
         keep();
     else if (m_journal) // the drawing is all that is left of the picture
-        m_journal->keep();
+        keepCopy(m_journal->keeper());
     if (KORVA_Text* text = m_editor.currentText())
         text->resetBuffer();
     m_editor.clearCanvas();

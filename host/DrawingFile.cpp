@@ -6,11 +6,14 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 #include <QPromise>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QThreadPool>
+#include <QWidget>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstring>
@@ -40,6 +43,7 @@ constexpr Reason reasons[] = {
     {EACCES, QT_TRANSLATE_NOOP3("pad::DrawingFile", "No permission to write in %1.", "saving")},
     {EPERM, QT_TRANSLATE_NOOP3("pad::DrawingFile", "No permission to write in %1.", "saving")},
     {EROFS, QT_TRANSLATE_NOOP3("pad::DrawingFile", "%1 is on a disk that can only be read.", "saving")},
+    {EIO, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The disk reports an error.", "saving")},
     {ENOENT, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The folder %1 is not there.", "saving")},
     {ENOTDIR, QT_TRANSLATE_NOOP3("pad::DrawingFile", "The folder %1 is not there.", "saving")},
     {EISDIR, QT_TRANSLATE_NOOP3("pad::DrawingFile", "There is a folder of this name.", "saving")},
@@ -50,18 +54,24 @@ constexpr Reason reasons[] = {
 /// counts even for a user who may write anything.
 int protectionOf(const QString& name)
 {
-    constexpr auto anyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    const QFileInfo file(name);
-    if (!file.exists())
-        return 0;
-    if (access(QFile::encodeName(name).constData(), W_OK) != 0)
+    constexpr mode_t anyWrite = 0222;
+    const QByteArray path = QFile::encodeName(name);
+    struct stat status = {};
+    if (stat(path.constData(), &status) != 0)
+        return errno == ENOENT ? 0 : errno;
+    if (access(path.constData(), W_OK) != 0)
         return errno;
-    return file.permissions() & anyWrite ? 0 : EACCES;
+    return status.st_mode & anyWrite ? 0 : EACCES;
+}
+
+QString systemsWords(int code)
+{
+    return QString::fromLocal8Bit(std::strerror(code));
 }
 
 WriteError systemError(int code, const QString& fileName)
 {
-    return {code, QString::fromLocal8Bit(std::strerror(code)), fileName};
+    return {code, systemsWords(code), fileName};
 }
 
 /// Also when a signal comes in between.
@@ -98,9 +108,11 @@ bool takesMode(int handle, mode_t mode)
     return isSame;
 }
 
+/// Qt has words of its own for some errors, in English.
 WriteError errorOf(const QSaveFile& file, const QString& fileName)
 {
-    return {file.error() == QFile::PermissionsError ? EACCES : errno, file.errorString(), fileName};
+    const int code = file.error() == QFile::PermissionsError ? EACCES : errno;
+    return {code, code != 0 ? systemsWords(code) : file.errorString(), fileName};
 }
 
 } // namespace
@@ -116,6 +128,14 @@ QString WriteError::sentence() const
         return text.contains(QLatin1String("%1")) ? text.arg(folder) : text;
     }
     return detail;
+}
+
+WriteError WriteError::of(const QString& words, const QString& fileName)
+{
+    const auto* const found = std::find_if(std::begin(reasons), std::end(reasons), [&](const Reason& each) {
+        return systemsWords(each.code) == words;
+    });
+    return {found == std::end(reasons) ? 0 : found->code, words, fileName};
 }
 
 QString WriteError::line() const
@@ -197,25 +217,6 @@ struct Saving
     QPromise<void> promise;
 };
 
-/// Works in another thread while the person waits.
-std::optional<WriteError>
-saveWhileWaiting(const std::function<std::optional<WriteError>(const MayReplace& mayReplace)>& save,
-                 const QString& fileName, QWidget* window, UTIL_Platform& platform)
-{
-    const auto saving = std::make_shared<Saving>();
-    saving->promise.start();
-    QFuture<void> work = saving->promise.future();
-    QThreadPool::globalInstance()->start([saving, save] {
-        saving->error = save([&saving] { return saving->decide(); });
-        saving->promise.finish();
-    });
-    const QString text = QCoreApplication::translate("pad::DrawingFile", "Saving drawing", "saving");
-    if (!platform.waitFor(window, text, work) && saving->decide())
-        return systemError(ECANCELED, fileName);
-    work.waitForFinished(); // a cancel that came too late: only the last step is left
-    return saving->error;
-}
-
 } // namespace
 
 std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName)
@@ -223,23 +224,40 @@ std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QStr
     return Draft(editor, fileName).write(writeFile, {});
 }
 
-std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
-                                      QWidget* window, UTIL_Platform& platform, const Writer& write)
+DiskWork savingDrawing(const KORVA_EditCanvas& editor, const QString& fileName, const Writer& write)
 {
-    const auto save = [draft = Draft(editor, fileName), write](const MayReplace& mayReplace) {
+    return [draft = Draft(editor, fileName), write](const MayReplace& mayReplace) {
         return draft.write(write, mayReplace);
     };
-    return saveWhileWaiting(save, fileName, window, platform);
 }
 
-std::optional<WriteError> saveEncoded(const Encoder& encode, const QString& fileName, QWidget* window,
-                                      UTIL_Platform& platform, const Writer& write)
+DiskWork savingEncoded(const Encoder& encode, const QString& fileName, const Writer& write)
 {
-    const auto save = [encode, fileName, write](const MayReplace& mayReplace) {
+    return [encode, fileName, write](const MayReplace& mayReplace) {
         const QByteArray bytes = encode(fileName);
         return bytes.isEmpty() ? systemError(ENOMEM, fileName) : write(bytes, fileName, mayReplace);
     };
-    return saveWhileWaiting(save, fileName, window, platform);
+}
+
+std::optional<WriteError> workWhileWaiting(const DiskWork& work, const QString& fileName, QWidget* window,
+                                           UTIL_Platform& platform)
+{
+    const auto saving = std::make_shared<Saving>();
+    saving->promise.start();
+    QFuture<void> done = saving->promise.future();
+    QThreadPool::globalInstance()->start([saving, work] {
+        saving->error = work([&saving] { return saving->decide(); });
+        saving->promise.finish();
+    });
+    const QString text = QCoreApplication::translate("pad::DrawingFile", "Saving drawing", "saving");
+    const QPointer<QWidget> parent = window;
+    // A cancel that comes too late changes nothing: the last step may take its time, too.
+    while (!platform.waitFor(parent, text, done) && parent) {
+        if (saving->decide())
+            return systemError(ECANCELED, fileName);
+    }
+    done.waitForFinished();
+    return saving->error;
 }
 
 std::optional<WriteError> writeFile(const QByteArray& bytes, const QString& fileName,

@@ -23,6 +23,9 @@ struct WriteError
     [[nodiscard]] QString sentence() const;
     /// One line for the person at the keyboard: "cannot write 'a.png': ..."
     [[nodiscard]] QString line() const;
+
+    /// The error for which the system has these words.
+    [[nodiscard]] static WriteError of(const QString& words, const QString& fileName);
 };
 
 /// One line for the person at the keyboard: "cannot open 'a.png': ..."
@@ -50,17 +53,23 @@ using Writer = std::function<std::optional<WriteError>(const QByteArray& bytes, 
 /// Writes the editor's snapshot in the format of the name's extension, or PNG if it names none.
 [[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor,
                                                     const QString& fileName);
+
 /// Makes the bytes of a file of this name, in any thread. Empty if there is no memory.
 using Encoder = std::function<QByteArray(const QString& fileName)>;
 
-/// The same in another thread while the person waits. It can be cancelled (ECANCELED) until the new file
-/// takes the old one's place.
-[[nodiscard]] std::optional<WriteError> saveDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
-                                                    QWidget* window, UTIL_Platform& platform,
-                                                    const Writer& write);
-/// The same for something else than the drawing.
-[[nodiscard]] std::optional<WriteError> saveEncoded(const Encoder& encode, const QString& fileName,
-                                                    QWidget* window, UTIL_Platform& platform,
-                                                    const Writer& write);
+/// Work on a disk, which may take its time; in any thread.
+using DiskWork = std::function<std::optional<WriteError>(const MayReplace& mayReplace)>;
+
+/// Will write what saveDrawing() would write now.
+[[nodiscard]] DiskWork savingDrawing(const KORVA_EditCanvas& editor, const QString& fileName,
+                                     const Writer& write);
+/// Will write something else than the drawing.
+[[nodiscard]] DiskWork savingEncoded(const Encoder& encode, const QString& fileName, const Writer& write);
+
+/// Does the work in another thread while the person waits, who can cancel it (ECANCELED) until the new file
+/// takes the old one's place. After a cancel the work goes on by itself as far as that, so it owns all that
+/// it uses.
+[[nodiscard]] std::optional<WriteError> workWhileWaiting(const DiskWork& work, const QString& fileName,
+                                                         QWidget* window, UTIL_Platform& platform);
 
 } // namespace pad

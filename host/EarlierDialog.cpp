@@ -12,8 +12,12 @@
 #include <QListWidget>
 #include <QLocale>
 #include <QPainter>
+#include <QPromise>
 #include <QStyledItemDelegate>
+#include <QThreadPool>
 #include <QVBoxLayout>
+
+#include <memory>
 
 namespace pad {
 
@@ -22,6 +26,41 @@ namespace {
 using Size = UTIL_Skin::Size;
 
 constexpr QSize thumbnailSize(Size::thumbnailWidth, Size::thumbnailHeight);
+constexpr int thumbnailScale = 3; // sharp at every scale
+constexpr QSize paperSize(Size::thumbnailWidth* thumbnailScale, Size::thumbnailHeight* thumbnailScale);
+
+/// Stands for a drawing that is being read.
+QImage dots()
+{
+    constexpr int across = 8 * thumbnailScale;
+    QImage image(paperSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(UTIL_Skin::color(UTIL_Skin::Color::Border));
+    for (const int step : {-2, 0, 2})
+        painter.drawEllipse(QPointF(image.rect().center()) + QPointF(step * across, 0), across / 2,
+                            across / 2);
+    return image;
+}
+
+/// In a frame, in the middle of the place for it; empty for a picture that is gone.
+QPixmap paper(const QImage& small)
+{
+    QPixmap paper(paperSize);
+    paper.fill(Qt::transparent);
+    if (!small.isNull()) {
+        QRect place(QPoint(), small.size());
+        place.moveCenter(paper.rect().center());
+        QPainter painter(&paper);
+        painter.drawImage(place, small);
+        painter.setPen(QPen(UTIL_Skin::color(UTIL_Skin::Color::Border), thumbnailScale));
+        painter.drawRect(place.adjusted(1, 1, -2, -2));
+    }
+    paper.setDevicePixelRatio(thumbnailScale);
+    return paper;
+}
 
 /// A smaller one for a text that has no room otherwise: a date is long in some languages.
 QFont fontFor(const QString& text, const QFont& font, int width)
@@ -107,10 +146,9 @@ EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>&
     for (const KORVA_Journal::Entry& entry : m_entries) {
         const QString name = QFileInfo(entry.pictureName).fileName();
         const QString size = wording::inPixels(entry.size);
-        auto* row =
-            new QListWidgetItem(timeText(entry.time) + '\n' + (name.isEmpty() ? size : name), m_list);
-        row->setData(Qt::DecorationRole, thumbnail(entry));
+        new QListWidgetItem(timeText(entry.time) + '\n' + (name.isEmpty() ? size : name), m_list);
     }
+    read();
     m_list->setCurrentRow(0);
     m_list->setVisible(!m_entries.isEmpty());
     empty->setVisible(m_entries.isEmpty());
@@ -134,6 +172,11 @@ EarlierDialog::EarlierDialog(QWidget* parent, const QList<KORVA_Journal::Entry>&
     m_list->setFocus();
 }
 
+EarlierDialog::~EarlierDialog()
+{
+    m_reading.cancel();
+}
+
 KORVA_Journal::Entry EarlierDialog::chosen() const
 {
     return m_entries.value(m_list->currentRow());
@@ -153,23 +196,43 @@ QString EarlierDialog::timeText(const QDateTime& time)
         .arg(locale.toString(time.date(), QLocale::ShortFormat), clock);
 }
 
-QPixmap EarlierDialog::thumbnail(const KORVA_Journal::Entry& entry)
+/// Small drawings at once, the others in another thread.
+void EarlierDialog::read()
 {
-    const qreal ratio = 3; // sharp at every scale
-    QPixmap paper(thumbnailSize * ratio);
-    paper.fill(Qt::transparent);
-    const QImage picture = KORVA_Journal::picture(entry);
-    if (!picture.isNull()) {
-        const QImage small = picture.scaled(paper.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        QRect place(QPoint(), small.size());
-        place.moveCenter(paper.rect().center());
-        QPainter painter(&paper);
-        painter.drawImage(place, small);
-        painter.setPen(QPen(UTIL_Skin::color(UTIL_Skin::Color::Border), ratio));
-        painter.drawRect(place.adjusted(1, 1, -2, -2));
+    constexpr qint64 smallPicture = 1'000'000;
+    struct Job
+    {
+        int row;
+        KORVA_Journal::Thumbnailer make;
+    };
+    QList<Job> jobs;
+    for (int row = 0; row < int(m_entries.size()); ++row) {
+        const QSize size = m_entries[row].size;
+        const Job job{row, KORVA_Journal::thumbnailer(m_entries[row], paperSize)};
+        const bool isSmall = qint64(size.width()) * size.height() <= smallPicture;
+        m_list->item(row)->setData(Qt::DecorationRole, paper(isSmall ? job.make({}) : dots()));
+        if (!isSmall)
+            jobs.append(job);
     }
-    paper.setDevicePixelRatio(ratio);
-    return paper;
+    if (jobs.isEmpty())
+        return;
+    connect(&m_reading, &QFutureWatcher<Small>::resultReadyAt, this,
+            [this](int index) { show(m_reading.resultAt(index)); });
+    const auto promise = std::make_shared<QPromise<Small>>();
+    promise->start();
+    m_reading.setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, jobs] {
+        for (const Job& job : jobs) {
+            if (!promise->isCanceled())
+                promise->addResult(Small{job.row, job.make([&promise] { return promise->isCanceled(); })});
+        }
+        promise->finish();
+    });
+}
+
+void EarlierDialog::show(const Small& small)
+{
+    m_list->item(small.row)->setData(Qt::DecorationRole, paper(small.picture));
 }
 
 } // namespace pad

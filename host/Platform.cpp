@@ -101,10 +101,14 @@ void Platform::timedMessage(QWidget* parent, const QString& icon, const QString&
 
 bool Platform::waitFor(QWidget* parent, const QString& text, const QFuture<void>& work)
 {
-    if (!m_script)
-        return UTIL_Platform::waitFor(parent, text, work);
-    QFuture<void>(work).waitForFinished();
-    return true;
+    if (m_script && !m_script->isWatched) {
+        QFuture<void>(work).waitForFinished();
+        return true;
+    }
+    const bool isDone = UTIL_Platform::waitFor(parent, text, work);
+    if (m_script)
+        m_script->isCancelled = !isDone;
+    return isDone;
 }
 
 bool Platform::removePicture(const QString& name)

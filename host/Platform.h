@@ -19,6 +19,8 @@ struct Script
     QString fileName;          ///< returned by the next folder dialogs; empty rejects them
     QString told;              ///< the text of the last timed box; none is shown
     QString stopped;           ///< what could not be answered; after that every question gets "no"
+    bool isWatched = false;    ///< a person is there, sees what takes long, and can cancel it
+    bool isCancelled = false;  ///< the person did so
 };
 
 /// The pad's services for the editor: the desktop's, or answers of a script.

@@ -1,6 +1,7 @@
 #include "Recovery.h"
 
 #include "Documents.h"
+#include "DrawingFile.h"
 #include "EarlierDialog.h"
 #include "Folders.h"
 #include "Platform.h"
@@ -22,6 +23,7 @@ Recovery::Recovery(KORVA_EditCanvas& editor, Documents& documents, Platform& pla
 {
     documents.setJournal(&m_journal);
     connect(&m_journal, &KORVA_Journal::failed, this, &Recovery::tellFailure, Qt::QueuedConnection);
+    connect(&documents, &Documents::notKept, this, &Recovery::tellFailure, Qt::QueuedConnection);
     connect(new TerminationSignal(this), &TerminationSignal::received, this, [this] {
         m_isEnding = true;
         m_journal.flush();
@@ -64,8 +66,8 @@ void Recovery::showEarlier()
             tr("Save changes to drawing before bringing another one back?", "recovery")))
         return;
     const KORVA_Journal::Entry chosen = dialog.chosen();
-    m_documents.keep(chosen);
-    bringBack(chosen);
+    if (m_documents.keep(chosen))
+        bringBack(chosen);
 }
 
 void Recovery::bringBack(const KORVA_Journal::Entry& entry)
@@ -81,9 +83,11 @@ void Recovery::tellFailure(const QString& reason)
         QTimer::singleShot(later, this, [this, reason] { tellFailure(reason); });
         return;
     }
-    m_platform.timedInformation(m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"),
-                                tr("No copy of the drawing can be kept: %1", "recovery").arg(reason),
-                                tr("OK", "recovery"), 10);
+    const WriteError error = WriteError::of(reason, m_journal.folder() + QLatin1String("/drawing.png"));
+    m_platform.timedInformation(
+        m_window, QStringLiteral("Dialog_Exclamatory_Mark.gif"),
+        tr("No copy of the drawing can be kept: %1", "recovery").arg(error.sentence()),
+        tr("OK", "recovery"), 10);
 }
 
 } // namespace pad

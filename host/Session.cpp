@@ -102,6 +102,7 @@ void Session::startDrawing()
 std::optional<Failure> Session::openPicture()
 {
     Script script; // before there is a window, nobody can tap a box away
+    script.isWatched = m_place.has_value();
     m_platform.obey(&script);
     // An absolute path, so that the file is found from any folder.
     const QString picture =
@@ -110,6 +111,10 @@ std::optional<Failure> Session::openPicture()
     m_platform.obey(nullptr);
     if (m_line.picture.isEmpty() || !m_window->editor().fileName().isEmpty())
         return {};
+    if (script.isCancelled) { // a new drawing, then
+        m_line.picture.clear();
+        return {};
+    }
     QFile file(m_line.picture);
     const QString reason = file.open(QIODevice::ReadOnly) ? script.told : file.errorString();
     return Failure{openError(m_line.picture, reason)};

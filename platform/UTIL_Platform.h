@@ -52,7 +52,7 @@ public:
     virtual void timedMessage(QWidget* parent, const QString& icon, const QString& text, int timeout);
     /// Lets the user wait for work in another thread, or cancel it. True when the work is done, false when
     /// the user cancelled it; then `work` has been cancelled, too. The desktop shows nothing and handles no
-    /// event for the first 300 ms, then it shows a box.
+    /// event for the first 100 ms, then it shows a box.
     virtual bool waitFor(QWidget* parent, const QString& text, const QFuture<void>& work);
     /// How many milliseconds a second of a time-out lasts in the desktop's boxes: 1000. 0 or less closes
     /// them at once.

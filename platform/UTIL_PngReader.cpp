@@ -10,6 +10,7 @@ namespace {
 
 constexpr int palettedDepth = 8;
 constexpr int deepDepth = 16;
+constexpr QRgb white = 0xffffffff;
 constexpr bool isLittle = QSysInfo::ByteOrder == QSysInfo::LittleEndian;
 
 void readBytes(png_structp png, png_bytep data, size_t count)
@@ -31,6 +32,10 @@ void layOnWhite(QRgb* row, int width)
         const int alpha = qAlpha(*pixel);
         if (alpha == 255)
             continue;
+        if (alpha == 0) {
+            *pixel = white;
+            continue;
+        }
         const auto mix = [alpha](int channel) {
             return (channel * alpha + 255 * (255 - alpha) + 127) / 255;
         };
@@ -75,16 +80,20 @@ Header headerOf(const UTIL_PngSession& session)
     return header;
 }
 
-/// Eight bits a channel in the order of QRgb.
-void askForQRgb(png_structp png, bool hasAlpha)
+/// Eight bits a channel in the order of QRgb, but with red and blue exchanged where that saves time.
+void askForSwappedQRgb(png_structp png, bool hasAlpha)
 {
     if (!hasAlpha)
         png_set_add_alpha(png, 0xff, isLittle ? PNG_FILLER_AFTER : PNG_FILLER_BEFORE);
-    if (isLittle) {
-        png_set_bgr(png);
-    } else if (hasAlpha) {
+    else if (!isLittle)
         png_set_swap_alpha(png);
-    }
+}
+
+void askForQRgb(png_structp png, bool hasAlpha)
+{
+    askForSwappedQRgb(png, hasAlpha);
+    if (isLittle)
+        png_set_bgr(png);
 }
 
 /// How libpng puts a picture's samples into a QImage.
@@ -158,6 +167,8 @@ public:
     bool begin(const LayOut& layOut)
     {
         if (!m_session.attempt([this] {
+                png_set_option(m_session.png(), PNG_IGNORE_ADLER32,
+                               PNG_OPTION_ON); // each chunk has its own
                 png_set_read_fn(m_session.png(), &m_source, readBytes);
                 png_read_info(m_session.png(), m_session.info());
             }))
@@ -233,7 +244,7 @@ QImage png::readReduced(UTIL_PictureSource& source, QSize target)
             png_set_expand(png);
             png_set_scale_16(png);
             png_set_gray_to_rgb(png);
-            askForQRgb(png, (header.colorType & PNG_COLOR_MASK_ALPHA) || header.isClear);
+            askForSwappedQRgb(png, (header.colorType & PNG_COLOR_MASK_ALPHA) || header.isClear);
         }))
         return {};
     const QSize size = reader.size();
@@ -256,5 +267,7 @@ QImage png::readReduced(UTIL_PictureSource& source, QSize target)
         layOnWhite(pixels, size.width());
         reducer.addRow(pixels);
     }
-    return reader.end() ? reducer.image() : QImage();
+    if (!reader.end())
+        return {};
+    return isLittle ? reducer.image().rgbSwapped() : reducer.image();
 }

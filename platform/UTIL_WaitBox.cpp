@@ -16,7 +16,7 @@ namespace {
 
 using Size = UTIL_Skin::Size;
 
-constexpr int patience = 300; ///< milliseconds for which nobody needs an explanation
+constexpr int patience = 100; ///< milliseconds for which nobody needs an explanation
 constexpr int pause = 1;
 constexpr int beat = 40;
 constexpr int beatsAcross = 30;

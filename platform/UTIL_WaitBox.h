@@ -12,7 +12,7 @@ class UTIL_WaitBox : public UTIL_Dialog
 
 public:
     /// Returns true when the work is done, or false when the user has cancelled it; then the future `work`
-    /// has been cancelled, too. Deleting the parent meanwhile also cancels. For the first 300 ms nothing is
+    /// has been cancelled, too. Deleting the parent meanwhile also cancels. For the first 100 ms nothing is
     /// shown and no event is handled.
     [[nodiscard]] static bool run(QWidget* parent, const QString& text, QFuture<void> work);
 

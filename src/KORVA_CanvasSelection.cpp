@@ -1,6 +1,7 @@
 #include "KORVA_Canvas.h"
 
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Clipboard.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Picture.h"
 #include "KORVA_ScrollView.h"
@@ -105,6 +106,10 @@ void KORVA_Canvas::deleteSelection()
 
 void KORVA_Canvas::paste()
 {
+    const QPointer<KORVA_Canvas> self = this;
+    const std::optional<QPixmap> piece = KORVA_Clipboard::picture(*this);
+    if (!self || !piece)
+        return;
     const BeforePiece before = isFloating() ? nullptr : keptDrawing();
     saveOldPix();
     if (isFloating()) {
@@ -112,20 +117,20 @@ void KORVA_Canvas::paste()
         markModified();
         updateZoomed();
     }
-    const QPixmap piece = QGuiApplication::clipboard()->pixmap();
-    if (piece.width() != 0)
-        floatPasted(piece, before ? before : keptDrawing());
-    if (isFloating() && !m_clearCopy.isNull() && m_clearCopy == plain(piece))
+    if (piece->width() != 0)
+        floatPasted(*piece, before ? before : keptDrawing());
+    if (isFloating() && !m_clearCopy.isNull() && m_clearCopy == plain(*piece))
         m_pasteLabel->setWhiteClear(true);
 }
 
 void KORVA_Canvas::paste(int x, int y)
 {
-    const QPixmap piece = QGuiApplication::clipboard()->pixmap();
-    if (piece.width() == 0)
+    const QPointer<KORVA_Canvas> self = this;
+    const std::optional<QPixmap> piece = KORVA_Clipboard::picture(*this);
+    if (!self || !piece || piece->width() == 0)
         return;
     saveOldPix();
-    drawing().lay(piece, QPoint(x, y));
+    drawing().lay(*piece, QPoint(x, y));
     markModified();
     updateZoomed();
 }

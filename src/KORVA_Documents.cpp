@@ -4,6 +4,7 @@
 #include "KORVA_EditCanvas.h"
 #include "KORVA_Formats.h"
 #include "KORVA_MainView.h"
+#include "KORVA_Patience.h"
 #include "KORVA_PictureFile.h"
 #include "KORVA_ScrollView.h"
 #include "KORVA_Text.h"
@@ -11,7 +12,6 @@
 #include "UTIL_Modal.h"
 #include "UTIL_PictureDialog.h"
 #include "UTIL_Platform.h"
-#include "UTIL_Wait.h"
 
 #include <QFile>
 
@@ -50,12 +50,11 @@ auto patiently(KORVA_EditCanvas& editor, const KORVA_PictureFile& file, const Wo
         return work(own);
     own.setAllowance(UTIL_ImageReader::Allowance::ofPlatform());
     const QPointer<KORVA_EditCanvas> asker = &editor;
-    auto result = util::waitFor(&editor, KORVA_EditCanvas::tr("Opening picture", "WAIT_BOX"),
-                                [own, work](const util::IsCancelled& isCancelled) {
-                                    KORVA_PictureFile theirs = own;
-                                    theirs.setIsCancelled(isCancelled);
-                                    return work(theirs);
-                                });
+    auto result = patience::opening(editor, [own, work](const util::IsCancelled& isCancelled) {
+        KORVA_PictureFile theirs = own;
+        theirs.setIsCancelled(isCancelled);
+        return work(theirs);
+    });
     if (!asker)
         return {};
     return result;

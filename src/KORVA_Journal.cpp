@@ -5,6 +5,8 @@
 #include "KORVA_EditCanvas.h"
 #include "KORVA_JournalFolder.h"
 #include "KORVA_PasteLabel.h"
+#include "KORVA_Patience.h"
+#include "KORVA_PictureFile.h"
 #include "KORVA_Text.h"
 #include "UTIL_FileLock.h"
 #include "UTIL_ImageReader.h"
@@ -22,6 +24,29 @@ constexpr int shortestPause = 1000; // milliseconds
 constexpr int stillness = 700;      // milliseconds after the last change: nobody is drawing any more
 constexpr int longestPause = 10000;
 constexpr int pausePerWork = 10; // a large drawing or a slow disk must not keep the program busy
+
+UTIL_ImageReader readerOf(const QString& fileName, const UTIL_ImageReader::Allowance& allowance,
+                          const std::function<bool()>& isCancelled)
+{
+    UTIL_ImageReader reader(fileName, "PNG");
+    reader.setAllowance(allowance);
+    reader.setIsCancelled(isCancelled);
+    return reader;
+}
+
+/// Reads a small picture at once, any other in a thread for which the user waits. Nothing when the user has
+/// cancelled.
+std::optional<QImage> pictureOf(const KORVA_Journal::Entry& entry, KORVA_EditCanvas* editor)
+{
+    if (!editor || !editor->features().dialogs || KORVA_PictureFile::isSmall(entry.size))
+        return KORVA_Journal::picture(entry);
+    return patience::opening(*editor,
+                             [file = entry.file, allowance = UTIL_ImageReader::Allowance::ofPlatform()](
+                                 const util::IsCancelled& isCancelled) {
+                                 UTIL_ImageReader reader = readerOf(file, allowance, isCancelled);
+                                 return reader.read() ? reader.image() : QImage();
+                             });
+}
 
 } // namespace
 
@@ -214,22 +239,32 @@ void KORVA_Journal::shelve()
 
 bool KORVA_Journal::keep(const Entry& spared)
 {
-    if (!m_folder->make()) {
-        finishWrite(KORVA_JournalFolder::systemError(), 0);
-        return false;
-    }
-    const QString error = KORVA_JournalFolder::store(editor()->snapshot(), m_folder->newEarlierFile(),
-                                                     pictureName(), KORVA_JournalFolder::Small);
-    m_folder->prune(mostEarlier, spared.file);
+    const QString error = keeper(spared)();
     if (!error.isEmpty())
         finishWrite(error, 0);
     return error.isEmpty();
 }
 
+KORVA_Journal::Keeper KORVA_Journal::keeper(const Entry& spared) const
+{
+    return [folder = *m_folder, picture = editor()->snapshot(), file = m_folder->newEarlierFile(),
+            name = pictureName(), spared = spared.file] {
+        if (!folder.make())
+            return KORVA_JournalFolder::systemError();
+        const QString error = KORVA_JournalFolder::store(picture, file, name, KORVA_JournalFolder::Small);
+        folder.prune(mostEarlier, spared);
+        return error;
+    };
+}
+
 bool KORVA_Journal::bringBack(const Entry& entry)
 {
-    QPixmap found = QPixmap::fromImage(picture(entry));
-    if (found.isNull() || !editor())
+    const QPointer<KORVA_Journal> self = this;
+    const std::optional<QImage> picture = pictureOf(entry, editor());
+    if (!picture || !self || !editor())
+        return false;
+    QPixmap found = QPixmap::fromImage(*picture);
+    if (found.isNull())
         return false;
     const bool isAdopted = m_state == State::Adopted && entry.file == m_folder->livingFile(m_id);
     if (isAdopted)
@@ -243,8 +278,10 @@ bool KORVA_Journal::bringBack(const Entry& entry)
     m_proposal = entry.pictureName;
     if (isAdopted)
         m_written = classic::hash(editor()->snapshot());
-    else
+    else if (KORVA_PictureFile::isSmall(entry.size))
         flush();
+    else
+        write(); // which takes long, and the entry is still there
     return true;
 }
 
@@ -263,6 +300,7 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
     if (m_state != State::Nothing)
         return {};
     m_folder->removeLeftovers();
+    const QPointer<KORVA_Journal> self = this;
     std::optional<Entry> newest;
     for (const QString& id : m_folder->livingIds()) {
         const QString file = m_folder->livingFile(id);
@@ -271,7 +309,15 @@ std::optional<KORVA_Journal::Entry> KORVA_Journal::adopt()
             continue; // another program is working on it
         if (!QFile::exists(file)) {
             lock->remove(); // another program has just dealt with it
-        } else if (picture(KORVA_JournalFolder::entryOf(file)).isNull()) {
+            continue;
+        }
+        const State before = m_state;
+        const std::optional<QImage> picture = pictureOf(KORVA_JournalFolder::entryOf(file), editor());
+        if (!self || m_state != before)
+            return {}; // a drawing was begun meanwhile
+        if (!picture)
+            break;
+        if (picture->isNull()) {
             m_folder->moveAmongEarlier(id); // damaged, so there is nothing to offer
             lock->remove();
         } else {
@@ -300,6 +346,19 @@ QImage KORVA_Journal::picture(const Entry& entry)
 {
     UTIL_ImageReader reader(entry.file, "PNG");
     return reader.read() ? reader.image() : QImage();
+}
+
+KORVA_Journal::Thumbnailer KORVA_Journal::thumbnailer(const Entry& entry, QSize box)
+{
+    return [file = entry.file, box, allowance = UTIL_ImageReader::Allowance::ofPlatform()](
+               const std::function<bool()>& isCancelled) {
+        UTIL_ImageReader reader = readerOf(file, allowance, isCancelled);
+        reader.setReduction([box](QSize size) {
+            return size.boundedTo(size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+        });
+        return reader.read() ? reader.image().scaled(box, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                             : QImage();
+    };
 }
 
 QString KORVA_Journal::pictureName() const

@@ -14,6 +14,7 @@
 #include <QThreadPool>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -60,7 +61,8 @@ public:
     /// The newest drawing that a program left behind. It belongs to this journal from now on, so that no
     /// other program finds it; older ones are moved to the earlier drawings. Nothing when there is none, or
     /// when the editor's drawing is in the journal already. bringBack(), settle() or shelve() decides what
-    /// becomes of it.
+    /// becomes of it. While a large drawing is read the user waits for it, as for opening a picture; one
+    /// that the user does not wait for is found the next time. The journal may be deleted meanwhile.
     [[nodiscard]] std::optional<Entry> adopt();
     /// Moves the drawing that adopt() returned to the earlier drawings.
     void shelve();
@@ -69,9 +71,15 @@ public:
     [[nodiscard]] QList<Entry> earlier() const;
     /// The picture of an entry; null when it is gone.
     [[nodiscard]] static QImage picture(const Entry& entry);
+    /// Makes a picture that fits a box. Null when the entry's is gone, or once `isCancelled` returns true;
+    /// without that it is not cancelled.
+    using Thumbnailer = std::function<QImage(const std::function<bool()>& isCancelled)>;
+    /// What makes an entry's thumbnail, in any thread. For lists: a large picture takes long to be read.
+    [[nodiscard]] static Thumbnailer thumbnailer(const Entry& entry, QSize box);
     /// Gives the editor the picture of an entry as a new drawing: without a file name, modified, with
     /// nothing to undo. The editor's previous drawing is lost, including open text. If the picture is gone,
-    /// nothing is done, and the result is false.
+    /// nothing is done, and the result is false; so it is when the user does not wait for a large one.
+    /// Journal and editor may be deleted meanwhile.
     bool bringBack(const Entry& entry);
 
     /// Tells the journal that the present drawing is saved, or that nobody wants it: it removes its files.
@@ -82,6 +90,11 @@ public:
     /// stays, however old it is: the entry that is to be brought back next. False when the copy could not
     /// be written.
     bool keep(const Entry& spared = {});
+    /// Writes a copy of a drawing; returns the system's reason if it cannot, else nothing.
+    using Keeper = std::function<QString()>;
+    /// What does the work of keep() for the drawing as it is now, in any thread: a host can let its user
+    /// wait, because a large drawing takes long to be written. It emits nothing.
+    [[nodiscard]] Keeper keeper(const Entry& spared = {}) const;
     /// Writes an unsaved drawing at once and waits until it is on the disk. For a program that is told to
     /// end. False when that failed.
     bool flush();

@@ -94,15 +94,17 @@ QString KORVA_JournalFolder::store(const QImage& picture, const QString& fileNam
     if (!writer.write(picture))
         return writer.errorString();
     QSaveFile file(fileName);
+    const auto error = [&file] { return errno != 0 ? systemError() : file.errorString(); };
+    errno = 0;
     if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
+        return error();
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    if (file.write(bytes) != bytes.size() || !file.flush())
-        return file.errorString();
-    if (!util::sync(file.handle()))
-        return systemError();
+    errno = 0;
+    if (file.write(bytes) != bytes.size() || !file.flush() || !util::sync(file.handle()))
+        return error();
+    errno = 0;
     if (!file.commit())
-        return file.errorString();
+        return error();
     util::syncFolder(QFileInfo(fileName).path());
     return {};
 }

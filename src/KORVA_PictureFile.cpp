@@ -57,7 +57,11 @@ bool KORVA_PictureFile::isSmall() const
         return false;
     if (!file.open(QIODevice::ReadOnly))
         return true;
-    const QSize size = UTIL_PictureProbe::of(file).size;
+    return isSmall(UTIL_PictureProbe::of(file).size);
+}
+
+bool KORVA_PictureFile::isSmall(QSize size)
+{
     return qint64(size.width()) * size.height() <= smallPicture;
 }
 

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] const QString& name() const { return m_name; }
     /// Whether it can be read at once: a short file with a small picture, or no file at all.
     [[nodiscard]] bool isSmall() const;
+    /// Whether a picture of this size is decoded without a noticeable delay.
+    [[nodiscard]] static bool isSmall(QSize size);
 
     /// Decodes a picture in memory, which is recognised by its content. Null when it cannot be decoded. A
     /// large picture comes in its working size.

@@ -1403,6 +1403,11 @@
         <translation>يقع %1 على قرص للقراءة فقط.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>أبلغ القرص عن خطأ.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>المجلد %1 غير موجود.</translation>

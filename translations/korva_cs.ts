@@ -1400,6 +1400,11 @@
         <translation>%1 je na disku, který je jen pro čtení.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Disk hlásí chybu.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Složka %1 neexistuje.</translation>

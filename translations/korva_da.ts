@@ -1399,6 +1399,11 @@
         <translation>%1 ligger på en disk, der kun kan læses.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Disken melder en fejl.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Mappen %1 findes ikke.</translation>

@@ -1399,6 +1399,11 @@
         <translation>%1 liegt auf einem Datenträger, der nur gelesen werden kann.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Der Datenträger meldet einen Fehler.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Den Ordner %1 gibt es nicht.</translation>

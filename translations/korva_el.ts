@@ -1399,6 +1399,11 @@
         <translation>Το %1 βρίσκεται σε δίσκο μόνο για ανάγνωση.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Ο δίσκος αναφέρει σφάλμα.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Ο φάκελος %1 δεν υπάρχει.</translation>

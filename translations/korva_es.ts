@@ -1399,6 +1399,11 @@
         <translation>%1 está en un disco de solo lectura.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>El disco informa de un error.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>La carpeta %1 no existe.</translation>

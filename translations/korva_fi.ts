@@ -1399,6 +1399,11 @@
         <translation>%1 on levyllä, jota voi vain lukea.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Levy ilmoittaa virheestä.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Kansiota %1 ei ole.</translation>

@@ -1399,6 +1399,11 @@
         <translation>%1 se trouve sur un disque en lecture seule.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Le disque signale une erreur.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Le dossier %1 n’existe pas.</translation>

@@ -1399,6 +1399,11 @@
         <translation>הקובץ %1 נמצא בדיסק לקריאה בלבד.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>הדיסק מדווח על שגיאה.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>התיקייה %1 לא קיימת.</translation>

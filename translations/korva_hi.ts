@@ -1399,6 +1399,11 @@
         <translation>%1 ऐसी डिस्क पर है जिसे केवल पढ़ा जा सकता है।</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>डिस्क ने त्रुटि बताई है।</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>फ़ोल्डर %1 मौजूद नहीं है।</translation>

@@ -1398,6 +1398,11 @@
         <translation>%1 csak olvasható lemezen van.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>A lemez hibát jelez.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Nincs ilyen mappa: %1.</translation>

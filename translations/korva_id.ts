@@ -1398,6 +1398,11 @@
         <translation>%1 berada di disk yang hanya dapat dibaca.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Disk melaporkan kesalahan.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Folder %1 tidak ada.</translation>

@@ -1399,6 +1399,11 @@
         <translation>%1 si trova su un disco di sola lettura.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Il disco segnala un errore.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>La cartella %1 non esiste.</translation>

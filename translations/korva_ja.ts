@@ -1398,6 +1398,11 @@
         <translation>%1 は読み取り専用のディスクにあります。</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>ディスクがエラーを報告しました。</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>フォルダー %1 がありません。</translation>

@@ -1398,6 +1398,11 @@
         <translation>%1은(는) 읽기 전용 디스크에 있습니다.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>디스크에서 오류가 발생했습니다.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>%1 폴더가 없습니다.</translation>

@@ -1399,6 +1399,11 @@
         <translation>%1 staat op een schijf die alleen kan worden gelezen.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>De schijf meldt een fout.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>De map %1 bestaat niet.</translation>

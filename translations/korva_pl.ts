@@ -1400,6 +1400,11 @@
         <translation>%1 jest na dysku tylko do odczytu.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Dysk zgłasza błąd.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Nie ma folderu %1.</translation>

@@ -1399,6 +1399,11 @@
         <translation>%1 está num disco que só permite leitura.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>O disco comunica um erro.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>A pasta %1 não existe.</translation>

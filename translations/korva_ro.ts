@@ -1400,6 +1400,11 @@
         <translation>%1 se află pe un disc care poate fi doar citit.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Discul raportează o eroare.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Dosarul %1 nu există.</translation>

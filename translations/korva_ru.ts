@@ -1400,6 +1400,11 @@
         <translation>%1 находится на диске, доступном только для чтения.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Диск сообщает об ошибке.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Папки %1 нет.</translation>

@@ -1399,6 +1399,11 @@
         <translation>%1 finns på en disk som bara kan läsas.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Disken rapporterar ett fel.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Mappen %1 finns inte.</translation>

@@ -1398,6 +1398,11 @@
         <translation>%1 อยู่บนดิสก์ที่อ่านได้อย่างเดียว</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>ดิสก์แจ้งข้อผิดพลาด</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>ไม่มีโฟลเดอร์ %1</translation>

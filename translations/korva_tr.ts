@@ -1398,6 +1398,11 @@
         <translation>%1 salt okunur bir diskte.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Disk bir hata bildiriyor.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>%1 klasörü yok.</translation>

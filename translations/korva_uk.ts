@@ -1400,6 +1400,11 @@
         <translation>%1 міститься на диску, доступному лише для читання.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Диск повідомляє про помилку.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Теки %1 немає.</translation>

@@ -1398,6 +1398,11 @@
         <translation>%1 nằm trên đĩa chỉ đọc.</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>Đĩa báo lỗi.</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>Không có thư mục %1.</translation>

@@ -1398,6 +1398,11 @@
         <translation>%1 位于只读磁盘上。</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>磁盘报告错误。</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>文件夹 %1 不存在。</translation>

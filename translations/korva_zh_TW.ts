@@ -1398,6 +1398,11 @@
         <translation>%1 位於唯讀的磁碟上。</translation>
     </message>
     <message>
+        <source>The disk reports an error.</source>
+        <comment>saving</comment>
+        <translation>磁碟回報錯誤。</translation>
+    </message>
+    <message>
         <source>The folder %1 is not there.</source>
         <comment>saving</comment>
         <translation>資料夾 %1 不存在。</translation>

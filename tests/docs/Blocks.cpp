@@ -102,4 +102,13 @@ QString cppSource(const QList<Block>& blocks)
     return source + "}\n";
 }
 
+QStringList captured(const QString& text, const char* pattern)
+{
+    QStringList all;
+    for (const auto& match :
+         QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(text))
+        all << match.captured(1);
+    return all;
+}
+
 } // namespace docs

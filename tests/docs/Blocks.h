@@ -32,4 +32,7 @@ struct Block
 /// is that function's body. Includes come first. A program, which is also a file of its own, is left out.
 [[nodiscard]] QString cppSource(const QList<Block>& blocks);
 
+/// What the first group of a pattern finds in a text, in which ^ and $ stand for those of a line.
+[[nodiscard]] QStringList captured(const QString& text, const char* pattern);
+
 } // namespace docs

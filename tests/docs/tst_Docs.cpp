@@ -7,21 +7,13 @@
 #include <KORVA_EditCanvas.h>
 
 using docs::Block;
+using docs::captured;
 
 namespace {
 
 constexpr int patience = 60'000; // ms
 
 const QStringList languages = {"cpp", "cmake", "sh", "korva", "text", ""};
-
-QStringList captured(const QString& text, const char* pattern)
-{
-    QStringList all;
-    for (const auto& match :
-         QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(text))
-        all << match.captured(1);
-    return all;
-}
 
 /// The first column of the table below a heading, without the code marks.
 QStringList firstColumn(const QString& document, const QString& heading)

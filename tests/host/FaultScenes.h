@@ -3,8 +3,10 @@
 #include "Documents.h"
 #include "Platform.h"
 
+#include "support/Faults.h"
 #include "support/Gestures.h"
 #include "support/Images.h"
+#include "support/Modal.h"
 #include "support/Mount.h"
 #include "support/PictureFiles.h"
 
@@ -19,9 +21,10 @@ class FaultScene
 {
 public:
     FaultScene()
-        : m_isMounted(std::make_unique<support::Mount>(m_own.filePath("disk"), "size=8m")),
+        : m_disk(std::make_unique<support::Mount>(m_own.filePath("mounted"), "size=8m")),
           m_platform(pad::Platform::install())
     {
+        QDir().mkpath(folder());
         m_platform.obey(&m_script);
         m_editor.setFileName(file());
         window.show();
@@ -30,7 +33,9 @@ public:
     FaultScene(const FaultScene&) = delete;
     FaultScene& operator=(const FaultScene&) = delete;
 
-    [[nodiscard]] QString folder() const { return m_own.filePath("disk"); }
+    [[nodiscard]] QString folder() const { return m_own.filePath("mounted/disk"); }
+    /// The file system with the file.
+    [[nodiscard]] virtual const support::Mount& disk() const { return *m_disk; }
     /// What the drawing is written into.
     [[nodiscard]] virtual QString file() const { return folder() + "/drawing.png"; }
     /// What is there after a write that succeeds, below the folder.
@@ -68,6 +73,15 @@ public:
         return !written.isNull() && bytes.endsWith("IEND\xae\x42\x60\x82") &&
                support::sameImage(written.convertToFormat(QImage::Format_RGB32), drawn);
     }
+    /// The folder is called by its own name again, if it has vanished.
+    void restore() const
+    {
+        const QString elsewhere = support::Faults::vanished(folder());
+        if (!QFileInfo::exists(elsewhere))
+            return;
+        QDir(folder()).removeRecursively();
+        QDir().rename(elsewhere, folder());
+    }
     /// Files that should not be there.
     [[nodiscard]] QStringList left() const
     {
@@ -85,7 +99,7 @@ public:
 
 protected:
     QTemporaryDir m_own;
-    std::unique_ptr<support::Mount> m_isMounted;
+    std::unique_ptr<support::Mount> m_disk;
     pad::Platform& m_platform;
     pad::Script m_script;
     QWidget window;
@@ -110,8 +124,59 @@ public:
         m_answer = replace; // to the same question, when it is asked again
         return "asked: " + m_script.stopped.section('\'', 1, -2);
     }
+    /// What a person saw of a save.
+    struct Seen
+    {
+        QString said;
+        int sign = -1; ///< milliseconds until it was shown that it takes its time; -1 if it was not
+        int pause = 0; ///< milliseconds for which the window did nothing at all, at most
+    };
+    [[nodiscard]] Seen saveWatched()
+    {
+        return watched([this] { (void)m_documents->save(); });
+    }
+    /// Clears it, when a copy of it is kept in the folder.
+    [[nodiscard]] Seen clearWatched()
+    {
+        KORVA_Journal journal(&m_editor, folder());
+        m_documents->setJournal(&journal);
+        const Seen seen = watched([this] { m_documents->clear(); });
+        m_documents->setJournal(nullptr);
+        journal.settle();
+        return seen;
+    }
+    [[nodiscard]] Seen watched(const std::function<void()>& work)
+    {
+        m_platform.obey(nullptr);
+        Seen seen;
+        QElapsedTimer since;
+        QElapsedTimer turn;
+        QTimer timer;
+        timer.callOnTimeout([&] {
+            seen.pause = qMax(seen.pause, int(turn.restart()));
+            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            const QString text = support::labels(*box).join(' ');
+            if (text != "Saving drawing") {
+                seen.said = text;
+                box->accept();
+            } else if (seen.sign < 0) {
+                seen.sign = int(since.elapsed());
+            }
+        });
+        timer.start(10);
+        since.start();
+        turn.start();
+        work();
+        m_platform.obey(&m_script);
+        return seen;
+    }
     /// The same question is asked again afterwards.
-    void settle() override { m_documents = std::make_unique<pad::Documents>(m_editor, m_platform, &window); }
+    void settle() override
+    {
+        m_documents = std::make_unique<pad::Documents>(m_editor, m_platform, &window);
+    }
 
 private:
     std::optional<int> m_answer;
@@ -143,6 +208,7 @@ class AcrossScene : public EditorScene
 public:
     [[nodiscard]] QString file() const override { return folder() + "/other/drawing.png"; }
     [[nodiscard]] QStringList expected() const override { return {"other/drawing.png"}; }
+    [[nodiscard]] const support::Mount& disk() const override { return m_other; }
     [[nodiscard]] bool isPossible() const { return m_other.isThere(); }
 
 private:

@@ -149,7 +149,7 @@ void tst_Saving::aSlowDiskIsShown()
     clock.start(20);
     timer.start();
     QVERIFY(desk.documents->save());
-    QVERIFY2(shownAfter >= 300, qPrintable(QString::number(shownAfter)));
+    QVERIFY2(shownAfter >= 100, qPrintable(QString::number(shownAfter)));
     QCOMPARE(told, QStringList("Saved Successfully"));
     QVERIFY(desk.isSaved());
     QVERIFY(!desk.editor.hasChanges());

@@ -40,9 +40,9 @@ private slots:
     {
         const support::FirstTurn turn;
         const auto ended = std::make_shared<std::atomic<int>>(0);
-        QCOMPARE(util::waitFor(nullptr, text, working(150, ended)), std::optional(42));
-        QVERIFY(turn.isNotBefore(300)); // where the machine is slow, the work may be long
-        QVERIFY(*ended >= 150);
+        QCOMPARE(util::waitFor(nullptr, text, working(50, ended)), std::optional(42));
+        QVERIFY(turn.isNotBefore(100)); // where the machine is slow, the work may be long
+        QVERIFY(*ended >= 50);
     }
 
     void longWorkShowsABoxUntilItIsDone()
@@ -70,7 +70,7 @@ private slots:
             return 42;
         };
         QCOMPARE(util::waitFor(&window, text, work), std::optional(42));
-        QVERIFY2(shownAfter >= 300, qPrintable(QString::number(shownAfter)));
+        QVERIFY2(shownAfter >= 100, qPrintable(QString::number(shownAfter)));
         QVERIFY(!QApplication::activeModalWidget());
     }
 

@@ -126,13 +126,14 @@ protected:
         return living().size() == 1 ? QImage(folder() + '/' + living().constFirst()) : QImage();
     }
     /// Leaves a drawing behind as a crash does, this long ago.
-    void leave(const QColor& color, int seconds = 0, const QString& name = {}) const
+    void leave(const QColor& color, int seconds = 0, const QString& name = {},
+               QSize size = drawingSize) const
     {
         const QStringList before = living();
         {
             Desk desk(folder());
             desk.editor.setFileName(name);
-            desk.editor.take(support::sheet(drawingSize, color));
+            desk.editor.take(support::sheet(size, color));
             desk.editor.canvas()->markModified();
         }
         for (const QString& file : living()) {

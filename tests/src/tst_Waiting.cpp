@@ -121,12 +121,12 @@ void tst_Waiting::nothingIsHandledAtFirst()
     StalledFile file(name);
     const support::FirstTurn turn;
     std::unique_ptr<QThread> release(QThread::create([&] {
-        QThread::msleep(150);
+        QThread::msleep(50);
         file.letGo();
     }));
     release->start();
     (void)desk.editor->openNewFilePrivate(openAction, name);
-    const bool isUnhandled = turn.isNotBefore(300);
+    const bool isUnhandled = turn.isNotBefore(100);
     release->wait();
     QVERIFY(isUnhandled);
 }

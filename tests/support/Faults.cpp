@@ -62,7 +62,8 @@ QList<Faults::Call> Faults::taken()
     for (const QString& line : lines) {
         const QStringList parts = line.split('\t');
         const int ordinal = ++counts[parts[0] + ' ' + parts[1]];
-        calls.append({parts[0], parts[1], withoutChance(parts[2]), withoutChance(parts.value(3)), ordinal});
+        calls.append({parts[0], parts[1], withoutChance(parts[3]), withoutChance(parts.value(4)), ordinal,
+                      parts[2] == "first"});
     }
     restart();
     return calls;

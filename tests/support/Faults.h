@@ -18,6 +18,13 @@ public:
         QString path;
         QString other; ///< the second name: where a rename leads to
         int ordinal;   ///< among the calls of this name in the program, from 1
+        bool isFirst;  ///< made by the program's first thread, which is the window's
+    };
+
+    /// What stands for an error in fail() but is none.
+    enum Other : int {
+        Half = 0,      ///< a write writes half of what it was given
+        Vanishes = -1, ///< the folder gets another name right before the call: that of vanished()
     };
 
     /// Makes this program start anew with the calls between it and the system: before anything else in
@@ -32,9 +39,13 @@ public:
 
     /// What has been called since the last time this or fail() was called, or since the beginning.
     [[nodiscard]] QList<Call> taken();
-    /// Lets the call of this program, name and ordinal, counted from now, fail with an error as in errno.
-    /// 0: a write writes half of what it was given.
+    /// Lets the call of this program, name and ordinal, counted from now, fail with an error as in errno,
+    /// or with one of those above.
     void fail(const Call& call, int error);
+    /// Lets it succeed, but take its time.
+    void stall(const Call& call, int milliseconds) { fail(call, -milliseconds); }
+    /// Where the folder is when it has vanished.
+    [[nodiscard]] static QString vanished(const QString& folder) { return folder + ".gone"; }
     /// Nothing fails any more.
     void letGo();
 

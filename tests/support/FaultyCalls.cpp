@@ -9,6 +9,7 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/syscall.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -24,10 +25,10 @@ namespace {
 
 struct Fault
 {
-    enum Kind { None, Short, Error };
+    enum Kind { None, Short, Vanish, Stall, Error };
 
     Kind kind = None;
-    int error = 0;
+    int error = 0; ///< of a stall its milliseconds
 };
 
 /// The function that would have been called.
@@ -82,7 +83,8 @@ void note(const std::string& line)
 }
 
 /// "SERIAL PROGRAM CALL ORDINAL ERROR": the ordinal is that of the call among those of its name in the
-/// program since the serial number changed; 0 as the error means that half is written.
+/// program since the serial number changed; 0 as the error means that half is written, -1 that the folder
+/// vanishes, and less that the call takes as many milliseconds.
 Fault wanted(const char* call)
 {
     static std::mutex mutex;
@@ -105,7 +107,16 @@ Fault wanted(const char* call)
     if (found != 5 || count != ordinal || strcmp(name, call) != 0 ||
         strcmp(program, program_invocation_short_name) != 0)
         return {};
-    return {error == 0 ? Fault::Short : Fault::Error, error};
+    constexpr int vanishes = -1;
+    if (error < vanishes)
+        return {Fault::Stall, -error};
+    return {error == 0 ? Fault::Short : error == vanishes ? Fault::Vanish : Fault::Error, error};
+}
+
+void vanish()
+{
+    const char* folder = getenv("KORVA_FAULT_FOLDER");
+    next<int(const char*, const char*)>("rename")(folder, (std::string(folder) + ".gone").c_str());
 }
 
 Fault judged(const char* call, const std::string& path, const std::string& other = {})
@@ -116,8 +127,13 @@ Fault judged(const char* call, const std::string& path, const std::string& other
     Fault fault;
     if (!name.empty() || !otherName.empty()) {
         fault = wanted(call);
-        note(std::string(program_invocation_short_name) + '\t' + call + '\t' + name +
-             (other.empty() ? "" : '\t' + otherName) + '\n');
+        const bool isFirst = syscall(SYS_gettid) == getpid();
+        note(std::string(program_invocation_short_name) + '\t' + call + '\t' +
+             (isFirst ? "first" : "other") + '\t' + name + (other.empty() ? "" : '\t' + otherName) + '\n');
+        if (fault.kind == Fault::Vanish)
+            vanish();
+        else if (fault.kind == Fault::Stall)
+            usleep(useconds_t(fault.error) * 1000);
     }
     errno = fault.kind == Fault::Error ? fault.error : before;
     return fault;

@@ -45,9 +45,10 @@ Mount::~Mount()
         umount2(m_folder.constData(), MNT_DETACH);
 }
 
-bool Mount::setReadOnly() const
+bool Mount::setReadOnly(bool isReadOnly) const
 {
-    return mount("none", m_folder.constData(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr) == 0;
+    const unsigned long flags = MS_REMOUNT | (isReadOnly ? MS_RDONLY : 0);
+    return mount("none", m_folder.constData(), "tmpfs", flags, nullptr) == 0;
 }
 
 } // namespace support

@@ -20,8 +20,8 @@ public:
 
     /// False where mounting is not permitted.
     [[nodiscard]] bool isThere() const { return m_isThere; }
-    /// Whether nothing can be written there from now on.
-    [[nodiscard]] bool setReadOnly() const;
+    /// Whether nothing can be written there from now on, or something again.
+    [[nodiscard]] bool setReadOnly(bool isReadOnly = true) const;
 
 private:
     QByteArray m_folder;

@@ -4,6 +4,8 @@
 
 #include <atomic>
 
+#include <malloc.h>
+
 #ifdef __SANITIZE_ADDRESS__
 // The compiler's library has them, but no header for them.
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void*, size_t),
@@ -51,10 +53,17 @@ public:
 class Peak
 {
 public:
-    Peak() { support::write("/proc/self/clear_refs", "5"); } // the peak starts from what is held now
+    Peak() : m_before(fromNow()) {}
     [[nodiscard]] qint64 bytes() const { return peak() - m_before; }
 
 private:
+    /// Lets the peak start from what is held now, without what was given back.
+    static qint64 fromNow()
+    {
+        malloc_trim(0);
+        support::write("/proc/self/clear_refs", "5");
+        return peak();
+    }
     static qint64 peak()
     {
         const QByteArray status = support::contents("/proc/self/status");
@@ -62,7 +71,7 @@ private:
         return status.sliced(start, status.indexOf("kB", start) - start).trimmed().toLongLong() * 1024;
     }
 
-    qint64 m_before = peak();
+    qint64 m_before;
 };
 
 #endif
