@@ -111,7 +111,10 @@ public:
         return "asked: " + m_script.stopped.section('\'', 1, -2);
     }
     /// The same question is asked again afterwards.
-    void settle() override { m_documents = std::make_unique<pad::Documents>(m_editor, m_platform, &window); }
+    void settle() override
+    {
+        m_documents = std::make_unique<pad::Documents>(m_editor, m_platform, &window);
+    }
 
 private:
     std::optional<int> m_answer;
@@ -141,12 +144,24 @@ public:
 class AcrossScene : public EditorScene
 {
 public:
+    AcrossScene() = default;
     [[nodiscard]] QString file() const override { return folder() + "/other/drawing.png"; }
     [[nodiscard]] QStringList expected() const override { return {"other/drawing.png"}; }
     [[nodiscard]] bool isPossible() const { return m_other.isThere(); }
 
+protected:
+    explicit AcrossScene(const QString& shown) : m_other(folder() + "/other", folder() + '/' + shown) {}
+
 private:
     support::Mount m_other{folder() + "/other", "size=8m"};
+};
+
+/// The picture lies on the same disk as the temporary file, but behind a mount of its own, across which
+/// nothing can be moved either.
+class AcrossMountsScene : public AcrossScene
+{
+public:
+    AcrossMountsScene() : AcrossScene("shown") {}
 };
 
 /// The unsaved drawing, written again.

@@ -2,6 +2,7 @@
 #include "Documents.h"
 #include "PadWindow.h"
 #include "Platform.h"
+#include "Recovery.h"
 #include "StatusLine.h"
 #include "Theme.h"
 #include "support/Images.h"
@@ -15,6 +16,19 @@ namespace {
 
 constexpr QPoint besideTheCanvas(60, 285); // on the key "Menu"
 constexpr QSize size(40, 30);
+
+/// While it lives, the folder of earlier drawings would have to be below a file.
+class NoRoom
+{
+public:
+    explicit NoRoom(const QString& file) { qputenv(variable, QFile::encodeName(file)); }
+    ~NoRoom() { qunsetenv(variable); }
+    NoRoom(const NoRoom&) = delete;
+    NoRoom& operator=(const NoRoom&) = delete;
+
+private:
+    static constexpr auto variable = "XDG_STATE_HOME";
+};
 
 } // namespace
 
@@ -32,6 +46,8 @@ private slots:
     void changesAreAskedAbout();
     void theFileIsSavedBeforeTheEnd();
     void aSaveThatFailsKeepsTheWindow();
+    void whatCannotBeKeptIsGivenUpOnlyWhenAsked();
+    void whatCannotBeKeptIsTold();
 
     void titleNamesTheFile();
     void titleTellsOfChanges();
@@ -58,11 +74,12 @@ private:
     [[nodiscard]] QString status(const QString& what) const;
     /// The key in this place.
     [[nodiscard]] QPushButton& key(const QRect& place) const;
-    /// Closes the window; what it asks is answered by the button with this text, or by Escape. What the
+    /// Closes the window; what it asks is answered by a button with such a text, or by Escape. What the
     /// boxes say.
-    QStringList close(const QString& answer = {});
+    QStringList close(const QStringList& answers = {});
 
     std::optional<QTemporaryDir> m_folder;
+    pad::Platform* m_platform = nullptr;
     std::unique_ptr<pad::PadWindow> m_window;
 };
 
@@ -83,7 +100,8 @@ void tst_PadWindow::cleanup()
 void tst_PadWindow::open(const QString& picture)
 {
     m_window.reset();
-    m_window = std::make_unique<pad::PadWindow>(pad::Platform::install(), picture);
+    m_platform = &pad::Platform::install();
+    m_window = std::make_unique<pad::PadWindow>(*m_platform, picture);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
@@ -109,7 +127,7 @@ QPushButton& tst_PadWindow::key(const QRect& place) const
     return *qobject_cast<QPushButton*>(m_window->childAt(place.center()));
 }
 
-QStringList tst_PadWindow::close(const QString& answer)
+QStringList tst_PadWindow::close(const QStringList& answers)
 {
     QStringList told;
     QTimer clerk;
@@ -119,13 +137,11 @@ QStringList tst_PadWindow::close(const QString& answer)
             return;
         if (told.isEmpty() || told.last() != box->windowTitle())
             told << box->windowTitle();
-        QAbstractButton* button = support::button(*box, answer);
-        if (!button)
-            button = support::button(*box, "OK");
-        if (button)
-            button->click();
-        else
-            QTest::keyClick(box, Qt::Key_Escape);
+        for (const QString& answer : answers + QStringList("OK")) {
+            if (QAbstractButton* button = support::button(*box, answer))
+                return button->click();
+        }
+        QTest::keyClick(box, Qt::Key_Escape);
     });
     clerk.start(1);
     m_window->close();
@@ -159,7 +175,7 @@ void tst_PadWindow::changesAreAskedAbout()
     open(path("blue.png"));
     stroke();
     const QImage drawn = editor().snapshot();
-    QCOMPARE(close(answer), QStringList("Save changes to drawing before closing?"));
+    QCOMPARE(close({answer}), QStringList("Save changes to drawing before closing?"));
     QCOMPARE(m_window->isHidden(), isClosed);
     QCOMPARE(editor().snapshot(), drawn);
     QVERIFY(support::sameImage(QImage(path("blue.png")), support::sheet(size, Qt::blue)));
@@ -170,7 +186,7 @@ void tst_PadWindow::theFileIsSavedBeforeTheEnd()
     open(path("blue.png"));
     stroke();
     const QImage drawn = editor().snapshot();
-    QCOMPARE(close("Yes").last(), "Saved Successfully");
+    QCOMPARE(close({"Yes"}).last(), "Saved Successfully");
     QVERIFY(m_window->isHidden());
     QVERIFY(support::sameImage(QImage(path("blue.png")), drawn));
 }
@@ -180,11 +196,44 @@ void tst_PadWindow::aSaveThatFailsKeepsTheWindow()
     open(path("blue.png"));
     stroke();
     QVERIFY(QFile::setPermissions(path("blue.png"), QFile::ReadOwner));
-    const QStringList told = close("Yes");
+    const QStringList told = close({"Yes"});
     QCOMPARE(told.size(), 2);
     QVERIFY2(told[1].startsWith("Not saved: No permission"), qPrintable(told[1]));
     QVERIFY(!m_window->isHidden());
     QVERIFY(editor().hasChanges());
+}
+
+void tst_PadWindow::whatCannotBeKeptIsGivenUpOnlyWhenAsked()
+{
+    const NoRoom disk(path("blue.png"));
+    open();
+    new pad::Recovery(editor(), m_window->documents(), *m_platform, m_window.get());
+    stroke();
+    const QString question = "No copy of the drawing can be kept. Give it up?";
+    QCOMPARE(close({"No", "Cancel"}).last(), question);
+    QVERIFY(!m_window->isHidden());
+    QCOMPARE(close({"No", "Give it up"}).last(), question);
+    QVERIFY(m_window->isHidden());
+}
+
+void tst_PadWindow::whatCannotBeKeptIsTold()
+{
+    const NoRoom disk(path("blue.png"));
+    open();
+    new pad::Recovery(editor(), m_window->documents(), *m_platform, m_window.get());
+    stroke();
+    QString told;
+    QTimer reader;
+    reader.callOnTimeout([&told] {
+        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        told = box->windowTitle();
+        support::button(*box, "OK")->click();
+    });
+    reader.start(10);
+    QTRY_VERIFY(!told.isEmpty());
+    QVERIFY2(told.startsWith("No copy of the drawing can be kept: "), qPrintable(told));
 }
 
 // --- The title
@@ -225,9 +274,14 @@ void tst_PadWindow::statusTellsWhatIsChosen()
     QCOMPARE(status("Position"), "");
     m_window->documents().openNamed(path("blue.png"));
     QTRY_COMPARE(status("Picture size"), u"40 \u00d7 30"_qs);
+    editor().selectZoom(0);
+    QTRY_COMPARE(status("Zoom"), "50 %");
+    QPixmap larger = QPixmap::fromImage(support::sheet(QSize(41, 31)));
+    canvas().setPixmap(&larger); // as large on the screen
+    QTRY_COMPARE(status("Picture size"), u"41 \u00d7 31"_qs);
     editor().selectZoom(3);
     QTRY_COMPARE(status("Zoom"), "200 %");
-    QCOMPARE(status("Picture size"), u"40 \u00d7 30"_qs);
+    QCOMPARE(status("Picture size"), u"41 \u00d7 31"_qs);
     for (const int tool : {KORVA_TOOL_ERASER, KORVA_TOOL_HAND, KORVA_TOOL_TEXT}) {
         editor().selectTool(tool);
         QTRY_COMPARE(status("Tool"), KORVA_EditCanvas::toolName(tool));
