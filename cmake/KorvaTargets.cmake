@@ -19,6 +19,11 @@ function(korva_target_settings target)
                                                  -fno-omit-frame-pointer)
         target_link_options(${target} PRIVATE -fsanitize=address,undefined)
     endif()
+    # The four levels and the programs count what is run; the tests themselves need not. Threads count, too.
+    if(KORVA_COVERAGE AND target MATCHES "^korva(_toolkit|_platform|_engine|_host|-pad|-preview)?$")
+        target_compile_options(${target} PRIVATE --coverage -fprofile-abs-path -fprofile-update=atomic)
+        target_link_options(${target} PUBLIC --coverage)
+    endif()
 endfunction()
 
 # For code that waits for people, or asks a disk now and then: released small, where all else is released fast. The

@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: need_packages NAME... installs what is missing of Debian's packages.
+# Sourced by ./run, ./test and their like: need_packages NAME... installs what is missing of Debian's packages.
 need_packages() {
     local installed missing=() package
     installed=" $(dpkg-query -W -f '${db:Status-Status}:${Package} ' "$@" 2>/dev/null || true)"
@@ -16,3 +16,9 @@ need_packages() {
 
 build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-dev libxcb-randr0-dev qt6-tools-dev qt6-l10n-tools
     qt6-image-formats-plugins qt6-wayland libgif-dev libjpeg-dev libpng-dev fonts-dejavu-core)
+
+test_packages=(git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
+    libbenchmark-dev libx11-dev libxext-dev libxdamage-dev libxtst-dev
+    doxygen dpkg-dev file fakeroot lintian sway grim libwayland-dev
+    fonts-droid-fallback fonts-lohit-deva fonts-tlwg-loma-otf
+    at-spi2-core dbus-daemon ibus ibus-table ibus-table-latex bubblewrap python3)

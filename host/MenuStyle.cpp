@@ -26,19 +26,6 @@ void paintArrow(QPainter& painter, Qt::LayoutDirection direction, const QRect& r
     painter.drawPolyline(QPolygon({tip + QPoint(back, -half), tip, tip + QPoint(back, half)}));
 }
 
-/// A tick that ends before `right`, in a row from left to right.
-void paintMark(QPainter& painter, Qt::LayoutDirection direction, int right, const QRect& row,
-               const QColor& ink)
-{
-    constexpr int half = Size::chevron;
-    const QPoint foot =
-        QStyle::visualPos(direction, row, QPoint(right - 2 * half, row.center().y() + half - 1));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(
-        QPolygon({foot + QPoint(-half + 1, -half + 1), foot, foot + QPoint(half, -2 * half)}));
-}
-
 } // namespace
 
 MenuStyle::MenuStyle(QObject* owner) : QProxyStyle(QStyleFactory::create(QStringLiteral("fusion")))
@@ -95,10 +82,6 @@ void MenuStyle::drawControl(ControlElement element, const QStyleOption* option, 
     else if (parts.size() > 1)
         UTIL_Skin::paintText(*painter, item->direction, text, Qt::AlignRight | Qt::AlignVCenter,
                              parts.last());
-    if (item->checkType != QStyleOptionMenuItem::NotCheckable && item->checked) {
-        const int keys = parts.size() > 1 ? painter->fontMetrics().horizontalAdvance(parts.last()) : 0;
-        paintMark(*painter, item->direction, text.right() - keys, item->rect, ink);
-    }
     painter->restore();
 }
 

@@ -9,10 +9,13 @@
 #include <KORVA_Pixel.h>
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointingDevice>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <utility>
@@ -78,6 +81,8 @@ bool Recorder::eventFilter(QObject* watched, QEvent* event)
         if (watched == m_editor.canvas())
             writeKey(static_cast<const QKeyEvent&>(*event));
         break;
+    case QEvent::InputMethod:
+        return watched == m_editor.canvas() && writeComposed(static_cast<QInputMethodEvent&>(*event));
     default:
         break;
     }
@@ -142,6 +147,31 @@ void Recorder::writeKey(const QKeyEvent& event)
     command.key = withoutItself(event.keyCombination());
     if (isText || event.key() != Qt::Key_unknown)
         write(command);
+}
+
+/// An input method may replace what was typed before. Only the text that the canvas made of its event tells
+/// which keys would have typed it.
+bool Recorder::writeComposed(QInputMethodEvent& event)
+{
+    if (m_isComposing)
+        return false; // the canvas's turn
+    const auto typed = [this] {
+        return m_editor.canvas()->inputMethodQuery(Qt::ImTextBeforeCursor).toString();
+    };
+    QString kept = typed();
+    m_isComposing = true;
+    QCoreApplication::sendEvent(m_editor.canvas(), &event);
+    m_isComposing = false;
+    const QString text = typed();
+    while (!text.startsWith(kept)) {
+        QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, kept);
+        characters.toEnd();
+        kept.truncate(characters.toPreviousBoundary());
+        write({.verb = Verb::Key, .key = QKeyCombination(Qt::Key_Backspace)});
+    }
+    if (text != kept)
+        write({.verb = Verb::Type, .text = text.sliced(kept.size())});
+    return true;
 }
 
 void Recorder::write(const Command& command)

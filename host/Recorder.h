@@ -10,6 +10,7 @@
 #include <vector>
 
 class KORVA_EditCanvas;
+class QInputMethodEvent;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -49,10 +50,12 @@ private:
     void keep(const Command& command);
     void writeLine(const Command& command);
     void writeKey(const QKeyEvent& event);
+    bool writeComposed(QInputMethodEvent& event);
     void watchMenus();
 
     KORVA_EditCanvas& m_editor;
     QFile m_file;
+    bool m_isComposing = false;
     bool m_isHolding = false;
     std::vector<Held> m_held; ///< from a finger's press to the end of its stroke, which may be taken back
 };

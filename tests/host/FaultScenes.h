@@ -206,13 +206,25 @@ public:
 class AcrossScene : public EditorScene
 {
 public:
+    AcrossScene() = default;
     [[nodiscard]] QString file() const override { return folder() + "/other/drawing.png"; }
     [[nodiscard]] QStringList expected() const override { return {"other/drawing.png"}; }
     [[nodiscard]] const support::Mount& disk() const override { return m_other; }
     [[nodiscard]] bool isPossible() const { return m_other.isThere(); }
 
+protected:
+    explicit AcrossScene(const QString& shown) : m_other(folder() + "/other", folder() + '/' + shown) {}
+
 private:
     support::Mount m_other{folder() + "/other", "size=8m"};
+};
+
+/// The picture lies on the same disk as the temporary file, but behind a mount of its own, across which
+/// nothing can be moved either.
+class AcrossMountsScene : public AcrossScene
+{
+public:
+    AcrossMountsScene() : AcrossScene("shown") {}
 };
 
 /// The unsaved drawing, written again.

@@ -122,6 +122,7 @@ void tst_CommandLine::failsWithOneLine_data()
     row("value of a flag", {"--help=yes"}, "--help takes no value");
     row("option twice", {"--save", "a.png", "--save", "b.png"}, "--save is given twice");
     row("two pictures", {"blue.png", "red.png"}, "one picture at a time: 'blue.png' and 'red.png'");
+    row("empty name", {""}, "the picture's name is empty");
     row("scale of zero", {"--scale", "0"}, "--scale takes a number from 1 to 8, not '0'");
     row("scale in words", {"--scale", "two"}, "--scale takes a number from 1 to 8, not 'two'");
     row("no steps", {"--undo-steps", "0"}, "--undo-steps takes a number from 1 to 1000, not '0'");

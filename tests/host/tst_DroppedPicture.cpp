@@ -58,6 +58,9 @@ private slots:
     void nothingIsTakenWhileADialogIsOpen();
     void changesAreAskedAbout();
     void withShiftItIsAStamp();
+    void openTextStaysUnderAStamp();
+    void openTextGoesWithItsDrawing_data();
+    void openTextGoesWithItsDrawing();
 
     void drawingIsDraggedOut_data();
     void drawingIsDraggedOut();
@@ -65,6 +68,8 @@ private slots:
     void aTapDragsNothing();
 
 private:
+    /// Opens a text and types a word.
+    void type() const;
     /// Takes hold of the status line, and moves so far to the side.
     void pull(int pixels) const;
 
@@ -172,6 +177,40 @@ void tst_DroppedPicture::changesAreAskedAbout()
     m_script.answer = no;
     QVERIFY(drop({url("it's blue.png")}));
     QCOMPARE(m_window->editor().fileName(), path("it's blue.png"));
+}
+
+void tst_DroppedPicture::type() const
+{
+    m_window->editor().selectTool(KORVA_TOOL_TEXT);
+    QTest::mouseClick(m_window->editor().canvas(), Qt::LeftButton, {}, {20, 120});
+    QTest::keyClicks(m_window->editor().canvas(), "word");
+}
+
+void tst_DroppedPicture::openTextStaysUnderAStamp()
+{
+    type();
+    QVERIFY(drop({url("it's blue.png")}, Qt::ShiftModifier));
+    QVERIFY(support::inkCount(drawing().copy(15, 100, 60, 40)) > 10);
+}
+
+void tst_DroppedPicture::openTextGoesWithItsDrawing_data()
+{
+    QTest::addColumn<KORVA_Manners>("manners");
+    QTest::newRow("classic") << KORVA_Manners();
+    QTest::newRow("modern") << KORVA_Manners::modern();
+}
+
+void tst_DroppedPicture::openTextGoesWithItsDrawing()
+{
+    QFETCH(const KORVA_Manners, manners);
+    m_window->editor().setManners(manners);
+    type();
+    m_script.answer = no;
+    QVERIFY(drop({url("it's blue.png")}));
+    QVERIFY(!m_window->editor().hasChanges());
+    m_window->editor().selectTool(KORVA_TOOL_PENCIL); // would commit it
+    QVERIFY(support::sameImage(drawing().convertToFormat(QImage::Format_RGB32),
+                               picture(Qt::blue).convertToFormat(QImage::Format_RGB32)));
 }
 
 void tst_DroppedPicture::withShiftItIsAStamp()

@@ -170,6 +170,7 @@ private slots:
     void nothingIsLost();
     void isOnTheDiskBeforeItIsMoved_data();
     void isOnTheDiskBeforeItIsMoved();
+    void nothingIsMovedAcrossDisks_data();
     void nothingIsMovedAcrossDisks();
 
 private:
@@ -317,10 +318,19 @@ void tst_Faults::isOnTheDiskBeforeItIsMoved()
     QVERIFY2(named > move, qPrintable(place));
 }
 
+void tst_Faults::nothingIsMovedAcrossDisks_data()
+{
+    QTest::addColumn<MakeScene>("make");
+    QTest::newRow("another disk") << &make<fixtures::AcrossScene>;
+    QTest::newRow("another mount") << &make<fixtures::AcrossMountsScene>;
+}
+
 /// There a move is a removal and a copy: what dies in between leaves no file, or half of one.
 void tst_Faults::nothingIsMovedAcrossDisks()
 {
-    fixtures::AcrossScene scene;
+    QFETCH(const MakeScene, make);
+    const std::unique_ptr<fixtures::FaultScene> made = make();
+    auto& scene = dynamic_cast<fixtures::AcrossScene&>(*made);
     if (!scene.isPossible())
         QSKIP("mounting is not permitted here");
     Faults faults(scene.folder());

@@ -104,6 +104,8 @@ private slots:
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("line");
         QTest::newRow("nothing") << QStringList() << "which picture? korva-preview PICTURE";
+        QTest::newRow("no language") << QStringList("--language")
+                                     << "--language needs a value: --language CODE";
         QTest::newRow("an empty name") << QStringList("") << "the picture's name is empty";
         QTest::newRow("two pictures")
             << QStringList({"a.png", "b.png"}) << "one picture at a time: 'a.png' and 'b.png'";

@@ -225,6 +225,7 @@ private slots:
     void drawnByKeys();
     void whatIsTypedBesideATextChangesNothing();
     void keysAndText();
+    void textOfAnInputMethod();
     void theControls();
     void documents();
     void menusOfCanvasAndPiece();
@@ -377,6 +378,54 @@ void tst_RecordReplay::keysAndText()
     QCOMPARE(linesOf(folder.filePath("keys.rec")),
              QStringList({"type \"a\"", "key Shift", "type \"B\"", "type \"\\\"\"", "key Return",
                           "key Backspace", "key Shift", "key Shift+Left"}));
+}
+
+void tst_RecordReplay::textOfAnInputMethod()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("composed.rec");
+    QImage drawn;
+    {
+        pad::PadWindow window(pad::Platform::install());
+        window.show();
+        KORVA_EditCanvas& editor = window.editor();
+        pad::Recorder recorder(editor);
+        QVERIFY(!recorder.start(file));
+        const auto compose = [&editor](const QString& shown, const QString& text, int from = 0,
+                                       int length = 0) {
+            QInputMethodEvent event(shown, {});
+            event.setCommitString(text, from, length);
+            QCoreApplication::sendEvent(editor.canvas(), &event);
+            QCOMPARE(event.isAccepted(), editor.tool() == KORVA_TOOL_TEXT);
+        };
+        editor.selectTool(KORVA_TOOL_TEXT);
+        QTest::mouseClick(editor.canvas(), Qt::LeftButton, {}, {20, 60});
+        compose("ni", {});
+        compose("h", u"x\u03b1 "_qs);
+        compose({}, "teh");
+        compose({}, "the", -3, 3);
+        compose({}, u"e\u0301"_qs);
+        compose({}, u"o"_qs, -2, 2);
+        compose({}, u"\nan e"_qs);
+        compose({}, u"\u0301"_qs); // to the letter before
+        editor.selectTool(KORVA_TOOL_PENCIL);
+        compose({}, "nowhere");
+        QVERIFY(!recorder.finish());
+        drawn = editor.snapshot();
+    }
+    QVERIFY(support::inkCount(drawn) > 100);
+    QCOMPARE(linesOf(file),
+             QStringList({"tool text", "press 20 60", "release 20 60", u"type \"x\u03b1 \""_qs,
+                          "type \"teh\"", "key Backspace", "key Backspace", "type \"he\"",
+                          u"type \"e\u0301\""_qs, "key Backspace", "type \"o\"", "type \"\\nan e\"",
+                          u"type \"\u0301\""_qs, "tool pencil"}));
+
+    const auto recording = pad::Recording::read(file);
+    pad::Platform& platform = pad::Platform::install();
+    pad::PadWindow again(platform);
+    again.show();
+    QVERIFY(!pad::Player(again.editor(), platform).play(std::get<pad::Recording>(recording)));
+    QVERIFY(sameImage(again.editor().snapshot(), drawn));
 }
 
 void tst_RecordReplay::theControls()

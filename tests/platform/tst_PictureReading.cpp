@@ -1,5 +1,9 @@
+#include "UTIL_Bmp.h"
+#include "UTIL_Gif.h"
 #include "UTIL_ImageReader.h"
+#include "UTIL_PictureSource.h"
 #include "UTIL_Platform.h"
+#include "UTIL_Png.h"
 #include "UTIL_Reducer.h"
 #include "support/Images.h"
 #include "support/PictureFiles.h"
@@ -12,6 +16,18 @@ using support::contents;
 using support::write;
 
 namespace {
+
+/// A reader of great pictures, which reads small ones as well.
+using Read = QImage (*)(UTIL_PictureSource& source);
+
+QImage decoded(Read read, const QByteArray& file, const std::function<bool()>& isCancelled = {})
+{
+    QBuffer buffer;
+    buffer.setData(file);
+    buffer.open(QIODevice::ReadOnly);
+    UTIL_PictureSource source(buffer, {{0, file.size()}}, isCancelled);
+    return read(source);
+}
 
 struct AlsoPortable : UTIL_Platform
 {
@@ -33,7 +49,7 @@ QImage byTheToolkit(const QString& name, const char* format)
 }
 
 /// A PNG of random samples.
-QByteArray png(int colorType, int depth, bool isClear)
+QByteArray randomPng(int colorType, int depth, bool isClear)
 {
     constexpr int width = 37;
     constexpr int height = 11;
@@ -83,6 +99,8 @@ void writeBlackBmp(const QString& name, QSize size)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Read)
+
 /// What holds for pictures of every format.
 class tst_PictureReading : public support::TestCase
 {
@@ -105,6 +123,9 @@ private slots:
     void pngIsWhatTheToolkitReads();
     void greatPictureIsWhatTheToolkitReads_data();
     void greatPictureIsWhatTheToolkitReads();
+    void damagedGreatPictureFails_data();
+    void damagedGreatPictureFails();
+    void damagedGreatGifIsShownAsFarAsItGoes();
     void unknownContentIsReadOnlyWhereAllowed_data();
     void unknownContentIsReadOnlyWhereAllowed();
     void exceptionsEndInAFailure_data();
@@ -128,6 +149,8 @@ void tst_PictureReading::initTestCase()
     for (const char* name : {"a.jpg", "a.gif", "a.bmp", "a.wbmp", "a.ppm", "a.xpm", "a.tif"})
         QVERIFY(support::convert({path("a.png"), path(name)}));
     QVERIFY(support::convert({path("a.png"), "-interlace", "JPEG", path("progressive.jpg")}));
+    QVERIFY(support::convert({path("a.png"), "-interlace", "PNG", path("interlaced.png")}));
+    QVERIFY(support::convert({path("a.png"), "-interlace", "GIF", path("interlaced.gif")}));
 }
 
 void tst_PictureReading::nothingOfTheProgramIsTouched_data()
@@ -235,16 +258,16 @@ void tst_PictureReading::pngIsWhatTheToolkitReads_data()
         {0, {1, 2, 4, 8, 16}}, {2, {8, 16}}, {3, {1, 2, 4, 8}}, {4, {8, 16}}, {6, {8, 16}}};
     for (const auto& [colorType, depths] : kinds) {
         for (const int depth : depths) {
-            QTest::addRow("type %d of %d bits", colorType, depth) << png(colorType, depth, false);
+            QTest::addRow("type %d of %d bits", colorType, depth) << randomPng(colorType, depth, false);
             // Of sixteen bits with one transparent colour the toolkit makes noise.
             if (colorType < 4 && !(colorType == 2 && depth == 16))
                 QTest::addRow("type %d of %d bits, transparent", colorType, depth)
-                    << png(colorType, depth, true);
+                    << randomPng(colorType, depth, true);
         }
     }
     for (const int colorType : {0, 2, 3, 6}) {
         const QString name = QDir::temp().filePath("korva-interlaced.png");
-        write(name, png(colorType, 8, false));
+        write(name, randomPng(colorType, 8, false));
         if (support::convert(
                 {name, "-strip", "-interlace", "PNG", "-define", "png:exclude-chunks=all", name}))
             QTest::addRow("type %d, interlaced", colorType) << contents(name);
@@ -316,6 +339,87 @@ void tst_PictureReading::greatPictureIsWhatTheToolkitReads()
     QVERIFY(!reader.isWhole());
     QVERIFY(support::sameImage(reader.image(),
                                UTIL_Reducer::reduced(expected, small(expected.size()), qRgb(0, 200, 0))));
+}
+
+void tst_PictureReading::damagedGreatPictureFails_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<Read>("read");
+    const Read pngReduced = [](UTIL_PictureSource& source) { return png::readReduced(source, {20, 15}); };
+    const Read bmpReduced = [](UTIL_PictureSource& source) {
+        return bmp::readReduced(source, {20, 15}, qRgb(255, 255, 255));
+    };
+    QTest::newRow("png") << "a.png" << Read(png::read);
+    QTest::newRow("reduced png") << "a.png" << pngReduced;
+    QTest::newRow("interlaced png") << "interlaced.png" << Read(png::read);
+    QTest::newRow("reduced interlaced png") << "interlaced.png" << pngReduced;
+    QTest::newRow("bmp") << "a.bmp" << Read(bmp::read);
+    QTest::newRow("reduced bmp") << "a.bmp" << bmpReduced;
+}
+
+/// Wherever it is cut, or one of its bytes is another one that tells. Nothing tells of a BMP's pixels.
+void tst_PictureReading::damagedGreatPictureFails()
+{
+    QFETCH(const QString, file);
+    QFETCH(const Read, read);
+    const QByteArray whole = contents(path(file));
+    const bool isPng = file.endsWith(".png");
+    QVERIFY(!decoded(read, whole).isNull());
+    constexpr int cuts = 40;
+    const qsizetype end = isPng ? whole.size() : qFromLittleEndian<quint32>(whole.constData() + 10);
+    for (int i = 0; i < cuts; ++i) {
+        const qsizetype length = end * i / cuts;
+        QVERIFY2(decoded(read, whole.first(length)).isNull(), qPrintable(QString::number(length)));
+    }
+    QVERIFY(!isPng || decoded(read, whole.chopped(5)).isNull()); // all pixels are there
+    int asked = 0;
+    QVERIFY(decoded(read, whole, [&asked] { return ++asked > 2; }).isNull());
+    for (int i = 8; isPng && i < cuts; ++i) { // behind the header, every byte is within a check sum
+        QByteArray damaged = whole;
+        char& byte = damaged[whole.size() * i / cuts];
+        byte = char(byte ^ 0x10);
+        QVERIFY2(decoded(read, damaged).isNull(), qPrintable(QString::number(i)));
+    }
+    for (const quint32 offset : {0U, 53U, 0x7fffffffU}) { // where the pixels of a BMP begin
+        QByteArray damaged = whole;
+        qToLittleEndian(offset, damaged.data() + 10);
+        QVERIFY2(decoded(read, damaged).isNull(), qPrintable(QString::number(offset)));
+    }
+}
+
+void tst_PictureReading::damagedGreatGifIsShownAsFarAsItGoes()
+{
+    const Read read = gif::read;
+    const Read reduced = [](UTIL_PictureSource& source) {
+        return gif::readReduced(source, {20, 15}, qRgb(255, 255, 255));
+    };
+    for (const char* file : {"a.gif", "interlaced.gif"}) {
+        const QByteArray whole = contents(path(file));
+        const QImage shown = decoded(read, whole);
+        const qsizetype frame = whole.indexOf(QByteArray(",\0\0\0\0\xc8\0\x96\0", 9));
+        const qsizetype pixels = frame + 10;
+        QCOMPARE(shown.size(), QSize(200, 150));
+        const QImage part = decoded(read, whole.first((pixels + whole.size()) / 2));
+        QCOMPARE(part.size(), shown.size());
+        QVERIFY(part != shown);
+        QVERIFY(support::sameImage(part.copy(0, 0, 200, 1), shown.copy(0, 0, 200, 1)));
+        QVERIFY(!decoded(reduced, whole.first((pixels + whole.size()) / 2)).isNull());
+        for (const Read each : {read, reduced}) {
+            int asked = 0;
+            QVERIFY(decoded(each, whole, [&asked] { return ++asked > 20; }).isNull());
+            for (qsizetype length = 0; length < pixels; length += 3)
+                QVERIFY2(decoded(each, whole.first(length)).isNull(), qPrintable(QString::number(length)));
+            QVERIFY(decoded(each, support::gifOfFrames(QSize(10, 10), 0)).isNull());
+            QByteArray empty = whole;
+            empty.replace(frame + 5, 2, QByteArray(2, '\0')); // a frame of no width
+            QVERIFY(decoded(each, empty).isNull());
+            QByteArray extended = whole;
+            extended.insert(frame, QByteArray("!\xfe\x05"
+                                              "ab",
+                                              5)); // it ends too early
+            QVERIFY(decoded(each, extended.first(frame + 5)).isNull());
+        }
+    }
 }
 
 void tst_PictureReading::unknownContentIsReadOnlyWhereAllowed_data()

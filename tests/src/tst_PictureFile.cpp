@@ -26,6 +26,7 @@ private slots:
     void extensionDecidesHowAFileIsOpened();
     void checkTellsWhatIsWrong_data();
     void checkTellsWhatIsWrong();
+    void ownAllowanceHoldsForEveryFormat();
     void takeDecodesOnce();
     void takeSeesAChangedFile();
     void takeWithoutCheckReadsTheFile();
@@ -211,6 +212,24 @@ void tst_PictureFile::checkTellsWhatIsWrong()
     write(name, bytes);
     KORVA_PictureFile file(name);
     QTEST(file.check(KORVA_Formats::readFormat(name)), "status");
+}
+
+/// In place of the platform's.
+void tst_PictureFile::ownAllowanceHoldsForEveryFormat()
+{
+    for (const char* name : {"a.png", "a.jpg", "a.gif", "a.bmp", "a.wbmp"}) { // 60 by 40 pixels
+        for (const qint64 pixels : {2399, 2400}) {
+            KORVA_PictureFile file(path(name));
+            file.setAllowance({pixels, {}});
+            QVERIFY2(file.check(KORVA_Formats::readFormat(path(name))) == (pixels < 2400 ? -100 : 0), name);
+        }
+    }
+    write(path("greater.gif"), support::gifOfFrames(QSize(9000, 8000), 1)); // than the platform allows
+    KORVA_PictureFile greater(path("greater.gif"));
+    QCOMPARE(greater.check("GIF"), -100);
+    greater.setAllowance({72'000'000, {}});
+    QCOMPARE(greater.check("GIF"), 0);
+    QVERIFY(!greater.take().isNull());
 }
 
 void tst_PictureFile::takeDecodesOnce()

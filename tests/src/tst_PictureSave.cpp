@@ -28,6 +28,7 @@ private slots:
     void pngIsNoLongerThanTheCodecs();
     void jpegIsGood();
     void unknownFormatIsNotWritten();
+    void nothingIsLeftOnAFullDisk();
     void pngIsNoLargerThanOthers_data();
     void pngIsNoLargerThanOthers();
     void savesUnderAnyName_data();
@@ -209,6 +210,16 @@ void tst_PictureSave::unknownFormatIsNotWritten()
     QVERIFY(!picturesave::write({}, path("unknown"), "PNG"));
     QVERIFY(picturesave::write(red(), path("by-extension.bmp"), nullptr));
     QVERIFY(contents(path("by-extension.bmp")).startsWith("BM"));
+}
+
+void tst_PictureSave::nothingIsLeftOnAFullDisk()
+{
+    const Mount disk(path("disk"), "size=64k");
+    if (!disk.isThere())
+        QSKIP("mounting is not permitted here");
+    QVERIFY(!picturesave::write(support::mosaic(QSize(300, 200)), path("disk/large.bmp"), "BMP"));
+    QCOMPARE(filesIn(path("disk")), QStringList());
+    QVERIFY(picturesave::write(support::mosaic(QSize(30, 20)), path("disk/small.bmp"), "BMP"));
 }
 
 void tst_PictureSave::pngIsNoLargerThanOthers_data()

@@ -39,6 +39,14 @@ Mount::Mount(const QString& folder, const char* options) : m_folder(QFile::encod
     m_isThere = canMount && mount("none", m_folder.constData(), "tmpfs", 0, options) == 0;
 }
 
+Mount::Mount(const QString& folder, const QString& shown) : m_folder(QFile::encodeName(folder))
+{
+    QDir().mkpath(folder);
+    QDir().mkpath(shown);
+    m_isThere = canMount && mount(QFile::encodeName(shown).constData(), m_folder.constData(), nullptr,
+                                  MS_BIND, nullptr) == 0;
+}
+
 Mount::~Mount()
 {
     if (m_isThere)

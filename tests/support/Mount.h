@@ -14,6 +14,8 @@ public:
 
     /// `options` are the kernel's: "size=64k".
     Mount(const QString& folder, const char* options);
+    /// Shows another folder a second time: the same file system by a mount of its own.
+    Mount(const QString& folder, const QString& shown);
     ~Mount();
     Mount(const Mount&) = delete;
     Mount& operator=(const Mount&) = delete;
