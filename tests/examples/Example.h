@@ -24,6 +24,8 @@ public:
         m_process.start(KORVA_EXAMPLE, arguments);
         m_process.write(input);
         m_process.closeWriteChannel();
+        if (!input.isEmpty())
+            m_process.waitForBytesWritten(patience); // waiting for the window writes nothing
         m_place = m_screen.waitForWindow(window);
     }
     ~Example()
