@@ -62,8 +62,10 @@ def read(root, files, sources=None):
     for begin in range(0, len(files), FILES_AT_ONCE):
         command = ["gcov", "--json-format", "--stdout", "--branch-probabilities",
                    "--relative-only", "--source-prefix", str(root), *map(str, files[begin:begin + FILES_AT_ONCE])]
-        output = subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
-        for unit in output.splitlines():
+        result = subprocess.run(command, capture_output=True)
+        if result.returncode != 0:
+            raise SystemExit(f"gcov cannot read the counters; were they made by another build?\n{result.stderr.decode()}")
+        for unit in result.stdout.splitlines():
             report = json.loads(unit)
             folder = report["current_working_directory"]
             for file in report["files"]:

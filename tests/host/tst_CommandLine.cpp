@@ -42,6 +42,7 @@ private slots:
     void savesInTheFormatOfTheName();
     void replayThenSave();
     void valueBehindAnEqualsSign();
+    void pictureIsWorkedOnAsAsked();
     void aPictureNamedLikeAnOption();
     void nothingIsWrittenAfterABrokenRecording();
     void aFailedSaveLeavesTheOldFile();
@@ -202,6 +203,17 @@ void tst_CommandLine::valueBehindAnEqualsSign()
     QVERIFY(pad.waitForEnd());
     QCOMPARE(pad.errors(), "");
     QVERIFY(sameImage(QImage(path("a=b.png")), sheet(newCanvas)));
+}
+
+void tst_CommandLine::pictureIsWorkedOnAsAsked()
+{
+    const QColor deep(1, 2, 3); // not of 16 bits
+    sheet(QSize(800, 600), deep).save(path("photo.png"));
+    PadProcess pad({"--working-size", "640x480", "--working-depth", "24", "photo.png", "--save", "out.png"},
+                   {}, m_folder->path());
+    QVERIFY(pad.waitForEnd());
+    QCOMPARE(pad.errors(), "");
+    QVERIFY(sameImage(QImage(path("out.png")), sheet(QSize(640, 480), deep)));
 }
 
 void tst_CommandLine::aPictureNamedLikeAnOption()

@@ -7,6 +7,7 @@
 #include "Theme.h"
 #include "support/Images.h"
 #include "support/Modal.h"
+#include "support/PictureFiles.h"
 #include "support/TestCase.h"
 
 #include <KORVA_Canvas.h>
@@ -46,6 +47,7 @@ private slots:
     void changesAreAskedAbout();
     void theFileIsSavedBeforeTheEnd();
     void aSaveThatFailsKeepsTheWindow();
+    void aSaveThatLosesColorsIsAskedAbout();
     void whatCannotBeKeptIsGivenUpOnlyWhenAsked();
     void whatCannotBeKeptIsTold();
 
@@ -201,6 +203,19 @@ void tst_PadWindow::aSaveThatFailsKeepsTheWindow()
     QVERIFY2(told[1].startsWith("Not saved: No permission"), qPrintable(told[1]));
     QVERIFY(!m_window->isHidden());
     QVERIFY(editor().hasChanges());
+}
+
+void tst_PadWindow::aSaveThatLosesColorsIsAskedAbout()
+{
+    QVERIFY(support::mosaic(size).save(path("photo.png")));
+    const QByteArray before = support::contents(path("photo.png"));
+    open(path("photo.png"));
+    stroke();
+    QCOMPARE(close({"Yes", "Cancel"}).last(),
+             u"photo.png has more colors than the drawing of 40\u00a0\u00d7\u00a030 "
+             u"pixels: replacing it would lose them."_qs);
+    QVERIFY(!m_window->isHidden());
+    QCOMPARE(support::contents(path("photo.png")), before);
 }
 
 void tst_PadWindow::whatCannotBeKeptIsGivenUpOnlyWhenAsked()

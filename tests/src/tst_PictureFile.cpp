@@ -229,7 +229,6 @@ void tst_PictureFile::ownAllowanceHoldsForEveryFormat()
     QCOMPARE(greater.check("GIF"), -100);
     greater.setAllowance({72'000'000, {}});
     QCOMPARE(greater.check("GIF"), 0);
-    QVERIFY(!greater.take().isNull());
 }
 
 void tst_PictureFile::takeDecodesOnce()
