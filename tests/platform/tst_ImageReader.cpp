@@ -429,6 +429,13 @@ void tst_ImageReader::parametersAskForSixteenBits()
     reader.setParameters("16");
     QVERIFY(reader.read());
     QCOMPARE(reader.image().format(), QImage::Format_RGB16);
+    QVERIFY(!reader.isWhole()); // which has fewer colours than the file
+
+    QVERIFY(support::convert({"-size", "20x10", "xc:red", path("red.png")}));
+    UTIL_ImageReader red(path("red.png"));
+    red.setParameters("16");
+    QVERIFY(red.read());
+    QVERIFY(red.isWhole());
 }
 
 int main(int argc, char** argv)
