@@ -74,6 +74,7 @@ private slots:
     void everyPrefixOfAPictureFails();
     void limitIsFoundInTheHeader_data();
     void limitIsFoundInTheHeader();
+    void limitHoldsForTheWidestWbmp();
     void limitIsInclusive();
     void allocationLimitOfTheProgramStays();
     void extraTextIsPassedOver_data();
@@ -275,6 +276,18 @@ void tst_ImageReader::limitIsFoundInTheHeader()
     QVERIFY(watch.isWithin(mostSeconds / 10));
 }
 
+// Its width takes five bytes. Where the rows should be the file has only holes.
+void tst_ImageReader::limitHoldsForTheWidestWbmp()
+{
+    const QByteArray header("\0\0\x81\x80\x80\x80\0\1", 8);
+    constexpr qint64 width = 1 << 28;
+    write(path("widest.wbmp"), header);
+    QVERIFY(QFile::resize(path("widest.wbmp"), header.size() + width / 8));
+    UTIL_ImageReader reader(path("widest.wbmp"));
+    QVERIFY(!reader.read());
+    QCOMPARE(reader.status(), -100);
+}
+
 void tst_ImageReader::limitIsInclusive()
 {
     UTIL_Platform::install(std::make_unique<SmallLimit>());
@@ -416,6 +429,13 @@ void tst_ImageReader::parametersAskForSixteenBits()
     reader.setParameters("16");
     QVERIFY(reader.read());
     QCOMPARE(reader.image().format(), QImage::Format_RGB16);
+    QVERIFY(!reader.isWhole()); // which has fewer colours than the file
+
+    QVERIFY(support::convert({"-size", "20x10", "xc:red", path("red.png")}));
+    UTIL_ImageReader red(path("red.png"));
+    red.setParameters("16");
+    QVERIFY(red.read());
+    QVERIFY(red.isWhole());
 }
 
 int main(int argc, char** argv)

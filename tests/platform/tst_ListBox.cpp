@@ -262,6 +262,19 @@ private slots:
         QTest::mouseRelease(stage.list.viewport(), Qt::LeftButton, {}, stage.centre(2));
         QCOMPARE(fillOf(2), UTIL_Skin::look(UTIL_Skin::Control::Row, UTIL_Skin::State::Checked).fill);
     }
+
+    void theBoxOfAMarkedRowStandsTwoPixelsIn()
+    {
+        Stage stage;
+        stage.list.checkItem(1, true);
+        const QRect row = stage.list.visualItemRect(stage.list.item(1));
+        const QImage shown = stage.list.viewport()->grab().toImage();
+        const auto isBox = [&](int x) {
+            return shown.pixelColor(x, row.center().y()) != shown.pixelColor(row.left(), row.center().y());
+        };
+        QVERIFY(!isBox(row.left() + 1) && isBox(row.left() + 2));
+        QVERIFY(!isBox(row.right() - 1) && isBox(row.right() - 2));
+    }
 };
 
 int main(int argc, char** argv)

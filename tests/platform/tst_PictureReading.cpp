@@ -311,6 +311,8 @@ void tst_PictureReading::greatPictureIsWhatTheToolkitReads_data()
                                      << "great.gif";
     QTest::addRow("gif of a frame within its screen")
         << (few + QStringList{"-crop", "1500x1400+90+70"}) << "great.gif";
+    QTest::addRow("interlaced gif of a frame within its screen")
+        << (few + QStringList{"-crop", "1500x1400+90+70", "-interlace", "GIF"}) << "great.gif";
     QTest::addRow("wbmp") << two << "great.wbmp";
 }
 

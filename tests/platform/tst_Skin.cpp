@@ -228,6 +228,20 @@ private slots:
         QCOMPARE(image.pixelColor(30, 20), UTIL_Skin::color(Color::Accent));
     }
 
+    void aBoxWithoutABorderFillsItsArea()
+    {
+        QImage image(60, 40, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        {
+            QPainter painter(&image);
+            UTIL_Skin::paintBox(painter, QRect(10, 10, 40, 20), {Qt::red, Qt::transparent, Qt::black});
+        }
+        QCOMPARE(image.pixelColor(30, 10), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(30, 29), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(10, 20), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(49, 20), QColor(Qt::red));
+    }
+
     void theMarkedRadioHasADot()
     {
         const auto paint = [](bool marked) {

@@ -1,5 +1,6 @@
 #include "KORVA_ChooseCanvasDlg.h"
 #include "UTIL_ListBox.h"
+#include "UTIL_PushButton.h"
 #include "support/Modal.h"
 #include "support/TestCase.h"
 
@@ -22,6 +23,12 @@ constexpr std::array<Entry, 5> entries = {{
 UTIL_ListBox& listOf(const QDialog& dialog)
 {
     return *dialog.findChild<UTIL_ListBox*>();
+}
+
+int flagsOf(const QDialog& dialog, const char* key)
+{
+    const auto* const button = qobject_cast<UTIL_PushButton*>(support::button(dialog, key));
+    return button ? button->flags() : -1;
 }
 
 QList<int> marked(const QDialog& dialog)
@@ -74,6 +81,8 @@ private slots:
         QCOMPARE(list.frameShape(), QFrame::NoFrame);
         QVERIFY(support::button(dialog, "OK")->x() < support::button(dialog, "Cancel")->x());
         QVERIFY(!list.geometry().intersects(support::button(dialog, "OK")->geometry()));
+        QCOMPARE(flagsOf(dialog, "OK"), UTIL_PushButton::Outlined | UTIL_PushButton::FirstSoftKey);
+        QCOMPARE(flagsOf(dialog, "Cancel"), UTIL_PushButton::Outlined | UTIL_PushButton::SecondSoftKey);
     }
 
     void itNeedNotBeModal()

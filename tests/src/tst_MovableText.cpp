@@ -109,6 +109,7 @@ private slots:
     void dragBesideTheTextEndsIt();
     void everyPressEndsItClassically();
     void escapeWhileItIsMoved();
+    void escapeWhileItIsHeld();
     void emptyTextIsMovedByItsBeam();
     void goesOnAfterACommit();
     void fingerMovesIt();
@@ -284,6 +285,19 @@ void tst_MovableText::escapeWhileItIsMoved()
     QVERIFY(desk.isUntouched());
     desk.stylus.move({60, 60});
     desk.stylus.release({60, 60});
+    QVERIFY(desk.isUntouched());
+    QVERIFY(!desk.tool().takesText());
+}
+
+// The release is none of a tap that begins another text.
+void tst_MovableText::escapeWhileItIsHeld()
+{
+    MovingDesk desk(true);
+    desk.tap({20, 50});
+    desk.type("Wg");
+    desk.stylus.press(desk.grip());
+    desk.stylus.key(Qt::Key_Escape);
+    desk.stylus.release(desk.grip());
     QVERIFY(desk.isUntouched());
     QVERIFY(!desk.tool().takesText());
 }

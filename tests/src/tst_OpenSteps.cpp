@@ -14,6 +14,7 @@ private slots:
     void undoEndsAStep();
     void redoEndsAStep();
     void endWithoutABeginningIsNothing();
+    void whatFollowsIsAnotherStep();
 };
 
 namespace {
@@ -83,6 +84,19 @@ void tst_OpenSteps::endWithoutABeginningIsNothing()
     drawing.picture.endStep();
     drawing.picture.undo(); // both at once
     QVERIFY(sameImage(drawing.now(), red));
+}
+
+// Even without a snapshot in between.
+void tst_OpenSteps::whatFollowsIsAnotherStep()
+{
+    Drawing drawing;
+    drawing.picture.beginStep();
+    drawing.picture.fill(Qt::blue);
+    drawing.picture.endStep();
+    const QImage blue = drawing.now();
+    drawing.picture.fill(Qt::green);
+    drawing.picture.undo();
+    QVERIFY(sameImage(drawing.now(), blue));
 }
 
 int main(int argc, char** argv)

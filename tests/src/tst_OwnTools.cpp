@@ -59,6 +59,7 @@ class tst_OwnTools : public support::TestCase
 private slots:
     void identifiersFollowTheLibrarys();
     void theyStandBehindTheSevenInThePopup();
+    void theCurrentToolStaysMarked();
     void theirOptionsAreTheirOwn();
     void numbersOfThePopupsWorkForThem();
     void fillsAConnectedArea_data();
@@ -99,6 +100,19 @@ void tst_OwnTools::theyStandBehindTheSevenInThePopup()
                       sheet({20, 20}, Qt::green)));
     QCOMPARE(desk.options().size(), 2);
     QCOMPARE(desk.options().at(1)->text(), QString("Wide"));
+}
+
+// For a screen reader; the rows are made anew with each tool.
+void tst_OwnTools::theCurrentToolStaysMarked()
+{
+    Workshop desk;
+    desk.editor->addTool(std::make_unique<FillTool>(), {}, "Fill more");
+    QStringList marked;
+    for (const QAction* row : desk.tools()) {
+        if (row->isChecked())
+            marked << row->text();
+    }
+    QCOMPARE(marked, QStringList(desk.editor->nameOfTool(KORVA_TOOL_PENCIL)));
 }
 
 void tst_OwnTools::theirOptionsAreTheirOwn()

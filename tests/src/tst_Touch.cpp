@@ -51,6 +51,7 @@ private slots:
     void aSecondFingerTakesTheStrokeBack();
     void moreStepsOfUndoStay_data();
     void moreStepsOfUndoStay();
+    void aPieceThatIsPutBackCanBeDropped();
     void theHostHearsThatItIsTakenBack();
     void aCancelledTouchLeavesNoMark_data() { toolsAndZooms({fixtures::Nothing, fixtures::Pasted}); }
     void aCancelledTouchLeavesNoMark();
@@ -217,6 +218,32 @@ void tst_Touch::moreStepsOfUndoStay()
             QVERIFY(same(touched.state(), expected.state()));
         }
     }
+}
+
+// As if the stroke had never merged it: the drawing is that from before the piece, unmodified.
+void tst_Touch::aPieceThatIsPutBackCanBeDropped()
+{
+    TouchDesk touched;
+    TouchDesk expected;
+    for (TouchDesk* each : {&touched, &expected}) {
+        KORVA_Manners manners;
+        manners.pieceKeys = true;
+        each->editor.setManners(manners);
+        each->canvas().setSelection(fixtures::pieceInPicture);
+    }
+    touched.fingers.press(0, touched.besidePiece());
+    touched.fingers.move(0, touched.besidePiece() + QPoint(20, 10));
+    QVERIFY(touched.piece().isHidden());
+    touched.fingers.press(1, {20, 20});
+    touched.fingers.release(1);
+    touched.fingers.release(0);
+    for (TouchDesk* each : {&touched, &expected}) {
+        QVERIFY(!each->piece().isHidden());
+        QTest::keyClick(&each->canvas(), Qt::Key_Escape);
+        QVERIFY(each->piece().isHidden());
+        QVERIFY(!each->editor.isModified());
+    }
+    QVERIFY(same(touched.state(), expected.state()));
 }
 
 void tst_Touch::theHostHearsThatItIsTakenBack()

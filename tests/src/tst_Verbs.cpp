@@ -93,6 +93,7 @@ private slots:
     void zoomsAsInTheBox_data();
     void zoomsAsInTheBox();
     void signalsTellWhatChanged();
+    void theFirstOptionThatChangesIsTold();
     void whatDoesNotExistDoesNothing_data();
     void whatDoesNotExistDoesNothing();
     void zoomIsToldWhateverCausedIt();
@@ -201,6 +202,18 @@ void tst_Verbs::signalsTellWhatChanged()
     fixtures::mixColor(QColor(10, 20, 30));
     desk.button("colorButton").click();
     QCOMPARE(choices.taken(), QStringList({QString("colorChanged %1").arg(0x0a141e), "chosen color 0"}));
+}
+
+void tst_Verbs::theFirstOptionThatChangesIsTold()
+{
+    for (const int option : {1, 2}) {
+        KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+        const QSignalSpy told(&editor, &KORVA_EditCanvas::optionChanged);
+        editor.selectOption(0); // as it is
+        QCOMPARE(told.count(), 0);
+        editor.selectOption(option);
+        QCOMPARE(told, QList<QVariantList>{{option}});
+    }
 }
 
 void tst_Verbs::whatDoesNotExistDoesNothing_data()

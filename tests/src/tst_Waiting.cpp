@@ -11,6 +11,18 @@ using support::StalledFile;
 
 namespace {
 
+/// Asked for its limit by any thread.
+struct AskedPlatform : UTIL_Platform
+{
+    [[nodiscard]] qint64 pixelLimit() const override
+    {
+        ++(QThread::currentThread() == qApp->thread() ? asked : askedElsewhere);
+        return UTIL_Platform::pixelLimit();
+    }
+    static inline std::atomic<int> asked;
+    static inline std::atomic<int> askedElsewhere;
+};
+
 constexpr int openAction = 0;
 constexpr int stampAction = 3;
 constexpr QSize large(1200, 1000);
@@ -59,6 +71,7 @@ private slots:
 
     void smallPicturesStartNoThread();
     void largePicturesStartOne();
+    void theDeviceIsAskedInItsOwnThread();
     void nothingIsHandledAtFirst();
     void whatTakesLongIsShown_data();
     void whatTakesLongIsShown();
@@ -111,6 +124,18 @@ void tst_Waiting::largePicturesStartOne()
         (void)desk.editor->openNewFilePrivate(openAction, name);
         QVERIFY(threads() != before);
     }
+}
+
+void tst_Waiting::theDeviceIsAskedInItsOwnThread()
+{
+    const PictureFolder folder;
+    EditorDesk desk;
+    const QString file = folder.written("flat.png", fixtures::flag(large));
+    UTIL_Platform::install(std::make_unique<AskedPlatform>());
+    const auto restore = qScopeGuard([] { UTIL_Platform::install(nullptr); });
+    QVERIFY(desk.editor->openNewFilePrivate(openAction, file));
+    QVERIFY(AskedPlatform::asked > 0);
+    QCOMPARE(AskedPlatform::askedElsewhere, 0);
 }
 
 void tst_Waiting::nothingIsHandledAtFirst()

@@ -27,6 +27,7 @@ private slots:
     void committedBeforeZooming();
     void pointsOfTheZoomedPicture();
     void theListMarksTheRateInForce();
+    void theListShowsTheCurrentRow();
     void anotherPictureIsFitted();
     void withoutFittingAPictureKeepsTheRate();
 };
@@ -176,6 +177,26 @@ void tst_ZoomBox::theListMarksTheRateInForce()
     desk.setPicture(support::sheet({640, 480}));
     desk.chooseZoom(3); // too large for it
     QCOMPARE(marked(), QList<int>{1});
+}
+
+// With a background of one colour from end to end.
+void tst_ZoomBox::theListShowsTheCurrentRow()
+{
+    const EditorDesk desk;
+    QComboBox& box = desk.zoomBox();
+    box.showPopup();
+    for (const int current : {3, 0}) {
+        box.view()->setCurrentIndex(box.model()->index(current, 0));
+        const QImage shown = box.view()->viewport()->grab().toImage();
+        for (const int row : {0, 3}) {
+            const QRect place = box.view()->visualRect(box.model()->index(row, 0));
+            const QColor expected =
+                box.view()->palette().color(row == current ? QPalette::Highlight : QPalette::Base);
+            QCOMPARE(shown.pixelColor(place.topLeft() + QPoint(1, 1)), expected);
+            QCOMPARE(shown.pixelColor(place.bottomRight() - QPoint(1, 1)), expected);
+        }
+    }
+    box.hidePopup();
 }
 
 void tst_ZoomBox::anotherPictureIsFitted()
