@@ -51,6 +51,7 @@ private slots:
     void aSecondFingerTakesTheStrokeBack();
     void moreStepsOfUndoStay_data();
     void moreStepsOfUndoStay();
+    void theFirstStrokeOfAllIsTakenBack();
     void aPieceThatIsPutBackCanBeDropped();
     void theHostHearsThatItIsTakenBack();
     void aCancelledTouchLeavesNoMark_data() { toolsAndZooms({fixtures::Nothing, fixtures::Pasted}); }
@@ -218,6 +219,21 @@ void tst_Touch::moreStepsOfUndoStay()
             QVERIFY(same(touched.state(), expected.state()));
         }
     }
+}
+
+// Of an editor that has told nothing yet.
+void tst_Touch::theFirstStrokeOfAllIsTakenBack()
+{
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    const QSignalSpy undo(&editor, &KORVA_EditCanvas::canUndo);
+    support::Fingers fingers(*editor.canvas());
+    fingers.press(0, {30, 40});
+    fingers.move(0, {60, 50});
+    QCOMPARE(undo, QList<QVariantList>{{true}});
+    fingers.press(1, {90, 90});
+    QCOMPARE(undo, QList<QVariantList>({{true}, {false}}));
 }
 
 // As if the stroke had never merged it: the drawing is that from before the piece, unmodified.
