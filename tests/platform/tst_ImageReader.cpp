@@ -79,6 +79,7 @@ private slots:
     void allocationLimitOfTheProgramStays();
     void extraTextIsPassedOver_data();
     void extraTextIsPassedOver();
+    void textAmongThePixelsIsPassedOver();
     void orientationIsApplied_data();
     void orientationIsApplied();
     void reductionKeepsThePicture_data();
@@ -339,6 +340,30 @@ void tst_ImageReader::extraTextIsPassedOver()
     QVERIFY(reader.read());
     QCOMPARE(reader.image().size(), QSize(10, 1));
     QVERIFY(watch.isWithin(mostSeconds));
+}
+
+// Each part of the pixels takes more bytes than are asked for at once.
+void tst_ImageReader::textAmongThePixelsIsPassedOver()
+{
+    constexpr QSize size(200, 100);
+    QByteArray rows;
+    QRandomGenerator random(1);
+    for (int y = 0; y < size.height(); ++y) {
+        rows += '\0'; // no filter
+        for (int i = 0; i < 3 * size.width(); ++i)
+            rows += char(random.bounded(256));
+    }
+    const QByteArray pixels = support::deflated(rows);
+    const QByteArray start = support::pngStart(size.width(), size.height());
+    const QByteArray first = support::pngChunk("IDAT", pixels.first(30'000));
+    const QByteArray text = support::pngChunk("tEXt", QByteArray("k\0", 2) + QByteArray(1000, 'a'));
+    const QByteArray rest =
+        support::pngChunk("IDAT", pixels.sliced(30'000)) + support::pngChunk("IEND", {});
+    UTIL_ImageReader plain = UTIL_ImageReader::fromData(start + first + rest);
+    UTIL_ImageReader reader = UTIL_ImageReader::fromData(start + first + text + rest);
+    QVERIFY(plain.read());
+    QVERIFY(reader.read());
+    QVERIFY(UTIL_ImageReader::isSame(reader.image(), plain.image()));
 }
 
 void tst_ImageReader::orientationIsApplied_data()
