@@ -111,6 +111,8 @@ inline void pressByKeyboard(QDialog& dialog, const QString& text)
 
 inline void end(QDialog& dialog, Way way)
 {
+    QWidget* const focused =
+        dialog.focusWidget() ? dialog.focusWidget() : &dialog; // it may not be active yet
     switch (way) {
     case Way::ConfirmByPointer:
         return QTest::mouseClick(key(dialog, "Confirm"), Qt::LeftButton);
@@ -121,9 +123,9 @@ inline void end(QDialog& dialog, Way way)
     case Way::CancelByKeyboard:
         return pressByKeyboard(dialog, "Cancel");
     case Way::Return:
-        return QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+        return QTest::keyClick(focused, Qt::Key_Return);
     case Way::Escape:
-        return QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        return QTest::keyClick(focused, Qt::Key_Escape);
     case Way::Close:
         dialog.close();
     }
