@@ -14,6 +14,7 @@ KORVA_AreaSelect::KORVA_AreaSelect(const QString& name) : KORVA_Tool(name) {}
 
 void KORVA_AreaSelect::activating()
 {
+    m_leaving.reset(); // of a canvas that is gone
     canvas()->setCursor(Qt::CrossCursor);
 }
 
@@ -67,7 +68,7 @@ void KORVA_AreaSelect::mouseMoveEvent(QMouseEvent* event)
         return;
     const QPoint left = std::exchange(m_end, to);
     m_leaving = m_leaving.value_or(left);
-    canvas()->showLater(reach(left) | reach(to));
+    canvas()->showLater(this, reach(left) | reach(to));
     const QPoint span = limited(to) - m_start;
     canvas()->setDragged(QSize(zoom().toPicture(qAbs(span.x())), zoom().toPicture(qAbs(span.y()))));
 }

@@ -188,10 +188,10 @@ public:
     void paintShown(const QRegion& changed);
     /// What showPicture() shows anew, in widget coordinates.
     [[nodiscard]] QRect shownAround(const QRect& changed) const;
-    /// For a tool that puts off its painting (KORVA_Tool::paintWaiting()): shows `changed`, in widget
-    /// coordinates, at the screen's pace. Whoever has ever been given pixmap() or zoomedPixmap() may look
-    /// at any time; then nothing is put off.
-    void showLater(const QRect& changed);
+    /// For a tool, `painter`, that puts off its painting (KORVA_Tool::paintWaiting()): shows `changed`, in
+    /// widget coordinates, at the screen's pace. Whoever has ever been given pixmap() or zoomedPixmap() may
+    /// look at any time; then nothing is put off.
+    void showLater(KORVA_Tool* painter, const QRect& changed);
     /// Lets the tool paint what it has put off. Everything of the canvas that reads or changes the pictures
     /// does so first.
     void paintNow();
@@ -454,9 +454,9 @@ private:
     QPointer<KORVA_Tool> m_tool;
     std::unique_ptr<KORVA_Picture> m_picture;
     QPixmap m_zoomed;
-    bool m_isWaiting = false; ///< the tool has put off some painting
-    bool m_isWatched = false; ///< somebody outside has been given one of the pictures
-    int m_undoFlag = 0;       ///< what the host was last asked to offer
+    QPointer<KORVA_Tool> m_waiting; ///< the tool that has put off some painting
+    bool m_isWatched = false;       ///< somebody outside has been given one of the pictures
+    int m_undoFlag = 0;             ///< what the host was last asked to offer
     bool m_isOfferDue = false;
     QSize m_dragged;    ///< as last told
     int m_wheelWay = 0; ///< in eighths of a degree, since the last zoom

@@ -81,9 +81,9 @@ KORVA_Picture& KORVA_Canvas::drawing() const
     return *m_picture;
 }
 
-void KORVA_Canvas::showLater(const QRect& changed)
+void KORVA_Canvas::showLater(KORVA_Tool* painter, const QRect& changed)
 {
-    m_isWaiting = true;
+    m_waiting = painter;
     if (m_isWatched)
         paintNow();
     refresh(changed);
@@ -91,8 +91,8 @@ void KORVA_Canvas::showLater(const QRect& changed)
 
 void KORVA_Canvas::paintNow()
 {
-    if (std::exchange(m_isWaiting, false) && m_tool)
-        m_tool->paintWaiting(m_picture->pixmap(), &m_zoomed);
+    if (const QPointer<KORVA_Tool> painter = std::exchange(m_waiting, nullptr))
+        painter->paintWaiting(m_picture->pixmap(), &m_zoomed);
 }
 
 // --- Zoom

@@ -71,8 +71,8 @@ public:
     [[nodiscard]] QList<Entry> earlier() const;
     /// The picture of an entry; null when it is gone.
     [[nodiscard]] static QImage picture(const Entry& entry);
-    /// Makes a picture that fits a box. Null when the entry's is gone, or once the function that it is given
-    /// returns true; it may be given none.
+    /// Makes a picture that fits a box. Null when the entry's is gone, or once the function that it is
+    /// given returns true; it may be given none.
     using Thumbnailer = std::function<QImage(const std::function<bool()>& isCancelled)>;
     /// What makes an entry's thumbnail, in any thread. For lists: a large picture takes long to be read.
     [[nodiscard]] static Thumbnailer thumbnailer(const Entry& entry, QSize box);

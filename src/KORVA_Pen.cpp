@@ -29,6 +29,7 @@ KORVA_Pen::~KORVA_Pen()
 void KORVA_Pen::activating()
 {
     m_drawing = false;
+    m_way.clear(); // of a canvas that is gone
     canvas()->setCursor(Qt::CrossCursor);
 }
 
@@ -68,10 +69,10 @@ void KORVA_Pen::drawTo(QPoint to)
     const QRect way = around(m_last, to);
     m_last = to;
     if (showsPixels()) {
-        canvas()->showLater(canvas()->shownAround(inPicture(way)));
+        canvas()->showLater(this, canvas()->shownAround(inPicture(way)));
     } else {
         const int side = qMax(1, screenPenWidth());
-        canvas()->showLater(way.adjusted(-side, -side, side, side));
+        canvas()->showLater(this, way.adjusted(-side, -side, side, side));
     }
     if (m_way.size() >= mostWaiting)
         canvas()->paintNow();

@@ -33,6 +33,7 @@ void KORVA_Tool::deactivate()
 {
     const bool active = m_active;
     KORVA_ASSERT(active);
+    paintNow();
     if (m_canvas)
         deactivating();
     m_canvas = nullptr;

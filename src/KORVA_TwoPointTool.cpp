@@ -12,6 +12,7 @@
 void KORVA_TwoPointTool::activating()
 {
     canvas()->setCursor(Qt::CrossCursor);
+    m_leaving.reset(); // of a canvas that is gone
     zoomedRebuilt();
     canvas()->refresh();
 }
@@ -49,7 +50,7 @@ void KORVA_TwoPointTool::mouseMoveEvent(QMouseEvent* event)
     const QPoint left = std::exchange(m_end, to);
     m_leaving = m_leaving.value_or(left);
     m_previewed |= reach(to);
-    canvas()->showLater(reach(left) | reach(to));
+    canvas()->showLater(this, reach(left) | reach(to));
     canvas()->setDragged(shapeSize(zoom().toPicture(m_start), inPicture(to, m_isEven)));
 }
 

@@ -1,3 +1,4 @@
+#include "KORVA_Pen.h"
 #include "PieceFixtures.h"
 #include "support/Dice.h"
 
@@ -62,6 +63,8 @@ private slots:
     void whatIsHeldIsUpToDate();
     void repaintShowsIt();
     void changesOfThePenComeAfter();
+    void aToolMayWorkWithoutTheCanvasesLeave();
+    void nothingIsLeftOfACanvasThatIsGone();
 };
 
 void tst_PaintLater::nobodyCanTell_data()
@@ -187,6 +190,56 @@ void tst_PaintLater::changesOfThePenComeAfter()
     hand.release({25, 15});
     QCOMPARE(QColor(desk.whole().pixel(20, 5)), QColor(Qt::red));
     QCOMPARE(QColor(desk.whole().pixel(25, 12)), QColor(Qt::blue));
+}
+
+/// A stroke of a pencil that the canvas does not know, to be ended or not.
+void stroke(KORVA_Pen& pen, const QList<QPointF>& way, bool isEnded)
+{
+    const auto send = [&](QEvent::Type type, const QPointF& at, void (KORVA_Pen::*handler)(QMouseEvent*)) {
+        const bool isMove = type == QEvent::MouseMove;
+        QMouseEvent event(type, at, at, isMove ? Qt::NoButton : Qt::LeftButton, Qt::LeftButton, {});
+        (pen.*handler)(&event);
+    };
+    send(QEvent::MouseButtonPress, way.first(), &KORVA_Pen::mousePressEvent);
+    for (const QPointF& at : way)
+        send(QEvent::MouseMove, at, &KORVA_Pen::mouseMoveEvent);
+    if (isEnded)
+        send(QEvent::MouseButtonRelease, way.last(), &KORVA_Pen::mouseReleaseEvent);
+}
+
+void tst_PaintLater::aToolMayWorkWithoutTheCanvasesLeave()
+{
+    KORVA_Canvas canvas(nullptr, 40, 30);
+    KORVA_Pen pen("pen");
+    pen.setLeftPen(QPen(Qt::blue, 1));
+    pen.activate(&canvas);
+    stroke(pen, {{5, 5}, {15, 5}, {25, 5}}, false);
+    const QImage picture = canvas.snapshot().toImage();
+    QCOMPARE(picture.pixelColor(10, 5), QColor(Qt::blue));
+    QCOMPARE(picture.pixelColor(25, 5), QColor(Qt::blue));
+    QCOMPARE(canvas.zoomed().toImage().pixelColor(25, 5), QColor(Qt::blue));
+    pen.deactivate();
+}
+
+void tst_PaintLater::nothingIsLeftOfACanvasThatIsGone()
+{
+    KORVA_Pen pen("pen");
+    pen.setLeftPen(QPen(Qt::blue, 1));
+    auto gone = std::make_unique<KORVA_Canvas>(nullptr, 40, 30);
+    pen.activate(gone.get());
+    stroke(pen, {{5, 5}, {15, 5}, {25, 15}}, false);
+    gone.reset();
+    pen.deactivate();
+
+    KORVA_Canvas canvas(nullptr, 40, 30);
+    pen.activate(&canvas);
+    stroke(pen, {{5, 25}, {9, 25}, {15, 25}}, true);
+    QImage expected(40, 30, QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    for (int x = 5; x <= 15; ++x)
+        expected.setPixelColor(x, 25, Qt::blue);
+    QVERIFY(sameImage(canvas.zoomed().toImage(), expected));
+    pen.deactivate();
 }
 
 int main(int argc, char** argv)
