@@ -6,11 +6,14 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <map>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace fuzz {
@@ -19,16 +22,27 @@ namespace {
 
 std::optional<QTemporaryDir> ownFolder;
 
-struct Slowest
-{
-    const char* name = nullptr;
-    double seconds = 0;
-} slowest;
+constexpr double noticed = 0.1; // seconds: what a person feels as a wait
 
-void tellSlowest()
+struct Tally
 {
-    if (slowest.name)
-        std::fprintf(stderr, "slowest: %s, %.0f ms\n", slowest.name, slowest.seconds * 1000);
+    int count = 0;
+    int slow = 0; ///< longer than what is noticed
+    double longest = 0;
+};
+
+std::map<std::string, Tally> tallies; // by name
+
+void tellTallies()
+{
+    qint64 count = 0;
+    for (const auto& [name, tally] : tallies) {
+        count += tally.count;
+        if (tally.slow > 0)
+            std::fprintf(stderr, "%s: %d of %d took more than 100 ms, the longest %.0f ms\n", name.data(),
+                         tally.slow, tally.count, tally.longest * 1000);
+    }
+    std::fprintf(stderr, "things done: %lld\n", count);
 }
 
 double processorSeconds()
@@ -78,7 +92,7 @@ void start()
     static char name[] = "fuzz";
     static char* arguments[] = {name, nullptr};
     new QApplication(count, arguments); // never deleted: the program ends in the middle of it
-    std::atexit(tellSlowest);
+    std::atexit(tellTallies);
 }
 
 } // namespace
@@ -104,8 +118,10 @@ void swiftly(const char* name, const std::function<void()>& work, double mostSec
     const double before = processorSeconds();
     work();
     const double seconds = processorSeconds() - before;
-    if (seconds > slowest.seconds)
-        slowest = {name, seconds};
+    Tally& tally = tallies[name];
+    ++tally.count;
+    tally.slow += seconds > noticed;
+    tally.longest = std::max(tally.longest, seconds);
     if (seconds > mostSeconds) {
         std::fprintf(stderr, "\"%s\" took %.1f s\n", name, seconds);
         std::abort();

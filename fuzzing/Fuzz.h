@@ -21,8 +21,9 @@ void feed(const QByteArray& input);
 QString write(const QString& name, const QByteArray& bytes);
 
 /// Does one thing that somebody waits for. If it takes the processor longer than `mostSeconds`, that is a
-/// finding; the sanitizers make everything about ten times slower. What took longest is printed at the end.
-/// With KORVA_FUZZ_STORY in the environment, so is each name before its work.
+/// finding; the sanitizers make everything about ten times slower. How many things were done is printed at
+/// the end, and by name what took longer than 100 ms. With KORVA_FUZZ_STORY in
+/// the environment each name is printed before its work.
 void swiftly(const char* name, const std::function<void()>& work, double mostSeconds = 1);
 
 /// Whether the picture is there and has no transparent pixel.
