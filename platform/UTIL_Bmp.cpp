@@ -38,8 +38,11 @@ public:
         m_isTopDown = height < 0;
         m_size = QSize(int(width), int(qAbs(height)));
         m_stride = (width * number<quint16>(m_isOld ? 24 : 28) + 31) / 32 * 4;
+        const bool isBiLevel = !m_isOld && number<quint16>(28) == 1;
         source.seek(0);
         m_before = source.read(offset);
+        if (isBiLevel)
+            leaveOutSpareColors();
         return m_before.size() == qsizetype(offset) && width > 0 && height != 0;
     }
 
@@ -68,6 +71,15 @@ public:
     }
 
 private:
+    /// Qt warns of each colour that no pixel can have.
+    void leaveOutSpareColors()
+    {
+        constexpr quint32 most = 256; // of more, Qt takes the file for damaged
+        constexpr int colorsUsed = 46;
+        if (const auto colors = number<quint32>(colorsUsed); colors > 2 && colors <= most)
+            qToLittleEndian<quint32>(2, m_before.data() + colorsUsed);
+    }
+
     template <typename Number>
     [[nodiscard]] Number number(int at) const
     {

@@ -162,7 +162,7 @@ QImage UTIL_ImageReader::decoded(UTIL_PictureSource& source, const UTIL_PictureP
     const bool isReduced = isGreat && target;
     if (probe.format == "PNG")
         return isReduced ? png::readReduced(source, *target) : png::read(source);
-    if (probe.format == "BMP" && isGreat && !probe.hasRuns)
+    if (probe.format == "BMP" && (isGreat || probe.hasSpareColors) && !probe.hasRuns)
         return isReduced ? bmp::readReduced(source, *target, m_background) : bmp::read(source);
 
     QImageReader reader(&source, probe.format);

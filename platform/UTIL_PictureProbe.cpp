@@ -256,6 +256,8 @@ void probeBmp(Bytes& bytes, Probe& probe)
     const quint16 depth = small().value_or(0);
     const quint32 compression = isOld ? quint32(Plain) : number().value_or(Plain);
     const qint64 packedSize = isOld ? 0 : number().value_or(0);
+    bytes.skip(8); // pixels per metre
+    probe.hasSpareColors = depth == 1 && !isOld && number().value_or(0) > 2;
 
     constexpr std::array depths{1, 4, 8, 16, 24, 32};
     probe.size = validSize(width, qAbs(height));

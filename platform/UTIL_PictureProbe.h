@@ -17,13 +17,14 @@ struct UTIL_PictureProbe
         qint64 length;
     };
 
-    QByteArray format;    ///< "PNG", "JPEG", "GIF", "BMP" or "WBMP"; empty if it is none of them
-    QSize size;           ///< in pixels, as stored; invalid when it was not found
-    bool sound = false;   ///< the file is long enough and harmless; see below
-    int passes = 1;       ///< how often a JPEG goes over the picture
-    bool hasRuns = false; ///< a BMP's rows are packed
-    int orientation = 1;  ///< how its camera was held, as EXIF numbers it
-    QList<Range> kept;    ///< the parts of the file that hold the picture, in order
+    QByteArray format;           ///< "PNG", "JPEG", "GIF", "BMP" or "WBMP"; empty if it is none of them
+    QSize size;                  ///< in pixels, as stored; invalid when it was not found
+    bool sound = false;          ///< the file is long enough and harmless; see below
+    int passes = 1;              ///< how often a JPEG goes over the picture
+    bool hasRuns = false;        ///< a BMP's rows are packed
+    bool hasSpareColors = false; ///< a BMP of two colours lists more
+    int orientation = 1;         ///< how its camera was held, as EXIF numbers it
+    QList<Range> kept;           ///< the parts of the file that hold the picture, in order
 
     // `sound` does not say whether all frames of a GIF, or all data of a JPEG, are there.
 

@@ -3,6 +3,8 @@
 #include "support/PictureFiles.h"
 #include "support/TestCase.h"
 
+#include <QtEndian>
+
 #include <sys/stat.h>
 
 #include <unistd.h>
@@ -75,6 +77,8 @@ private slots:
     void limitIsFoundInTheHeader_data();
     void limitIsFoundInTheHeader();
     void limitHoldsForTheWidestWbmp();
+    void colorsThatNoPixelCanHaveAreLeftOut_data();
+    void colorsThatNoPixelCanHaveAreLeftOut();
     void limitIsInclusive();
     void allocationLimitOfTheProgramStays();
     void extraTextIsPassedOver_data();
@@ -278,6 +282,42 @@ void tst_ImageReader::limitIsFoundInTheHeader()
 }
 
 // Its width takes five bytes. Where the rows should be the file has only holes.
+void tst_ImageReader::colorsThatNoPixelCanHaveAreLeftOut_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<bool>("isReduced");
+    QTest::newRow("small") << "200x150" << false;
+    QTest::newRow("great") << "2101x2003" << false;
+    QTest::newRow("great, reduced") << "2101x2003" << true;
+}
+
+void tst_ImageReader::colorsThatNoPixelCanHaveAreLeftOut()
+{
+    QFETCH(QString, size);
+    QFETCH(bool, isReduced);
+    QVERIFY(
+        support::convert({path("a.png"), "-sample", size + '!', "-monochrome", "BMP3:" + path("two.bmp")}));
+    QByteArray file = contents(path("two.bmp"));
+    constexpr int spare = 42;
+    constexpr int paletteEnd = 54 + 2 * 4;
+    QCOMPARE(qFromLittleEndian<quint32>(file.constData() + 10), quint32(paletteEnd));
+    file.insert(paletteEnd, QByteArray(spare * 4, '\x55'));
+    qToLittleEndian(quint32(paletteEnd + spare * 4), file.data() + 10);
+    qToLittleEndian(quint32(2 + spare), file.data() + 46);
+
+    UTIL_ImageReader plain(path("two.bmp"));
+    UTIL_ImageReader spared = UTIL_ImageReader::fromData(file);
+    if (isReduced) {
+        for (UTIL_ImageReader* reader : {&plain, &spared})
+            reader->setReduction([](QSize whole) { return whole / 7; }, qRgb(255, 255, 255));
+    }
+    QVERIFY(plain.read());
+    QVERIFY(spared.read());
+    QCOMPARE(spared.isWhole(), plain.isWhole());
+    QCOMPARE(spared.image().colorTable(), plain.image().colorTable());
+    QVERIFY(spared.image() == plain.image());
+}
+
 void tst_ImageReader::limitHoldsForTheWidestWbmp()
 {
     const QByteArray header("\0\0\x81\x80\x80\x80\0\1", 8);
