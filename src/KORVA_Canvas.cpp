@@ -211,6 +211,11 @@ void KORVA_Canvas::setPaper(const QImage& paper)
         markModified();
 }
 
+bool KORVA_Canvas::hasPaper() const
+{
+    return m_picture->hasPaper();
+}
+
 void KORVA_Canvas::erase(const QRect& inPicture, const QRect& onScreen)
 {
     drawing().erase(inPicture);
@@ -224,8 +229,13 @@ void KORVA_Canvas::erase(const QRect& inPicture, const QRect& onScreen)
 
 void KORVA_Canvas::erase(const QRegion& inPicture)
 {
-    drawing().eraseRegion(inPicture);
+    eraseUnseen(inPicture);
     showPicture(inPicture.boundingRect());
+}
+
+void KORVA_Canvas::eraseUnseen(const QRegion& inPicture)
+{
+    drawing().eraseRegion(inPicture);
 }
 
 void KORVA_Canvas::resizeImage(int w, int h)

@@ -110,12 +110,16 @@ public:
     /// cutting bring it back. Null, the initial value, is white paper. Parts that showed the previous paper
     /// show the new one; if that changes a pixel it is a modification. A saved picture includes the paper.
     void setPaper(const QImage& paper);
+    /// Whether that is another paper than white.
+    [[nodiscard]] bool hasPaper() const;
     /// Brings the paper back, for a tool that erases. `inPicture` is in picture coordinates, `onScreen` in
     /// widget coordinates. On white paper only `onScreen` is erased on the screen; any other paper is shown
     /// as it lies.
     void erase(const QRect& inPicture, const QRect& onScreen);
     /// The same in picture coordinates, and shows exactly that.
     void erase(const QRegion& inPicture);
+    /// The same without showing it.
+    void eraseUnseen(const QRegion& inPicture);
     /// Scales the picture to `w` × `h` pixels. Does nothing if that is its size; the picture becomes empty
     /// if a side is not positive. Emits sizeChanged() if the size on screen changes, pixmapChanged(),
     /// modified(). A floating piece is merged into the new picture; undo then does not bring the old one
@@ -184,10 +188,14 @@ public:
     /// The same from a copy of the picture on which `paint` has painted, as feedback of a tool that shows
     /// what it will commit. updateZoomed() takes it off the screen.
     void showWith(const std::function<void(QPixmap* copy)>& paint);
-    /// The same for a tool that is painting what it has put off: the screen learns of it in another way.
-    void paintShown(const QRegion& changed);
+    /// showPicture() for a tool that is painting what it has put off: the screen learns of it in another
+    /// way. One change after the other, as if each had been shown at once.
+    void paintShown(const QList<QRect>& changes);
     /// What showPicture() shows anew, in widget coordinates.
     [[nodiscard]] QRect shownAround(const QRect& changed) const;
+    /// Whether the screen has the picture's very pixels in what showPicture() would show: at 100 %, and
+    /// where no tool has left anything else. Not for a tool that has put off painting.
+    [[nodiscard]] bool showsPixelsOf(const QRect& part) const;
     /// For a tool, `painter`, that puts off its painting (KORVA_Tool::paintWaiting()): shows `changed`, in
     /// widget coordinates, at the screen's pace. Whoever has ever been given pixmap() or zoomedPixmap() may
     /// look at any time; then nothing is put off.

@@ -38,12 +38,17 @@ void KORVA_Canvas::handOn(QMouseEvent* event, Handler toTool, LabelHandler toLab
     }
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
         mergePastePixmap();
-    if (m_tool) {
-        QMouseEvent exact = movedTo(pointer, *event);
-        exact.setTimestamp(event->timestamp());
-        (m_tool.data()->*toTool)(&exact);
-        event->setAccepted(exact.isAccepted());
+    if (!m_tool)
+        return;
+    event->accept();
+    if (event->position() == pointer) {
+        (m_tool.data()->*toTool)(event);
+        return;
     }
+    QMouseEvent exact = movedTo(pointer, *event);
+    exact.setTimestamp(event->timestamp());
+    (m_tool.data()->*toTool)(&exact);
+    event->setAccepted(exact.isAccepted());
 }
 
 void KORVA_Canvas::mousePressEvent(QMouseEvent* event)

@@ -10,6 +10,7 @@
 
 #include <QPaintEvent>
 
+#include <cstring>
 #include <utility>
 
 // What is on the screen: the zoomed picture, what waits to be painted, and the zoom.
@@ -138,7 +139,7 @@ void KORVA_Canvas::updateZoomed()
 
 void KORVA_Canvas::showPicture(const QRect& changed)
 {
-    paintShown(changed);
+    paintShown({changed});
     refresh(shownAround(changed));
 }
 
@@ -148,16 +149,37 @@ QRect KORVA_Canvas::shownAround(const QRect& changed) const
     return {m_zoom.toWidget(wide.topLeft()), m_zoom.toWidget(wide.bottomRight())};
 }
 
-void KORVA_Canvas::paintShown(const QRegion& changed)
+bool KORVA_Canvas::showsPixelsOf(const QRect& part) const
+{
+    constexpr int realSize = 100;
+    if (zoom() != realSize)
+        return false;
+    const QImage picture = drawing().pixmap()->toImage();
+    const QImage shown = m_zoomed.toImage();
+    constexpr int bytes = 4; // of a pixel
+    const QRect there = shownAround(part) & shown.rect() & picture.rect();
+    if (picture.format() != shown.format() || picture.depth() != 8 * bytes)
+        return false;
+    for (int y = there.top(); y <= there.bottom(); ++y) {
+        const qsizetype left = qsizetype(there.left()) * bytes;
+        if (std::memcmp(picture.constScanLine(y) + left, shown.constScanLine(y) + left,
+                        size_t(there.width()) * bytes) != 0)
+            return false;
+    }
+    return true;
+}
+
+// At a fractional rate Qt's pixels depend on the rectangle that is painted.
+void KORVA_Canvas::paintShown(const QList<QRect>& changes)
 {
     const QPixmap& picture = *drawing().pixmap();
-    QRegion shown;
-    for (const QRect& part : changed)
-        shown += shownAround(part);
     KORVA_ClassicPainter painter(&m_zoomed);
-    painter.setClip(shown);
-    painter.setWorldMatrix(m_zoom.toWidgetMatrix());
-    painter.drawPixmap(0, 0, picture);
+    for (const QRect& change : changes) {
+        painter.setClip(shownAround(change));
+        painter.setWorldMatrix(m_zoom.toWidgetMatrix());
+        painter.drawPixmap(0, 0, picture);
+        painter.setWorldMatrix({});
+    }
 }
 
 void KORVA_Canvas::rebuildZoomed()

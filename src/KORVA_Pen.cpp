@@ -6,6 +6,7 @@
 #include "KORVA_RoundBrush.h"
 
 #include <QMouseEvent>
+#include <QPolygon>
 
 namespace {
 
@@ -86,16 +87,26 @@ QRect KORVA_Pen::inPicture(const QRect& way) const
 
 void KORVA_Pen::paintWaiting(QPixmap* picture, QPixmap* shown)
 {
+    const QRect whole = inPicture(QPolygon(m_way).boundingRect());
+    const bool isCopied = isCheaper(whole.size()) && canvas()->showsPixelsOf(whole);
     drawWay(picture, InPicture);
-    if (showsPixels()) {
-        QRegion way;
+    if (isCopied) {
+        canvas()->paintShown({whole});
+    } else if (showsPixels()) {
+        QList<QRect> way;
         for (qsizetype i = 1; i < m_way.size(); ++i)
-            way += inPicture(around(m_way[i - 1], m_way[i]));
+            way.append(inPicture(around(m_way[i - 1], m_way[i])));
         canvas()->paintShown(way);
     } else {
         drawWay(shown, OnScreen);
     }
     m_way.clear();
+}
+
+bool KORVA_Pen::isCheaper(QSize copy) const
+{
+    constexpr int pixelsALine = 2000; // are copied as quickly as a line is drawn
+    return qint64(copy.width()) * copy.height() < pixelsALine * m_way.size();
 }
 
 void KORVA_Pen::drawWay(QPixmap* target, Where where) const

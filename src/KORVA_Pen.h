@@ -29,6 +29,8 @@ private:
     enum Where { InPicture, OnScreen };
     void drawWay(QPixmap* target, Where where) const;
     [[nodiscard]] QRect inPicture(const QRect& way) const;
+    /// Whether copying so many pixels takes less than drawing the way once more.
+    [[nodiscard]] bool isCheaper(QSize copy) const;
 
     QPoint m_last;       ///< the last point drawn, in widget coordinates
     QList<QPoint> m_way; ///< the points of the segments not yet painted, in widget coordinates

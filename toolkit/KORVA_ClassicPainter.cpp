@@ -156,7 +156,7 @@ void KORVA_ClassicPainter::drawLine(int x1, int y1, int x2, int y2)
     const int width = outlineWidth();
     const QRect box = classic::normalized(QRect(QPoint(x1, y1), QPoint(x2, y2)));
     touch(box, width);
-    drawInParts(QRegion(box), [&] { m_painter.drawLine(x1, y1, x2, y2); });
+    drawInParts(box, [&] { m_painter.drawLine(x1, y1, x2, y2); });
 }
 
 void KORVA_ClassicPainter::drawRect(int x, int y, int w, int h)
@@ -227,8 +227,8 @@ void KORVA_ClassicPainter::drawEllipse(int x, int y, int w, int h)
     m_painter.setClipping(false);
 }
 
-template <typename Draw>
-void KORVA_ClassicPainter::drawInParts(const QRegion& area, const Draw& drawAll)
+template <typename Area, typename Draw>
+void KORVA_ClassicPainter::drawInParts(const Area& area, const Draw& drawAll)
 {
     // A clip would change a wide line at its edges.
     if (m_op == CopyROP || outlineWidth() > 1) {
@@ -236,7 +236,7 @@ void KORVA_ClassicPainter::drawInParts(const QRegion& area, const Draw& drawAll)
         return;
     }
     const QRect target(0, 0, m_painter.device()->width(), m_painter.device()->height());
-    for (const QRect& box : area& target) {
+    for (const QRect& box : QRegion(area) & target) {
         for (const QRect& part : alongTheLongerSide(box)) {
             m_painter.setClipRect(part);
             drawAll();

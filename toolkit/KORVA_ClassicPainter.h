@@ -54,8 +54,8 @@ private:
     [[nodiscard]] int outlineWidth() const;
     /// Paints a shape that lies within `area`. A painter that inverts paints one part of that after the
     /// other.
-    template <typename Draw>
-    void drawInParts(const QRegion& area, const Draw& drawAll);
+    template <typename Area, typename Draw> // a rectangle or a region
+    void drawInParts(const Area& area, const Draw& drawAll);
     void fillRoundFrame(const QRect& outer, const QRect& hole);
     void drawPixelByPixel(QPoint at, const QImage& image, const QRect& onScreen);
     void invertDotted(const QRect& box, const QRegion& bars, const QRectF& outline);

@@ -17,12 +17,15 @@ QPoint pixel::at(const QPointF& position)
 
 QPointF pixel::pointer(const QMouseEvent& event, const QWidget& widget)
 {
+    const QPointF inSurface = event.scenePosition();
+    const QPointF rounded(inSurface.toPoint());
+    if (inSurface == rounded)
+        return event.position();
     const QWidget* surface =
         widget.testAttribute(Qt::WA_NativeWindow) ? &widget : widget.nativeParentWidget();
     if (!surface)
         return event.position();
-    const QPointF inSurface = event.scenePosition();
-    const bool isRounded = widget.mapFrom(surface, QPointF(inSurface.toPoint())) == event.position();
+    const bool isRounded = widget.mapFrom(surface, rounded) == event.position();
     return isRounded ? widget.mapFrom(surface, inSurface) : event.position();
 }
 

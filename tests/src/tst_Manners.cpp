@@ -51,6 +51,7 @@ private slots:
     void joinedEraserIsOneStep();
     void joinedEraserNeedsAPress();
     void joinedEraserBringsPaperBack();
+    void joinedEraserMayLoseItsCanvas();
     void everyToolRemembersItsSize();
 };
 
@@ -181,6 +182,21 @@ void tst_Manners::joinedEraserBringsPaperBack()
     const QRect way(10, 10, 25, 5);
     QVERIFY(sameImage(desk.picture(), support::overlaid(support::sheet(size, Qt::blue), way.topLeft(),
                                                         support::mosaic(size).copy(way))));
+}
+
+void tst_Manners::joinedEraserMayLoseItsCanvas()
+{
+    MannersDesk desk(&KORVA_Manners::joinedEraser);
+    desk.editor->selectTool(KORVA_TOOL_ERASER);
+    connect(desk.editor.get(), &KORVA_EditCanvas::modified, desk.editor.get(),
+            [&desk] { desk.editor->selectTool(KORVA_TOOL_LINE); });
+    support::Gestures stylus(desk.canvas());
+    stylus.press({10, 10}); // its modification takes the eraser away
+    QCOMPARE(desk.editor->tool(), int(KORVA_TOOL_LINE));
+    QVERIFY(sameImage(desk.picture(), support::mosaic(size)));
+    stylus.move({30, 30});
+    stylus.release({30, 30});
+    QVERIFY(sameImage(desk.picture(), support::mosaic(size)));
 }
 
 void tst_Manners::everyToolRemembersItsSize()

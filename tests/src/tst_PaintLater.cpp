@@ -63,6 +63,7 @@ private slots:
     void whatIsHeldIsUpToDate();
     void repaintShowsIt();
     void changesOfThePenComeAfter();
+    void whatAToolHasLeftStays();
     void aToolMayWorkWithoutTheCanvasesLeave();
     void nothingIsLeftOfACanvasThatIsGone();
 };
@@ -190,6 +191,31 @@ void tst_PaintLater::changesOfThePenComeAfter()
     hand.release({25, 15});
     QCOMPARE(QColor(desk.whole().pixel(20, 5)), QColor(Qt::red));
     QCOMPARE(QColor(desk.whole().pixel(25, 12)), QColor(Qt::blue));
+}
+
+void tst_PaintLater::whatAToolHasLeftStays()
+{
+    PieceDesk desk({});
+    desk.editor->selectTool(KORVA_TOOL_ELLIPSE);
+    support::Gestures hand(desk.canvas());
+    hand.press({20, 20});
+    hand.move({22, 22}); // the ellipse that is taken away without ever having been drawn
+    hand.move({60, 60});
+    hand.release({20, 20});
+    const QRect there(18, 18, 7, 7);
+    const QImage left = desk.canvas().zoomed().toImage().copy(there);
+    QVERIFY(left != desk.whole().copy(there));
+
+    desk.editor->selectTool(KORVA_TOOL_PENCIL);
+    hand.press({10, 10});
+    hand.move({40, 10});
+    hand.move({40, 40});
+    hand.release({40, 40});
+    const QImage shown = desk.canvas().zoomed().toImage();
+    QVERIFY(sameImage(shown.copy(there), left));
+    for (const QPoint drawn : {QPoint(10, 10), QPoint(25, 10), QPoint(40, 25), QPoint(40, 40)})
+        QCOMPARE(shown.pixel(drawn), desk.whole().pixel(drawn));
+    QVERIFY(shown.pixel(25, 10) != left.pixel(0, 0));
 }
 
 /// A stroke of a pencil that the canvas does not know, to be ended or not.
