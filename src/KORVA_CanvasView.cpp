@@ -1,6 +1,7 @@
 #include "KORVA_Canvas.h"
 
 #include "KORVA_ClassicPainter.h"
+#include "KORVA_Enlarge.h"
 #include "KORVA_Limit.h"
 #include "KORVA_PasteLabel.h"
 #include "KORVA_Picture.h"
@@ -208,9 +209,11 @@ void KORVA_Canvas::paintZoomed()
 
 void KORVA_Canvas::paintZoomed(const QPixmap& picture)
 {
-    if (zoom() == 100) {
+    constexpr int realSize = 100;
+    if (zoom() == realSize) {
         m_zoomed = picture; // one picture in memory until either is painted on
-    } else {                // the picture covers it and is opaque
+    } else if (zoom() % realSize != 0 || !classic::enlarge(picture, zoom() / realSize, m_zoomed)) {
+        // The picture covers it and is opaque.
         KORVA_ClassicPainter painter(&m_zoomed);
         painter.setWorldMatrix(m_zoom.toWidgetMatrix());
         painter.drawPixmap(0, 0, picture);
