@@ -8,6 +8,7 @@ set(korva_header_dir ${CMAKE_INSTALL_INCLUDEDIR}/korva)
 install(TARGETS korva
     EXPORT KorvaTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     FILE_SET HEADERS DESTINATION ${korva_header_dir} COMPONENT development)
 install(EXPORT KorvaTargets NAMESPACE Korva:: DESTINATION ${korva_package_dir} COMPONENT development)
 
@@ -21,13 +22,17 @@ install(FILES ${PROJECT_BINARY_DIR}/KorvaConfig.cmake ${PROJECT_BINARY_DIR}/Korv
 # Relative to the file, so that the tree can be installed anywhere.
 set(korva_pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH korva_pc_prefix /${korva_pc_dir} /)
+if(NOT BUILD_SHARED_LIBS)
+    set(korva_pc_requires ", libpng, libjpeg, zlib")
+    set(korva_pc_libs " -lgif -ldl")
+endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/korva.pc.in ${PROJECT_BINARY_DIR}/korva.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/korva.pc DESTINATION ${korva_pc_dir} COMPONENT development)
 
 install(FILES ${korva_messages}
     DESTINATION ${CMAKE_INSTALL_DATADIR}/korva/translations COMPONENT translations)
 
-if(KORVA_BUILD_HOST)
+if(KORVA_BUILD_PROGRAMS)
     install(TARGETS korva-pad korva-preview COMPONENT pad)
     install(FILES docs/man/korva-pad.1 docs/man/korva-preview.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT pad)
