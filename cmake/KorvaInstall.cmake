@@ -1,5 +1,6 @@
-# The installed tree, in the four parts that the packages are made of: runtime (the shared library), development
-# (headers, CMake and pkg-config), pad (the programs) and translations (the languages of both).
+# The installed tree, in the parts that the packages are made of: runtime (the shared library), development (headers,
+# CMake and pkg-config), pad (the programs), translations (the languages of both), designer (the plugin for Qt Designer)
+# and python (the module for Python).
 include(CMakePackageConfigHelpers)
 
 set(korva_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Korva)
@@ -48,4 +49,16 @@ if(KORVA_BUILD_PROGRAMS)
             DESTINATION ${korva_icon_dir}/${size}x${size}/apps RENAME korva-pad.png COMPONENT pad)
     endforeach()
     install(FILES images/source/korva-pad.svg DESTINATION ${korva_icon_dir}/scalable/apps COMPONENT pad)
+endif()
+
+if(KORVA_BUILD_PLUGIN)
+    # Where Qt looks: below its own prefix, and so below any other for QT_PLUGIN_PATH.
+    set(KORVA_PLUGIN_DIR ${QT6_INSTALL_PLUGINS} CACHE STRING "The folder of Qt's plugins, as seen from the prefix")
+    install(TARGETS korva-designer LIBRARY DESTINATION ${KORVA_PLUGIN_DIR}/designer COMPONENT designer)
+endif()
+
+if(KORVA_BUILD_PYTHON)
+    set(KORVA_PYTHON_DIR lib/python3/dist-packages CACHE STRING "The folder of Python's modules, as seen from the prefix")
+    install(TARGETS korva_python LIBRARY DESTINATION ${KORVA_PYTHON_DIR} COMPONENT python)
+    install(FILES ${PROJECT_BINARY_DIR}/python/sip/korva/korva.pyi DESTINATION ${KORVA_PYTHON_DIR} COMPONENT python)
 endif()
