@@ -1,5 +1,6 @@
-# The installed tree, in the four parts that the packages are made of: runtime (the shared library), development
-# (headers, CMake and pkg-config), pad (the programs) and translations (the languages of both).
+# The installed tree, in the parts that the packages are made of: runtime (the shared library), development (headers,
+# CMake and pkg-config), pad (the programs), translations (the languages of both), designer (the plugin for Qt Designer)
+# and python (the module for Python).
 include(CMakePackageConfigHelpers)
 
 set(korva_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Korva)
@@ -8,6 +9,7 @@ set(korva_header_dir ${CMAKE_INSTALL_INCLUDEDIR}/korva)
 install(TARGETS korva
     EXPORT KorvaTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     FILE_SET HEADERS DESTINATION ${korva_header_dir} COMPONENT development)
 install(EXPORT KorvaTargets NAMESPACE Korva:: DESTINATION ${korva_package_dir} COMPONENT development)
 
@@ -21,13 +23,17 @@ install(FILES ${PROJECT_BINARY_DIR}/KorvaConfig.cmake ${PROJECT_BINARY_DIR}/Korv
 # Relative to the file, so that the tree can be installed anywhere.
 set(korva_pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 file(RELATIVE_PATH korva_pc_prefix /${korva_pc_dir} /)
+if(NOT BUILD_SHARED_LIBS)
+    set(korva_pc_requires ", libpng, libjpeg, zlib")
+    set(korva_pc_libs " -lgif -ldl")
+endif()
 configure_file(${CMAKE_CURRENT_LIST_DIR}/korva.pc.in ${PROJECT_BINARY_DIR}/korva.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/korva.pc DESTINATION ${korva_pc_dir} COMPONENT development)
 
 install(FILES ${korva_messages}
     DESTINATION ${CMAKE_INSTALL_DATADIR}/korva/translations COMPONENT translations)
 
-if(KORVA_BUILD_HOST)
+if(KORVA_BUILD_PROGRAMS)
     install(TARGETS korva-pad korva-preview COMPONENT pad)
     install(FILES docs/man/korva-pad.1 docs/man/korva-preview.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT pad)
@@ -43,4 +49,16 @@ if(KORVA_BUILD_HOST)
             DESTINATION ${korva_icon_dir}/${size}x${size}/apps RENAME korva-pad.png COMPONENT pad)
     endforeach()
     install(FILES images/source/korva-pad.svg DESTINATION ${korva_icon_dir}/scalable/apps COMPONENT pad)
+endif()
+
+if(KORVA_BUILD_PLUGIN)
+    # Where Qt looks: below its own prefix, and so below any other for QT_PLUGIN_PATH.
+    set(KORVA_PLUGIN_DIR ${QT6_INSTALL_PLUGINS} CACHE STRING "The folder of Qt's plugins, as seen from the prefix")
+    install(TARGETS korva-designer LIBRARY DESTINATION ${KORVA_PLUGIN_DIR}/designer COMPONENT designer)
+endif()
+
+if(KORVA_BUILD_PYTHON)
+    set(KORVA_PYTHON_DIR lib/python3/dist-packages CACHE STRING "The folder of Python's modules, as seen from the prefix")
+    install(TARGETS korva_python LIBRARY DESTINATION ${KORVA_PYTHON_DIR} COMPONENT python)
+    install(FILES ${PROJECT_BINARY_DIR}/python/sip/korva/korva.pyi DESTINATION ${KORVA_PYTHON_DIR} COMPONENT python)
 endif()

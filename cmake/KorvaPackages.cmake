@@ -12,6 +12,12 @@ set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/finish-packages.cma
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL runtime development pad translations)
+if(KORVA_BUILD_PLUGIN)
+    list(APPEND CPACK_COMPONENTS_ALL designer)
+endif()
+if(KORVA_BUILD_PYTHON)
+    list(APPEND CPACK_COMPONENTS_ALL python)
+endif()
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
@@ -73,6 +79,23 @@ korva_package(translations libkorva-l10n localization
         "A drawing editor that a Qt program embeds as one widget: pencil, line,"
         "rectangle, ellipse, eraser, text, and a selection that is moved, stretched"
         "and turned.\n\nThis package holds the languages of the library and of korva-pad.")
+korva_package(designer libkorva-designer libs
+    COMPONENTS runtime
+    RECOMMENDS designer-qt6
+    DESCRIPTION
+        "bitmap drawing pad widget for small touch screens (Qt Designer plugin)"
+        "A drawing editor that a Qt program embeds as one widget: pencil, line,"
+        "rectangle, ellipse, eraser, text, and a selection that is moved, stretched"
+        "and turned.\n\nThis package holds the plugin with which Qt Designer, and programs that"
+        "load forms, show the editor and the preview.")
+korva_package(python python3-korva python
+    COMPONENTS runtime
+    DEPENDS python3 "python3-pyqt6 (>= 6.4)"
+    DESCRIPTION
+        "bitmap drawing pad widget for small touch screens (Python 3 binding)"
+        "A drawing editor that a PyQt6 program embeds as one widget: pencil, line,"
+        "rectangle, ellipse, eraser, text, and a selection that is moved, stretched"
+        "and turned.\n\nThis package holds the module korva for Python 3.")
 set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_MULTIARCH foreign)
 set(CPACK_DEBIAN_TRANSLATIONS_PACKAGE_SHLIBDEPS OFF)

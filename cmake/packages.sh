@@ -17,8 +17,10 @@ need_packages() {
 build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-dev libxcb-randr0-dev qt6-tools-dev qt6-l10n-tools
     qt6-image-formats-plugins qt6-wayland libgif-dev libjpeg-dev libpng-dev fonts-dejavu-core)
 
-test_packages=(git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
+python_packages=(pyqt6-dev python3-dev python3-pyqt6 sip-tools)
+
+test_packages=("${python_packages[@]}" git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
     libbenchmark-dev libx11-dev libxext-dev libxdamage-dev libxtst-dev
-    doxygen dpkg-dev file fakeroot lintian sway grim libwayland-dev
+    doxygen libqt6opengl6-dev dpkg-dev file fakeroot lintian sway grim libwayland-dev
     fonts-droid-fallback fonts-lohit-deva fonts-tlwg-loma-otf
     at-spi2-core dbus-daemon ibus ibus-table ibus-table-latex bubblewrap python3)

@@ -2,6 +2,7 @@
 
 #include "Language.h"
 #include "StartMessages.h"
+#include "XScreen.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,21 +14,13 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <xcb/randr.h>
-#include <xcb/xcb.h>
-
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 
 namespace pad {
 
 namespace {
 
 enum class Kind { X, Wayland, Other };
-
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
 
 bool isSet(const char* variable)
 {
@@ -39,49 +32,6 @@ Kind kindOf(const QByteArray& platform)
     return platform.startsWith("xcb")       ? Kind::X
            : platform.startsWith("wayland") ? Kind::Wayland
                                             : Kind::Other;
-}
-
-// --- X
-
-/// The server is asked directly, because that takes less than a millisecond. The connection stays open:
-/// many servers restart when their last client leaves, and would refuse a program that connects right
-/// after.
-xcb_connection_t* xConnection()
-{
-    static const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
-        xcb_connect(nullptr, nullptr), &xcb_disconnect);
-    return xcb_connection_has_error(connection.get()) ? nullptr : connection.get();
-}
-
-Screen monitorOf(const xcb_randr_monitor_info_t& monitor)
-{
-    Screen screen{QSize(monitor.width, monitor.height)};
-    screen.setMillimetres(QSize(int(monitor.width_in_millimeters), int(monitor.height_in_millimeters)));
-    return screen;
-}
-
-Screen xScreen()
-{
-    xcb_connection_t* connection = xConnection();
-    const xcb_screen_t& root = *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
-    Screen screen{QSize(root.width_in_pixels, root.height_in_pixels)};
-    const xcb_query_extension_reply_t* randr = xcb_get_extension_data(connection, &xcb_randr_id);
-    if (!randr || !randr->present)
-        return screen;
-    const Owned<xcb_randr_get_monitors_reply_t> monitors(
-        xcb_randr_get_monitors_reply(connection, xcb_randr_get_monitors(connection, root.root, true),
-                                     nullptr),
-        &std::free);
-    if (!monitors)
-        return screen;
-    auto monitor = xcb_randr_get_monitors_monitors_iterator(monitors.get());
-    if (monitor.rem)
-        screen = monitorOf(*monitor.data);
-    for (; monitor.rem; xcb_randr_monitor_info_next(&monitor)) {
-        if (monitor.data->primary)
-            screen = monitorOf(*monitor.data);
-    }
-    return screen;
 }
 
 // --- Wayland
@@ -131,7 +81,7 @@ std::optional<QString> objection(const QByteArray& platform)
     const QString display = QStringLiteral("'%1'");
     switch (kindOf(platform)) {
     case Kind::X:
-        if (!xConnection())
+        if (!xscreen::answers())
             return display.arg(qEnvironmentVariable("DISPLAY"));
         break;
     case Kind::Wayland:
@@ -209,7 +159,10 @@ Expected<Display> Display::find(bool needsNobody)
 
     if (display.platform == "offscreen" || display.platform.startsWith("minimal"))
         return display;
-    display.screen = kindOf(display.platform) == Kind::X ? xScreen() : anyScreen();
+    if (kindOf(display.platform) == Kind::X)
+        display.screen = xscreen::ask();
+    if (!display.screen)
+        display.screen = anyScreen();
     if (!display.screen) {
         const language::Early words;
         const QString reason = startmessages::reason();

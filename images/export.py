@@ -3,7 +3,7 @@
 
 Every drawing but the application icon becomes a GIF at its own size and, as NAME@2x.gif and
 NAME@3x.gif, at two and three times that size. The application icon becomes PNGs for the desktop.
-Running the script again yields the same bytes.
+The drawings in designer become PNGs beside themselves, as NAME.png and NAME@2x.png. Running the script again yields the same bytes.
 
 Needs only: apt-get install python3 librsvg2-bin imagemagick
 
@@ -21,10 +21,12 @@ from pathlib import Path
 
 IMAGES = Path(__file__).resolve().parent
 SOURCE = IMAGES / "source"
+DESIGNER = IMAGES.parent / "designer"
 APPLICATION = "korva-pad"
 
 SCALES = {1: "", 2: "@2x", 3: "@3x"}
 APPLICATION_SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
+DESIGNER_SCALES = (1, 2)
 
 # A GIF pixel is opaque or absent, so edges are blended with the ground the controls stand on,
 # and what an edge hardly touches is left out: it would show as a speck on a pressed control.
@@ -91,15 +93,26 @@ def export(target):
             (target / f"{name}{suffix}.gif").write_bytes(picture)
 
 
+def export_designer(target):
+    for drawing in sorted(DESIGNER.glob("*.svg")):
+        width, height = size(drawing)
+        for scale in DESIGNER_SCALES:
+            picture = render(drawing, width * scale, height * scale)
+            (target / f"{drawing.stem}{SCALES[scale]}.png").write_bytes(picture)
+
+
 def pictures(folder):
     return {path.name: path.read_bytes() for path in folder.iterdir() if path.suffix in (".gif", ".png")}
 
 
 def outdated():
-    with tempfile.TemporaryDirectory() as folder:
-        export(Path(folder))
-        fresh, present = pictures(Path(folder)), pictures(IMAGES)
-    return sorted(name for name in fresh.keys() | present.keys() if fresh.get(name) != present.get(name))
+    stale = []
+    for make, place in ((export, IMAGES), (export_designer, DESIGNER)):
+        with tempfile.TemporaryDirectory() as folder:
+            make(Path(folder))
+            fresh, present = pictures(Path(folder)), pictures(place)
+        stale += [name for name in fresh.keys() | present.keys() if fresh.get(name) != present.get(name)]
+    return sorted(stale)
 
 
 def main(arguments):
@@ -112,6 +125,7 @@ def main(arguments):
     if arguments:
         return __doc__
     export(IMAGES)
+    export_designer(DESIGNER)
     return 0
 
 

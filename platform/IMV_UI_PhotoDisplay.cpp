@@ -1,5 +1,6 @@
 #include "IMV_UI_PhotoDisplay.h"
 
+#include "UTIL_GifParser.h"
 #include "UTIL_Skin.h"
 
 #include <QBuffer>
@@ -74,9 +75,20 @@ UTIL_ImageReader::Reduction IMV_UI_PhotoDisplay::reductionTo(QSize display)
 void IMV_UI_PhotoDisplay::setImage(const QImage& image)
 {
     m_movie.reset();
+    m_isOwn = false;
     m_content = Content::Image;
     m_image = image;
     render();
+}
+
+void IMV_UI_PhotoDisplay::setFile(const QString& fileName)
+{
+    setImage(QImage());
+    m_fileName = fileName;
+    m_isOwn = true;
+    m_content = Content::UnreadFile;
+    if (isVisible())
+        readSoon();
 }
 
 void IMV_UI_PhotoDisplay::loadGifAnimation(const QString& fileName)
@@ -112,7 +124,7 @@ void IMV_UI_PhotoDisplay::showEvent(QShowEvent* event)
     QLabel::showEvent(event);
     setPlaying(true);
     if (m_content == Content::UnreadFile)
-        QTimer::singleShot(0, this, &IMV_UI_PhotoDisplay::readFile); // after the window is shown
+        readSoon();
 }
 
 void IMV_UI_PhotoDisplay::hideEvent(QHideEvent* event)
@@ -124,18 +136,36 @@ void IMV_UI_PhotoDisplay::hideEvent(QHideEvent* event)
 void IMV_UI_PhotoDisplay::resizeEvent(QResizeEvent* event)
 {
     QLabel::resizeEvent(event);
+    const bool isLarger = width() > m_readFor.width() || height() > m_readFor.height();
+    if (m_isOwn && m_content == Content::Image && !m_movie && isLarger) {
+        m_content = Content::UnreadFile; // what is shown stays until then
+        if (isVisible())
+            readSoon();
+    }
     render();
+}
+
+/// After the window is shown, or has its new size.
+void IMV_UI_PhotoDisplay::readSoon()
+{
+    QTimer::singleShot(0, this, &IMV_UI_PhotoDisplay::readFile);
 }
 
 void IMV_UI_PhotoDisplay::readFile()
 {
     if (m_content != Content::UnreadFile)
         return;
+    m_readFor = size();
     UTIL_ImageReader reader(m_fileName);
     reader.setReduction(reductionTo(size()), paper);
     m_content = reader.read() ? Content::Image : Content::Unreadable;
     m_image = reader.image();
     render();
+    if (!m_isOwn || m_content != Content::Image)
+        return;
+    UTIL_GifParser parser(m_fileName, UTIL_GifParser::WholeFile);
+    if (parser.parse() == UTIL_GifParser::NoError && parser.isAnimated())
+        loadGifAnimation(m_fileName);
 }
 
 void IMV_UI_PhotoDisplay::render()

@@ -29,6 +29,9 @@ public:
 
     /// Shows this image instead of whatever was shown.
     void setImage(const QImage& image);
+    /// Shows a file instead of whatever was shown, as soon as the display is on the screen. It is read
+    /// again when the display grows, and an animated GIF plays.
+    void setFile(const QString& fileName);
     /// Plays a GIF with its own delays, as often as the file says; its last frame stays. A file that cannot
     /// be played changes nothing.
     void loadGifAnimation(const QString& fileName);
@@ -45,6 +48,7 @@ private:
         Unreadable, ///< the mark
     };
 
+    void readSoon();
     void readFile();
     void setPlaying(bool isPlaying);
     void render();
@@ -52,5 +56,7 @@ private:
     Content m_content;
     QString m_fileName;
     QImage m_image;
+    QSize m_readFor;                 ///< the display's size when the file was read
+    bool m_isOwn = false;            ///< setFile() gave it
     std::unique_ptr<QMovie> m_movie; ///< null when nothing is played
 };

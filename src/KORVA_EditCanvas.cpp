@@ -42,6 +42,8 @@ constexpr int otherCanvasDepth = 16;
 
 } // namespace
 
+KORVA_EditCanvas::KORVA_EditCanvas(QWidget* parent) : KORVA_EditCanvas(KORVA_COLOR_16BIT, parent) {}
+
 KORVA_EditCanvas::KORVA_EditCanvas(KORVA_COLORTYPE colorType, QWidget* parent, const char* name,
                                    Qt::WindowFlags flags, QWidget* ownerWindow)
     : KORVA_EditCanvas(QString(), colorType, parent, name, flags, ownerWindow)

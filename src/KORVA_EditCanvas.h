@@ -33,11 +33,59 @@ class KORVA_ZoomChoice;
 /// of any signal may call everything here, or delete the editor later.
 ///
 /// An `action` or a `flag` is a KORVA_ACTIONTYPE.
+///
+/// The properties are for forms, which set them in this order. What is not possible is not taken in.
 class KORVA_EXPORT KORVA_EditCanvas : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(Offers offers READ offers WRITE setOffers)
+    Q_PROPERTY(QStringList mannerWords READ mannerWords WRITE setMannerWords)
+    Q_PROPERTY(int undoSteps READ undoSteps WRITE setUndoSteps)
+    Q_PROPERTY(Tool tool READ formTool WRITE setTool NOTIFY toolChanged)
+    Q_PROPERTY(int option READ option WRITE setOption NOTIFY optionChanged)
+    Q_PROPERTY(ZoomRow zoomRow READ formZoom WRITE setZoomRow)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    Q_PROPERTY(QColor outlineColor READ outlineColor WRITE setOutlineColor)
+    Q_PROPERTY(bool bold READ isBold WRITE setBold)
 
 public:
+    /// The tools that every editor has, as a form names them.
+    enum Tool : int {
+        Pencil = KORVA_TOOL_PENCIL,
+        Select = KORVA_TOOL_SELECT,
+        Line = KORVA_TOOL_LINE,
+        Text = KORVA_TOOL_TEXT,
+        Rectangle = KORVA_TOOL_RECTANGLE,
+        Ellipse = KORVA_TOOL_ELLIPSE,
+        Eraser = KORVA_TOOL_ERASER,
+        Hand = KORVA_TOOL_HAND,
+    };
+    Q_ENUM(Tool)
+    /// The rows of the zoom box, as a form names them.
+    enum ZoomRow : int {
+        Zoom50 = KORVA_ZOOM_50,
+        Zoom100 = KORVA_ZOOM_100,
+        Zoom150 = KORVA_ZOOM_150,
+        Zoom200 = KORVA_ZOOM_200,
+        FitToPage = KORVA_ZOOM_FIT,
+    };
+    Q_ENUM(ZoomRow)
+    /// The switches of KORVA_Features, as a form names them.
+    enum Offer : int {
+        Controls = 1 << 0,
+        Colors = 1 << 1,
+        Dialogs = 1 << 2,
+        Opening = 1 << 3,
+        Saving = 1 << 4,
+        Pasting = 1 << 5,
+        Resizing = 1 << 6,
+        Editing = 1 << 7,
+    };
+    Q_DECLARE_FLAGS(Offers, Offer)
+    Q_FLAG(Offers)
+
+    /// What a form that was compiled makes: an editor for 16 bits.
+    explicit KORVA_EditCanvas(QWidget* parent = nullptr);
     /// Begins with a white canvas of 200 × 170 pixels at 100 %, not modified, and the pencil in red.
     /// `ownerWindow` is not used.
     explicit KORVA_EditCanvas(KORVA_COLORTYPE colorType, QWidget* parent = nullptr,
@@ -99,8 +147,15 @@ public:
     /// Chooses the next larger rate of the zoom box for 1, the next smaller one for -1. Does nothing if
     /// there is none.
     void stepZoom(int direction);
-    /// Takes a drawing colour as if it had been picked. Emits colorChanged() if it is another one.
+    /// Takes a drawing colour as if it had been picked. Emits colorChanged() if it is another one. An
+    /// invalid colour is none.
     void setColor(const QColor& color);
+    /// selectTool() for a form: a drawing without changes has none afterwards, either.
+    void setTool(Tool tool);
+    /// selectOption() for a form, in the same way.
+    void setOption(int option);
+    /// selectZoom() for a form.
+    void setZoomRow(ZoomRow row);
     /// The current tool. The hand counts as a tool.
     [[nodiscard]] int tool() const;
     /// The row of the current tool's option; -1 for a tool without options.
@@ -145,6 +200,15 @@ public:
     void setManners(const KORVA_Manners& manners);
     /// See setManners().
     [[nodiscard]] const KORVA_Manners& manners() const;
+    /// setFeatures() for a form: its switches. The other features stay. Does nothing if all are as they
+    /// were.
+    void setOffers(Offers offers);
+    /// The switches of features() that are on.
+    [[nodiscard]] Offers offers() const;
+    /// setManners() for a form, with KORVA_Manners::ofWords(). Does nothing if a word is unknown.
+    void setMannerWords(const QStringList& words);
+    /// The switches of manners() that are on: KORVA_Manners::words().
+    [[nodiscard]] QStringList mannerWords() const;
 
     // --- Editing ---
     /// See KORVA_Canvas::cut().
@@ -371,6 +435,8 @@ private:
     void arrange();
     [[nodiscard]] QPixmap fitted(const QPixmap& picture) const;
     [[nodiscard]] bool mayEdit() const { return features().editing; }
+    [[nodiscard]] Tool formTool() const { return Tool(tool()); }
+    [[nodiscard]] ZoomRow formZoom() const { return ZoomRow(zoomIndex()); }
 
     std::unique_ptr<KORVA_ToolSet> m_tools;
     std::unique_ptr<KORVA_ToolBar> m_toolBar;
@@ -387,3 +453,5 @@ private:
     int m_cancellations = 0; ///< how many there were
     std::unique_ptr<KORVA_Documents> m_documents;
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(KORVA_EditCanvas::Offers)

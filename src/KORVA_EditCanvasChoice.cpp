@@ -128,6 +128,8 @@ void KORVA_EditCanvas::slotColor()
 
 void KORVA_EditCanvas::setColor(const QColor& color)
 {
+    if (!color.isValid())
+        return;
     const bool isOther = std::exchange(m_color, color) != color;
     fillColorButton(m_color);
     m_manager->setLMBColor(m_color);

@@ -37,8 +37,8 @@ QStringList folders()
 {
     QStringList all = addedFolders();
     if (const QString own = ownFolder(); !own.isEmpty())
-        all << own + QStringLiteral("/" KORVA_BUILT_TRANSLATIONS)
-            << own + QStringLiteral("/" KORVA_INSTALLED_TRANSLATIONS);
+        all << QDir(own).filePath(QStringLiteral(KORVA_BUILT_TRANSLATIONS))
+            << QDir(own).filePath(QStringLiteral(KORVA_INSTALLED_TRANSLATIONS));
     return all + QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
                                            QStringLiteral("korva/translations"),
                                            QStandardPaths::LocateDirectory);

@@ -2,10 +2,10 @@
 
 namespace {
 
-// From the ground up. The examples stand where hosts stand, on the public headers; the pad has tools of
-// theirs.
-const QStringList levels = {"toolkit", "platform", "src", "examples", "host"};
-const QStringList outsiders = {"host", "examples"};
+// From the ground up. The examples and the plugin stand where hosts stand, on the public headers; the pad
+// has tools of the examples.
+const QStringList levels = {"toolkit", "platform", "src", "designer", "examples", "host"};
+const QStringList outsiders = {"host", "examples", "designer"};
 
 QString contents(const QString& path)
 {
@@ -118,6 +118,8 @@ void tst_Levels::wrongIncludesAreNoticed_data()
     row("public header in the host", "host", "#include \"KORVA_Canvas.h\"", false);
     row("hidden header in the host", "host", "#include \"KORVA_ClassicPainter.h\"", true);
     row("hidden header in an example", "examples", "#include <UTIL_ImageReader.h>", true);
+    row("hidden header in the plugin", "designer", "#include <UTIL_ImageReader.h>", true);
+    row("public header in the plugin", "designer", "#include <KORVA_EditCanvas.h>", false);
     row("in a comment", "toolkit", "// #include \"KORVA_Canvas.h\"", false);
 }
 

@@ -85,6 +85,7 @@ private slots:
     void theJournalBringsBack();
     void thePreviewTells_data();
     void thePreviewTells();
+    void thePreviewShowsTheDrawing();
     void servicesAreInstalled();
     void servicesAreReplaced();
     void theKeyboardDraws();
@@ -447,6 +448,17 @@ void tst_CppBlocks::thePreviewTells()
     QFETCH(const QString, key);
     support::whenOpen([&key](QDialog& preview) { support::button(preview, key)->click(); });
     QCOMPARE(embedding::isWanted(path("drawing.png")), key == "Confirm");
+}
+
+void tst_CppBlocks::thePreviewShowsTheDrawing()
+{
+    KORVA_EditCanvas editor(KORVA_COLOR_16BIT);
+    drawOn(&editor);
+    KORVA_PreviewWidget preview;
+    preview.resize(editor.snapshot().size());
+    embedding::showDrawing(&preview, &editor);
+    QVERIFY(support::sameImage(preview.grab().toImage().convertToFormat(QImage::Format_RGB32),
+                               editor.snapshot().convertToFormat(QImage::Format_RGB32)));
 }
 
 void tst_CppBlocks::servicesAreInstalled()

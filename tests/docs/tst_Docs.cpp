@@ -13,7 +13,7 @@ namespace {
 
 constexpr int patience = 60'000; // ms
 
-const QStringList languages = {"cpp", "cmake", "sh", "korva", "text", ""};
+const QStringList languages = {"cpp", "cmake", "python", "sh", "korva", "text", ""};
 
 /// The first column of the table below a heading, without the code marks.
 QStringList firstColumn(const QString& document, const QString& heading)
@@ -95,7 +95,8 @@ void tst_Docs::everyBlockHasAProof()
             QVERIFY2(block.kind == "output", place);
         else if (block.language.isEmpty())
             QVERIFY2(block.kind == "diagram", place);
-        else if (!block.kind.isEmpty() || block.language == "cpp" || block.language == "cmake")
+        else if (!block.kind.isEmpty() || block.language == "cpp" || block.language == "cmake" ||
+                 block.language == "python")
             QVERIFY2(block.kind == block.language && (block.kind == "sh" || !block.rule.isEmpty()), place);
         // Who has a name is run by the test install/name, which reads it under that name.
         if (block.language == "cmake" || (block.language == "sh" && !block.rule.isEmpty())) {
@@ -113,14 +114,14 @@ void tst_Docs::programsAreTheFiles()
 {
     int programs = 0;
     for (const Block& block : docs::allBlocks()) {
-        if (block.language != "cpp" || !block.rule.startsWith("program "))
+        if ((block.language != "cpp" && block.language != "python") || !block.rule.startsWith("program "))
             continue;
         ++programs;
         const QString file = block.rule.section(' ', 1);
         QVERIFY2(file.startsWith("examples/"), qPrintable(block.place())); // they are built and driven
         QCOMPARE(block.text, docs::contents(file));
     }
-    QCOMPARE(programs, 1);
+    QCOMPARE(programs, 2);
 }
 
 void tst_Docs::blocksOfOneNameAreOne()

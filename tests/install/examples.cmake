@@ -2,7 +2,7 @@
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 file(WRITE ${work}/source/CMakeLists.txt "cmake_minimum_required(VERSION 3.25)
 project(examples LANGUAGES CXX)
-foreach(example journal kiosk minimal preview services tools)
+foreach(example designer journal kiosk minimal preview services tools)
     add_subdirectory(${source}/examples/\${example} \${example})
 endforeach()
 ")

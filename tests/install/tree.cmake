@@ -22,6 +22,9 @@ foreach(pattern
         lib*/libkorva.so.1
         lib*/cmake/Korva/KorvaConfig.cmake
         lib*/pkgconfig/korva.pc
+        lib*/qt6/plugins/designer/libkorva-designer.so
+        lib/python3/dist-packages/korva.abi3.so
+        lib/python3/dist-packages/korva.pyi
         share/applications/korva-pad.desktop
         share/icons/hicolor/48x48/apps/korva-pad.png
         share/icons/hicolor/scalable/apps/korva-pad.svg
