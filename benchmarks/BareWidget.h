@@ -7,10 +7,12 @@
 
 /// The yardstick: the least that a Qt program must do to draw freehand. It shows a picture, paints each
 /// segment into it and repaints the rectangle around the segment; or it takes the events and does nothing.
+/// With a text it shows one line of it, too.
 class BareWidget : public QWidget
 {
 public:
-    BareWidget(const QPixmap& picture, bool paints) : m_picture(picture), m_paints(paints)
+    BareWidget(const QPixmap& picture, bool paints, const QString& text = {})
+        : m_picture(picture), m_paints(paints), m_text(text)
     {
         setAttribute(Qt::WA_OpaquePaintEvent);
         setFixedSize(240, 320);
@@ -33,11 +35,15 @@ protected:
 
     void paintEvent(QPaintEvent* event) override
     {
-        QPainter(this).drawPixmap(event->rect(), m_picture, event->rect());
+        QPainter painter(this);
+        painter.drawPixmap(event->rect(), m_picture, event->rect());
+        if (!m_text.isEmpty())
+            painter.drawText(10, 20, m_text);
     }
 
 private:
     QPixmap m_picture;
     QPoint m_last;
     bool m_paints;
+    QString m_text;
 };

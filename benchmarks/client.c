@@ -1,22 +1,16 @@
-/* Stands in for a person and a stopwatch: an X client that starts programs, sends them pointer motion through
- * XTEST, and reads the screen and the program's CPU clock. It prints one line of JSON. */
+/* Stands in for a person and a stopwatch: an X client that starts programs, sends them pointer motion
+ * through XTEST, and reads the screen and the program's CPU clock. It prints one line of JSON. */
 
 #define _GNU_SOURCE
-#include <X11/Xlib.h>
-#include <X11/Xutil.h>
-#include <X11/extensions/XShm.h>
+#include "screen.h"
+
 #include <X11/extensions/XTest.h>
-#include <X11/extensions/Xdamage.h>
 
 #include <fcntl.h>
-#include <poll.h>
 #include <signal.h>
-#include <stdbool.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
-#include <sys/ipc.h>
-#include <sys/shm.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -28,26 +22,18 @@ enum {
     path_height = (most_points / row_points + 1) * row_height,
     margin = 4,
     fewest_marked = 500, /* pixels of the marker's colour that count as "painted" */
-    tolerance = 12,      /* per channel: the marker may come from a JPEG */
-    patience_ms = 20000,
+    patience_ms = 60000,
     settled_ms = 150, /* a program that used no CPU time for this long has finished its work */
 };
 
-static const char usage[] =
-    "korva-bench-client start COLOR PROGRAM [ARGUMENT...]   starts it; milliseconds until COLOR is on the screen\n"
-    "korva-bench-client stroke COLOR PID EVENTS RATE        draws on the area of that colour; RATE a second,\n"
-    "                                                       0 as fast as it goes\n"
-    "korva-bench-client click X Y                           taps the screen\n";
-
-static Display* display;
-static XImage* screen_image;
-static XShmSegmentInfo segment;
-
-static void fail(const char* what)
-{
-    fprintf(stderr, "korva-bench-client: %s\n", what);
-    exit(1);
-}
+static const char usage[] = "korva-bench-client start COLOR PROGRAM [ARGUMENT...]\n"
+                            "    starts it; milliseconds until COLOR is on the screen\n"
+                            "korva-bench-client stroke COLOR PID EVENTS RATE\n"
+                            "    draws on the area of that colour; RATE a second, 0 as fast as it goes\n"
+                            "korva-bench-client behind COLOR PID EVENTS RATE\n"
+                            "    the same, and how long after each point it is seen\n"
+                            "korva-bench-client click X Y\n"
+                            "    taps the screen\n";
 
 static double seconds(clockid_t clock)
 {
@@ -68,86 +54,32 @@ static void sleep_until(double when)
     clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &t, NULL);
 }
 
-/* --- The screen ---------------------------------------------------------------------------------------------- */
+/* --- start -------------------------------------------------------------------------------------------- */
 
-static void open_screen(void)
+enum { most_marks = 20 };
+
+/* What a preloaded korva-bench-marks has added up so far; how many sums. */
+static size_t read_marks(double* sums)
 {
-    display = XOpenDisplay(NULL);
-    if (!display)
-        fail("no display");
-    const int screen = DefaultScreen(display);
-    screen_image = XShmCreateImage(display, DefaultVisual(display, screen), (unsigned)DefaultDepth(display, screen),
-                                   ZPixmap, NULL, &segment, (unsigned)DisplayWidth(display, screen),
-                                   (unsigned)DisplayHeight(display, screen));
-    if (!screen_image || screen_image->bits_per_pixel != 32)
-        fail("the screen has no shared 32-bit pictures");
-    segment.shmid = shmget(IPC_PRIVATE, (size_t)screen_image->bytes_per_line * (size_t)screen_image->height,
-                           IPC_CREAT | 0600);
-    segment.shmaddr = screen_image->data = shmat(segment.shmid, NULL, 0);
-    segment.readOnly = False;
-    XShmAttach(display, &segment);
-    XSync(display, False);
-    shmctl(segment.shmid, IPC_RMID, NULL);
+    const char* const name = getenv("KORVA_BENCH_MARKS");
+    FILE* const file = name ? fopen(name, "rb") : NULL;
+    const size_t number = file ? fread(sums, sizeof *sums, most_marks, file) : 0;
+    if (file)
+        fclose(file);
+    return number;
 }
-
-static void look(void)
-{
-    XShmGetImage(display, DefaultRootWindow(display), screen_image, 0, 0, AllPlanes);
-}
-
-static unsigned pixel(int x, int y)
-{
-    unsigned value;
-    memcpy(&value, screen_image->data + y * screen_image->bytes_per_line + x * 4, sizeof value);
-    return value & 0xffffffU;
-}
-
-static bool is_marker(unsigned value, unsigned marker)
-{
-    for (int shift = 0; shift < 24; shift += 8) {
-        const int difference = (int)(value >> shift & 0xff) - (int)(marker >> shift & 0xff);
-        if (abs(difference) > tolerance)
-            return false;
-    }
-    return true;
-}
-
-struct area {
-    int left, top, right, bottom; /* inclusive */
-    int count;
-};
-
-static struct area marked_area(unsigned marker)
-{
-    struct area a = {screen_image->width, screen_image->height, -1, -1, 0};
-    for (int y = 0; y < screen_image->height; ++y) {
-        for (int x = 0; x < screen_image->width; ++x) {
-            if (!is_marker(pixel(x, y), marker))
-                continue;
-            ++a.count;
-            a.left = x < a.left ? x : a.left;
-            a.right = x > a.right ? x : a.right;
-            a.top = y < a.top ? y : a.top;
-            a.bottom = y > a.bottom ? y : a.bottom;
-        }
-    }
-    return a;
-}
-
-/* --- start --------------------------------------------------------------------------------------------------- */
 
 static int start(unsigned marker, char** command)
 {
-    int damage_event;
-    int damage_error;
-    if (!XDamageQueryExtension(display, &damage_event, &damage_error))
-        fail("the server has no DAMAGE extension");
-    const Damage damage = XDamageCreate(display, DefaultRootWindow(display), XDamageReportNonEmpty);
-    XSync(display, False);
-
+    const Damage damage = watch_screen();
+    for (look(); marked_area(marker).count >= fewest_marked; look())
+        usleep(10000); /* until the one before has gone */
     const double begin = now();
     const pid_t child = fork();
     if (child == 0) {
+        char text[32];
+        snprintf(text, sizeof text, "%.6f", begin);
+        setenv("KORVA_BENCH_BEGIN", text, 1);
         setsid();
         const int nowhere = open("/dev/null", O_RDWR);
         dup2(nowhere, 0);
@@ -157,34 +89,35 @@ static int start(unsigned marker, char** command)
         _exit(127);
     }
     while (now() - begin < patience_ms / 1000.0) {
-        while (XPending(display)) {
-            XEvent event;
-            XNextEvent(display, &event);
-            XDamageSubtract(display, damage, None, None);
-            look();
+        while (look_again(damage)) {
+            double marks[most_marks];
+            const size_t number = read_marks(marks);
             const double seen = now();
             if (marked_area(marker).count < fewest_marked)
                 continue;
-            printf("{\"pid\": %d, \"ms\": %.2f}\n", (int)child, (seen - begin) * 1000);
+            printf("{\"pid\": %d, \"ms\": %.2f, \"marks\": [", (int)child, (seen - begin) * 1000);
+            for (size_t i = 0; i < number; ++i)
+                printf(i == 0 ? "%.6f" : ", %.6f", marks[i]);
+            puts("]}");
             return 0;
         }
-        struct pollfd connection = {ConnectionNumber(display), POLLIN, 0};
-        poll(&connection, 1, 100);
+        wait_for_server(0.1);
     }
     kill(-child, SIGKILL);
     fail("the picture did not appear");
     return 1;
 }
 
-/* --- stroke -------------------------------------------------------------------------------------------------- */
+/* --- stroke ------------------------------------------------------------------------------------------- */
 
-struct point {
+struct point
+{
     int x, y;
 };
 
-/* A comb, row by row to and fro: upper points at two heights, lower ones at one, two pixels apart. Three successive
- * points never lie on one straight line, so that a line drawn past a lost point misses it. The middle of every
- * segment within a row is a whole pixel. */
+/* A comb, row by row to and fro: upper points at two heights, lower ones at one, two pixels apart. Three
+ * successive points never lie on one straight line, so that a line drawn past a lost point misses it. The
+ * middle of every segment within a row is a whole pixel. */
 static struct point path_point(int i)
 {
     const int row = i / row_points;
@@ -217,7 +150,8 @@ static int points_drawn(struct area at, int events)
 {
     int drawn = 0;
     for (int i = 0; i < events; ++i)
-        drawn += is_changed(at, path_point(i)) && is_joined(at, i - 1, i, events) && is_joined(at, i, i + 1, events);
+        drawn += is_changed(at, path_point(i)) && is_joined(at, i - 1, i, events) &&
+                 is_joined(at, i, i + 1, events);
     return drawn;
 }
 
@@ -240,30 +174,39 @@ static void settle(clockid_t cpu)
     }
 }
 
-static int stroke(unsigned marker, pid_t pid, int events, double rate)
+/* Puts the pen on the first point of the path, and remembers the screen before it. */
+static struct area press_on_sheet(unsigned marker, clockid_t cpu)
 {
-    clockid_t cpu;
-    if (events < 2 || events > most_points || clock_getcpuclockid(pid, &cpu) != 0)
-        fail("no such program, or too many events");
     look();
     struct area at = marked_area(marker);
     at.left += margin;
     at.top += margin;
     if (at.right - at.left + 1 < path_width || at.bottom - at.top + 1 < path_height)
         fail("the picture on the screen is too small for the path");
-
-    const struct point first = path_point(0);
-    move_to(at, first);
+    move_to(at, path_point(0));
     XSync(display, False);
     settle(cpu);
     look();
     const size_t bytes = (size_t)screen_image->bytes_per_line * (size_t)screen_image->height;
     before = malloc(bytes);
     memcpy(before, screen_image->data, bytes);
-
     XTestFakeButtonEvent(display, 1, True, CurrentTime);
     XSync(display, False);
     settle(cpu);
+    return at;
+}
+
+static void release(clockid_t cpu)
+{
+    XTestFakeButtonEvent(display, 1, False, CurrentTime);
+    XSync(display, False);
+    settle(cpu);
+    look();
+}
+
+static int stroke(unsigned marker, clockid_t cpu, int events, double rate)
+{
+    const struct area at = press_on_sheet(marker, cpu);
     const double cpu_begin = seconds(cpu);
     const double begin = now();
     for (int i = 1; i < events; ++i) {
@@ -277,12 +220,59 @@ static int stroke(unsigned marker, pid_t pid, int events, double rate)
     const double sent = now() - begin;
     settle(cpu);
     const double used = seconds(cpu) - cpu_begin;
-    XTestFakeButtonEvent(display, 1, False, CurrentTime);
-    XSync(display, False);
-    settle(cpu);
-    look();
-    printf("{\"events\": %d, \"seconds\": %.4f, \"cpu_us_per_event\": %.3f, \"points_drawn\": %d}\n", events, sent,
-           used / (events - 1) * 1e6, points_drawn(at, events));
+    release(cpu);
+    printf("{\"events\": %d, \"seconds\": %.4f, \"cpu_us_per_event\": %.3f, \"points_drawn\": %d}\n",
+           events, sent, used / (events - 1) * 1e6, points_drawn(at, events));
+    return 0;
+}
+
+/* --- behind ------------------------------------------------------------------------------------------- */
+
+static int by_size(const void* a, const void* b)
+{
+    const double x = *(const double*)a;
+    const double y = *(const double*)b;
+    return (x > y) - (x < y);
+}
+
+/* A point is seen when a look after it finds its pixel changed. Those that are never seen count as lost
+ * only. */
+static int behind(unsigned marker, clockid_t cpu, int events, double rate)
+{
+    static double sent[most_points];
+    static double late[most_points];
+    const struct area at = press_on_sheet(marker, cpu);
+    const Damage damage = watch_screen();
+    const double begin = now();
+    double last_sent = begin;
+    int next = 1;
+    int seen = 0;
+    while (seen < events - 1 && now() - last_sent < settled_ms / 100.0) {
+        if (next < events && now() >= begin + next / rate) {
+            sent[next] = last_sent = now();
+            move_to(at, path_point(next));
+            XFlush(display);
+            ++next;
+        }
+        wait_for_server(next < events ? begin + next / rate - now() : 0.1);
+        if (!look_again(damage))
+            continue;
+        for (int i = 1; i < next; ++i) {
+            if (late[i] == 0 && is_changed(at, path_point(i))) {
+                late[i] = now() - sent[i];
+                ++seen;
+            }
+        }
+    }
+    release(cpu);
+    qsort(late, (size_t)events, sizeof late[0], by_size);
+    const double* const of_seen = late + events - seen;
+    if (seen == 0)
+        fail("the program draws nothing");
+    printf("{\"events\": %d, \"points_drawn\": %d, \"median_ms\": %.2f, \"p95_ms\": %.2f, \"worst_ms\": "
+           "%.2f}\n",
+           events, points_drawn(at, events), of_seen[seen / 2] * 1e3, of_seen[seen * 95 / 100] * 1e3,
+           of_seen[seen - 1] * 1e3);
     return 0;
 }
 
@@ -307,8 +297,15 @@ int main(int argc, char** argv)
     const unsigned marker = (unsigned)strtoul(argv[2], NULL, 16);
     if (strcmp(argv[1], "start") == 0)
         return start(marker, argv + 3);
-    if (strcmp(argv[1], "stroke") == 0 && argc == 6)
-        return stroke(marker, (pid_t)atoi(argv[3]), atoi(argv[4]), atof(argv[5]));
+    const bool is_stroke = strcmp(argv[1], "stroke") == 0;
+    const bool is_behind = strcmp(argv[1], "behind") == 0;
+    if (argc == 6 && (is_stroke || is_behind)) {
+        clockid_t cpu;
+        const int events = atoi(argv[4]);
+        if (events < 2 || events > most_points || clock_getcpuclockid(atoi(argv[3]), &cpu) != 0)
+            fail("no such program, or too many events");
+        return (is_stroke ? stroke : behind)(marker, cpu, events, atof(argv[5]));
+    }
     fputs(usage, stderr);
     return 2;
 }

@@ -1,51 +1,124 @@
 #include "BareWidget.h"
-#include "inside.h"
+#include "Counters.h"
+#include "Subjects.h"
 
 #include <QApplication>
-#include <QTest>
+#include <QPaintEvent>
 
 #include <cstdio>
-#include <map>
-#include <optional>
 
-// korva-bench-events WHAT EVENTS [modern]: one drag of so many motion events, each delivered by way of the
-// window and followed to its repaint. bench.py runs it in two lengths under an instrument that counts; the
-// difference is what the events cost.
+// korva-bench-events count: what one motion event costs, for each subject, as JSON.
+// korva-bench-events run SUBJECT...: the same events for an instrument that counts korvaBenchCounted().
+//
+// Each event is delivered by way of the window, 2 ms after the one before, and followed by what is due. The
+// clock stands still between them, so that no more is due on a slow machine than on a fast one.
 
 namespace {
 
-struct Subject
+namespace counters = bench::counters;
+
+constexpr int warmUp = 100;
+constexpr int measured = 200;
+constexpr std::chrono::milliseconds pace(2);
+
+struct Counts
 {
-    bench::Tool tool;
-    int zoom;
+    long allocations = 0;        // Qt's own included
+    long handlerAllocations = 0; // while a widget handles the event, but for what it repaints at once
+    long painters = 0;
+    long deliveries = 0; // of any event to any object
+    long repaints = 0;   // paint events
+    long pixels = 0;     // in the regions of the paint events
 };
 
-const std::map<std::string, Subject> subjects = {
-    {"pencil", {bench::Pencil, 100}},       {"pencil-200", {bench::Pencil, 200}},
-    {"line", {bench::Line, 100}},           {"line-200", {bench::Line, 200}},
-    {"rectangle", {bench::Rectangle, 100}}, {"rectangle-200", {bench::Rectangle, 200}},
-    {"ellipse", {bench::Ellipse, 100}},     {"ellipse-200", {bench::Ellipse, 200}},
-    {"select", {bench::Select, 100}},       {"select-200", {bench::Select, 200}},
-    {"eraser", {bench::Eraser, 100}},       {"eraser-200", {bench::Eraser, 200}},
+constexpr struct
+{
+    const char* name;
+    long Counts::*value;
+} columns[] = {
+    {"allocations", &Counts::allocations}, {"handler_allocations", &Counts::handlerAllocations},
+    {"painters", &Counts::painters},       {"deliveries", &Counts::deliveries},
+    {"repaints", &Counts::repaints},       {"pixels", &Counts::pixels},
 };
 
-/// A comb within 180 × 140 pixels: no three points on a line.
-QPoint point(int number)
+/// Sees every event on its way.
+class Application : public QApplication
 {
-    constexpr QSize area(180, 140);
-    return {10 + (number * 7) % area.width(), 10 + (number * 11 + number % 2 * 3) % area.height()};
-}
+public:
+    using QApplication::QApplication;
 
-void drag(QWidget& surface, int events)
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        ++m_counts.deliveries;
+        const QEvent::Type type = event->type();
+        if (type == QEvent::Paint) {
+            ++m_counts.repaints;
+            for (const QRect& part : static_cast<QPaintEvent*>(event)->region())
+                m_counts.pixels += long(part.width()) * part.height();
+        }
+        const bool isInput = type == QEvent::MouseMove || type == QEvent::KeyPress;
+        if (!isInput || !receiver->isWidgetType() || m_isHandling)
+            return QApplication::notify(receiver, event);
+        m_isHandling = true;
+        const long before = counters::allocations() - counters::allocationsOfRepaints();
+        const bool isHandled = QApplication::notify(receiver, event);
+        m_counts.handlerAllocations += counters::allocations() - counters::allocationsOfRepaints() - before;
+        m_isHandling = false;
+        return isHandled;
+    }
+
+    [[nodiscard]] Counts counts() const
+    {
+        Counts counts = m_counts;
+        counts.allocations = counters::allocations();
+        counts.painters = counters::painters();
+        return counts;
+    }
+
+private:
+    Counts m_counts;
+    bool m_isHandling = false;
+};
+
+void proceed(bench::Subject& subject, int from, int events)
 {
-    QWindow* const window = surface.window()->windowHandle();
-    const QPoint shift = surface.mapTo(surface.window(), QPoint());
-    QTest::mousePress(window, Qt::LeftButton, {}, shift + point(0));
-    for (int i = 1; i <= events; ++i) {
-        QTest::mouseMove(window, shift + point(i));
+    for (int i = from; i < from + events; ++i) {
+        counters::advanceClock(pace);
+        subject.event(i);
         QCoreApplication::processEvents();
     }
-    QTest::mouseRelease(window, Qt::LeftButton, {}, shift + point(events));
+}
+
+} // namespace
+
+/// By how much a stroke of 300 events costs more than one of 100: neither start nor end is in it.
+extern "C" [[gnu::noinline]] void korvaBenchCounted(bench::Subject& subject)
+{
+    proceed(subject, 1 + warmUp, measured);
+}
+
+namespace {
+
+void printCounts(const Application& app, const char* name)
+{
+    const auto subject = bench::makeSubject(name);
+    proceed(*subject, 1, warmUp);
+    const Counts before = app.counts();
+    korvaBenchCounted(*subject);
+    const Counts after = app.counts();
+    std::printf("\"%s\": {", name);
+    const char* between = "";
+    for (const auto& [column, value] : columns) {
+        std::printf("%s\"%s\": %.4f", between, column, double(after.*value - before.*value) / measured);
+        between = ", ";
+    }
+    std::fputs("}", stdout);
+}
+
+int complain()
+{
+    std::fputs("usage: korva-bench-events count\n       korva-bench-events run SUBJECT...\n", stderr);
+    return 2;
 }
 
 } // namespace
@@ -53,23 +126,27 @@ void drag(QWidget& surface, int events)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
-    const std::string what = argc >= 3 ? argv[1] : "";
-    const int events = argc >= 3 ? QByteArray(argv[2]).toInt() : 0;
-    const bool isModern = argc == 4 && std::string(argv[3]) == "modern";
-    if (what == "bare" || what == "receive") {
-        BareWidget widget(QPixmap::fromImage(bench::noise({240, 320})), what == "bare");
-        widget.show();
-        QCoreApplication::processEvents();
-        drag(widget, events);
-    } else if (const auto subject = subjects.find(what); subject != subjects.end()) {
-        bench::Editor editor({200, 170}, subject->second.zoom, subject->second.tool);
-        if (isModern)
-            editor->setManners(KORVA_Manners::modern());
-        drag(editor.canvas(), events);
+    counters::advanceClock(pace); // before any timer is started
+    const Application app(argc, argv);
+    const std::string command = argc >= 2 ? argv[1] : "";
+    if (command == "count" && argc == 2) {
+        const char* between = "{\n";
+        for (const std::string& name : bench::subjectNames()) {
+            std::fputs(between, stdout);
+            printCounts(app, name.c_str());
+            between = ",\n";
+        }
+        std::puts("\n}");
+    } else if (command == "run" && argc > 2) {
+        for (int i = 2; i < argc; ++i) {
+            const auto subject = bench::makeSubject(argv[i]);
+            if (!subject)
+                return complain();
+            proceed(*subject, 1, warmUp);
+            korvaBenchCounted(*subject);
+        }
     } else {
-        std::fputs("usage: korva-bench-events WHAT EVENTS [modern]\n", stderr);
-        return 2;
+        return complain();
     }
     return 0;
 }

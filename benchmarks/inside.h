@@ -19,7 +19,7 @@
 namespace bench {
 
 /// The tools, by their identifiers.
-enum Tool { Pencil, Select, Line, Text, Rectangle, Ellipse, Eraser };
+enum Tool { Pencil, Select, Line, Text, Rectangle, Ellipse, Eraser, Pan };
 
 /// An editor in a window of 240 × 320, with a picture of noise.
 class Editor

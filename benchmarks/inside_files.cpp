@@ -39,12 +39,18 @@ void decode(benchmark::State& state, const QString& name)
     }
 }
 
+void tellSize(benchmark::State& state, const QString& name)
+{
+    state.counters["file_bytes"] = static_cast<double>(QFileInfo(name).size());
+}
+
 void save(benchmark::State& state, const QImage& image, const QString& name)
 {
     for (auto _ : state) {
         if (!picturesave::write(image, name, nullptr))
             return fail(state);
     }
+    tellSize(state, name);
 }
 
 void encode(benchmark::State& state, const QImage& image, const QString& name)
@@ -53,6 +59,7 @@ void encode(benchmark::State& state, const QImage& image, const QString& name)
         if (!QImageWriter(name).write(image))
             return fail(state);
     }
+    tellSize(state, name);
 }
 
 } // namespace
@@ -65,7 +72,8 @@ void addFiles(const QString& folder)
             "open/" + file.fileName().toStdString(), [=](benchmark::State& state) { open(state, name); },
             [=](benchmark::State& state) { decode(state, name); });
     }
-    for (const PictureSize& picture : {PictureSize{{240, 320}}, PictureSize{{1408, 1152}}}) {
+    for (const QSize size : {QSize(240, 320), QSize(352, 288), QSize(1408, 1152)}) {
+        const PictureSize picture = {size};
         for (const char* extension : {"png", "jpg", "bmp"}) {
             const QString name = QDir::temp().filePath(QStringLiteral("korva-bench.") + extension);
             const QImage image = noise(picture.size);
