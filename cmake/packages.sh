@@ -17,8 +17,10 @@ need_packages() {
 build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-dev libxcb-randr0-dev qt6-tools-dev qt6-l10n-tools
     qt6-image-formats-plugins qt6-wayland libgif-dev libjpeg-dev libpng-dev fonts-dejavu-core)
 
-test_packages=(git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
+site_packages=(doxygen mandoc python3 python3-markdown-it python3-pygments)
+
+test_packages=("${site_packages[@]}" mujs git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
     libbenchmark-dev libx11-dev libxext-dev libxdamage-dev libxtst-dev
-    doxygen dpkg-dev file fakeroot lintian sway grim libwayland-dev
+    dpkg-dev file fakeroot lintian sway grim libwayland-dev
     fonts-droid-fallback fonts-lohit-deva fonts-tlwg-loma-otf
-    at-spi2-core dbus-daemon ibus ibus-table ibus-table-latex bubblewrap python3)
+    at-spi2-core dbus-daemon ibus ibus-table ibus-table-latex bubblewrap)
