@@ -19,7 +19,7 @@ build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-
 
 site_packages=(doxygen mandoc python3 python3-markdown-it python3-pygments)
 
-test_packages=("${site_packages[@]}" mujs git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
+test_packages=("${site_packages[@]}" mujs python3-yaml git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
     libbenchmark-dev libx11-dev libxext-dev libxdamage-dev libxtst-dev
     dpkg-dev file fakeroot lintian sway grim libwayland-dev
     fonts-droid-fallback fonts-lohit-deva fonts-tlwg-loma-otf
