@@ -16,21 +16,24 @@ from sources import Files
 ICON = "images/korva-pad-32.png"
 
 
+def make_page(document, about, reference, files):
+    if document == REFERENCE:
+        return reference.index
+    if not document.endswith(".md"):
+        return manual.make(document)
+    try:
+        return guides.make(document, about, reference.names, files)
+    except FileNotFoundError as lost:
+        sys.exit(f"{document}: there is no {lost}")
+
+
 def make_groups(reference, files):
     listed = {document for _, group in GROUPS for document in group}
     if lost := guides.documents() - listed:
         sys.exit(f"In no group of docs/site/pages.py: {', '.join(sorted(lost))}")
     groups = []
     for name, group in GROUPS:
-        pages = []
-        for document, about in group.items():
-            if document == REFERENCE:
-                pages.append(reference.index)
-            elif document.endswith(".md"):
-                pages.append(guides.make(document, about, reference.names, files))
-            else:
-                pages.append(manual.make(document))
-        groups.append((name, pages))
+        groups.append((name, [make_page(document, about, reference, files) for document, about in group.items()]))
     return groups
 
 

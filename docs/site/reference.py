@@ -50,13 +50,14 @@ class Names:
 
     def find(self, code, about):
         """What a text in code style means: a whole name, one of the class the text is about, or one that is alone."""
-        name = re.sub(r"\(.*\)$", "", code)
-        if not re.fullmatch(r"~?\w+(::\w+)*", name):
+        parts = re.fullmatch(r"((?:\w+\(\)(?:->|\.))*)(~?\w+(?:::\w+)*)(\(.*\))?", code)
+        if not parts:
             return None
-        if target := self.full.get(name) or self.full.get(f"{about}::{name}"):
+        chain, name, arguments = parts.groups()
+        if not chain and (target := self.full.get(name) or self.full.get(f"{about}::{name}")):
             return target
         alone = self.last.get(name, ())
-        return self.full[next(iter(alone))] if len(alone) == 1 and code != name else None
+        return self.full[next(iter(alone))] if len(alone) == 1 and arguments else None
 
 
 class Anchors:

@@ -30,13 +30,13 @@ class Files:
         self.pictures = set()
 
     def named(self, name, folder):
-        """The file that a text in a folder means, by its path or by a name that no other file has; None for none."""
-        if not re.fullmatch(r"[\w@.+-]+(/[\w@.+-]+)*", name):
-            return None
-        beside = f"{folder}/{name}" if folder else name
-        alone = self.by_name.get(name, []) if "." in name else []
-        path = name if name in self.paths else beside if beside in self.paths else alone[0] if len(alone) == 1 else None
-        return None if path is None or Path(path).suffix in PICTURES else path
+        """The file that a text in a folder means: by its path, beside the text, or by a name that no other file has."""
+        is_word = re.fullmatch(r"[\w-]+", name)  # and may mean anything, except of what is beside it
+        ways = [f"{folder}/{name}"] if is_word else [name, f"{folder}/{name}"]
+        alone = self.by_name.get(name, [])
+        ways += alone if len(alone) == 1 and not is_word else []
+        found = next((path for path in ways if path in self.paths), None)
+        return None if found is None or Path(found).suffix in PICTURES else found
 
     def picture(self, path):
         if path not in self.paths:

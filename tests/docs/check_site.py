@@ -1,4 +1,5 @@
 """Makes the documentation's site and walks every page of it: check_site.py DOXYFILE."""
+import html
 import json
 import posixpath
 import re
@@ -10,6 +11,9 @@ from html.parser import HTMLParser
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "docs/site"))
+from reference import Names  # noqa: E402
+
 LOADED = {"link": "href", "script": "src", "img": "src", "source": "src", "iframe": "src", "object": "data"}
 ELSEWHERE = re.compile(r"([a-z][a-z0-9+.-]*:|//)", re.IGNORECASE)
 
@@ -25,6 +29,23 @@ QUERIES = {
     "where is it": "ARCHITECTURE.html#where-is-it",
     "services of the platform": "docs/embedding.html#services-of-the-platform",
     "exit status korva-preview": "docs/man/korva-preview.html#EXIT_STATUS",
+}
+
+# Where a name in the text leads, and None where it must not lead anywhere.
+NAMES = {
+    ("README", "index.html", "KORVA_EditCanvas"): "reference/KORVA_EditCanvas.html",
+    ("a file", "ARCHITECTURE.html", "src/KORVA_ToolTable.cpp"): "source/src/KORVA_ToolTable.cpp.html",
+    ("a file beside it", "fuzzing/index.html", "targets"): "source/fuzzing/targets.html",
+    ("a file of one name", "ARCHITECTURE.html", "KORVA_TextInput.cpp"): "source/src/KORVA_TextInput.cpp.html",
+    ("a word", "CONTRIBUTING.html", "test"): None,
+    ("a document", "index.html", "ARCHITECTURE.md"): "ARCHITECTURE.html",
+    ("the editor's", "docs/embedding.html", "canUndo(bool)"): "reference/KORVA_EditCanvas.html#canUndo",
+    ("the canvas's", "ARCHITECTURE.html", "undo()"): "reference/KORVA_Canvas.html#undo",
+    ("another class's", "docs/embedding.html", "flush()"): "reference/KORVA_Journal.html#flush",
+    ("a chain", "docs/tools.html", "zoom().toPicture()"): "reference/KORVA_Zoom.html#toPicture",
+    ("a chain to many", "docs/tools.html", "canvas()->showLater(this, …)"): "reference/KORVA_Canvas.html#showLater",
+    ("a recording's word", "docs/recording.html", "undo"): None,
+    ("many have it", "docs/performance.html", "pixmap()"): None,
 }
 
 
@@ -137,6 +158,25 @@ class Site(unittest.TestCase):
                 self.assertEqual([level for level in read.headings if level == 1], [1])
                 steps = [after - before for before, after in zip(read.headings, read.headings[1:])]
                 self.assertLessEqual(max(steps, default=0), 1)
+
+    def test_names_lead_where_they_mean(self):
+        for (name, page, code), target in NAMES.items():
+            with self.subTest(name):
+                text = (self.folder / page).read_text()
+                code = f"<code>{html.escape(code)}</code>"
+                found = re.search(f'<a href="([^"]+)">{re.escape(code)}</a>', text)
+                self.assertTrue(code in text)
+                self.assertEqual(found and "#".join(filter(None, self.followed(page, found[1]))), target)
+
+    def test_names_mean_what_is_clear(self):
+        names = Names()
+        for name in ("Pad", "Pad::undo", "Pad::zoom", "Zoom", "Zoom::rate", "Zoom::undo"):
+            names.add(name, name)
+        meant = {"Pad": "Pad", "Zoom::rate": "Zoom::rate", "undo": "Pad::undo", "undo(int)": "Pad::undo",
+                 "rate()": "Zoom::rate", "zoom().rate()": "Zoom::rate", "zoom()->rate(f(1))": "Zoom::rate",
+                 "rate": None, "zoom().undo()": None, "Pad::rate()": None, "undo rate": None, "": None}
+        self.assertEqual({code: names.find(code, "Pad") for code in meant}, meant)
+        self.assertIsNone(names.find("undo()", ""))
 
     def test_every_screenshot_is_shown(self):
         shown = self.pages["docs/screenshots/index.html"]
