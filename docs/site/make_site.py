@@ -10,7 +10,7 @@ from pygments.formatters import HtmlFormatter
 import guides
 import manual
 from pages import GROUPS, HERE, HOME, REFERENCE, framed
-from reference import Reference
+from reference import PARTS, Reference
 from sources import Files
 
 ICON = "images/korva-pad-32.png"
@@ -55,8 +55,10 @@ def add_doors(home, groups):
 
 
 def search_index(pages):
+    """What is searched: every heading with its text, but not the headings that each class has."""
     rows = [[page.address + ("" if section.level == 1 else "#" + section.anchor), page.title, section.heading,
-             " ".join(section.text.split())] for page in pages for section in page.sections]
+             " ".join(section.text.split())] for page in pages for section in page.sections
+            if section.heading not in PARTS.values()]
     return f"var korvaIndex = {json.dumps(rows, ensure_ascii=False, separators=(',', ':'))};\n"
 
 

@@ -146,12 +146,12 @@ class Reference:
         page = self.index
         text = self.blocks(self.overview.find("detaileddescription"), page)
         page.sections = [Section("top", 1, page.title, joined(self.overview.find("detaileddescription")))]
-        page.sections.append(Section("all", 2, "All classes", ""))
+        page.sections.append(Section("all", 2, "Classes and headers", ""))
         rows = [f"<dt>{page.link(other.address, other.title)}</dt>"
                 f"<dd>{self.inline(compound.find('briefdescription'), page)}</dd>"
                 for other, compound, _ in self.described]
-        page.body = (f'<h1>{page.title}</h1>\n{text}<h2 id="all"><a href="#all">All classes</a></h2>'
-                     f'<nav aria-label="All classes"><dl class="classes">{"".join(rows)}</dl></nav>')
+        page.body = (f'<h1>{page.title}</h1>\n{text}<h2 id="all"><a href="#all">Classes and headers</a></h2>'
+                     f'<nav aria-label="Classes and headers"><dl class="classes">{"".join(rows)}</dl></nav>')
 
     # One page.
 

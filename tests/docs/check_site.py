@@ -199,6 +199,7 @@ class Site(unittest.TestCase):
         entries = json.loads(index[index.index("["):index.rindex(";")])
         self.assertGreater(len(entries), 500)
         self.assertEqual([entry[0] for entry in entries if self.lost("index.html", entry[0])], [])
+        self.assertTrue({"Functions", "Slots", "Signals"}.isdisjoint(entry[2] for entry in entries))  # each class has
         found = {self.followed("index.html", entry[0])[0] for entry in entries}
         self.assertEqual({page for page in self.pages if not page.startswith("source/")} - found, set())
 
