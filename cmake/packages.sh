@@ -18,9 +18,10 @@ build_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libxcb1-
     qt6-image-formats-plugins qt6-wayland libgif-dev libjpeg-dev libpng-dev fonts-dejavu-core)
 
 python_packages=(pyqt6-dev python3-dev python3-pyqt6 sip-tools)
+site_packages=(doxygen mandoc python3 python3-markdown-it python3-pygments)
 
-test_packages=("${python_packages[@]}" git xvfb xauth xclip imagemagick man-db appstream desktop-file-utils
-    libbenchmark-dev libx11-dev libxext-dev libxdamage-dev libxtst-dev
-    doxygen libqt6opengl6-dev dpkg-dev file fakeroot lintian sway grim libwayland-dev
+test_packages=("${python_packages[@]}" "${site_packages[@]}" mujs python3-yaml git xvfb xauth xclip imagemagick man-db
+    appstream desktop-file-utils libbenchmark-dev libx11-dev libxext-dev libxdamage-dev libxtst-dev
+    libqt6opengl6-dev dpkg-dev file fakeroot lintian sway grim libwayland-dev
     fonts-droid-fallback fonts-lohit-deva fonts-tlwg-loma-otf
-    at-spi2-core dbus-daemon ibus ibus-table ibus-table-latex bubblewrap python3)
+    at-spi2-core dbus-daemon ibus ibus-table ibus-table-latex bubblewrap)
