@@ -2,7 +2,8 @@
 """Holds what is counted against the ceilings in ceilings.txt.
 
 By itself it holds what korva-bench-events counts, in any build: ceilings.py KORVA-BENCH-EVENTS
-./bench --check holds the instructions and the system calls, too; ./bench --lower lowers the ceilings to what is counted.
+./bench --check holds the instructions and the system calls, too; ./bench --lower lowers the ceilings to what is
+counted.
 """
 import math
 import sys

@@ -14,7 +14,8 @@ from counts import TOOLS, YARDSTICKS, ZOOMS
 from programs import PAD
 
 DOCS = Path(__file__).parent.parent / "docs"
-MADE = re.compile(r'(<!-- the table "([\w ]+)" is made by benchmarks/document.py -->\n).*?(<!-- its end -->\n)', re.DOTALL)
+MADE = re.compile(r'(<!-- the table "([\w ]+)" is made by benchmarks/document.py -->\n).*?(<!-- its end -->\n)',
+                  re.DOTALL)
 
 
 def table(titles, rows):
@@ -30,7 +31,8 @@ def number(value, digits=2):
 def promises(rows):
     relations = {"<=": "≤", ">=": "≥"}
     return table(["what", "found", "asked", "", ""],
-                 [[row["what"].replace(" x ", " × "), number(row["found"]), f"{relations[row['relation']]} {row['asked']:g}",
+                 [[row["what"].replace(" x ", " × "), number(row["found"]),
+                   f"{relations[row['relation']]} {row['asked']:g}",
                    {None: "not measured", True: "met", False: "not met"}[row["met"]], row["note"]] for row in rows])
 
 

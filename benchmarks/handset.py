@@ -13,7 +13,7 @@ from screen import clients, ready
 
 PERIOD_US, SHARE_US = 10_000, 1_000
 STROKE = {"events": 1000, "rate": 200}
-SUBJECTS = (BARE, PAD, f"{PAD}, 200 %", "mtPaint", "xpaint")
+SUBJECTS = (BARE, PAD, "mtPaint", "xpaint")
 
 
 class Quota:
@@ -21,9 +21,10 @@ class Quota:
 
     def __init__(self):
         name = f"korva-bench-{os.getpid()}"
-        for root, limits in ((Path("/sys/fs/cgroup"), {"cpu.max": f"{SHARE_US} {PERIOD_US}"}),
+        # The weights: within its limit it runs before other work on the machine.
+        for root, limits in ((Path("/sys/fs/cgroup"), {"cpu.max": f"{SHARE_US} {PERIOD_US}", "cpu.weight": 10000}),
                              (Path("/sys/fs/cgroup/cpu"), {"cpu.cfs_period_us": PERIOD_US,
-                                                           "cpu.cfs_quota_us": SHARE_US})):
+                                                           "cpu.cfs_quota_us": SHARE_US, "cpu.shares": 262144})):
             self.group = root / name
             with contextlib.suppress(OSError):
                 self.group.mkdir()
@@ -104,5 +105,5 @@ def at_handset_speed(built, rounds, sheet, folder):
                     samples.setdefault(program.name, {}).setdefault(key, []).append(value)
     print(file=sys.stderr)
     return {"how": how, "programs": {name: {key: statistics.median(values) for key, values in found.items()} |
-                                     {"most_points_lost": max(found["points_lost"])}
+                                     {"most_points_lost": max(found["points_lost"]), "most_ms": max(found["worst_ms"])}
                                      for name, found in samples.items()}}

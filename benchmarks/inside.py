@@ -4,16 +4,19 @@ import statistics
 import subprocess
 import sys
 
+from screen import preferred
+
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
 def from_inside(built, formats, folder, quick):
     out = folder / "inside.json"
     print("inside ...", file=sys.stderr, flush=True)
-    subprocess.run([built / "benchmarks/korva-bench-inside", f"--benchmark_min_time={0.02 if quick else 0.1}",
-                    f"--benchmark_repetitions={1 if quick else 5}", f"--benchmark_out={out}",
-                    "--benchmark_enable_random_interleaving=true", formats],
-                   check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    with preferred():
+        subprocess.run([built / "benchmarks/korva-bench-inside", f"--benchmark_min_time={0.02 if quick else 0.1}",
+                        f"--benchmark_repetitions={1 if quick else 5}", f"--benchmark_out={out}",
+                        "--benchmark_enable_random_interleaving=true", formats],
+                       check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     times = {}
     sizes = {}
     for run in json.loads(out.read_text())["benchmarks"]:

@@ -124,6 +124,9 @@ def memory(client, program, sheet, folder):
         return mappings(pid)
 
 
+PLUGINS = "only the bare widget: Qt's picture plugins and their libraries"
+
+
 def by_kind(bare, pad):
     """The libraries that both have become one row for each kind of page, the program's and our library's stay."""
     both = {name.split(":")[0] for name in bare} & {name.split(":")[0] for name in pad}
@@ -134,10 +137,9 @@ def by_kind(bare, pad):
             if pages and library in both:
                 name = f"libraries of both: {pages}"
             elif pages and "korva" not in library:
-                name = f"only {'the pad' if column == PAD else 'the bare widget'}: {library}"
-            row = found.setdefault(name.replace("korva-bench-bare-widget", "the program").replace("korva-pad", "the program"),
-                                   {BARE_WITH_TEXT: 0, PAD: 0})
-            row[column] += value
+                name = f"only the pad: {library}" if column == PAD else PLUGINS
+            name = re.sub("korva-bench-bare-widget|korva-pad", "the program", name)
+            found.setdefault(name, {BARE_WITH_TEXT: 0, PAD: 0})[column] += value
     return dict(sorted(found.items(), key=lambda item: item[1][BARE_WITH_TEXT] - item[1][PAD]))
 
 

@@ -84,8 +84,10 @@ def must_reach(result):
                   found("inside", f"{name}/200/352x288", "ratio"), 2.5) for name in ("undo", "merge", "zoom_change")),
         at_most("saving 352 x 288 as PNG, x the codec's default call", png.get("ratio"), 3.0),
         at_most("its file, x the default call's", png.get("size_ratio"), 1.0),
-        at_most("a tenth of a core, 200 events/s: the screen behind the pen, ms at worst", handset.get("worst_ms"), 50.0,
-                f"median {handset['median_ms']:.1f}" if handset else ""),
+        at_most("a tenth of a core, 200 events/s: the screen behind the pen, ms at worst",
+                handset.get("worst_ms"), 50.0,
+                f"half of them {handset['median_ms']:.1f}, in the worst round {handset['most_ms']:.1f}"
+                if handset else ""),
         at_most("a tenth of a core, 200 events/s: points lost", handset.get("most_points_lost"), 0),
     ]
 
@@ -101,7 +103,8 @@ def also_kept(result):
     return [
         ("points drawn in a flood, %", found.median(PAD, "flood_points_percent"), ">=", 100.0, ""),
         ("start to painted, x mtPaint", found.ratio("start_ms", PAD, "mtPaint"), "<=", 1.0, ""),
-        ("12-megapixel JPEG, without the start, x mtPaint", found.ratio("photo_open_ms", PAD, "mtPaint"), "<=", 0.6, ""),
+        ("12-megapixel JPEG, without the start, x mtPaint", found.ratio("photo_open_ms", PAD, "mtPaint"), "<=", 0.6,
+         ""),
         ("12-megapixel JPEG, peak memory above idle, x mtPaint",
          found.ratio("photo_peak_above_idle_kib", PAD, "mtPaint"), "<=", 0.5, ""),
         ("stripped library, kB", size and size / 1000, "<=", 700.0, ""),
@@ -144,7 +147,8 @@ def print_counts(found):
     print(f"{'program':32}{'system calls':>14}{'wake-ups':>10}  which")
     for name, row in found["outside"].items():
         which = ", ".join(f"{call} {number:.2f}" for call, number in list(row["by_name"].items())[:8])
-        print(f"{name:32}{row['system_calls']:14.2f}{row['wake_ups']:10.2f}  {'(disturbed) ' * row['disturbed']}{which}")
+        print(f"{name:32}{row['system_calls']:14.2f}{row['wake_ups']:10.2f}  "
+              f"{'(disturbed) ' * row['disturbed']}{which}")
     columns = ("instructions", "allocations", "handler_allocations", "painters", "deliveries", "repaints", "pixels")
     print(f"\n{'inside':24}" + "".join(f"{title.replace('handler_allocations', 'handling them'):>15}"
                                        for title in columns))
