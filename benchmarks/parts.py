@@ -99,7 +99,7 @@ def kind(path, permissions):
         return "pictures shared with the X server"
     if re.search(r"\.(ttf|otf|pfb|pcf(\.gz)?)$|fontconfig|cache-", path):
         return "fonts and their caches"
-    if ".so" in name or "x" in permissions or "korva" in name:
+    if ".so" in name or "x" in permissions or name.startswith("korva-"):
         what = "data and relocations" if "w" in permissions or "x" not in permissions else "code"
         return f"{name}: {what}"
     return "other files"

@@ -192,6 +192,9 @@ def print_report(result):
         print_handset(result["handset"])
     if "parts" in result:
         print_parts(result["parts"])
-    print_judged("What must be reached", result["must_reach"])
-    if "outside" in result:
+    whole = "outside" in result
+    rows = [row for row in result["must_reach"] if whole or row["found"] is not None]
+    if rows:
+        print_judged("What must be reached", rows)
+    if whole:
         print_judged("What was reached before", result["also_kept"])
