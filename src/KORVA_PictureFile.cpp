@@ -99,8 +99,9 @@ QImage KORVA_PictureFile::take()
         image = reader.image();
         m_origin = originOf(reader);
     }
-    const QImage opaque =
-        m_transparentColor ? KORVA_WorkingLimits::laidOn(image, *m_transparentColor) : image;
+    if (!m_transparentColor)
+        return image;
+    const QImage opaque = KORVA_WorkingLimits::laidOn(image, *m_transparentColor);
     m_origin.isWhole = m_origin.isWhole && UTIL_ImageReader::isSame(image, opaque);
     return opaque;
 }
