@@ -11,6 +11,7 @@ DIALOGS = {"Control_L+n": "Canvas Size", "Control_L+o": "Open picture", "Control
            "Control_L+m": "Save for a message", "Control_L+e": "Earlier drawings", "Control_L+p": "Print"}
 PLACES = ((0, 0, 240, 320), (20, 10, 480, 400), (0, 0, 800, 600), (60, 40, 640, 480))
 SAVED = "Saved Successfully"  # goes by itself
+SAVING = "Saving drawing"
 PAGES = "petv"  # of the menu
 
 
@@ -74,14 +75,20 @@ class Use:
     def settle(self, key):
         """Presses it until nothing is unsaved. Answers each question with what its first key says, or gives up a
         drawing."""
+        answered = ""
+
         def is_settled():
+            nonlocal answered
             box = self.box()
-            if box.startswith("Save changes"):
-                self.key("Tab")  # to No
-            if box and box != SAVED:
+            # One that is still closing must not get the key twice, and the key of a wait is Cancel.
+            if box not in ("", SAVED, SAVING, answered):
+                if box.startswith("Save changes"):
+                    self.key("Tab")  # to No
                 self.key("Return")
+            answered = box
             return "*" not in self.pad.window().title and not self.box()
         for _ in range(3):
+            answered = ""
             self.key(key)
             if self.is_soon(is_settled, MESSAGE):
                 return
