@@ -76,7 +76,6 @@ void advanceClock(std::chrono::milliseconds by)
 } // namespace bench::counters
 
 // --- Memory
-// --------------------------------------------------------------------------------------------------
 
 #if defined(__SANITIZE_ADDRESS__)
 
@@ -140,7 +139,6 @@ OVER int posix_memalign(void** block, size_t alignment, size_t size)
 #endif
 
 // --- Qt
-// ------------------------------------------------------------------------------------------------------
 
 // The constructors open a painter without asking begin(); QtGui does not look outside for its own
 // functions.
@@ -182,7 +180,6 @@ OVER void _ZN7QWidget7repaintERK7QRegion(void* widget, const void* region)
 }
 
 // --- Time
-// ----------------------------------------------------------------------------------------------------
 
 OVER int clock_gettime(clockid_t clock, timespec* time) noexcept
 {

@@ -14,8 +14,7 @@ constexpr FormWidget::Facts widgets[] = {
         "editor",
         "A drawing pad with its controls",
         "Lets the user draw in a bitmap: pencil, line, rectangle, ellipse, eraser, text and a selection, "
-        "with "
-        "zoom and undo. It needs 240 x 225 pixels; what it has beyond that its view takes.",
+        "with zoom and undo. It needs 240 x 225 pixels; what it has beyond that its view takes.",
         R"(<property name="geometry"><rect><x>0</x><y>0</y><width>320</width><height>240</height></rect></property>
 <property name="sizePolicy"><sizepolicy hsizetype="Expanding" vsizetype="Expanding">
  <horstretch>0</horstretch><verstretch>0</verstretch></sizepolicy></property>
