@@ -1,5 +1,7 @@
 #include "XServer.h"
 
+#include <QMutex>
+
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
@@ -14,7 +16,15 @@ constexpr int patience = 20'000; // ms
 
 struct XServer::Client
 {
-    explicit Client(const QString& display) : connection(XOpenDisplay(display.toLatin1().constData())) {}
+    explicit Client(const QString& display) : connection(XOpenDisplay(display.toLatin1().constData()))
+    {
+        // The library's first call makes its list of connections, and two threads at once make two.
+        static QMutex mutex;
+        const QMutexLocker lock(&mutex);
+        int unused = 0;
+        hasTestExtension =
+            connection && XTestQueryExtension(connection, &unused, &unused, &unused, &unused);
+    }
     ~Client()
     {
         if (connection)
@@ -75,6 +85,7 @@ struct XServer::Client
     }
 
     Display* connection;
+    bool hasTestExtension;
 };
 
 XServer::XServer(QSize screen)
@@ -104,12 +115,7 @@ void XServer::allowThreads()
 
 bool XServer::isReady() const
 {
-    int event = 0;
-    int error = 0;
-    int major = 0;
-    int minor = 0;
-    return m_client->connection &&
-           XTestQueryExtension(m_client->connection, &event, &error, &major, &minor);
+    return m_client->hasTestExtension;
 }
 
 void XServer::moveTo(QPoint to)
