@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPixmapCache>
 
 #include <memory>
 
@@ -54,21 +55,37 @@ public:
         font.setPixelSize(letters * rect.height() / side);
         font.setBold(true);
         painter->setFont(font);
-        const bool isQuiet = mode == QIcon::Disabled;
-        painter->setPen(UTIL_Skin::color(isQuiet ? UTIL_Skin::Color::QuietInk : UTIL_Skin::Color::Ink));
+        painter->setPen(inkOf(mode));
         painter->drawText(rect, Qt::AlignCenter, wording::plainNumber(m_number));
     }
+    /// The same one again, or Qt would keep each that is shown.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        QPixmap pixmap(size);
+        const QString key = QString("korva number %1 %2x%3 %4")
+                                .arg(m_number)
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(inkOf(mode).name());
+        QPixmap pixmap;
+        if (QPixmapCache::find(key, &pixmap))
+            return pixmap;
+        pixmap = QPixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         paint(&painter, pixmap.rect(), mode, state);
+        painter.end();
+        QPixmapCache::insert(key, pixmap);
         return pixmap;
     }
     [[nodiscard]] QIconEngine* clone() const override { return new NumberIcon(m_number); }
 
 private:
+    static QColor inkOf(QIcon::Mode mode)
+    {
+        return UTIL_Skin::color(mode == QIcon::Disabled ? UTIL_Skin::Color::QuietInk
+                                                        : UTIL_Skin::Color::Ink);
+    }
+
     int m_number;
 };
 

@@ -2,6 +2,7 @@
 #include "Display.h"
 #include "DownloadFolder.h"
 #include "Language.h"
+#include "Memory.h"
 #include "Platform.h"
 #include "Recording.h"
 #include "Session.h"
@@ -59,7 +60,8 @@ int run(char** argv, const pad::CommandLine& line, pad::Recording recording)
         place.emplace(display.screen->pixels);
     if (place && line.scale)
         place->setScale(*line.scale);
-    display.setScale(chooseScale(line, display.screen, place));
+    const int scale = chooseScale(line, display.screen, place);
+    display.setScale(scale);
 
     int only = 1; // the arguments are ours alone
     const QApplication app(only, argv);
@@ -70,6 +72,7 @@ int run(char** argv, const pad::CommandLine& line, pad::Recording recording)
     // Lets every point of a stroke be drawn. It takes effect only when the application object exists.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     pad::theme::apply();
+    pad::memory::limitIcons(scale);
     const pad::DownloadFolder downloads;
     pad::Platform& platform = pad::Platform::install();
     platform.setWorking(line.workingSize, line.workingDepth);
@@ -80,6 +83,7 @@ int run(char** argv, const pad::CommandLine& line, pad::Recording recording)
 
 int main(int argc, char** argv)
 {
+    pad::memory::keepNoPictures();
     pad::startmessages::keep("korva-pad");
     const QStringList arguments = argumentsOf(argc, argv);
     pad::language::choose(pad::CommandLine::languageIn(arguments));

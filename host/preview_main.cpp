@@ -2,6 +2,7 @@
 #include "Display.h"
 #include "KORVA_Preview.h"
 #include "Language.h"
+#include "Memory.h"
 #include "StartMessages.h"
 #include "Wording.h"
 
@@ -121,6 +122,7 @@ int show(char** argv, const QString& picture)
 
 int main(int argc, char** argv)
 {
+    pad::memory::keepNoPictures();
     pad::startmessages::keep("korva-preview");
     QStringList arguments;
     for (int i = 1; i < argc; ++i)

@@ -36,7 +36,7 @@ class Quantity:
 
 
 QUANTITIES = (
-    Quantity("memory (PSS), MiB", 1.05, 1),
+    Quantity("memory written to, MiB", 1.05, 1),
     Quantity("open files", 1, 1),
     Quantity("threads", 1, 1),
     Quantity("timers of the system", 1, 1),
@@ -45,6 +45,12 @@ QUANTITIES = (
     Quantity("X pixmaps, KiB", 1.05, 256),
     Quantity("wake-ups a second at rest", 1.2, 2),
 )
+
+
+def memory(process):
+    """In MiB, the pages that it wrote to: other programs that come and go, and share the libraries, change none."""
+    rollup = process / "smaps_rollup"
+    return (field(rollup, "Private_Dirty") + field(rollup, "Shared_Dirty")) / 1024
 
 
 def field(path, name):
@@ -78,7 +84,7 @@ class Watcher:
         resources, pixmaps = self.person.client_resources(self.pad.window())
         timers = (self.process / "timers").read_text().count("ID:") + descriptors.count("anon_inode:[timerfd]")
         children = sum(len((task / "children").read_text().split()) for task in tasks)
-        values = (field(self.process / "smaps_rollup", "Pss") / 1024, len(descriptors), len(tasks), timers, children,
+        values = (memory(self.process), len(descriptors), len(tasks), timers, children,
                   sum(resources.values()), pixmaps / 1024, self.at_rest)
         self.samples.append({"s": now} | {q.name: value for q, value in zip(QUANTITIES, values)})
 

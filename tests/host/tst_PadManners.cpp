@@ -70,6 +70,7 @@ private slots:
     void outlineIsTheSecondColor();
     void sixSizesOfText();
     void numbersAreSeenOnADarkDesktop();
+    void numbersAreDrawnOnce();
     void fiveSizesOfTheEraser();
     void undoAfterAnotherSize();
     void classicRecordingsKeepTheirSizes();
@@ -283,6 +284,17 @@ void tst_PadManners::numbersAreSeenOnADarkDesktop()
     const int dark = brightest();
     QApplication::setPalette(before);
     QCOMPARE_GT(dark, 180);
+}
+
+void tst_PadManners::numbersAreDrawnOnce()
+{
+    Pad pad;
+    pad.behave();
+    const QIcon icon = pad.editor.features().ownOptions[KORVA_TOOL_TEXT][0].icon;
+    QVERIFY(!icon.pixmap(20, 20).isNull());
+    QCOMPARE(icon.pixmap(20, 20).cacheKey(), icon.pixmap(20, 20).cacheKey());
+    QCOMPARE_NE(icon.pixmap(20, 20).cacheKey(), icon.pixmap(30, 30).cacheKey());
+    QCOMPARE_NE(icon.pixmap(20, 20).cacheKey(), icon.pixmap(20, 20, QIcon::Disabled).cacheKey());
 }
 
 void tst_PadManners::fiveSizesOfTheEraser()
