@@ -7,10 +7,13 @@
 
 #include <QElapsedTimer>
 #include <QFutureWatcher>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QThread>
 #include <QTimerEvent>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -45,6 +48,9 @@ UTIL_WaitBox::UTIL_WaitBox(QWidget* parent, const QString& text) : UTIL_Dialog(F
     label->setFixedSize(innerWidth, label->heightForWidth(innerWidth));
     auto* key = new UTIL_PushButton(QString(), tr("Cancel", "WAIT_BOX;SOFTKEY_1BUTTON"), this);
     key->setFlags(UTIL_PushButton::SecondSoftKey | UTIL_PushButton::Outlined);
+    key->setAutoDefault(false);
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
     column->addWidget(label);
     column->addSpacing(trackHeight + 2 * Size::spacing);
     column->addWidget(key);
@@ -72,6 +78,15 @@ QRect UTIL_WaitBox::track() const
 {
     const int bottom = height() - Size::spacing - Size::keyHeight - 2 * Size::spacing;
     return {Size::margin, bottom - trackHeight, innerWidth, trackHeight};
+}
+
+void UTIL_WaitBox::keyPressEvent(QKeyEvent* event)
+{
+    static constexpr Qt::Key arrows[] = {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down};
+    if (std::ranges::find(arrows, event->key()) != std::end(arrows))
+        focusNextChild();
+    else
+        UTIL_Dialog::keyPressEvent(event);
 }
 
 void UTIL_WaitBox::timerEvent(QTimerEvent* event)

@@ -5,7 +5,9 @@
 #include <QBasicTimer>
 #include <QFuture>
 
-/// The box that shows that work goes on in another thread, and lets the user cancel it.
+/// The box that shows that work goes on in another thread, and lets the user cancel it: by pointer, by
+/// Escape, or after Tab or an arrow key by Return. It comes unasked, so Return alone, which was meant for
+/// what was there before, does nothing.
 class UTIL_WaitBox : public UTIL_Dialog
 {
     Q_OBJECT
@@ -17,6 +19,7 @@ public:
     [[nodiscard]] static bool run(QWidget* parent, const QString& text, QFuture<void> work);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 

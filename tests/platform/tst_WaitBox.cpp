@@ -79,27 +79,65 @@ private slots:
         QTest::addColumn<int>("way");
         QTest::newRow("by pointer") << 0;
         QTest::newRow("Escape") << 1;
-        QTest::newRow("Return") << 2;
+        QTest::newRow("Tab and Return") << 2;
         QTest::newRow("closing") << 3;
+        QTest::newRow("an arrow key and Select") << 4;
     }
 
     void itIsCancelled()
     {
         QFETCH(int, way);
         support::whenOpen([&](QDialog& box) {
-            QAbstractButton* key = support::button(box, "Cancel");
-            if (way == 0)
-                QTest::mouseClick(key, Qt::LeftButton);
-            else if (way == 3)
+            const auto tap = [&box](Qt::Key key) { QTest::keyClick(box.focusWidget(), key); };
+            switch (way) {
+            case 0:
+                QTest::mouseClick(support::button(box, "Cancel"), Qt::LeftButton);
+                break;
+            case 1:
+                tap(Qt::Key_Escape);
+                break;
+            case 2:
+                tap(Qt::Key_Tab);
+                tap(Qt::Key_Return);
+                break;
+            case 3:
                 box.close();
-            else
-                QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box,
-                                way == 1 ? Qt::Key_Escape : Qt::Key_Return);
+                break;
+            default:
+                tap(Qt::Key_Down);
+                tap(Qt::Key_Select);
+            }
         });
         constexpr int veryLong = 20'000;
         const auto ended = std::make_shared<std::atomic<int>>(0);
         QCOMPARE(util::waitFor(nullptr, text, working(veryLong, ended)), std::optional<int>());
         QTRY_VERIFY(*ended > 0 && *ended < veryLong); // the work heard of it
+    }
+
+    void anImpatientKeyDoesNotCancel_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::newRow("Return") << Qt::Key_Return;
+        QTest::newRow("Enter") << Qt::Key_Enter;
+        QTest::newRow("Select") << Qt::Key_Select;
+        QTest::newRow("Space") << Qt::Key_Space;
+    }
+
+    void anImpatientKeyDoesNotCancel()
+    {
+        QFETCH(Qt::Key, key);
+        std::atomic_bool isFree = false;
+        support::whenOpen([&](QDialog& box) {
+            QTest::keyClick(box.focusWidget(), key);
+            QVERIFY(box.isVisible());
+            isFree = true;
+        });
+        const auto work = [&isFree](const util::IsCancelled& isCancelled) {
+            while (!isFree && !isCancelled())
+                QThread::msleep(1);
+            return 42;
+        };
+        QCOMPARE(util::waitFor(nullptr, text, work), std::optional(42));
     }
 
     void aHostMayHaveItsOwn()
