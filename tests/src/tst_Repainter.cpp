@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int pace = 8; // ms
+constexpr int pace = 16; // ms: the screen has 60 Hz
 constexpr QSize sheetSize(60, 40);
 
 /// Shows a picture and notes which part of itself it painted.
