@@ -143,8 +143,8 @@ private slots:
     void lettersChooseOneRowEach();
     void dialogsAreReadable_data() { addRows(); }
     void dialogsAreReadable();
-    void boxIsReadable_data();
-    void boxIsReadable();
+    void boxesAreReadable_data() { addRows(); }
+    void boxesAreReadable();
     void canvasTypesAreReadable_data() { addRows(); }
     void canvasTypesAreReadable();
 
@@ -335,7 +335,10 @@ void tst_Languages::dialogsAreReadable()
     }
     checkDialog([&] { pad::EarlierDialog(m_window.get(), entries).exec(); });
     checkDialog([&] { choose(QKeySequence("Ctrl+M")); });
-    checkCopy<pad::MessageDialog>(support::sheet(QSize(1352, 1288)), 300);
+    // What the dialogs of copies compute is long; there is more room for it in the larger window.
+    const bool isTight = size == sizes[0];
+    if (isTight)
+        checkCopy<pad::MessageDialog>(support::sheet(QSize(1352, 1288)), 300);
     checkCopy<pad::MessageDialog>(QImage(), 300);
     checkDialog([&] { choose(QKeySequence("Ctrl+P")); });
     checkDialog([&] {
@@ -344,7 +347,8 @@ void tst_Languages::dialogsAreReadable()
                          support::sheet({352, 288}), printer)
             .exec();
     });
-    checkCopy<pad::ColorsDialog>(support::sheet(QSize(1352, 1288)), 2);
+    if (isTight)
+        checkCopy<pad::ColorsDialog>(support::sheet(QSize(1352, 1288)), 2);
     checkCopy<pad::ColorsDialog>(support::mosaic({352, 288}), 256);
     checkDialog([&] { choose(QKeySequence("Ctrl+N")); });
     checkDialog(
@@ -362,37 +366,26 @@ void tst_Languages::dialogsAreReadable()
     QCOMPARE(faults.join("; "), QString());
 }
 
-void tst_Languages::boxIsReadable_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("box");
-    for (const QString& language : support::languages())
-        for (const QSize size : sizes)
-            for (int i = 0; i < boxes().size(); ++i)
-                QTest::addRow("%s %d %s", qPrintable(language), size.width(), boxes().at(i).text)
-                    << language << size << i;
-}
-
-void tst_Languages::boxIsReadable()
+void tst_Languages::boxesAreReadable()
 {
     QFETCH(const QString, language);
     QFETCH(const QSize, size);
-    QFETCH(const int, box);
     open(language, size);
-    const BoxRow& row = boxes().at(box);
-    QStringList places = row.places;
-    if (QLatin1String(row.context) == QLatin1String("pad::Recovery") && places.value(0, "-").isEmpty())
-        places[0] = pad::EarlierDialog::timeText(QDateTime::currentDateTime().addDays(-1));
-    QStringList keys;
-    for (const auto& [key, comment] : row.keys)
-        keys << words(row.context, key, comment);
-    if (keys.isEmpty())
-        for (const char* key : {"Yes", "No", "Cancel"})
-            keys << words("pad::Documents", key, "changes");
-    const QString text = words(row.context, row.text, row.comment, places);
-    checkDialog([&] { (void)m_platform->question(m_window.get(), "Dialog_Error.gif", text, keys); },
-                keys.constLast());
+    for (const BoxRow& row : boxes()) {
+        QStringList places = row.places;
+        if (QLatin1String(row.context) == QLatin1String("pad::Recovery") && places.value(0, "-").isEmpty())
+            places[0] = pad::EarlierDialog::timeText(QDateTime::currentDateTime().addDays(-1));
+        QStringList keys;
+        for (const auto& [key, comment] : row.keys)
+            keys << words(row.context, key, comment);
+        if (keys.isEmpty())
+            for (const char* key : {"Yes", "No", "Cancel"})
+                keys << words("pad::Documents", key, "changes");
+        const QString text = words(row.context, row.text, row.comment, places);
+        checkDialog([&] { (void)m_platform->question(m_window.get(), "Dialog_Error.gif", text, keys); },
+                    keys.constLast());
+        QVERIFY2(!QTest::currentTestFailed(), qPrintable(text));
+    }
 }
 
 void tst_Languages::canvasTypesAreReadable()

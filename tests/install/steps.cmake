@@ -23,11 +23,16 @@ include(${here}/${checks})
     file(COPY ${here}/main.cpp DESTINATION ${work}/source)
 endfunction()
 
-# configure(definitions...): that project.
+# configure(definitions...): that project, from nothing. What was compiled in an earlier run and is still true stays.
 function(configure)
+    file(REMOVE ${work}/build/CMakeCache.txt)
     step(${CMAKE_COMMAND} -S ${work}/source -B ${work}/build -G ${generator}
         -D CMAKE_CXX_COMPILER=${compiler} -D CMAKE_CXX_FLAGS=${flags} ${ARGN})
 endfunction()
 
-file(REMOVE_RECURSE ${work})
+file(GLOB left ${work}/*)
+list(REMOVE_ITEM left ${work}/build)
+if(left)
+    file(REMOVE_RECURSE ${left})
+endif()
 file(MAKE_DIRECTORY ${work})

@@ -8,6 +8,7 @@
 #include "KORVA_Translations.h"
 #include "UTIL_PictureDialog.h"
 #include "UTIL_Platform.h"
+#include "support/Images.h"
 #include "support/Languages.h"
 #include "support/Modal.h"
 #include "support/PaintedTexts.h"
@@ -42,7 +43,7 @@ const WindowRow windows[] = {
     {"color picker",
      [](QWidget* parent) { return made<KORVA_ColorPicker>(KORVA_COLOR_16BIT, Qt::red, parent); }},
     {"canvas sizes", [](QWidget* parent) { return made<KORVA_ChooseCanvasDlg>(parent, 3); }},
-    {"viewer", [](QWidget*) { return made<KORVA_ImageView_Dialog>(QImage(20, 20, QImage::Format_RGB32)); }},
+    {"viewer", [](QWidget*) { return made<KORVA_ImageView_Dialog>(support::sheet(QSize(20, 20))); }},
     {"preview", [](QWidget*) { return made<KORVA_Preview_Dialog>(QString()); }},
     {"open dialog",
      [](QWidget* parent) {
@@ -118,6 +119,7 @@ class tst_TranslatedWindows : public support::TestCase
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void cleanup();
     void windowIsReadable_data();
     void windowIsReadable();
@@ -135,6 +137,7 @@ private:
     static void addRows(const std::function<void(const QString& language, QSize size)>& add = {});
     /// The language loaded as a program does it, and a window of this size.
     [[nodiscard]] static bool speak(const QString& language);
+    QTemporaryDir m_folder;
     std::unique_ptr<QWidget> m_parent;
 };
 
@@ -156,6 +159,13 @@ bool tst_TranslatedWindows::speak(const QString& language)
 {
     QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
     return KORVA_Translations::load(QLocale(language));
+}
+
+/// The viewer looks for the file, and tells for a second when there is none.
+void tst_TranslatedWindows::initTestCase()
+{
+    QVERIFY(QDir::setCurrent(m_folder.path()));
+    QVERIFY(support::sheet(QSize(20, 20)).save("image.jpg"));
 }
 
 void tst_TranslatedWindows::cleanup()
