@@ -5,6 +5,9 @@
 #include "KORVA_Pixel.h"
 
 #include <QMouseEvent>
+#include <QVarLengthArray>
+
+#include <limits>
 
 namespace {
 
@@ -140,19 +143,47 @@ void KORVA_Rubber::eraseWay(QPoint to)
     if (m_way.isEmpty())
         m_way.append(*m_joined);
     m_way.append(to);
-    canvas()->showLater(this, canvas()->shownAround(covered(*m_joined, to).boundingRect()));
+    const QSize square(squareSide(), squareSide());
+    canvas()->showLater(this, canvas()->shownAround(QRect(*m_joined, square) | QRect(to, square)));
     m_joined = to;
     if (m_way.size() >= mostWaiting)
         canvas()->paintNow();
 }
 
+// In each row of pixels that is one run, since neither side of the way turns back.
 QRegion KORVA_Rubber::covered(QPoint from, QPoint to) const
 {
-    const int side = qMax(1, picturePen().width());
+    struct Run
+    {
+        int left = std::numeric_limits<int>::max();
+        int right = std::numeric_limits<int>::min();
+        bool operator==(const Run&) const = default;
+    };
+    const int side = squareSide();
     const QPoint way = to - from;
     const int steps = qMax(1, qMax(qAbs(way.x()), qAbs(way.y())));
+    const int top = qMin(from.y(), to.y());
+    QVarLengthArray<Run, 128> runs(qAbs(way.y()) + side);
+    for (int step = 0; step <= steps; ++step) {
+        const QPoint at = from + way * (double(step) / steps);
+        for (int y = at.y(); y < at.y() + side; ++y) {
+            Run& run = runs[y - top];
+            run = {qMin(run.left, at.x()), qMax(run.right, at.x() + side)};
+        }
+    }
+    QVarLengthArray<QRect, 128> rects;
+    for (qsizetype row = 0; row < runs.size(); ++row) {
+        if (row > 0 && runs[row] == runs[row - 1])
+            rects.last().setHeight(rects.last().height() + 1);
+        else
+            rects.append(QRect(runs[row].left, top + int(row), runs[row].right - runs[row].left, 1));
+    }
     QRegion squares;
-    for (int step = 0; step <= steps; ++step)
-        squares += QRect(from + way * (double(step) / steps), QSize(side, side));
+    squares.setRects(rects.data(), int(rects.size()));
     return squares;
+}
+
+int KORVA_Rubber::squareSide() const
+{
+    return qMax(1, picturePen().width());
 }

@@ -41,6 +41,7 @@ private:
     [[nodiscard]] QPoint under(const QMouseEvent& event) const;
     void eraseWay(QPoint to);
     [[nodiscard]] QRegion covered(QPoint from, QPoint to) const;
+    [[nodiscard]] int squareSide() const;
 
     QList<Square> m_squares;        ///< not yet painted
     QList<QPoint> m_way;            ///< of joined squares not yet painted, in picture coordinates
