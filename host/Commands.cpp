@@ -338,6 +338,9 @@ QAction* Commands::contextAction() const
 
 void Commands::perform(Verb verb)
 {
+    // In the middle of a stroke its beginning would be undone, cut or cleared, and its rest would stay.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
     performOn(m_editor, verb);
     emit performed(Command{.verb = verb});
 }

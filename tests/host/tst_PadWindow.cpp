@@ -62,6 +62,7 @@ private slots:
 
     void f10OpensTheMenu();
     void secondKeyIsUndoOrRedo();
+    void aCommandWaitsForTheStrokesEnd();
 
 private:
     void open(const QString& picture = {});
@@ -392,6 +393,23 @@ void tst_PadWindow::secondKeyIsUndoOrRedo()
     QTest::mouseClick(&second, Qt::LeftButton);
     QCOMPARE(editor().snapshot(), drawn);
     QCOMPARE(second.text(), "Undo");
+}
+
+void tst_PadWindow::aCommandWaitsForTheStrokesEnd()
+{
+    open();
+    QWindow* const window = m_window->windowHandle();
+    const QImage before = editor().snapshot();
+    QTest::mousePress(window, Qt::LeftButton, {}, inWindow({10, 10}));
+    QTest::mouseMove(window, inWindow({60, 10}));
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QTest::mouseMove(window, inWindow({60, 60}));
+    QTest::mouseRelease(window, Qt::LeftButton, {}, inWindow({60, 60}));
+    const QImage stroke = editor().snapshot();
+    QVERIFY(stroke.pixelColor(30, 10) != before.pixelColor(30, 10));
+    QVERIFY(stroke.pixelColor(60, 30) != before.pixelColor(60, 30));
+    QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(support::sameImage(editor().snapshot(), before));
 }
 
 int main(int argc, char** argv)
