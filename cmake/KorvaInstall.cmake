@@ -1,6 +1,6 @@
-# The installed tree, in the parts that the packages are made of: runtime (the shared library), development (headers,
-# CMake and pkg-config), pad (the programs), translations (the languages of both), designer (the plugin for Qt Designer)
-# and python (the module for Python).
+# The installed tree, in parts that may be installed alone: runtime (the shared library), development (headers, CMake and
+# pkg-config), pad (the programs), translations (the languages of both), designer (the plugin for Qt Designer) and python
+# (the module for Python). packaging/debian/*.install says which package gets which file.
 include(CMakePackageConfigHelpers)
 
 set(korva_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Korva)

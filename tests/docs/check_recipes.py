@@ -78,7 +78,7 @@ class Recipes(unittest.TestCase):
             for name in re.findall(r"(?<![\w.])\./([\w/-]+)", job.script):
                 called.add(name)
                 self.assertTrue(os.access(ROOT / name, os.X_OK), name)
-        self.assertLessEqual({"test", "site"}, called)
+        self.assertLessEqual({"test", "site", "packaging/build-deb"}, called)
 
     def test_they_run_where_the_readme_says(self):
         release = re.search(r"fresh Debian (\d+)", (ROOT / "README.md").read_text())[1]
@@ -93,6 +93,8 @@ class Recipes(unittest.TestCase):
             self.assertIn(re.search(r"^report=(.*)$", (ROOT / "test").read_text(), re.MULTILINE)[1], test.kept)
             self.assertIn(re.search(r"\| tee (\S+)", test.script)[1], test.kept)
             self.assertIn(re.search(r"Doxyfile (\S+)$", (ROOT / "site").read_text())[1], jobs["site"].kept)
+            built = re.search(r"build_here (\S+)", (ROOT / "packaging/build-deb").read_text())[1]
+            self.assertIn(built, {path.rstrip("/") for path in jobs["packages"].kept})
 
     def test_they_may_do_little(self):
         self.assertEqual(self.github["permissions"], {"contents": "read"})
