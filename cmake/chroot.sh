@@ -7,7 +7,11 @@ make_chroot() {
     [ ! -d "$folder" ] || return 0
     here=$(. /etc/os-release && echo "$VERSION_CODENAME")
     sources=$(apt-get indextargets --format 'deb $(REPO_URI) $(CODENAME) $(COMPONENT)' \
-        'Created-By: Packages' 'Origin: Debian' | sort -u | grep " $here" | sed "s/ $here/ $suite/")
+        'Created-By: Packages' 'Origin: Debian' | sort -u | sed -n "s/ $here/ $suite/p")
+    if [ -z "$sources" ]; then
+        echo "No packages of Debian $here are set up here, so $suite cannot be found" >&2
+        return 1
+    fi
     as_root mkdir -p "$(dirname "$folder")"
     as_root rm -rf "$folder.new"
     as_root mmdebstrap --quiet --variant=buildd "$suite" "$folder.new" - <<<"$sources"

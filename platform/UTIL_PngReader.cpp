@@ -156,6 +156,14 @@ Layout layoutFor(png_structp png, const Header& header)
     return {hasAlpha ? QImage::Format_ARGB32 : QImage::Format_RGB32, {}};
 }
 
+/// Each chunk has a checksum, and all pixels together another one.
+void skipSecondChecksum([[maybe_unused]] png_structp png)
+{
+#ifdef PNG_IGNORE_ADLER32 // Debian 13's libpng is built without
+    png_set_option(png, PNG_IGNORE_ADLER32, PNG_OPTION_ON);
+#endif
+}
+
 /// Reads one file from its start to its end. Every function returns false when the file is damaged.
 class Reader
 {
@@ -167,8 +175,7 @@ public:
     bool begin(const LayOut& layOut)
     {
         if (!m_session.attempt([this] {
-                png_set_option(m_session.png(), PNG_IGNORE_ADLER32,
-                               PNG_OPTION_ON); // each chunk has its own
+                skipSecondChecksum(m_session.png());
                 png_set_read_fn(m_session.png(), &m_source, readBytes);
                 png_read_info(m_session.png(), m_session.info());
             }))
