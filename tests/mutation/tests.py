@@ -100,6 +100,7 @@ class Tests:
 
         Lines that nothing is compiled for by themselves, such as the second one of a statement or a row of a table,
         are taken to be run by all that run the nearest lines, and where there are none, by all that run the file.
+        Declarations that are in no file that is run, such as a structure with its defaults, concern all tests.
         """
         lines = {int(line): names for line, names in self._runners.get(file, {}).items()}
         if not lines and file.endswith(".h"):
@@ -107,7 +108,7 @@ class Tests:
         names = set(lines.get(number, ()))
         if not names:
             near = [line for line in lines if abs(line - number) <= 3]
-            names = {name for line in near or lines for name in lines[line]}
+            names = {name for line in near or lines for name in lines[line]} or self._tests.keys()
         return sorted((name for name in names if name in self._tests), key=lambda name: self._order(file, name))
 
     def remember(self, file, name):

@@ -84,6 +84,9 @@ private slots:
     void extraTextIsPassedOver_data();
     void extraTextIsPassedOver();
     void textAmongThePixelsIsPassedOver();
+    void theWidestRowsOfNoiseAreRead();
+    void whatMayStandBeforeMarkersIsPassedOver_data();
+    void whatMayStandBeforeMarkersIsPassedOver();
     void orientationIsApplied_data();
     void orientationIsApplied();
     void reductionKeepsThePicture_data();
@@ -402,6 +405,42 @@ void tst_ImageReader::textAmongThePixelsIsPassedOver()
     UTIL_ImageReader plain = UTIL_ImageReader::fromData(start + first + rest);
     UTIL_ImageReader reader = UTIL_ImageReader::fromData(start + first + text + rest);
     QVERIFY(plain.read());
+    QVERIFY(reader.read());
+    QVERIFY(UTIL_ImageReader::isSame(reader.image(), plain.image()));
+}
+
+// Eight bytes a pixel that cannot be packed are the most that a row takes of a file.
+void tst_ImageReader::theWidestRowsOfNoiseAreRead()
+{
+    QImage noise(300'000, 2, QImage::Format_RGBA64);
+    QRandomGenerator random(1);
+    random.fillRange(reinterpret_cast<quint32*>(noise.bits()), noise.sizeInBytes() / sizeof(quint32));
+    QBuffer file;
+    QVERIFY(noise.save(&file, "PNG"));
+    QVERIFY(file.size() > noise.sizeInBytes());
+    UTIL_ImageReader reader = UTIL_ImageReader::fromData(file.data());
+    QVERIFY(reader.read());
+    QCOMPARE(reader.image().size(), noise.size());
+}
+
+void tst_ImageReader::whatMayStandBeforeMarkersIsPassedOver_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("one fill byte") << QByteArray("\xff");
+    QTest::newRow("many fill bytes") << QByteArray("\xff\xff\xff\xff\xff");
+    QTest::newRow("a marker of nothing") << QByteArray("\xff\x01");
+}
+
+void tst_ImageReader::whatMayStandBeforeMarkersIsPassedOver()
+{
+    QFETCH(const QByteArray, bytes);
+    QByteArray file = contents(path("a.jpg"));
+    UTIL_ImageReader plain = UTIL_ImageReader::fromData(file);
+    QVERIFY(plain.read());
+    const qsizetype tables = file.indexOf(QByteArray("\xff\xdb"));
+    QVERIFY(tables > 0);
+    file.insert(tables, bytes);
+    UTIL_ImageReader reader = UTIL_ImageReader::fromData(file);
     QVERIFY(reader.read());
     QVERIFY(UTIL_ImageReader::isSame(reader.image(), plain.image()));
 }

@@ -1,6 +1,7 @@
 #include "UTIL_ItemLayout.h"
 #include "UTIL_ListBox.h"
 #include "UTIL_ListBoxItem.h"
+#include "UTIL_ScrollBar.h"
 #include "UTIL_Skin.h"
 #include "support/TestCase.h"
 
@@ -274,6 +275,14 @@ private slots:
         };
         QVERIFY(!isBox(row.left() + 1) && isBox(row.left() + 2));
         QVERIFY(!isBox(row.right() - 1) && isBox(row.right() - 2));
+    }
+
+    void itScrollsByTheBarOfTheSkin()
+    {
+        Stage stage;
+        auto* bar = qobject_cast<UTIL_ScrollBar*>(stage.list.verticalScrollBar());
+        QVERIFY(bar);
+        QCOMPARE(bar->orientation(), Qt::Vertical);
     }
 };
 

@@ -1,5 +1,6 @@
 #include "UTIL_PopupMenu.h"
 #include "UTIL_Skin.h"
+#include "support/Images.h"
 #include "support/TestCase.h"
 
 namespace {
@@ -10,6 +11,19 @@ constexpr QRect windowPlace(100, 150, 240, 320);
 constexpr int manyRows = 20;
 constexpr int fewRows = 5;
 constexpr int arrow = 16; // high
+
+/// What a widget was asked to paint.
+struct Painted : QObject
+{
+    QRegion region;
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
 
 } // namespace
 
@@ -23,8 +37,11 @@ private slots:
     void cleanup();
 
     void aMenuThatFitsIsAsAnyOther();
+    void aCheckedRowLooksAsTheOthers();
+    void itsEdgeIsSeenOnADarkGround();
     void aTallMenuFillsItsWindow();
     void theWheelScrolls();
+    void whatScrollingShowsIsPaintedAnew();
     void aFingerScrollsAndChoosesNothing();
     void aTapChoosesTheRowUnderTheFinger();
     void aTapAfterScrollingChoosesWhatIsSeen();
@@ -142,6 +159,41 @@ void tst_PopupMenu::aMenuThatFitsIsAsAnyOther()
     QVERIFY(m_menu->isHidden());
 }
 
+void tst_PopupMenu::aCheckedRowLooksAsTheOthers()
+{
+    open(fewRows);
+    const QImage plain = m_menu->grab().toImage();
+    QActionGroup alternatives(nullptr);
+    for (QAction* row : m_menu->actions())
+        row->setCheckable(true);
+    m_menu->actions().at(1)->setChecked(true);
+    QVERIFY(support::sameImage(m_menu->grab().toImage(), plain));
+    for (QAction* row : m_menu->actions())
+        alternatives.addAction(row);
+    QVERIFY(m_menu->actions().at(1)->isChecked());
+    QVERIFY(support::sameImage(m_menu->grab().toImage(), plain));
+}
+
+void tst_PopupMenu::itsEdgeIsSeenOnADarkGround()
+{
+    const QPalette before = QApplication::palette();
+    const auto restored = qScopeGuard([&before] { QApplication::setPalette(before); });
+    QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30), QColor(0x30, 0x30, 0x30)));
+    const QColor edge = UTIL_Skin::color(UTIL_Skin::Color::Edge);
+    open(fewRows);
+    const QImage shown = m_menu->grab().toImage();
+    QImage expected = shown;
+    {
+        QPainter painter(&expected);
+        painter.setPen(edge);
+        painter.drawRect(shown.rect().adjusted(0, 0, -1, -1));
+    }
+    QVERIFY(support::sameImage(shown, expected));
+    for (const QPoint inside :
+         {QPoint(1, 1), shown.rect().center(), shown.rect().bottomRight() - QPoint(1, 1)})
+        QVERIFY(shown.pixelColor(inside) != edge);
+}
+
 // --- One that doesn't
 
 void tst_PopupMenu::aTallMenuFillsItsWindow()
@@ -172,6 +224,18 @@ void tst_PopupMenu::theWheelScrolls()
     QCOMPARE(scrolled(), 0);
     QCOMPARE(m_chosen, QStringList());
     QVERIFY(m_menu->isVisible());
+}
+
+void tst_PopupMenu::whatScrollingShowsIsPaintedAnew()
+{
+    open(manyRows);
+    QCoreApplication::processEvents();
+    Painted painted;
+    m_menu->installEventFilter(&painted);
+    turnWheel(-120);
+    QVERIFY(scrolled() > 0);
+    QCoreApplication::processEvents();
+    QVERIFY(QRegion(seen()).subtracted(painted.region).isEmpty()); // the arrows are elsewhere now
 }
 
 void tst_PopupMenu::aFingerScrollsAndChoosesNothing()

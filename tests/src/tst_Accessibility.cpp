@@ -153,7 +153,7 @@ void tst_Accessibility::colorsHaveWords_data()
         {"#ff0000", "red"},    {"#ff0010", "red"},       {"#ffaaaa", "pink"},   {"#ff00ff", "pink"},
         {"#ff8000", "orange"}, {"#804000", "brown"},     {"#ffff00", "yellow"}, {"#00ff00", "green"},
         {"#008000", "green"},  {"#00ffff", "turquoise"}, {"#0000ff", "blue"},   {"#1b66db", "blue"},
-        {"#8000ff", "violet"},
+        {"#8000ff", "violet"}, {"#805e00", "brown"},     {"#806000", "yellow"},
     };
     for (const auto& [color, word] : rows)
         QTest::newRow(color) << QColor(color) << QString("%1, %2").arg(color, word);

@@ -69,6 +69,7 @@ private slots:
     void signalsTellOfIt();
     void endsWhatIsOpen_data();
     void endsWhatIsOpen();
+    void whatWasToFollowIsForgotten();
     void othersDialogsStay();
     void encodedPicturesComeWithoutABox();
 };
@@ -242,6 +243,18 @@ void tst_Reset::endsWhatIsOpen()
     QVERIFY(!QApplication::activePopupWidget());
     QCOMPARE(during, expected);
     QCOMPARE(facts(desk), expected); // and whoever had opened it did no more
+}
+
+void tst_Reset::whatWasToFollowIsForgotten()
+{
+    const fixtures::PictureFolder folder;
+    EditorDesk desk;
+    desk.platform->picks = {std::nullopt};
+    desk.editor->saveChangePic(KORVA_ACTION_OPEN);
+    QVERIFY(desk.platform->picks.isEmpty());
+    desk.editor->reset();
+    desk.editor->slotSaveDlgCloseBeforeOpen(folder.file("a.png")); // fails if another dialog opens
+    QCOMPARE(folder.names(), QStringList("a.png"));
 }
 
 void tst_Reset::othersDialogsStay()

@@ -228,12 +228,14 @@ void tst_Touch::theFirstStrokeOfAllIsTakenBack()
     editor.show();
     QVERIFY(QTest::qWaitForWindowExposed(&editor));
     const QSignalSpy undo(&editor, &KORVA_EditCanvas::canUndo);
+    const QSignalSpy redo(&editor, &KORVA_EditCanvas::canRedo);
     support::Fingers fingers(*editor.canvas());
     fingers.press(0, {30, 40});
     fingers.move(0, {60, 50});
     QCOMPARE(undo, QList<QVariantList>{{true}});
     fingers.press(1, {90, 90});
     QCOMPARE(undo, QList<QVariantList>({{true}, {false}}));
+    QVERIFY(!redo.contains(QVariantList{true}));
 }
 
 // As if the stroke had never merged it: the drawing is that from before the piece, unmodified.
